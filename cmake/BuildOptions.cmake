@@ -1,0 +1,39 @@
+# Warnings, defines and instrumentation that every target of the project shares.
+add_library(wuffer_build_options INTERFACE)
+
+target_compile_definitions(wuffer_build_options INTERFACE
+    QT_NO_CAST_FROM_ASCII
+    QT_NO_CAST_TO_ASCII
+    QT_NO_URL_CAST_FROM_STRING
+    QT_NO_FOREACH
+    QT_NO_KEYWORDS
+    QT_STRICT_ITERATORS
+    QT_NO_NARROWING_CONVERSIONS_IN_CONNECT
+    QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    target_compile_options(wuffer_build_options INTERFACE
+        -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wold-style-cast
+        -Woverloaded-virtual -Wnon-virtual-dtor -Wcast-qual -Wformat=2 -Wnull-dereference
+        -Wduplicated-cond -Wduplicated-branches -Wlogical-op -Wextra-semi -Wsuggest-override
+        -Wdouble-promotion -Wimplicit-fallthrough -Wzero-as-null-pointer-constant)
+elseif(NOT MSVC)
+    target_compile_options(wuffer_build_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow)
+endif()
+
+if(WUFFER_WARNINGS_AS_ERRORS AND NOT MSVC)
+    target_compile_options(wuffer_build_options INTERFACE -Werror)
+endif()
+
+if(WUFFER_SANITIZE)
+    set(sanitizers -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    target_compile_options(wuffer_build_options INTERFACE ${sanitizers})
+    target_link_options(wuffer_build_options INTERFACE ${sanitizers})
+    # The instrumentation hides from GCC what it has already proved about pointers.
+    target_compile_options(wuffer_build_options INTERFACE -Wno-null-dereference)
+endif()
+
+if(WUFFER_COVERAGE)
+    target_compile_options(wuffer_build_options INTERFACE --coverage)
+    target_link_options(wuffer_build_options INTERFACE --coverage)
+endif()

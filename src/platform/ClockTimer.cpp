@@ -1,0 +1,23 @@
+#include "platform/ClockTimer.h"
+
+#include "platform/Clock.h"
+#include "platform/Service.h"
+
+void ClockTimer::startRepeating(double interval)
+{
+    invalidate();
+    if (interval > 0)
+        Service<Clock>::current().addRepeating(*this, interval);
+}
+
+void ClockTimer::startOnce(double delay)
+{
+    invalidate();
+    Service<Clock>::current().addOneShot(*this, delay > 0 ? delay : 0);
+}
+
+void ClockTimer::invalidate()
+{
+    if (_active)
+        Service<Clock>::current().remove(*this);
+}

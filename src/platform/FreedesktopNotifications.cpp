@@ -1,0 +1,115 @@
+#include "platform/FreedesktopNotifications.h"
+
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
+#include <QFile>
+#include <QGuiApplication>
+#include <QVariantMap>
+
+#include <optional>
+
+/// What has been said to the server, and is still to say, on behalf of one sender.
+struct FreedesktopNotifications::Conversation
+{
+    /// The server's number for the notification shown last; 0 when there is none.
+    uint id = 0;
+    /// True from the first question until the server has numbered the notification.
+    bool underWay = false;
+    /// The latest that has not been sent. Whatever came before it would only be replaced.
+    std::optional<DesktopNotification> next;
+};
+
+namespace
+{
+/// Whether a session bus is there to be asked. Without this look a machine that has none would
+/// have one started for it.
+bool sessionBusIsPresent()
+{
+    if (qEnvironmentVariableIsSet("DBUS_SESSION_BUS_ADDRESS"))
+        return true;
+    const QString runtimeDir = qEnvironmentVariable("XDG_RUNTIME_DIR");
+    return !runtimeDir.isEmpty() && QFile::exists(runtimeDir + QStringLiteral("/bus"));
+}
+
+QDBusMessage serverCall(const QString &method)
+{
+    return QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.Notifications"),
+                                          QStringLiteral("/org/freedesktop/Notifications"),
+                                          QStringLiteral("org.freedesktop.Notifications"), method);
+}
+
+/// The arguments of Notify, in the order of the protocol.
+QVariantList notifyArguments(const DesktopNotification &notification, uint replacedId, bool markup)
+{
+    const QVariantMap hints{
+        {QStringLiteral("desktop-entry"), QGuiApplication::desktopFileName()},
+        {QStringLiteral("category"), QString(QStringLiteral("x-wuffer.") + notification.name)},
+        // The program plays its own alarm.
+        {QStringLiteral("suppress-sound"), true},
+    };
+    const QString text = markup ? notification.text.toHtmlEscaped() : notification.text;
+    constexpr int serversOwnTimeout = -1;
+    return {QGuiApplication::applicationDisplayName(),
+            replacedId,
+            QGuiApplication::desktopFileName(),
+            notification.title,
+            text,
+            QStringList(),
+            hints,
+            serversOwnTimeout};
+}
+
+template<class Function>
+void whenAnswered(const QDBusMessage &call, QObject &context, Function &&function)
+{
+    auto *watcher =
+        new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(call), &context);
+    QObject::connect(watcher, &QDBusPendingCallWatcher::finished, watcher,
+                     &QObject::deleteLater);
+    QObject::connect(watcher, &QDBusPendingCallWatcher::finished, &context,
+                     std::forward<Function>(function));
+}
+} // namespace
+
+void FreedesktopNotifications::notify(const QObject &sender,
+                                      const DesktopNotification &notification)
+{
+    if (!sessionBusIsPresent())
+        return;
+    std::shared_ptr<Conversation> &conversation = _conversations[&sender];
+    if (!conversation) {
+        conversation = std::make_shared<Conversation>();
+        connect(&sender, &QObject::destroyed, this,
+                [this](QObject *gone) { _conversations.remove(gone); });
+    }
+    conversation->next = notification;
+    if (!conversation->underWay)
+        askCapabilities(conversation);
+}
+
+void FreedesktopNotifications::askCapabilities(const std::shared_ptr<Conversation> &conversation)
+{
+    conversation->underWay = true;
+    whenAnswered(serverCall(QStringLiteral("GetCapabilities")), *this,
+                 [this, conversation](QDBusPendingCallWatcher *call) {
+                     const QDBusPendingReply<QStringList> capabilities = *call;
+                     send(conversation, capabilities.isValid() &&
+                              capabilities.value().contains(QStringLiteral("body-markup")));
+                 });
+}
+
+void FreedesktopNotifications::send(const std::shared_ptr<Conversation> &conversation, bool markup)
+{
+    QDBusMessage call = serverCall(QStringLiteral("Notify"));
+    call.setArguments(notifyArguments(*conversation->next, conversation->id, markup));
+    conversation->next.reset();
+    whenAnswered(call, *this, [this, conversation](QDBusPendingCallWatcher *answer) {
+        const QDBusPendingReply<uint> id = *answer;
+        conversation->id = id.isValid() ? id.value() : 0;
+        conversation->underWay = false;
+        if (conversation->next)
+            askCapabilities(conversation);
+    });
+}

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <QString>
+
+#include <memory>
+
+/// One sound that can be played, independent of every other sound.
+///
+/// Made by a SoundSystem and owned by whoever asked for it; destroying it silences it. None of
+/// the operations waits for the sound server, for a file or for another thread. Main thread.
+class Sound
+{
+public:
+    Sound() = default;
+    virtual ~Sound() = default;
+    Q_DISABLE_COPY_MOVE(Sound)
+
+    /// What the sound was made from: the path of its file, or the name of its resource.
+    [[nodiscard]] virtual QString name() const = 0;
+
+    /// Length of one pass in seconds; 0 when the file cannot be played.
+    [[nodiscard]] virtual double duration() const = 0;
+
+    /// Plays from the beginning. A sound that is playing already goes on as it is.
+    virtual void play() = 0;
+
+    /// Silences the sound; the next play begins at the beginning.
+    virtual void stop() = 0;
+
+    /// True from play until the end of the last pass, or until stop; also while no device can be
+    /// heard, so that whoever waits for the end of the sound waits just as long.
+    [[nodiscard]] virtual bool isPlaying() const = 0;
+
+    /// Loudness from 0 (silent) to 1 (as recorded); 1 to begin with.
+    [[nodiscard]] virtual float volume() const = 0;
+
+    /// Takes effect at once, also while playing. Values outside 0 to 1 are limited to it and
+    /// anything that is not a number counts as 0.
+    virtual void setVolume(float volume) = 0;
+
+    /// Whether the sound begins again when it reaches its end; off to begin with. The flag is
+    /// read at the end of each pass, so it may change while the sound plays.
+    virtual void setLoops(bool loops) = 0;
+};
+
+/// Makes sounds. Main thread.
+class SoundSystem
+{
+public:
+    SoundSystem() = default;
+    virtual ~SoundSystem() = default;
+    Q_DISABLE_COPY_MOVE(SoundSystem)
+
+    /// The program's own sound of this file name ("crow.wav"), or null when there is none.
+    [[nodiscard]] virtual std::unique_ptr<Sound> soundNamed(const QString &fileName) = 0;
+
+    /// The sound in the file at this path. The file is read while the sound plays. A file that
+    /// cannot be played gives a sound of duration 0.
+    [[nodiscard]] virtual std::unique_ptr<Sound> soundWithContentsOfFile(const QString &path) = 0;
+};

@@ -1,0 +1,62 @@
+#include "platform/SystemClock.h"
+
+#include <algorithm>
+#include <chrono>
+#include <cmath>
+#include <ctime>
+
+namespace
+{
+/// The longest wait asked of QTimer, in milliseconds. It takes at most 24.8 days; a wait that
+/// is longer is made of several.
+constexpr double kLongestWait = 86'400'000.0;
+
+double secondsSinceBoot()
+{
+#ifdef CLOCK_BOOTTIME
+    // The one clock of Linux that counts through suspend and that nobody can set.
+    timespec time{};
+    clock_gettime(CLOCK_BOOTTIME, &time);
+    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) * 1e-9;
+#else
+    const auto time = std::chrono::steady_clock::now().time_since_epoch();
+    return std::chrono::duration<double>(time).count();
+#endif
+}
+} // namespace
+
+SystemClock::SystemClock() :
+    _bootMoment(static_cast<double>(QDateTime::currentMSecsSinceEpoch()) / 1000.0 -
+                secondsSinceBoot())
+{
+    _alarm.setSingleShot(true);
+    _alarm.setTimerType(Qt::PreciseTimer);
+    _alarm.callOnTimeout([this] { wake(); });
+}
+
+double SystemClock::now() const
+{
+    return inSteps(_bootMoment + secondsSinceBoot());
+}
+
+QDateTime SystemClock::calendarNow() const
+{
+    return QDateTime::currentDateTime();
+}
+
+void SystemClock::nextDueChanged()
+{
+    const double due = nextDue();
+    if (std::isinf(due)) {
+        _alarm.stop();
+        return;
+    }
+    // Rounded up, because a wake-up before the moment would only have to wait again.
+    const double milliseconds = std::ceil((due - now()) * 1000.0);
+    _alarm.start(static_cast<int>(std::clamp(milliseconds, 0.0, kLongestWait)));
+}
+
+void SystemClock::wake()
+{
+    fireDueTimers();
+}

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "platform/Clock.h"
+
+#include <QTimer>
+
+/// The clock of the running program: the computer's time since it was started, mapped to
+/// calendar time once. Setting the computer's clock moves no timer, and a suspended computer
+/// finds its timers where they ought to be when it wakes.
+class SystemClock final : public Clock
+{
+public:
+    SystemClock();
+
+    [[nodiscard]] double now() const override;
+    [[nodiscard]] QDateTime calendarNow() const override;
+
+private:
+    void nextDueChanged() override;
+    void wake();
+
+    double _bootMoment;
+    QTimer _alarm;
+};

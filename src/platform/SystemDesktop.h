@@ -1,0 +1,12 @@
+#pragma once
+
+#include "platform/Desktop.h"
+
+/// The desktop that the program runs on.
+class SystemDesktop final : public Desktop
+{
+public:
+    void requestUserAttention(QWidget &window) override;
+    void beep() override;
+    void openUrl(const QUrl &url) override;
+};
