@@ -1,10 +1,12 @@
-#include <QApplication>
-#include <QWidget>
+#include "app/SystemServices.h"
+#include "app/WufferApplication.h"
+#include "app/WufferController.h"
 
 int main(int argc, char *argv[])
 {
-    const QApplication application(argc, argv);
-    QWidget window;
-    window.show();
-    return QApplication::exec();
+    const WufferApplication application(argc, argv);
+    const SystemServices services;
+    WufferController controller;
+    controller.awakeFromNib();
+    return WufferApplication::exec();
 }

@@ -1,0 +1,18 @@
+#include "app/AuxiliaryWindow.h"
+
+#include "app/MainMenu.h"
+
+AuxiliaryWindow::AuxiliaryWindow(MainMenu &menu, const QString &title)
+{
+    setWindowTitle(title);
+    resize(420, 300);
+    menu.addTo(*this);
+}
+
+void AuxiliaryWindow::orderFront()
+{
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    show();
+    raise();
+    activateWindow();
+}

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QMainWindow>
+
+class MainMenu;
+
+/// A window beside the timers, with the menus of the program. It is empty until somebody gives it
+/// a central widget.
+class AuxiliaryWindow final : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    AuxiliaryWindow(MainMenu &menu, const QString &title);
+
+    /// Shows the window in front of the program's others and makes it the active one.
+    void orderFront();
+};

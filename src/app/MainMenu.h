@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QObject>
+
+#include <memory>
+#include <vector>
+
+class QAction;
+class QMainWindow;
+class QMenu;
+class WufferController;
+
+/// The menus of the program: one set, carried by every window of it.
+///
+/// An item acts on the controller, on the timer of the active window, or on the active window
+/// itself. Whether it is enabled, and what some are called, is asked of the one it acts on when a
+/// menu opens and whenever the active window or the state of a timer changes, so that shortcuts
+/// obey the same rules.
+class MainMenu final : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit MainMenu(WufferController &controller);
+    ~MainMenu() override;
+
+    /// Gives the window a menu bar with these menus.
+    void addTo(QMainWindow &window);
+
+    /// Asks for every item anew whether it is enabled.
+    void validate();
+
+private:
+    struct Row;
+    struct Item;
+
+    [[nodiscard]] static const std::vector<Row> &rows();
+    QMenu &menuNamed(const char *title);
+    void addItem(const Row &row);
+    void run(const Row &row);
+    [[nodiscard]] bool isEnabled(const Item &item) const;
+
+    WufferController &_controller;
+    std::vector<std::unique_ptr<QMenu>> _menus;
+    std::vector<Item> _items;
+};

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "platform/FreedesktopNotifications.h"
+#include "platform/Service.h"
+#include "platform/SilentSoundSystem.h"
+#include "platform/SystemClock.h"
+#include "platform/SystemDesktop.h"
+#include "platform/UserDefaults.h"
+
+/// The services of the platform that the running program uses, installed for as long as this
+/// object lives.
+class SystemServices final
+{
+public:
+    SystemServices() = default;
+    Q_DISABLE_COPY_MOVE(SystemServices)
+
+private:
+    SystemClock _clock;
+    UserDefaults _defaults{UserDefaults::standardPath()};
+    SilentSoundSystem _sounds;
+    FreedesktopNotifications _notifications;
+    SystemDesktop _desktop;
+
+    Service<Clock> _clockService{_clock};
+    Service<UserDefaults> _defaultsService{_defaults};
+    Service<SoundSystem> _soundService{_sounds};
+    Service<DesktopNotifications> _notificationService{_notifications};
+    Service<Desktop> _desktopService{_desktop};
+};

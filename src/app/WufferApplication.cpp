@@ -1,0 +1,145 @@
+#include "app/WufferApplication.h"
+
+#include "BuildInfo.h"
+#include "settings/WufferWindow.h"
+#include "timer/Wuffer.h"
+
+#include <QIcon>
+#include <QKeyEvent>
+#include <QMouseEvent>
+
+#include <algorithm>
+
+static QIcon applicationIcon()
+{
+    // A static library has to be asked for its resources.
+    Q_INIT_RESOURCE(wuffer);
+    QIcon icon;
+    for (const int size : {16, 32, 48, 64, 128})
+        icon.addFile(QStringLiteral(":/images/wuffer-%1.png").arg(size), QSize(size, size));
+    return icon;
+}
+
+WufferApplication::WufferApplication(int &argc, char **argv) : QApplication(argc, argv)
+{
+    setApplicationName(QStringLiteral("wuffer"));
+    setApplicationDisplayName(BuildInfo::name());
+    setApplicationVersion(BuildInfo::version());
+    setDesktopFileName(QStringLiteral("wuffer"));
+    setWindowIcon(applicationIcon());
+    // A caret that blinks would wake an idle program twice a second for ever.
+    setCursorFlashTime(0);
+    connect(this, &QCoreApplication::aboutToQuit, this, [this] { _wuffers.clear(); });
+}
+
+WufferApplication::~WufferApplication() = default;
+
+WufferApplication &WufferApplication::instance()
+{
+    Q_ASSERT(qobject_cast<WufferApplication *>(qApp));
+    return *static_cast<WufferApplication *>(qApp);
+}
+
+std::vector<Wuffer *> WufferApplication::getWuffers()
+{
+    std::vector<Wuffer *> timers;
+    for (const std::unique_ptr<Wuffer> &timer : instance()._wuffers)
+        timers.push_back(timer.get());
+    return timers;
+}
+
+WufferWindow *WufferApplication::otherWufferWindowSharesOrigin(const QWidget &window)
+{
+    for (const Wuffer *timer : getWuffers()) {
+        if (timer->window() != &window && timer->window()->pos() == window.pos())
+            return timer->window();
+    }
+    return nullptr;
+}
+
+Wuffer *WufferApplication::keyWuffer()
+{
+    for (const QWidget *window = activeWindow(); window; window = window->parentWidget()) {
+        if (const auto *wufferWindow = qobject_cast<const WufferWindow *>(window))
+            return &wufferWindow->delegate();
+    }
+    return nullptr;
+}
+
+Wuffer &WufferApplication::openWuffer()
+{
+    Wuffer &timer = *_wuffers.emplace_back(std::make_unique<Wuffer>());
+    connect(&timer, &Wuffer::closed, this, [this, &timer] { forget(timer); });
+    Q_EMIT wufferOpened(&timer);
+    return timer;
+}
+
+bool WufferApplication::cancelFullScreenMode()
+{
+    bool cancelled = false;
+    for (Wuffer *timer : getWuffers())
+        cancelled = timer->setWindowed() || cancelled;
+    return cancelled;
+}
+
+void WufferApplication::cancelFullScreenModeForOthers(const Wuffer &timer)
+{
+    for (Wuffer *other : getWuffers()) {
+        if (other != &timer)
+            other->setWindowed();
+    }
+}
+
+bool WufferApplication::notify(QObject *receiver, QEvent *event)
+{
+    return swallows(*event) || QApplication::notify(receiver, event);
+}
+
+bool WufferApplication::swallows(QEvent &event)
+{
+    switch (event.type()) {
+    case QEvent::ShortcutOverride:
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+        return swallowsKey(event);
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+        return static_cast<QMouseEvent &>(event).button() == Qt::LeftButton &&
+            cancelFullScreenMode();
+    default:
+        return false;
+    }
+}
+
+bool WufferApplication::swallowsKey(QEvent &event)
+{
+    const auto &keyEvent = static_cast<QKeyEvent &>(event);
+    if (event.type() == QEvent::KeyRelease) {
+        if (!keyEvent.isAutoRepeat())
+            _swallowedKey.reset();
+        return false;
+    }
+    // One press arrives several times: as a question whether somebody wants it before it becomes
+    // a menu shortcut, then as the press itself, and both again while the key is held down.
+    const bool newPress = event.type() == QEvent::ShortcutOverride && !keyEvent.isAutoRepeat();
+    if (newPress)
+        _swallowedKey.reset();
+    if (_swallowedKey != keyEvent.key()) {
+        if (!cancelFullScreenMode())
+            return false;
+        _swallowedKey = keyEvent.key();
+    }
+    // Accepting the question keeps the press from becoming a shortcut.
+    event.accept();
+    return true;
+}
+
+void WufferApplication::forget(Wuffer &timer)
+{
+    const auto place = std::ranges::find(_wuffers, &timer, &std::unique_ptr<Wuffer>::get);
+    if (place == _wuffers.end())
+        return;
+    // The timer is still at work on its own closing.
+    place->release()->deleteLater();
+    _wuffers.erase(place);
+}

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <QApplication>
+
+#include <memory>
+#include <optional>
+#include <vector>
+
+class Wuffer;
+class WufferWindow;
+
+/// The application object: the registry of open timers, and the filter that lets the first key
+/// press or click end full-screen mode and do nothing else. It owns the timers while their windows
+/// are open.
+class WufferApplication final : public QApplication
+{
+    Q_OBJECT
+
+public:
+    WufferApplication(int &argc, char **argv);
+    ~WufferApplication() override;
+
+    /// The one application object.
+    [[nodiscard]] static WufferApplication &instance();
+
+    /// The open timers in the order in which they were made, the newest last. A list of its own:
+    /// timers may come and go while it is walked.
+    [[nodiscard]] static std::vector<Wuffer *> getWuffers();
+
+    /// Another timer window whose frame has exactly the same origin as this one's, the oldest
+    /// first; null when there is none.
+    [[nodiscard]] static WufferWindow *otherWufferWindowSharesOrigin(const QWidget &window);
+
+    /// The timer of the active window, or of the sheet on it; null when another is active.
+    [[nodiscard]] static Wuffer *keyWuffer();
+
+    /// Makes a new timer, not yet shown.
+    Wuffer &openWuffer();
+
+    /// Ends full-screen mode of every timer. True when at least one was in it.
+    bool cancelFullScreenMode();
+
+    /// Ends full-screen mode of every timer but this one.
+    void cancelFullScreenModeForOthers(const Wuffer &timer);
+
+    bool notify(QObject *receiver, QEvent *event) override;
+
+Q_SIGNALS:
+    /// A timer was made.
+    void wufferOpened(Wuffer *timer);
+
+private:
+    [[nodiscard]] bool swallows(QEvent &event);
+    [[nodiscard]] bool swallowsKey(QEvent &event);
+    void forget(Wuffer &timer);
+
+    std::vector<std::unique_ptr<Wuffer>> _wuffers;
+    /// The key that has ended full-screen mode, until it is let go or pressed anew.
+    std::optional<int> _swallowedKey;
+};

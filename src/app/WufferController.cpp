@@ -1,0 +1,127 @@
+#include "app/WufferController.h"
+
+#include "app/AuxiliaryWindow.h"
+#include "app/MainMenu.h"
+#include "app/WebPage.h"
+#include "app/WufferApplication.h"
+#include "platform/Desktop.h"
+#include "platform/NotificationCenter.h"
+#include "platform/Service.h"
+#include "platform/UserDefaults.h"
+#include "settings/WufferWindow.h"
+#include "timer/Wuffer.h"
+
+namespace
+{
+// What may open at launch, as the settings hold it. Anything else opens one timer.
+constexpr QStringView kLaunchNothing = u"Do Nothing";
+constexpr QStringView kLaunchPreset = u"Open Preset ⌘1";
+constexpr QStringView kLaunchAndStartPreset = u"Open and Start Preset ⌘1";
+
+std::unique_ptr<AuxiliaryWindow> auxiliaryWindow(MainMenu &menu, const QString &title)
+{
+    return std::make_unique<AuxiliaryWindow>(menu, title);
+}
+} // namespace
+
+WufferController::WufferController() : _mainMenu(std::make_unique<MainMenu>(*this)) {}
+
+WufferController::~WufferController() = default;
+
+void WufferController::awakeFromNib()
+{
+    NotificationCenter &center = NotificationCenter::defaultCenter();
+    populatePresetsMenu();
+    center.addObserver(*this, QStringLiteral("presetsChangedNotification"),
+                       [this](QObject *) { populatePresetsMenu(); });
+    openAtLaunch();
+    // Last, so that what started at launch shows at its first tick and not before.
+    center.addObserver(*this, QStringLiteral("statusChanged"),
+                       [this](QObject *) { refreshStatusItem(); });
+}
+
+void WufferController::openAtLaunch()
+{
+    const QString choice = UserDefaults::standardUserDefaults()
+                               .stringForKey(QStringLiteral("launchBehavior"))
+                               .value_or(QString());
+    if (choice == kLaunchNothing)
+        return;
+    const bool preset = choice == kLaunchPreset || choice == kLaunchAndStartPreset;
+    createNewWuffer();
+    newestWuffer()->loadSettingsFromDefaultsWithKey(
+        preset ? Wuffer::keyForPreset(1) : QStringLiteral("defaultWufferSettings"), true);
+    if (choice == kLaunchAndStartPreset)
+        newestWuffer()->goPressed();
+}
+
+void WufferController::createNewWuffer()
+{
+    const Wuffer *previous = newestWuffer();
+    WufferWindow &window = *WufferApplication::instance().openWuffer().window();
+    _mainMenu->addTo(window);
+    if (!previous)
+        return;
+    const QPoint next = window.cascadeTopLeftFromPoint(previous->window()->pos());
+    window.cascadeTopLeftFromPoint(next);
+}
+
+void WufferController::newWuffer()
+{
+    createNewWuffer();
+    newestWuffer()->showWufferWindow();
+}
+
+void WufferController::startAllWuffers()
+{
+    for (Wuffer *timer : WufferApplication::getWuffers()) {
+        if (!timer->isRunning())
+            timer->goPressed();
+    }
+}
+
+void WufferController::showPreferences()
+{
+    if (!_preferencesWindow)
+        _preferencesWindow = auxiliaryWindow(*_mainMenu, tr("Preferences"));
+    _preferencesWindow->orderFront();
+}
+
+void WufferController::showConverter()
+{
+    if (!_converterWindow)
+        _converterWindow = auxiliaryWindow(*_mainMenu, tr("Converter"));
+    _converterWindow->orderFront();
+}
+
+void WufferController::showMeasurements()
+{
+    if (!_measurementsWindow)
+        _measurementsWindow = auxiliaryWindow(*_mainMenu, tr("Measurements"));
+    _measurementsWindow->orderFront();
+}
+
+void WufferController::donate()
+{
+    Service<Desktop>::current().openUrl(WebPage::address());
+}
+
+void WufferController::quit()
+{
+    QCoreApplication::quit();
+}
+
+bool WufferController::validateMenuItem(Operation /*action*/) const
+{
+    return true;
+}
+
+void WufferController::populatePresetsMenu() {}
+
+void WufferController::refreshStatusItem() {}
+
+Wuffer *WufferController::newestWuffer()
+{
+    const std::vector<Wuffer *> timers = WufferApplication::getWuffers();
+    return timers.empty() ? nullptr : timers.back();
+}

@@ -1,0 +1,106 @@
+#include "settings/WufferWindow.h"
+#include "timer/DisplayFont.h"
+#include "timer/TimerTexts.h"
+#include "timer/Wuffer.h"
+#include "ui_Wuffer.h"
+
+#include <QAction>
+#include <QGuiApplication>
+#include <QScreen>
+#include <QWindow>
+
+namespace
+{
+/// The screen that the user is looking at: that of the window with the focus.
+QScreen &mainScreen(const QWidget &window)
+{
+    const QWindow *focused = QGuiApplication::focusWindow();
+    return focused ? *focused->screen() : *window.screen();
+}
+
+QString drawerTitle(bool open)
+{
+    return (open ? kHideOptions : kMoreOptions).toString();
+}
+} // namespace
+
+void Wuffer::setFullScreenMode(bool fullScreen)
+{
+    if (fullScreen == _ui->_displayBox->isInFullScreenMode())
+        return;
+    // The name is edited in the window and only shown on the full screen. The label for that
+    // stays visible afterwards, but says nothing beside the field.
+    _ui->_titleField->setVisible(!fullScreen);
+    _ui->_fullTitleField->setText(fullScreen ? title() : QString());
+    if (fullScreen) {
+        _ui->_displayBox->enterFullScreenMode(mainScreen(*_window));
+        setFullScreenFontSizes(true);
+        _ui->_fullTitleField->setVisible(true);
+        QGuiApplication::setOverrideCursor(Qt::BlankCursor);
+    } else {
+        _ui->_displayBox->exitFullScreenModeWithOptions();
+        setFullScreenFontSizes(false);
+        QGuiApplication::restoreOverrideCursor();
+    }
+}
+
+void Wuffer::setFullScreenFontSizes(bool fullScreen)
+{
+    DisplayFont::apply(*_ui->_resultLabel, fullScreen ? 200 : 24);
+    setResultLabelText(_ui->_resultLabel->text());
+    DisplayFont::apply(*_ui->_msLabel, DisplayFont::smallSize(fullScreen));
+    DisplayFont::apply(*_ui->_elapsedLabel, DisplayFont::smallSize(fullScreen));
+    DisplayFont::apply(*_ui->_fullTitleField, DisplayFont::smallSize(fullScreen));
+}
+
+void Wuffer::startStopFullScreen()
+{
+    setFullScreenMode(!_ui->_displayBox->isInFullScreenMode());
+}
+
+bool Wuffer::setWindowed()
+{
+    if (!_ui->_displayBox->isInFullScreenMode())
+        return false;
+    setFullScreenMode(false);
+    return true;
+}
+
+void Wuffer::showHideAdvanced()
+{
+    // Asked before the drawer moves: one that is still closing opens again under the title of
+    // an open one.
+    const bool closed = _ui->_drawer->state() == Drawer::State::Closed;
+    _ui->_finishedDrawerButton->setText(drawerTitle(closed));
+    _ui->_drawer->toggle();
+}
+
+void Wuffer::showWufferWindow()
+{
+    _window->setWindowState(_window->windowState() & ~Qt::WindowMinimized);
+    _window->show();
+    _window->raise();
+    _window->activateWindow();
+}
+
+bool Wuffer::validateMenuItem(QAction &item, Operation action) const
+{
+    if (_closed)
+        return false;
+    if (action == &Wuffer::stopwatch) {
+        item.setText(_stopwatch ? QStringLiteral("Timer") : kStopwatchString.toString());
+        return !_timerStarted;
+    }
+    if (action == &Wuffer::toggleKeepWuffing)
+        return _ui->_keepWuffingBox->isEnabled();
+    if (action == &Wuffer::targetTime)
+        return !_timerStarted;
+    if (action == &Wuffer::showHideAdvanced) {
+        const Drawer::State drawer = _ui->_drawer->state();
+        item.setText(drawerTitle(drawer == Drawer::State::Opening || drawer == Drawer::State::Open));
+        return true;
+    }
+    if (action == &Wuffer::startStopFullScreen)
+        return _timerStarted;
+    return action == &Wuffer::resetWuffer || action == &Wuffer::showWufferWindow;
+}

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QLabel>
+
+/// An image that announces every click with the notice "ClickableImageViewClicked", whose object
+/// is the view. The space bar clicks it too, when it has the focus.
+class ClickableImageView final : public QLabel
+{
+    Q_OBJECT
+
+public:
+    explicit ClickableImageView(QWidget *parent = nullptr);
+
+    /// Shows the program's image of this file name ("sound_high.png").
+    void setImage(const QString &fileName);
+
+    /// The file name of the image shown; empty before the first.
+    [[nodiscard]] QString imageName() const { return _imageName; }
+
+protected:
+    void mousePressEvent(QMouseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    void announceClick();
+
+    QString _imageName;
+};

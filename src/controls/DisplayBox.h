@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QFrame>
+
+#include <memory>
+
+class QScreen;
+
+/// The light panel that a timer's texts stand on. Its colours are its own, so that black, red and
+/// blue texts can be read in every theme. It can leave its window to fill a screen, and comes
+/// back into exactly its old place.
+class DisplayBox final : public QFrame
+{
+    Q_OBJECT
+
+public:
+    explicit DisplayBox(QWidget *parent = nullptr);
+    ~DisplayBox() override;
+
+    /// Fills the screen. The box must be in a layout, and not in full-screen mode.
+    void enterFullScreenMode(QScreen &screen);
+
+    /// Comes back. The box must be in full-screen mode.
+    void exitFullScreenModeWithOptions();
+
+    [[nodiscard]] bool isInFullScreenMode() const { return _fullScreenWindow != nullptr; }
+
+Q_SIGNALS:
+    /// Somebody asked the window manager to close the window that fills the screen.
+    void fullScreenCloseRequested();
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    class FullScreenWindow;
+
+    std::unique_ptr<FullScreenWindow> _fullScreenWindow;
+    /// Keeps the box's place in its window while it is away.
+    std::unique_ptr<QWidget> _placeholder;
+};

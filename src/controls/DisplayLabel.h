@@ -1,0 +1,64 @@
+#pragma once
+
+#include <QColor>
+#include <QWidget>
+
+/// One line of text on the display, in its own font and colour.
+///
+/// It may change many times a second, so a new text costs one repaint of the label and never a
+/// new layout: the size that it asks for depends on its font and on the room it reserves, not on
+/// its text. A text that is wider than the label is drawn smaller, never cut off.
+class DisplayLabel final : public QWidget
+{
+    Q_OBJECT
+    Q_PROPERTY(int reservedCharacters READ reservedCharacters WRITE setReservedCharacters)
+    Q_PROPERTY(double reservedPointSize READ reservedPointSize WRITE setReservedPointSize)
+    Q_PROPERTY(Qt::Alignment alignment READ alignment WRITE setAlignment)
+    Q_PROPERTY(bool announced READ isAnnounced WRITE setAnnounced)
+
+public:
+    explicit DisplayLabel(QWidget *parent = nullptr);
+
+    [[nodiscard]] QString text() const { return _text; }
+    void setText(const QString &text);
+
+    [[nodiscard]] QColor textColor() const { return _textColor; }
+    void setTextColor(const QColor &color);
+
+    /// Room for so many digits, from 0 on. A label that reserves none takes no room while it is
+    /// empty.
+    [[nodiscard]] int reservedCharacters() const { return _reservedCharacters; }
+    void setReservedCharacters(int count);
+
+    /// The size in points of the font that room is made for, so that a smaller one for a longer
+    /// text moves nothing; 0 to make room for the font of the moment.
+    [[nodiscard]] double reservedPointSize() const { return _reservedPointSize; }
+    void setReservedPointSize(double points);
+
+    /// How the text stands within the label; centred to begin with.
+    [[nodiscard]] Qt::Alignment alignment() const { return _alignment; }
+    void setAlignment(Qt::Alignment alignment);
+
+    /// Whether assistive programs are told of every new text; on to begin with. Off for a text
+    /// that changes too fast to be followed by ear.
+    [[nodiscard]] bool isAnnounced() const { return _announced; }
+    void setAnnounced(bool announced) { _announced = announced; }
+
+    /// The factor by which a text of this size is drawn smaller to fit into the room; at most 1.
+    [[nodiscard]] static qreal fittingScale(QSizeF text, QSizeF room);
+
+    [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+    void changeEvent(QEvent *event) override;
+
+private:
+    QString _text;
+    QColor _textColor = Qt::black;
+    Qt::Alignment _alignment = Qt::AlignCenter;
+    int _reservedCharacters = 0;
+    double _reservedPointSize = 0;
+    bool _announced = true;
+};

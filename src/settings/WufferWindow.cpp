@@ -1,0 +1,49 @@
+#include "settings/WufferWindow.h"
+
+#include <QCloseEvent>
+#include <QLayout>
+#include <QScreen>
+#include <QShortcut>
+
+namespace
+{
+/// One step of a cascade in device-independent pixels: enough to leave the title bar of the
+/// window below in sight.
+constexpr int kCascadeStep = 28;
+} // namespace
+
+WufferWindow::WufferWindow(Wuffer &delegate) :
+    _delegate(delegate), _return(new QShortcut(Qt::Key_Return, this)),
+    _enter(new QShortcut(Qt::Key_Enter, this))
+{
+    // As large as its contents, which grow and shrink with the drawer.
+    layout()->setSizeConstraint(QLayout::SetFixedSize);
+    for (QShortcut *shortcut : {_return, _enter}) {
+        shortcut->setAutoRepeat(false);
+        connect(shortcut, &QShortcut::activated, this, &WufferWindow::returnPressed);
+    }
+}
+
+void WufferWindow::setReturnShortcutEnabled(bool enabled)
+{
+    _return->setEnabled(enabled);
+    _enter->setEnabled(enabled);
+}
+
+QPoint WufferWindow::cascadeTopLeftFromPoint(QPoint topLeft)
+{
+    move(topLeft);
+    return nextCascadePoint(topLeft, frameGeometry().size(), screen()->availableGeometry());
+}
+
+QPoint WufferWindow::nextCascadePoint(QPoint topLeft, QSize window, const QRect &room)
+{
+    const QPoint next = topLeft + QPoint(kCascadeStep, kCascadeStep);
+    return room.contains(QRect(next, window)) ? next : room.topLeft();
+}
+
+void WufferWindow::closeEvent(QCloseEvent *event)
+{
+    Q_EMIT willClose();
+    event->accept();
+}

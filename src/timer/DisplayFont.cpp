@@ -1,0 +1,13 @@
+#include "timer/DisplayFont.h"
+
+#include "timer/TimerTexts.h"
+
+void DisplayFont::apply(QWidget &label, double points)
+{
+    if (label.font().pointSizeF() == points && label.font().family() == kResultLabelFont)
+        return;
+    QFont font(kResultLabelFont.toString());
+    font.setStyleHint(QFont::TypeWriter);
+    font.setPointSizeF(points);
+    label.setFont(font);
+}

@@ -1,0 +1,62 @@
+#include "timer/TargetTimeSheet.h"
+
+#include "ui_TargetTime.h"
+
+#include <QLocale>
+#include <QPushButton>
+
+namespace
+{
+/// The user's own short date with a time to the second.
+QString displayFormat()
+{
+    const QLocale locale;
+    QString date = locale.dateFormat(QLocale::ShortFormat);
+    // A year of two digits cannot tell one century from the next.
+    if (!date.contains(QLatin1String("yyyy")))
+        date.replace(QLatin1String("yy"), QLatin1String("yyyy"));
+    const bool halfDays =
+        locale.timeFormat(QLocale::ShortFormat).contains(QLatin1Char('a'), Qt::CaseInsensitive);
+    return date + (halfDays ? QLatin1String("  h:mm:ss AP") : QLatin1String("  HH:mm:ss"));
+}
+
+QDateTime inWholeSeconds(const QDateTime &date)
+{
+    return date.addMSecs(-date.time().msec());
+}
+} // namespace
+
+TargetTimeSheet::TargetTimeSheet(QWidget &parent) :
+    QDialog(&parent, Qt::Sheet), _ui(std::make_unique<Ui::TargetTime>())
+{
+    _ui->setupUi(this);
+    setWindowModality(Qt::WindowModal);
+    _ui->_targetDateField->setDisplayFormat(displayFormat());
+    _ui->_targetCalendar->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
+    _ui->_targetButtons->button(QDialogButtonBox::Ok)->setText(tr("Start"));
+
+    connect(_ui->_targetCalendar, &QCalendarWidget::selectionChanged, this,
+            [this] { _ui->_targetDateField->setDate(_ui->_targetCalendar->selectedDate()); });
+    connect(_ui->_targetDateField, &QDateTimeEdit::dateChanged, _ui->_targetCalendar,
+            &QCalendarWidget::setSelectedDate);
+    connect(_ui->_targetButtons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+    connect(_ui->_targetButtons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+}
+
+TargetTimeSheet::~TargetTimeSheet() = default;
+
+void TargetTimeSheet::setMinDate(const QDateTime &date)
+{
+    _ui->_targetDateField->setMinimumDateTime(inWholeSeconds(date));
+    _ui->_targetCalendar->setMinimumDate(date.date());
+}
+
+QDateTime TargetTimeSheet::dateValue() const
+{
+    return _ui->_targetDateField->dateTime();
+}
+
+void TargetTimeSheet::setDateValue(const QDateTime &date)
+{
+    _ui->_targetDateField->setDateTime(inWholeSeconds(date));
+}

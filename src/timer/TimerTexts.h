@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QStringView>
+
+// Texts that the program compares as well as shows, each defined once.
+
+inline constexpr QStringView kGoButtonStart = u"Start";
+inline constexpr QStringView kGoButtonStop = u"Stop";
+/// The button's title while the alarm lasts.
+inline constexpr QStringView kGoButtonReset = u"Reset";
+inline constexpr QStringView kStopwatchString = u"Stopwatch";
+
+inline constexpr QStringView kMoreOptions = u"More Options";
+inline constexpr QStringView kHideOptions = u"Hide Options";
+
+/// The name of a timer that the user has not named.
+inline constexpr QStringView kUnnamedTitle = u"Wuffer";
+
+inline constexpr QStringView kWufferFinishedNothing = u"Do Nothing";
+inline constexpr QStringView kWufferFinishedRestart = u"Loop this Wuffer";
+
+inline constexpr QStringView kWuffSound = u"Wuff (Default)";
+inline constexpr QStringView kCrowSound = u"Crow (Default)";
+
+/// The face of the big display, the milliseconds and the elapsed line.
+inline constexpr QStringView kResultLabelFont = u"Courier";

@@ -1,0 +1,111 @@
+#include "timer/Wuffer.h"
+
+#include "platform/NotificationCenter.h"
+#include "settings/WufferWindow.h"
+#include "timer/NumberText.h"
+#include "timer/TargetTimeSheet.h"
+#include "timer/TimeFormat.h"
+#include "timer/TimerTexts.h"
+#include "ui_Wuffer.h"
+
+namespace
+{
+/// Makes the field as wide as so many digits need.
+void fitToDigits(QLineEdit &field, int digits)
+{
+    const int spare = field.sizeHint().height() - field.fontMetrics().height();
+    const int digitWidth = field.fontMetrics().horizontalAdvance(QLatin1Char('0'));
+    field.setFixedWidth(digits * digitWidth + 2 * spare);
+}
+
+/// Makes the button wide enough for every title that it may get, so that nothing moves.
+void fitToTitles(QPushButton &button, std::initializer_list<QStringView> titles)
+{
+    const QString title = button.text();
+    int width = 0;
+    for (const QStringView each : titles) {
+        button.setText(each.toString());
+        width = std::max(width, button.sizeHint().width());
+    }
+    button.setText(title);
+    button.setMinimumWidth(width);
+}
+} // namespace
+
+Wuffer::Wuffer() :
+    _window(std::make_unique<WufferWindow>(*this)), _ui(std::make_unique<Ui::Wuffer>())
+{
+    _ui->setupUi(_window.get());
+    fitControls();
+    awakeFromNib();
+}
+
+Wuffer::~Wuffer()
+{
+    // The display must be back in its window before that goes.
+    setWindowed();
+}
+
+void Wuffer::awakeFromNib()
+{
+    connectControls();
+    setFullScreenFontSizes(false);
+    setResultLabelText(QStringLiteral("Wuffer"));
+    setDefaultDisplayValues();
+    enableReturnShortcut();
+    populateFinishedCombo();
+    loadGlobalSettings();
+    NotificationCenter::defaultCenter().addObserver(
+        *this, QStringLiteral("prefsChangedNotification"),
+        [this](QObject *) { loadGlobalSettings(); });
+}
+
+void Wuffer::fitControls()
+{
+    constexpr int digits = 6;
+    for (QLineEdit *field : {_ui->_hoursField, _ui->_minutesField, _ui->_secondsField})
+        fitToDigits(*field, digits);
+    fitToTitles(*_ui->_goButton, {kGoButtonStart, kGoButtonStop, kGoButtonReset});
+    fitToTitles(*_ui->_finishedDrawerButton, {kMoreOptions, kHideOptions});
+    // Most countdowns are minutes: what is typed straight away goes there.
+    _ui->_minutesField->setFocus();
+    _ui->_minutesField->selectAll();
+}
+
+void Wuffer::connectControls()
+{
+    connect(_window.get(), &WufferWindow::willClose, this, &Wuffer::windowWillClose);
+    connect(_window.get(), &WufferWindow::returnPressed, _ui->_goButton, &QPushButton::click);
+    connect(_ui->_goButton, &QPushButton::clicked, this, &Wuffer::goPressed);
+    connect(_ui->_finishedDrawerButton, &QPushButton::clicked, this, &Wuffer::showHideAdvanced);
+    connect(_ui->_drawer, &Drawer::stateChanged, this, &Wuffer::stateChanged);
+    connect(_ui->_helpButton, &QToolButton::clicked, this, &Wuffer::getFinishingHelp);
+    connect(_ui->_keepWuffingBox, &QCheckBox::clicked, this, &Wuffer::removePresetColor);
+    connect(_ui->_displayBox, &DisplayBox::fullScreenCloseRequested, this, &Wuffer::setWindowed);
+    for (QLineEdit *field :
+         {_ui->_titleField, _ui->_hoursField, _ui->_minutesField, _ui->_secondsField}) {
+        connect(field, &QLineEdit::textEdited, this, [this, field] { controlTextDidChange(*field); });
+        connect(field, &QLineEdit::editingFinished, this,
+                [this, field] { controlTextDidEndEditing(*field); });
+    }
+    connect(_ui->_finishedCombo, &QComboBox::activated, this, &Wuffer::handleFinishedComboChange);
+}
+
+QString Wuffer::title() const
+{
+    const QString name = _ui->_titleField->text();
+    return name.isEmpty() ? kUnnamedTitle.toString() : name;
+}
+
+QString Wuffer::description() const
+{
+    const QString duration = TimeFormat::hmsString(NumberText::integerFrom(_ui->_hoursField->text()),
+                                                   NumberText::integerFrom(_ui->_minutesField->text()),
+                                                   NumberText::integerFrom(_ui->_secondsField->text()));
+    return title() + QStringLiteral(" - ") + duration;
+}
+
+QString Wuffer::statusString() const
+{
+    return _ui->_resultLabel->text();
+}

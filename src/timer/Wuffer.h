@@ -1,0 +1,216 @@
+#pragma once
+
+#include "platform/ClockTimer.h"
+#include "platform/Date.h"
+#include "platform/Sound.h"
+
+#include <QObject>
+
+#include <memory>
+#include <optional>
+
+class QAction;
+class QColor;
+class QLineEdit;
+class TargetTimeSheet;
+class WufferWindow;
+
+namespace Ui
+{
+class Wuffer;
+}
+
+/// One timer: the controller of its window and of everything that runs in it.
+///
+/// It counts down from the hours, minutes and seconds typed into it, counts up as a stopwatch, or
+/// counts down to a date picked in a sheet. At the end it rings ("wuffs"), and when the alarm is
+/// over it stops and runs its finish action. All time is measured between dates, never by counting
+/// ticks. The application owns it until its window closes; whoever else refers to it does so
+/// weakly. Bodies stand with their theme, in the file named above each group.
+class Wuffer final : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Makes the timer with its window, idle, unnamed and not yet shown.
+    Wuffer();
+    ~Wuffer() override;
+
+    // What others ask a timer.
+
+    [[nodiscard]] WufferWindow *window() const { return _window.get(); }
+    /// Started and not closed; a timer in its alarm phase counts as running.
+    [[nodiscard]] bool isRunning() const { return _timerStarted && !_closed; }
+    /// When the run ends: the distant future for a stopwatch, nothing before the first start.
+    [[nodiscard]] std::optional<Date> targetDate() const { return _targetDate; }
+    /// The name typed by the user, or "Wuffer".
+    [[nodiscard]] QString title() const;
+    /// The name with the duration set: "Tea - 0h 5m 0s".
+    [[nodiscard]] QString description() const;
+    /// What the big display says.
+    [[nodiscard]] QString statusString() const;
+
+    // The run cycle: WufferRunCycle.cpp, WufferAlarmPhase.cpp.
+
+    /// Start, Stop or Reset: starts when the timer is not started, else stops. Never refused.
+    void goPressed();
+    /// Back to the state before the last start.
+    void resetWuffer();
+    /// Enters or leaves stopwatch mode; ignored while started.
+    void stopwatch();
+    /// Whether the alarm may go on until the user stops it: only when nothing else is to follow.
+    [[nodiscard]] bool shouldKeepWuffing() const;
+    /// Switches the keep-wuffing box over.
+    void toggleKeepWuffing();
+
+    // The fields: WufferFields.cpp.
+
+    /// The duration in the three fields in whole seconds. Bad text counts as 0.
+    [[nodiscard]] double timeLeftFromFields() const;
+    /// Writes so many seconds into the three fields.
+    void setFieldsWithTimeLeft(double timeLeft);
+
+    // The target date: WufferTargetTime.cpp.
+
+    /// Shows the sheet in which a date is picked; ignored while started.
+    void targetTime();
+    /// Counts down to the date picked in the sheet.
+    void startWithTargetTime();
+    /// Hides the sheet.
+    void endTargetTimeSheet();
+
+    // The display: WufferDisplay.cpp.
+
+    /// Shows these times, in seconds; a remaining time of zero or less restores the idle display.
+    void refreshDisplay(double remaining, double timeElapsed);
+    /// The only way by which text reaches the big display: fits the font to the text.
+    void setResultLabelText(const QString &text);
+    void setColorForDisplayText(const QColor &color, bool elapsedToo);
+    /// The idle display.
+    void setDefaultDisplayValues();
+
+    // Sounds and notifications: WufferSounds.cpp.
+
+    /// The sound of a choice: a built-in name or the path of a file. Null when there is none.
+    [[nodiscard]] std::unique_ptr<Sound> createSoundWithPath(const QString &path) const;
+    /// Starts the alarm sound.
+    void playDone();
+    /// Plays one countdown beep.
+    void playBeep();
+    /// Warms both sounds up silently.
+    void prepareSounds();
+    /// Posts the desktop notification that tells of the end.
+    void showGrowlNotification();
+
+    // Full screen and windows: app/WufferPresentation.cpp.
+
+    void setFullScreenMode(bool fullScreen);
+    void setFullScreenFontSizes(bool fullScreen);
+    void startStopFullScreen();
+    /// Leaves full-screen mode; answers whether the timer was in it.
+    bool setWindowed();
+    /// Opens or closes the drawer and retitles its button.
+    void showHideAdvanced();
+    /// Brings the timer's window to the front, with the whole program.
+    void showWufferWindow();
+
+    /// What a menu item does to a timer.
+    using Operation = void (Wuffer::*)();
+    /// Whether the menu item with this operation is enabled now; retitles those whose text
+    /// follows the state.
+    [[nodiscard]] bool validateMenuItem(QAction &item, Operation action) const;
+
+    // Settings and presets: settings/WufferSettings.cpp.
+
+    /// The key of a preset in the settings: "Preset 3". Any number will do.
+    [[nodiscard]] static QString keyForPreset(quint32 number);
+    /// Keeps the settings of this timer for the next launch. Nothing is kept yet.
+    void saveSettingsToDefaultKey();
+    /// Reads what is kept under the key, which is nothing yet, into the controls and shows the
+    /// window.
+    void loadSettingsFromDefaultsWithKey(const QString &key, bool moveWindow);
+    /// Undoes the marking of a preset after an edit. Nothing is marked yet.
+    void removePresetColor();
+
+    // Finish actions and chains: settings/WufferFinishActions.cpp.
+
+    /// Fills the finish combo with what can follow the end, and selects "Do Nothing".
+    void populateFinishedCombo();
+    /// Adapts the picker and the keep-wuffing box to the finish action selected.
+    void handleFinishedComboChange();
+    /// Runs the finish action.
+    void handleFinishedBehaviour();
+    /// Whether another timer starts this one or is started by it; none can yet.
+    [[nodiscard]] bool isChained() const;
+    /// Shows the state of the chain in all its timers; there are none yet.
+    void refreshChainStatusForAllChainedWuffers();
+    /// Explains the finish actions.
+    void getFinishingHelp();
+
+    // Global settings: preferences/WufferGlobalSettings.cpp.
+
+    /// Takes over the settings that hold for all timers.
+    void loadGlobalSettings();
+    /// Fills the sound combos and keeps what is selected in them.
+    void populateSoundCombos();
+    /// Lets sounds be chosen only where they can be heard.
+    void refreshSoundComboEnabledness();
+
+Q_SIGNALS:
+    /// What the menu items of this timer may do, or are called, may have changed.
+    void stateChanged();
+    /// The window has closed; the timer is of no more use.
+    void closed();
+
+private:
+    void fitControls();
+    void awakeFromNib();
+    void connectControls();
+    void startRun();
+    void stopRun();
+    void timerLoop();
+    void timerDone();
+    void wuffLoop();
+    void beepIfDue(double remaining);
+    void setRunningControls(bool running, const QString &goTitle);
+    void postStatusChanged();
+    void windowWillClose();
+
+    void controlTextDidChange(const QLineEdit &field);
+    void controlTextDidEndEditing(const QLineEdit &field);
+    void enableReturnShortcut();
+    void disableReturnShortcut();
+
+    [[nodiscard]] QString repeatSuffix() const;
+
+    std::unique_ptr<WufferWindow> _window;
+    std::unique_ptr<Ui::Wuffer> _ui;
+    /// Made when it is first asked for: a calendar is costly.
+    std::unique_ptr<TargetTimeSheet> _targetTimeWindow;
+
+    bool _timerStarted = false;
+    std::optional<Date> _targetDate;
+    std::optional<Date> _startDate;
+    /// Seconds that were left at the last countdown beep.
+    double _lastBeep = 0;
+    ClockTimer _checkTimer{[this] { timerLoop(); }};
+    ClockTimer _wuffTimer{[this] { wuffLoop(); }};
+    /// Gives the Return key back a moment after it has ended the editing of the name.
+    ClockTimer _returnTimer{[this] { enableReturnShortcut(); }};
+    std::unique_ptr<Sound> _doneSound;
+    std::unique_ptr<Sound> _beepSound;
+    QString _finishedText;
+    bool _energySaverActive = false;
+    bool _stopwatch = false;
+    bool _soundOff = false;
+    bool _suppressCountdown = false;
+    bool _autoStartPresets = false;
+    bool _disableGrowl = false;
+    bool _closed = false;
+    /// Which pass of a looping timer this is, from 1.
+    quint32 _repeatCount = 1;
+    /// Run ticks since the timer was made.
+    quint32 _refreshCount = 0;
+    /// The duration of the last countdown start, in whole seconds.
+    double _initialTimeLeft = 0;
+};

@@ -1,0 +1,70 @@
+#include "app/WufferApplication.h"
+#include "platform/Desktop.h"
+#include "platform/Service.h"
+#include "settings/WufferWindow.h"
+#include "timer/TimeFormat.h"
+#include "timer/TimerColors.h"
+#include "timer/TimerTexts.h"
+#include "timer/Wuffer.h"
+#include "ui_Wuffer.h"
+
+namespace
+{
+/// Seconds between looks at whether the alarm is over.
+constexpr double kAlarmTick = 0.2;
+/// A muted alarm phase lasts at least so many seconds.
+constexpr double kMutedAlarm = 5.0;
+} // namespace
+
+void Wuffer::timerDone()
+{
+    WufferApplication::instance().cancelFullScreenModeForOthers(*this);
+    playDone();
+    _checkTimer.invalidate();
+    setColorForDisplayText(TimerColors::red(), true);
+    setResultLabelText(_finishedText);
+    _ui->_msLabel->setText({});
+    const double duration = _targetDate->timeIntervalSinceDate(*_startDate);
+    _ui->_elapsedLabel->setText(TimeFormat::stringForTime(duration) + repeatSuffix());
+    _wuffTimer.startRepeating(kAlarmTick);
+    _ui->_goButton->setText(kGoButtonReset.toString());
+    // What cannot be heard must be seen.
+    if (_soundOff)
+        Service<Desktop>::current().requestUserAttention(*_window);
+    if (!_disableGrowl)
+        showGrowlNotification();
+    postStatusChanged();
+    Q_EMIT stateChanged();
+}
+
+void Wuffer::wuffLoop()
+{
+    if (_soundOff && -_targetDate->timeIntervalSinceNow() < kMutedAlarm)
+        return;
+    // In this phase the box alone decides, so that it can still be ticked and unticked.
+    if (_doneSound)
+        _doneSound->setLoops(_ui->_keepWuffingBox->isChecked());
+
+    const bool nothingFollows =
+        _ui->_finishedCombo->currentText() == kWufferFinishedNothing && !isChained();
+    // A muted timer with nothing to do next waits, red, until the user has seen it.
+    if (nothingFollows && _soundOff)
+        return;
+    if (!_soundOff && _doneSound && _doneSound->isPlaying())
+        return;
+    _wuffTimer.invalidate();
+    if (!_timerStarted)
+        return;
+
+    goPressed();
+    if (_ui->_finishedCombo->currentText() != kWufferFinishedRestart)
+        setWindowed();
+    if (!nothingFollows)
+        handleFinishedBehaviour();
+    refreshChainStatusForAllChainedWuffers();
+}
+
+QString Wuffer::repeatSuffix() const
+{
+    return _repeatCount > 1 ? QStringLiteral(" (x%1)").arg(_repeatCount) : QString();
+}

@@ -1,0 +1,71 @@
+#include "BuildInfo.h"
+#include "timer/DisplayFont.h"
+#include "timer/TimeFormat.h"
+#include "timer/TimerColors.h"
+#include "timer/TimerTexts.h"
+#include "timer/Wuffer.h"
+#include "ui_Wuffer.h"
+
+namespace
+{
+/// A countdown is red with so many seconds left.
+constexpr double kRedSeconds = 11.0;
+
+void setTextColor(QLineEdit &field, const QColor &color)
+{
+    QPalette palette = field.palette();
+    if (palette.color(QPalette::Text) == color)
+        return;
+    palette.setColor(QPalette::Text, color);
+    field.setPalette(palette);
+}
+} // namespace
+
+void Wuffer::refreshDisplay(double remaining, double timeElapsed)
+{
+    if (remaining <= 0) {
+        setDefaultDisplayValues();
+        return;
+    }
+    if (_stopwatch) {
+        setResultLabelText(TimeFormat::stringForTime(timeElapsed));
+        _ui->_elapsedLabel->setText(kStopwatchString.toString());
+    } else {
+        setResultLabelText(TimeFormat::stringForTime(remaining));
+        _ui->_elapsedLabel->setText(timeElapsed == 0
+                                        ? QString()
+                                        : QStringLiteral("Elapsed: ") +
+                                            TimeFormat::stringForTime(timeElapsed) + repeatSuffix());
+    }
+    const double shown = _stopwatch ? timeElapsed : remaining;
+    _ui->_msLabel->setText(_energySaverActive ? QString() : TimeFormat::msStringForTime(shown));
+
+    const bool black =
+        remaining > kRedSeconds || _stopwatch || statusString() == BuildInfo::name();
+    setColorForDisplayText(black ? QColor(Qt::black) : TimerColors::red(), true);
+}
+
+void Wuffer::setResultLabelText(const QString &text)
+{
+    const bool fullScreen = _ui->_displayBox->isInFullScreenMode();
+    DisplayFont::apply(*_ui->_resultLabel, DisplayFont::resultSize(text.length(), fullScreen));
+    _ui->_resultLabel->setText(text);
+}
+
+void Wuffer::setColorForDisplayText(const QColor &color, bool elapsedToo)
+{
+    setTextColor(*_ui->_titleField, color);
+    _ui->_fullTitleField->setTextColor(color);
+    _ui->_resultLabel->setTextColor(color);
+    _ui->_msLabel->setTextColor(color);
+    if (elapsedToo)
+        _ui->_elapsedLabel->setTextColor(color);
+}
+
+void Wuffer::setDefaultDisplayValues()
+{
+    setResultLabelText(BuildInfo::name());
+    _ui->_msLabel->setText(QStringLiteral("v") + BuildInfo::version());
+    _ui->_elapsedLabel->setText(tr("Ready when you are"));
+    setColorForDisplayText(Qt::black, true);
+}

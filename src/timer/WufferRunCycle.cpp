@@ -1,0 +1,183 @@
+#include "timer/BeepSchedule.h"
+#include "timer/Integers.h"
+#include "timer/NumberText.h"
+#include "timer/TimerTexts.h"
+#include "timer/Wuffer.h"
+
+#include "platform/NotificationCenter.h"
+#include "ui_Wuffer.h"
+
+#include <cmath>
+
+namespace
+{
+/// Seconds between run ticks: often enough for the milliseconds to move smoothly.
+constexpr double kRunTick = 0.037;
+/// Every so many run ticks the rest of the program is told, and an energy-saving timer works.
+constexpr quint32 kTicksPerStatus = 5;
+
+/// When a stopwatch that goes on from so many milliseconds must have begun.
+Date beginningOf(qint64 milliseconds, Date now)
+{
+    // Rounded up to whole steps of the clock: any earlier moment would do for the stopwatch, but
+    // a later one would show a millisecond less than it stopped at.
+    constexpr double stepsPerSecond = 1 << 20;
+    const double steps = std::ceil(static_cast<double>(milliseconds) / 1000.0 * stepsPerSecond);
+    return now.addingTimeInterval(-steps / stepsPerSecond);
+}
+} // namespace
+
+void Wuffer::goPressed()
+{
+    if (_timerStarted)
+        stopRun();
+    else
+        startRun();
+
+    if (_doneSound)
+        _doneSound->stop();
+    saveSettingsToDefaultKey();
+    if (shouldKeepWuffing() && !_soundOff)
+        _ui->_keepWuffingBox->setEnabled(true);
+    postStatusChanged();
+    Q_EMIT stateChanged();
+}
+
+void Wuffer::startRun()
+{
+    _wuffTimer.invalidate();
+    setColorForDisplayText(Qt::black, false);
+    _timerStarted = true;
+
+    const auto total = cutToInteger(timeLeftFromFields());
+    const Date now = Date::now();
+    if (_stopwatch) {
+        const qint64 milliseconds = NumberText::integerFrom(_ui->_msLabel->text());
+        _startDate = beginningOf(qint64(total) * 1000 + milliseconds, now);
+        _targetDate = Date::distantFuture();
+    } else {
+        _startDate = now;
+        _targetDate = now.addingTimeInterval(total);
+        _initialTimeLeft = total;
+    }
+
+    setRunningControls(true, kGoButtonStop.toString());
+    _checkTimer.startRepeating(kRunTick);
+    _lastBeep = BeepSchedule::kNoBeepYet;
+    refreshDisplay(_targetDate->timeIntervalSinceDate(now), now.timeIntervalSinceDate(*_startDate));
+    // A looping timer fills the screen on its first pass only.
+    if (_ui->_fullScreenBox->isChecked() && _repeatCount < 2)
+        setFullScreenMode(true);
+}
+
+void Wuffer::stopRun()
+{
+    _wuffTimer.invalidate();
+    setColorForDisplayText(Qt::black, false);
+    _timerStarted = false;
+
+    const Date now = Date::now();
+    const double elapsed = now.timeIntervalSinceDate(*_startDate);
+    const double value = _stopwatch ? elapsed : _targetDate->timeIntervalSinceDate(now);
+    refreshDisplay(value, elapsed);
+    _checkTimer.invalidate();
+    // What is left stays in the fields, so that the next start goes on from here.
+    if (value > 0)
+        setFieldsWithTimeLeft(value);
+    setRunningControls(false, kGoButtonStart.toString());
+}
+
+void Wuffer::timerLoop()
+{
+    ++_refreshCount;
+    if (_refreshCount % kTicksPerStatus == 0)
+        postStatusChanged();
+    else if (_energySaverActive)
+        return;
+    // Whoever was told may have stopped the timer.
+    if (!_checkTimer.isValid())
+        return;
+
+    const Date now = Date::now();
+    const double remaining = _targetDate->timeIntervalSinceDate(now);
+    if (_doneSound)
+        _doneSound->setLoops(_ui->_keepWuffingBox->isChecked() && shouldKeepWuffing());
+    if (remaining <= 0) {
+        timerDone();
+        return;
+    }
+    beepIfDue(remaining);
+    refreshDisplay(remaining, now.timeIntervalSinceDate(*_startDate));
+}
+
+void Wuffer::beepIfDue(double remaining)
+{
+    if (_suppressCountdown || !BeepSchedule::isDue(remaining, _lastBeep))
+        return;
+    if (_beepSound)
+        _beepSound->setVolume(BeepSchedule::volume(remaining));
+    _lastBeep = remaining;
+    playBeep();
+}
+
+void Wuffer::resetWuffer()
+{
+    if (_timerStarted)
+        goPressed();
+    if (_stopwatch) {
+        setFieldsWithTimeLeft(0);
+        // Out of the mode and into it again, which is what clears the display.
+        stopwatch();
+        stopwatch();
+    } else {
+        setFieldsWithTimeLeft(_initialTimeLeft);
+        setDefaultDisplayValues();
+    }
+}
+
+void Wuffer::stopwatch()
+{
+    if (_timerStarted)
+        return;
+    _stopwatch = !_stopwatch;
+    if (_stopwatch) {
+        setFieldsWithTimeLeft(0);
+        _ui->_keepWuffingBox->setEnabled(false);
+        _ui->_keepWuffingBox->setChecked(false);
+        _ui->_elapsedLabel->setText(kStopwatchString.toString());
+        _ui->_msLabel->setText({});
+        setResultLabelText(QStringLiteral("0s"));
+    } else {
+        _ui->_elapsedLabel->setText({});
+    }
+    _ui->_finishedCombo->setEnabled(!_stopwatch);
+    _ui->_finishedPicker->setEnabled(!_stopwatch);
+    setColorForDisplayText(Qt::black, true);
+    handleFinishedComboChange();
+    refreshSoundComboEnabledness();
+    Q_EMIT stateChanged();
+}
+
+bool Wuffer::shouldKeepWuffing() const
+{
+    return !_stopwatch && _ui->_finishedCombo->currentText() == kWufferFinishedNothing;
+}
+
+void Wuffer::toggleKeepWuffing()
+{
+    _ui->_keepWuffingBox->toggle();
+    removePresetColor();
+}
+
+void Wuffer::setRunningControls(bool running, const QString &goTitle)
+{
+    _ui->_goButton->setText(goTitle);
+    _ui->_goButton->setEnabled(true);
+    for (QLineEdit *field : {_ui->_hoursField, _ui->_minutesField, _ui->_secondsField})
+        field->setEnabled(!running);
+}
+
+void Wuffer::postStatusChanged()
+{
+    NotificationCenter::defaultCenter().postNotificationName(QStringLiteral("statusChanged"), this);
+}

@@ -1,0 +1,36 @@
+#include "platform/Clock.h"
+#include "platform/Service.h"
+#include "settings/WufferWindow.h"
+#include "timer/TargetTimeSheet.h"
+#include "timer/Wuffer.h"
+#include "ui_Wuffer.h"
+
+void Wuffer::targetTime()
+{
+    if (_timerStarted)
+        return;
+    if (!_targetTimeWindow) {
+        _targetTimeWindow = std::make_unique<TargetTimeSheet>(*_window);
+        connect(_targetTimeWindow.get(), &QDialog::accepted, this, &Wuffer::startWithTargetTime);
+    }
+    const QDateTime now = Service<Clock>::current().calendarNow();
+    _targetTimeWindow->setMinDate(now);
+    _targetTimeWindow->setDateValue(now.addSecs(static_cast<qint64>(timeLeftFromFields())));
+    _targetTimeWindow->open();
+    _targetTimeWindow->raise();
+}
+
+void Wuffer::startWithTargetTime()
+{
+    const QDateTime now = Service<Clock>::current().calendarNow();
+    const qint64 interval = now.msecsTo(_targetTimeWindow->dateValue());
+    endTargetTimeSheet();
+    setFieldsWithTimeLeft(static_cast<double>(interval) / 1000.0);
+    goPressed();
+}
+
+void Wuffer::endTargetTimeSheet()
+{
+    if (_targetTimeWindow)
+        _targetTimeWindow->hide();
+}
