@@ -1,0 +1,68 @@
+#include "support/Fakes.h"
+
+#include <algorithm>
+
+FakeSound::FakeSound(FakeSoundSystem &system, QString name, double duration) :
+    _system(system), _name(std::move(name)), _duration(duration)
+{
+    _system._sounds.push_back(this);
+    _system._diary << QStringLiteral("make ") + _name;
+}
+
+FakeSound::~FakeSound()
+{
+    if (_playing)
+        _system._diary << QStringLiteral("destroy ") + _name;
+    std::erase(_system._sounds, this);
+}
+
+void FakeSound::play()
+{
+    Q_ASSERT_X(_duration > 0, "FakeSound", "a sound without a duration cannot be played");
+    _playing = true;
+    _system._diary << QStringLiteral("play %1 at %2").arg(_name).arg(static_cast<double>(_volume));
+}
+
+void FakeSound::stop()
+{
+    if (_playing)
+        _system._diary << QStringLiteral("stop ") + _name;
+    _playing = false;
+}
+
+std::unique_ptr<Sound> FakeSoundSystem::soundNamed(const QString &fileName)
+{
+    return make(fileName, 2.5);
+}
+
+std::unique_ptr<Sound> FakeSoundSystem::soundWithContentsOfFile(const QString &path)
+{
+    return make(path, _fileDurations.value(path, 0.0));
+}
+
+FakeSound *FakeSoundSystem::sound(const QString &name) const
+{
+    const auto found = std::find_if(_sounds.rbegin(), _sounds.rend(),
+                                    [&](const FakeSound *sound) { return sound->name() == name; });
+    return found == _sounds.rend() ? nullptr : *found;
+}
+
+bool FakeSoundSystem::isPlaying(const QString &name) const
+{
+    return std::ranges::any_of(_sounds, [&](const FakeSound *sound) {
+        return sound->name() == name && sound->isPlaying();
+    });
+}
+
+QStringList FakeSoundSystem::diary(const QString &beginning) const
+{
+    QStringList lines;
+    std::ranges::copy_if(_diary, std::back_inserter(lines),
+                         [&](const QString &line) { return line.startsWith(beginning); });
+    return lines;
+}
+
+std::unique_ptr<Sound> FakeSoundSystem::make(const QString &name, double duration)
+{
+    return std::make_unique<FakeSound>(*this, name, duration);
+}

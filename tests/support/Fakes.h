@@ -1,0 +1,103 @@
+#pragma once
+
+#include "platform/Desktop.h"
+#include "platform/DesktopNotifications.h"
+#include "platform/Sound.h"
+
+#include <QHash>
+#include <QStringList>
+#include <QUrl>
+
+#include <vector>
+
+class FakeSoundSystem;
+
+/// A sound that is heard by the test only. It plays until the test says that it has ended, or for
+/// ever while it loops.
+class FakeSound final : public Sound
+{
+public:
+    FakeSound(FakeSoundSystem &system, QString name, double duration);
+    ~FakeSound() override;
+
+    [[nodiscard]] QString name() const override { return _name; }
+    [[nodiscard]] double duration() const override { return _duration; }
+    void play() override;
+    void stop() override;
+    [[nodiscard]] bool isPlaying() const override { return _playing; }
+    [[nodiscard]] float volume() const override { return _volume; }
+    void setVolume(float volume) override { _volume = volume; }
+    void setLoops(bool loops) override { _loops = loops; }
+
+    [[nodiscard]] bool loops() const { return _loops; }
+    /// Lets the sound reach its end.
+    void reachEnd() { _playing = _loops; }
+
+private:
+    FakeSoundSystem &_system;
+    QString _name;
+    double _duration;
+    bool _playing = false;
+    bool _loops = false;
+    float _volume = 1.0F;
+};
+
+/// Keeps a diary of every sound: "make crow.wav", "play crow.wav at 0.03", "stop crow.wav" (only
+/// when it was playing), "destroy crow.wav" (likewise).
+class FakeSoundSystem final : public SoundSystem
+{
+public:
+    [[nodiscard]] std::unique_ptr<Sound> soundNamed(const QString &fileName) override;
+    [[nodiscard]] std::unique_ptr<Sound> soundWithContentsOfFile(const QString &path) override;
+
+    /// Makes the file one of this duration, in seconds. Files have none to begin with.
+    void setFileDuration(const QString &path, double seconds) { _fileDurations[path] = seconds; }
+
+    /// The living sound of this name that was made last; null when there is none.
+    [[nodiscard]] FakeSound *sound(const QString &name) const;
+    [[nodiscard]] bool isPlaying(const QString &name) const;
+
+    /// The lines of the diary that begin so.
+    [[nodiscard]] QStringList diary(const QString &beginning = {}) const;
+    void clearDiary() { _diary.clear(); }
+
+private:
+    friend class FakeSound;
+
+    std::unique_ptr<Sound> make(const QString &name, double duration);
+
+    QHash<QString, double> _fileDurations;
+    std::vector<FakeSound *> _sounds;
+    QStringList _diary;
+};
+
+/// Keeps what would have been shown.
+class FakeNotifications final : public DesktopNotifications
+{
+public:
+    struct Shown
+    {
+        const QObject *sender;
+        DesktopNotification notification;
+    };
+
+    void notify(const QObject &sender, const DesktopNotification &notification) override
+    {
+        shown.push_back({&sender, notification});
+    }
+
+    std::vector<Shown> shown;
+};
+
+/// Counts what the desktop was asked for.
+class FakeDesktop final : public Desktop
+{
+public:
+    void requestUserAttention(QWidget &window) override { attentionAskedFor.push_back(&window); }
+    void beep() override { ++beeps; }
+    void openUrl(const QUrl &url) override { opened.push_back(url); }
+
+    std::vector<QWidget *> attentionAskedFor;
+    std::vector<QUrl> opened;
+    int beeps = 0;
+};

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "app/WufferApplication.h"
+
+#include <QRegularExpression>
+#include <QStandardPaths>
+#include <QTest>
+
+/// A test object every test of which fails when the program writes a warning that nobody expects.
+class Test : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral(".?"))); }
+};
+
+/// The main function of a test program: runs the tests of the class in a real application object,
+/// without touching the settings of whoever runs them.
+#define WUFFER_TEST_MAIN(Class)                                                                    \
+    int main(int argc, char *argv[])                                                               \
+    {                                                                                              \
+        QStandardPaths::setTestModeEnabled(true);                                                  \
+        WufferApplication application(argc, argv);                                                 \
+        Class test;                                                                                \
+        return QTest::qExec(&test, argc, argv);                                                    \
+    }

@@ -1,0 +1,16 @@
+#include "support/TestServices.h"
+
+#include "app/WufferApplication.h"
+#include "settings/WufferWindow.h"
+#include "timer/Wuffer.h"
+
+#include <QCoreApplication>
+
+TestServices::TestServices() : defaults(_folder.filePath(QStringLiteral("settings.json"))) {}
+
+TestServices::~TestServices()
+{
+    for (Wuffer *timer : WufferApplication::getWuffers())
+        timer->window()->close();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "platform/Service.h"
+#include "platform/UserDefaults.h"
+#include "support/Fakes.h"
+#include "support/TestClock.h"
+
+#include <QTemporaryDir>
+
+/// The services of one test: time that the test moves, settings of its own, and fakes that record
+/// what they are told. Closes every timer that the test has left open.
+class TestServices
+{
+public:
+    TestServices();
+    ~TestServices();
+    Q_DISABLE_COPY_MOVE(TestServices)
+
+private:
+    QTemporaryDir _folder;
+
+public:
+    TestClock clock;
+    UserDefaults defaults;
+    FakeSoundSystem sounds;
+    FakeNotifications notifications;
+    FakeDesktop desktop;
+
+private:
+    Service<Clock> _clockService{clock};
+    Service<UserDefaults> _defaultsService{defaults};
+    Service<SoundSystem> _soundService{sounds};
+    Service<DesktopNotifications> _notificationService{notifications};
+    Service<Desktop> _desktopService{desktop};
+};

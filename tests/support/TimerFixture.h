@@ -1,0 +1,79 @@
+#pragma once
+
+#include "app/WufferApplication.h"
+#include "controls/DisplayBox.h"
+#include "controls/DisplayLabel.h"
+#include "controls/WebbyComboBox.h"
+#include "platform/NotificationCenter.h"
+#include "settings/WufferWindow.h"
+#include "support/Find.h"
+#include "support/TestServices.h"
+#include "timer/Wuffer.h"
+
+#include <QCheckBox>
+#include <QLineEdit>
+#include <QPushButton>
+
+/// One timer in its window, and the verbs to use it by, on services of its own.
+class TimerFixture : public TestServices
+{
+public:
+    Wuffer &timer = WufferApplication::instance().openWuffer();
+
+    // What a user does.
+    void typeDuration(int hours, int minutes, int seconds);
+    void typeName(const QString &name);
+    void pressGo() { timer.goPressed(); }
+    void startCountdown(int seconds);
+    void tick(const char *box, bool on = true) { part<QCheckBox>(box).setChecked(on); }
+    void chooseFinish(const QString &action);
+    void chooseAlarm(const QString &path);
+    void chooseBeep(const QString &path);
+    void pass(double seconds) { clock.advance(seconds); }
+    /// Switches a global setting, as the preferences do.
+    void set(const char *key, const QVariant &value);
+
+    // What a user sees.
+    [[nodiscard]] QString display() const { return label("_resultLabel").text(); }
+    [[nodiscard]] QString elapsed() const { return label("_elapsedLabel").text(); }
+    [[nodiscard]] QString milliseconds() const { return label("_msLabel").text(); }
+    [[nodiscard]] QString go() const { return part<QPushButton>("_goButton").text(); }
+    /// The three fields: "0 5 12.5".
+    [[nodiscard]] QString fields() const;
+    [[nodiscard]] QColor color() const { return label("_resultLabel").textColor(); }
+    [[nodiscard]] QColor elapsedColor() const { return label("_elapsedLabel").textColor(); }
+    [[nodiscard]] bool isFullScreen() const
+    {
+        return box().isInFullScreenMode();
+    }
+
+    [[nodiscard]] DisplayLabel &label(const char *name) const { return *labels.value(name); }
+    [[nodiscard]] DisplayBox &box() const { return displayBox; }
+    template<class Class> [[nodiscard]] Class &part(const char *name) const
+    {
+        return child<Class>(*timer.window(), name);
+    }
+
+private:
+    [[nodiscard]] QHash<QByteArray, DisplayLabel *> findLabels() const;
+
+    // Found while they are in the window, which they leave for the full screen.
+    DisplayBox &displayBox = part<DisplayBox>("_displayBox");
+    QHash<QByteArray, DisplayLabel *> labels = findLabels();
+};
+
+/// Counts the notices of one name while it lives.
+class NoticeCounter final : public QObject
+{
+public:
+    explicit NoticeCounter(const QString &name)
+    {
+        NotificationCenter::defaultCenter().addObserver(*this, name, [this](QObject *object) {
+            ++count;
+            lastObject = object;
+        });
+    }
+
+    int count = 0;
+    QObject *lastObject = nullptr;
+};
