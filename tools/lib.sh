@@ -74,7 +74,7 @@ install_packages() {
 
     command="apt-get install --no-install-recommends ${missing[*]}"
     ((EUID == 0)) || has sudo ||
-        fail "Packages are missing, and there is no sudo to install them with. As root, run: $command"
+        fail "Packages are missing, and there is no sudo to install them. As root, run: $command"
     say "Installing what is missing: ${missing[*]}"
     run_apt_get update || say "The package lists could not be refreshed; trying with those at hand."
     run_apt_get install --no-install-recommends "${missing[@]}" ||

@@ -134,7 +134,7 @@ run_on_virtual_display() {
     setpriv --pdeathsig TERM "$@" &
     program_id=$!
     say "There is no display here, so Wuffer runs on a virtual one, $DISPLAY. Ctrl-C ends it."
-    say "To watch and use it, start a VNC server (x11vnc -localhost -display $DISPLAY) and a viewer."
+    say "To watch and use it, start a VNC server, for instance: x11vnc -localhost -display $DISPLAY"
     take_picture
     wait "$program_id"
 }
