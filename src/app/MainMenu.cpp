@@ -27,10 +27,9 @@ void minimizeWindow(QWidget &window)
 }
 } // namespace
 
-/// One line of the menus, as written down.
+/// One line of a menu, as written down.
 struct MainMenu::Row
 {
-    const char *menu;
     /// Null for a separator.
     const char *text = nullptr;
     QKeySequence shortcut = {};
@@ -38,47 +37,57 @@ struct MainMenu::Row
         operation = {};
 };
 
-/// One line of the menus, as made.
+/// One menu, as written down.
+struct MainMenu::Menu
+{
+    const char *title;
+    std::vector<Row> rows;
+};
+
+/// One line of a menu, as made.
 struct MainMenu::Item
 {
     QAction *action;
     const Row *row;
 };
 
-const std::vector<MainMenu::Row> &MainMenu::rows()
+const std::vector<MainMenu::Menu> &MainMenu::menus()
 {
-    using namespace Qt::Literals::StringLiterals;
     using C = WufferController;
     using W = Wuffer;
-    // On macOS the platform moves Preferences and Quit to where they belong there.
-    static const std::vector<Row> rows{
-        {QT_TR_NOOP("&File"), QT_TR_NOOP("&New Wuffer"), QKeySequence::New, &C::newWuffer},
-        {QT_TR_NOOP("&File"), QT_TR_NOOP("Start &All"), QKeySequence(u"Ctrl+Shift+S"_s), &C::startAllWuffers},
-        {"&File"},
-        {QT_TR_NOOP("&File"), QT_TR_NOOP("&Preferences…"), QKeySequence(u"Ctrl+,"_s), &C::showPreferences},
-        {"&File"},
-        {QT_TR_NOOP("&File"), QT_TR_NOOP("&Close"), QKeySequence::Close, closeWindow},
-        {QT_TR_NOOP("&File"), QT_TR_NOOP("&Quit"), QKeySequence::Quit, &C::quit},
-        {QT_TR_NOOP("&Timer"), QT_TR_NOOP("Stopwatch"), QKeySequence(u"Ctrl+T"_s), &W::stopwatch},
-        {QT_TR_NOOP("&Timer"), QT_TR_NOOP("Count Down to a &Date…"), QKeySequence(u"Ctrl+D"_s), &W::targetTime},
-        {QT_TR_NOOP("&Timer"), QT_TR_NOOP("&Reset"), QKeySequence(u"Ctrl+R"_s), &W::resetWuffer},
-        {"&Timer"},
-        {QT_TR_NOOP("&Timer"), QT_TR_NOOP("&Keep Wuffing"), QKeySequence(u"Ctrl+K"_s), &W::toggleKeepWuffing},
-        {QT_TR_NOOP("&Timer"), QT_TR_NOOP("&Full Screen"), QKeySequence::FullScreen, &W::startStopFullScreen},
-        {QT_TR_NOOP("&Timer"), QT_TR_NOOP("More Options"), QKeySequence(u"Ctrl+O"_s), &W::showHideAdvanced},
-        {QT_TR_NOOP("&Window"), QT_TR_NOOP("&Minimize"), QKeySequence(u"Ctrl+M"_s), minimizeWindow},
-        {"&Window"},
-        {QT_TR_NOOP("&Window"), QT_TR_NOOP("&Converter"), QKeySequence(u"Ctrl+U"_s), &C::showConverter},
-        {QT_TR_NOOP("&Window"), QT_TR_NOOP("M&easurements"), QKeySequence(u"Ctrl+Shift+U"_s), &C::showMeasurements},
-        {QT_TR_NOOP("&Help"), QT_TR_NOOP("Wuffer on the &Web"), {}, &C::donate},
+    const auto key = [](const char *keys) { return QKeySequence(QString::fromLatin1(keys)); };
+    // The platform's own keys where it has some; Alt and Control with a digit are left free.
+    static const std::vector<Menu> menus{
+        {QT_TR_NOOP("&File"),
+         {{QT_TR_NOOP("&New Wuffer"), QKeySequence::New, &C::newWuffer},
+          {QT_TR_NOOP("Start &All"), key("Ctrl+Shift+S"), &C::startAllWuffers},
+          {},
+          {QT_TR_NOOP("&Preferences…"), key("Ctrl+,"), &C::showPreferences},
+          {},
+          {QT_TR_NOOP("&Close"), QKeySequence::Close, closeWindow},
+          {QT_TR_NOOP("&Quit"), QKeySequence::Quit, &C::quit}}},
+        {QT_TR_NOOP("&Timer"),
+         {{QT_TR_NOOP("Stopwatch"), key("Ctrl+T"), &W::stopwatch},
+          {QT_TR_NOOP("Count Down to a &Date…"), key("Ctrl+D"), &W::targetTime},
+          {QT_TR_NOOP("&Reset"), key("Ctrl+R"), &W::resetWuffer},
+          {},
+          {QT_TR_NOOP("&Keep Wuffing"), key("Ctrl+K"), &W::toggleKeepWuffing},
+          {QT_TR_NOOP("&Full Screen"), QKeySequence::FullScreen, &W::startStopFullScreen},
+          {QT_TR_NOOP("More Options"), key("Ctrl+O"), &W::showHideAdvanced}}},
+        {QT_TR_NOOP("&Window"),
+         {{QT_TR_NOOP("&Minimize"), key("Ctrl+M"), minimizeWindow},
+          {},
+          {QT_TR_NOOP("&Converter"), key("Ctrl+U"), &C::showConverter},
+          {QT_TR_NOOP("M&easurements"), key("Ctrl+Shift+U"), &C::showMeasurements}}},
+        {QT_TR_NOOP("&Help"), {{QT_TR_NOOP("Wuffer on the &Web"), {}, &C::donate}}},
     };
-    return rows;
+    return menus;
 }
 
 MainMenu::MainMenu(WufferController &controller) : _controller(controller)
 {
-    for (const Row &row : rows())
-        addItem(row);
+    for (const Menu &menu : menus())
+        addMenu(menu);
 
     connect(qApp, &QApplication::focusWindowChanged, this, &MainMenu::validate);
     connect(&WufferApplication::instance(), &WufferApplication::wufferOpened, this,
@@ -101,21 +110,16 @@ void MainMenu::validate()
         item.action->setEnabled(isEnabled(item));
 }
 
-QMenu &MainMenu::menuNamed(const char *title)
+void MainMenu::addMenu(const Menu &menu)
 {
-    const QString text = tr(title);
-    for (const std::unique_ptr<QMenu> &menu : _menus) {
-        if (menu->title() == text)
-            return *menu;
-    }
-    QMenu &menu = *_menus.emplace_back(std::make_unique<QMenu>(text));
-    connect(&menu, &QMenu::aboutToShow, this, &MainMenu::validate);
-    return menu;
+    QMenu &made = *_menus.emplace_back(std::make_unique<QMenu>(tr(menu.title)));
+    connect(&made, &QMenu::aboutToShow, this, &MainMenu::validate);
+    for (const Row &row : menu.rows)
+        addItem(made, row);
 }
 
-void MainMenu::addItem(const Row &row)
+void MainMenu::addItem(QMenu &menu, const Row &row)
 {
-    QMenu &menu = menuNamed(row.menu);
     if (!row.text) {
         menu.addSeparator();
         return;

@@ -32,11 +32,12 @@ public:
 
 private:
     struct Row;
+    struct Menu;
     struct Item;
 
-    [[nodiscard]] static const std::vector<Row> &rows();
-    QMenu &menuNamed(const char *title);
-    void addItem(const Row &row);
+    [[nodiscard]] static const std::vector<Menu> &menus();
+    void addMenu(const Menu &menu);
+    void addItem(QMenu &menu, const Row &row);
     void run(const Row &row);
     [[nodiscard]] bool isEnabled(const Item &item) const;
 

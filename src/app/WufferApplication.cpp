@@ -105,7 +105,7 @@ bool WufferApplication::swallows(QEvent &event)
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
         return static_cast<QMouseEvent &>(event).button() == Qt::LeftButton &&
-            cancelFullScreenMode();
+               cancelFullScreenMode();
     default:
         return false;
     }

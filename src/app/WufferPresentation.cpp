@@ -97,7 +97,8 @@ bool Wuffer::validateMenuItem(QAction &item, Operation action) const
         return !_timerStarted;
     if (action == &Wuffer::showHideAdvanced) {
         const Drawer::State drawer = _ui->_drawer->state();
-        item.setText(drawerTitle(drawer == Drawer::State::Opening || drawer == Drawer::State::Open));
+        item.setText(
+            drawerTitle(drawer == Drawer::State::Opening || drawer == Drawer::State::Open));
         return true;
     }
     if (action == &Wuffer::startStopFullScreen)

@@ -27,7 +27,8 @@ QPalette panelPalette()
 class DisplayBox::FullScreenWindow final : public QWidget
 {
 public:
-    explicit FullScreenWindow(DisplayBox &box) : QWidget(nullptr, Qt::FramelessWindowHint), _box(box)
+    explicit FullScreenWindow(DisplayBox &box) :
+        QWidget(nullptr, Qt::FramelessWindowHint), _box(box)
     {
         setPalette(panelPalette());
         setWindowTitle(box.window()->windowTitle());

@@ -15,8 +15,7 @@ class AccessibleDisplayLabel final : public QAccessibleWidget
 public:
     explicit AccessibleDisplayLabel(QWidget *label) :
         QAccessibleWidget(label, QAccessible::StaticText)
-    {
-    }
+    {}
 
     [[nodiscard]] QString text(QAccessible::Text kind) const override
     {

@@ -39,8 +39,9 @@ void Clock::fireDueTimers()
     for (Group *group : dueGroups) {
         // A tick that was missed is not made up for: the next one is the first still to come.
         group->due = group->interval == kOnce
-            ? std::numeric_limits<double>::infinity()
-            : group->due + (std::floor((moment - group->due) / group->interval) + 1) * group->interval;
+                         ? std::numeric_limits<double>::infinity()
+                         : group->due + (std::floor((moment - group->due) / group->interval) + 1) *
+                                            group->interval;
     }
     ++_firing;
     for (Group *group : dueGroups)

@@ -66,8 +66,7 @@ void whenAnswered(const QDBusMessage &call, QObject &context, Function &&functio
 {
     auto *watcher =
         new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(call), &context);
-    QObject::connect(watcher, &QDBusPendingCallWatcher::finished, watcher,
-                     &QObject::deleteLater);
+    QObject::connect(watcher, &QDBusPendingCallWatcher::finished, watcher, &QObject::deleteLater);
     QObject::connect(watcher, &QDBusPendingCallWatcher::finished, &context,
                      std::forward<Function>(function));
 }
@@ -95,7 +94,8 @@ void FreedesktopNotifications::askCapabilities(const std::shared_ptr<Conversatio
     whenAnswered(serverCall(QStringLiteral("GetCapabilities")), *this,
                  [this, conversation](QDBusPendingCallWatcher *call) {
                      const QDBusPendingReply<QStringList> capabilities = *call;
-                     send(conversation, capabilities.isValid() &&
+                     send(conversation,
+                          capabilities.isValid() &&
                               capabilities.value().contains(QStringLiteral("body-markup")));
                  });
 }

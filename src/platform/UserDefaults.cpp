@@ -41,10 +41,10 @@ QString UserDefaults::standardPath()
 {
 #ifdef Q_OS_MACOS
     return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
-        QStringLiteral("/wuffer.plist");
+           QStringLiteral("/wuffer.plist");
 #else
     return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
-        QStringLiteral("/wuffer/wuffer.json");
+           QStringLiteral("/wuffer/wuffer.json");
 #endif
 }
 

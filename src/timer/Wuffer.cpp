@@ -55,9 +55,9 @@ void Wuffer::awakeFromNib()
     enableReturnShortcut();
     populateFinishedCombo();
     loadGlobalSettings();
-    NotificationCenter::defaultCenter().addObserver(
-        *this, QStringLiteral("prefsChangedNotification"),
-        [this](QObject *) { loadGlobalSettings(); });
+    NotificationCenter::defaultCenter().addObserver(*this,
+                                                    QStringLiteral("prefsChangedNotification"),
+                                                    [this](QObject *) { loadGlobalSettings(); });
 }
 
 void Wuffer::fitControls()
@@ -84,7 +84,8 @@ void Wuffer::connectControls()
     connect(_ui->_displayBox, &DisplayBox::fullScreenCloseRequested, this, &Wuffer::setWindowed);
     for (QLineEdit *field :
          {_ui->_titleField, _ui->_hoursField, _ui->_minutesField, _ui->_secondsField}) {
-        connect(field, &QLineEdit::textEdited, this, [this, field] { controlTextDidChange(*field); });
+        connect(field, &QLineEdit::textEdited, this,
+                [this, field] { controlTextDidChange(*field); });
         connect(field, &QLineEdit::editingFinished, this,
                 [this, field] { controlTextDidEndEditing(*field); });
     }
@@ -99,9 +100,10 @@ QString Wuffer::title() const
 
 QString Wuffer::description() const
 {
-    const QString duration = TimeFormat::hmsString(NumberText::integerFrom(_ui->_hoursField->text()),
-                                                   NumberText::integerFrom(_ui->_minutesField->text()),
-                                                   NumberText::integerFrom(_ui->_secondsField->text()));
+    const QString duration =
+        TimeFormat::hmsString(NumberText::integerFrom(_ui->_hoursField->text()),
+                              NumberText::integerFrom(_ui->_minutesField->text()),
+                              NumberText::integerFrom(_ui->_secondsField->text()));
     return title() + QStringLiteral(" - ") + duration;
 }
 

@@ -32,16 +32,15 @@ void Wuffer::refreshDisplay(double remaining, double timeElapsed)
         _ui->_elapsedLabel->setText(kStopwatchString.toString());
     } else {
         setResultLabelText(TimeFormat::stringForTime(remaining));
-        _ui->_elapsedLabel->setText(timeElapsed == 0
-                                        ? QString()
-                                        : QStringLiteral("Elapsed: ") +
-                                            TimeFormat::stringForTime(timeElapsed) + repeatSuffix());
+        _ui->_elapsedLabel->setText(timeElapsed == 0 ? QString()
+                                                     : QStringLiteral("Elapsed: ") +
+                                                           TimeFormat::stringForTime(timeElapsed) +
+                                                           repeatSuffix());
     }
     const double shown = _stopwatch ? timeElapsed : remaining;
     _ui->_msLabel->setText(_energySaverActive ? QString() : TimeFormat::msStringForTime(shown));
 
-    const bool black =
-        remaining > kRedSeconds || _stopwatch || statusString() == BuildInfo::name();
+    const bool black = remaining > kRedSeconds || _stopwatch || statusString() == BuildInfo::name();
     setColorForDisplayText(black ? QColor(Qt::black) : TimerColors::red(), true);
 }
 

@@ -1,10 +1,9 @@
+#include "platform/NotificationCenter.h"
 #include "timer/BeepSchedule.h"
 #include "timer/Integers.h"
 #include "timer/NumberText.h"
 #include "timer/TimerTexts.h"
 #include "timer/Wuffer.h"
-
-#include "platform/NotificationCenter.h"
 #include "ui_Wuffer.h"
 
 #include <cmath>

@@ -12,7 +12,12 @@ class Test : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral(".?"))); }
+    void init()
+    {
+        // The display that is only in memory says so whenever a window wants more of it.
+        const auto unexpected = QStringLiteral("^(?!This plugin does not support )");
+        QTest::failOnWarning(QRegularExpression(unexpected));
+    }
 };
 
 /// The main function of a test program: runs the tests of the class in a real application object,

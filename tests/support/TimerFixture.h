@@ -42,10 +42,7 @@ public:
     [[nodiscard]] QString fields() const;
     [[nodiscard]] QColor color() const { return label("_resultLabel").textColor(); }
     [[nodiscard]] QColor elapsedColor() const { return label("_elapsedLabel").textColor(); }
-    [[nodiscard]] bool isFullScreen() const
-    {
-        return box().isInFullScreenMode();
-    }
+    [[nodiscard]] bool isFullScreen() const { return box().isInFullScreenMode(); }
 
     [[nodiscard]] DisplayLabel &label(const char *name) const { return *labels.value(name); }
     [[nodiscard]] DisplayBox &box() const { return displayBox; }
