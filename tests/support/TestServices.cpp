@@ -6,11 +6,16 @@
 
 #include <QCoreApplication>
 
-TestServices::TestServices() : defaults(_folder.filePath(QStringLiteral("settings.json"))) {}
+TestServices::TestServices() : defaults(settingsPath()) {}
 
 TestServices::~TestServices()
 {
     for (Wuffer *timer : WufferApplication::getWuffers())
         timer->window()->close();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+QString TestServices::settingsPath() const
+{
+    return _folder.filePath(QStringLiteral("settings.json"));
 }

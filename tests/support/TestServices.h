@@ -16,6 +16,9 @@ public:
     ~TestServices();
     Q_DISABLE_COPY_MOVE(TestServices)
 
+    /// The file that the settings are kept in.
+    [[nodiscard]] QString settingsPath() const;
+
 private:
     QTemporaryDir _folder;
 

@@ -1,0 +1,155 @@
+#include "support/TestMain.h"
+#include "support/TimerFixture.h"
+
+/// Typing into the window of a timer.
+class tst_Editing final : public Test
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void digitsTypedStraightAwayAreMinutes();
+    void returnStartsFromANumberField();
+    void returnPressesTheButtonInEveryState();
+    void theEnterKeyOfTheKeypadDoesTheSame();
+    void typingANameNamesTheWindow();
+    void returnEndsTheNameWithoutStarting();
+    void afterTheNameReturnStartsAgain();
+    void leavingTheNameGivesReturnBack();
+    void keepWuffingIsToggledOnce();
+    void tabsWalkThroughTheWindowInOrder();
+
+private:
+    static void show(const TimerFixture &t);
+    static void press(Qt::Key key) { QTest::keyClick(QApplication::focusWidget(), key); }
+};
+
+void tst_Editing::show(const TimerFixture &t)
+{
+    t.timer.showWufferWindow();
+    QVERIFY(QTest::qWaitForWindowActive(t.timer.window()));
+}
+
+void tst_Editing::digitsTypedStraightAwayAreMinutes()
+{
+    TimerFixture t;
+    show(t);
+    QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("25"));
+    QCOMPARE(t.fields(), QStringLiteral("0 25 0"));
+}
+
+void tst_Editing::returnStartsFromANumberField()
+{
+    TimerFixture t;
+    show(t);
+    QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("5"));
+    press(Qt::Key_Return);
+    QCOMPARE(t.display(), QStringLiteral("5m 0s"));
+    QVERIFY(t.timer.isRunning());
+}
+
+void tst_Editing::returnPressesTheButtonInEveryState()
+{
+    TimerFixture t;
+    show(t);
+    press(Qt::Key_Return);
+    QCOMPARE(t.go(), QStringLiteral("Stop"));
+    t.pass(0.05);
+    QCOMPARE(t.go(), QStringLiteral("Reset"));
+    press(Qt::Key_Return);
+    QCOMPARE(t.go(), QStringLiteral("Start"));
+    t.timer.stopwatch();
+    press(Qt::Key_Return);
+    QVERIFY(t.timer.isRunning());
+    t.pass(1);
+    press(Qt::Key_Return);
+    QVERIFY(!t.timer.isRunning());
+}
+
+void tst_Editing::theEnterKeyOfTheKeypadDoesTheSame()
+{
+    TimerFixture t;
+    show(t);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Enter, Qt::KeypadModifier);
+    QVERIFY(t.timer.isRunning());
+}
+
+void tst_Editing::typingANameNamesTheWindow()
+{
+    TimerFixture t;
+    t.typeName(QStringLiteral("Tea"));
+    QCOMPARE(t.timer.window()->windowTitle(), QStringLiteral("Tea"));
+}
+
+void tst_Editing::returnEndsTheNameWithoutStarting()
+{
+    TimerFixture t;
+    show(t);
+    auto &name = t.part<QLineEdit>("_titleField");
+    name.setFocus();
+    t.typeName(QStringLiteral("Tea"));
+    press(Qt::Key_Return);
+    QVERIFY(!t.timer.isRunning());
+    QCOMPARE(t.timer.title(), QStringLiteral("Tea"));
+}
+
+void tst_Editing::afterTheNameReturnStartsAgain()
+{
+    TimerFixture t;
+    show(t);
+    auto &name = t.part<QLineEdit>("_titleField");
+    name.setFocus();
+    t.typeName(QStringLiteral("Tea"));
+    press(Qt::Key_Return);
+    press(Qt::Key_Return);
+    QVERIFY(!t.timer.isRunning());
+    t.pass(0.011);
+    press(Qt::Key_Return);
+    QVERIFY(t.timer.isRunning());
+}
+
+void tst_Editing::leavingTheNameGivesReturnBack()
+{
+    TimerFixture t;
+    show(t);
+    auto &name = t.part<QLineEdit>("_titleField");
+    name.setFocus();
+    t.typeName(QStringLiteral("Tea"));
+    press(Qt::Key_Tab);
+    t.pass(0.011);
+    press(Qt::Key_Return);
+    QVERIFY(t.timer.isRunning());
+}
+
+void tst_Editing::keepWuffingIsToggledOnce()
+{
+    TimerFixture t;
+    auto &box = t.part<QCheckBox>("_keepWuffingBox");
+    box.click();
+    QVERIFY(box.isChecked());
+    t.timer.toggleKeepWuffing();
+    QVERIFY(!box.isChecked());
+}
+
+void tst_Editing::tabsWalkThroughTheWindowInOrder()
+{
+    TimerFixture t;
+    show(t);
+    t.part<QLineEdit>("_titleField").setFocus();
+    QStringList walk;
+    for (int i = 0; i < 9; ++i) {
+        walk << QApplication::focusWidget()->objectName();
+        press(Qt::Key_Tab);
+    }
+    const QStringList expected{
+        QStringLiteral("_titleField"),     QStringLiteral("_hoursField"),
+        QStringLiteral("_minutesField"),   QStringLiteral("_secondsField"),
+        QStringLiteral("_goButton"),       QStringLiteral("_keepWuffingBox"),
+        QStringLiteral("_fullScreenBox"),  QStringLiteral("_soundOffImage"),
+        QStringLiteral("_finishedDrawerButton")};
+    QCOMPARE(walk, expected);
+    // The drawer is closed, so the walk begins again.
+    QCOMPARE(QApplication::focusWidget()->objectName(), QStringLiteral("_titleField"));
+}
+
+WUFFER_TEST_MAIN(tst_Editing)
+#include "tst_Editing.moc"

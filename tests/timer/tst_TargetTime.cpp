@@ -1,0 +1,147 @@
+#include "support/TestMain.h"
+#include "support/TimerFixture.h"
+#include "timer/TargetTimeSheet.h"
+
+#include <QCalendarWidget>
+#include <QDateTimeEdit>
+#include <QDialogButtonBox>
+
+/// Counting down to a date picked in the sheet.
+class tst_TargetTime final : public Test
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void theSheetBeginsAtTheDurationTyped();
+    void nothingEarlierThanNowCanBePicked();
+    void theCalendarAndTheFieldFollowEachOther();
+    void theTimeAfterConfirmingIsAnOrdinaryCountdown();
+    void theFractionOfTheSecondsIsCutByTheStart();
+    void cancellingChangesNothing();
+    void aRunningTimerDoesNotAsk();
+    void aDateThatHasPassedMeanwhileEndsAtOnce();
+    void theComputersClockDecidesOnlyWhatIsPicked();
+    void changesOfSummerTimeAreCounted();
+
+private:
+    static TargetTimeSheet &sheet(const TimerFixture &t)
+    {
+        return child<TargetTimeSheet>(*t.timer.window(), "_targetTimeWindow");
+    }
+};
+
+void tst_TargetTime::theSheetBeginsAtTheDurationTyped()
+{
+    TimerFixture t;
+    t.typeDuration(30, 0, 10);
+    t.timer.targetTime();
+    QVERIFY(sheet(t).isVisible());
+    QCOMPARE(sheet(t).windowModality(), Qt::WindowModal);
+    const QDateTime now = t.clock.calendarNow();
+    QCOMPARE(sheet(t).dateValue().toSecsSinceEpoch(), now.toSecsSinceEpoch() + 108010);
+}
+
+void tst_TargetTime::nothingEarlierThanNowCanBePicked()
+{
+    TimerFixture t;
+    t.timer.targetTime();
+    const QDateTime now = t.clock.calendarNow();
+    sheet(t).setDateValue(now.addDays(-3));
+    QCOMPARE(sheet(t).dateValue().toSecsSinceEpoch(), now.toSecsSinceEpoch());
+    const auto &calendar = child<QCalendarWidget>(sheet(t), "_targetCalendar");
+    QCOMPARE(calendar.minimumDate(), now.date());
+}
+
+void tst_TargetTime::theCalendarAndTheFieldFollowEachOther()
+{
+    TimerFixture t;
+    t.timer.targetTime();
+    auto &calendar = child<QCalendarWidget>(sheet(t), "_targetCalendar");
+    auto &field = child<QDateTimeEdit>(sheet(t), "_targetDateField");
+    const QDate today = t.clock.calendarNow().date();
+    calendar.setSelectedDate(today.addDays(5));
+    QCOMPARE(field.date(), today.addDays(5));
+    field.setDate(today.addDays(40));
+    QCOMPARE(calendar.selectedDate(), today.addDays(40));
+}
+
+void tst_TargetTime::theTimeAfterConfirmingIsAnOrdinaryCountdown()
+{
+    TimerFixture t;
+    t.timer.targetTime();
+    sheet(t).setDateValue(t.clock.calendarNow().addSecs(7200));
+    child<QDialogButtonBox>(sheet(t), "_targetButtons").button(QDialogButtonBox::Ok)->click();
+    QVERIFY(!sheet(t).isVisible());
+    QVERIFY(t.timer.isRunning());
+    // The clock of the test stands at three eighths of a second.
+    QCOMPARE(t.fields(), QStringLiteral("1 59 59.625"));
+    QCOMPARE(t.display(), QStringLiteral("1h 59m 59s"));
+    t.pass(7199.04);
+    QCOMPARE(t.display(), QStringLiteral("Wuff!"));
+}
+
+void tst_TargetTime::theFractionOfTheSecondsIsCutByTheStart()
+{
+    TimerFixture t;
+    t.timer.targetTime();
+    sheet(t).setDateValue(t.clock.calendarNow().addSecs(10));
+    t.timer.startWithTargetTime();
+    QCOMPARE(t.timer.targetDate()->timeIntervalSinceNow(), 9.0);
+}
+
+void tst_TargetTime::cancellingChangesNothing()
+{
+    TimerFixture t;
+    t.typeDuration(0, 5, 0);
+    t.timer.targetTime();
+    sheet(t).setDateValue(t.clock.calendarNow().addSecs(7200));
+    QTest::keyClick(&sheet(t), Qt::Key_Escape);
+    QVERIFY(!sheet(t).isVisible());
+    QVERIFY(!t.timer.isRunning());
+    QCOMPARE(t.fields(), QStringLiteral("0 5 0"));
+}
+
+void tst_TargetTime::aRunningTimerDoesNotAsk()
+{
+    TimerFixture t;
+    t.startCountdown(60);
+    t.timer.targetTime();
+    QVERIFY(!t.timer.window()->findChild<TargetTimeSheet *>());
+}
+
+void tst_TargetTime::aDateThatHasPassedMeanwhileEndsAtOnce()
+{
+    TimerFixture t;
+    t.timer.targetTime();
+    t.pass(3);
+    t.timer.startWithTargetTime();
+    t.pass(0.04);
+    QCOMPARE(t.display(), QStringLiteral("Wuff!"));
+}
+
+void tst_TargetTime::theComputersClockDecidesOnlyWhatIsPicked()
+{
+    TimerFixture t;
+    t.timer.targetTime();
+    sheet(t).setDateValue(t.clock.calendarNow().addSecs(3600));
+    t.timer.startWithTargetTime();
+    t.clock.setCalendarOffset(86400);
+    t.pass(1800);
+    QCOMPARE(t.display(), QStringLiteral("29m 59s"));
+}
+
+void tst_TargetTime::changesOfSummerTimeAreCounted()
+{
+    TimerFixture t;
+    const QDateTime now = t.clock.calendarNow();
+    t.timer.targetTime();
+    // The same time of day half a year on is a whole number of days away in UTC and in India,
+    // and would be an hour off where the clocks change.
+    sheet(t).setDateValue(now.addDays(180));
+    const qint64 expected = now.secsTo(now.addDays(180)) - 1;
+    t.timer.startWithTargetTime();
+    QCOMPARE(t.timer.targetDate()->timeIntervalSinceNow(), double(expected));
+}
+
+WUFFER_TEST_MAIN(tst_TargetTime)
+#include "tst_TargetTime.moc"
