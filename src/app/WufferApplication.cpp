@@ -20,6 +20,29 @@ static QIcon applicationIcon()
     return icon;
 }
 
+/// Keys that only change what other keys mean, and are no press of their own.
+static bool isModifier(int key)
+{
+    switch (key) {
+    case Qt::Key_Shift:
+    case Qt::Key_Control:
+    case Qt::Key_Meta:
+    case Qt::Key_Alt:
+    case Qt::Key_AltGr:
+    case Qt::Key_Super_L:
+    case Qt::Key_Super_R:
+    case Qt::Key_Hyper_L:
+    case Qt::Key_Hyper_R:
+    case Qt::Key_Mode_switch:
+    case Qt::Key_CapsLock:
+    case Qt::Key_NumLock:
+    case Qt::Key_ScrollLock:
+        return true;
+    default:
+        return false;
+    }
+}
+
 WufferApplication::WufferApplication(int &argc, char **argv) : QApplication(argc, argv)
 {
     setApplicationName(QStringLiteral("wuffer"));
@@ -114,6 +137,8 @@ bool WufferApplication::swallows(QEvent &event)
 bool WufferApplication::swallowsKey(QEvent &event)
 {
     const auto &keyEvent = static_cast<QKeyEvent &>(event);
+    if (isModifier(keyEvent.key()))
+        return false;
     if (event.type() == QEvent::KeyRelease) {
         if (!keyEvent.isAutoRepeat())
             _swallowedKey.reset();
