@@ -15,8 +15,10 @@ constexpr auto kDevicePatience = 300ms;
 /// How often time moves on without a device.
 constexpr auto kTick = 20ms;
 
-/// The most that passes at one tick, so that the readers of the files can keep up.
+/// The most that passes at once, and the pause before more does, so that the readers of the files
+/// can keep up.
 constexpr auto kLongestStep = 80ms;
+constexpr auto kCatchUpPause = 5ms;
 
 /// Longer than anything that was mixed can still be on its way to the loudspeaker.
 constexpr auto kLinger = 500ms;
@@ -52,6 +54,7 @@ void Mixer::render(std::span<float> stereo)
     const std::lock_guard lock(_mixing);
     _deviceIsExpected = true;
     const Moment now = std::chrono::steady_clock::now();
+    admitNewcomers(now);
     mix(stereo, framesIn(kHeardAfter, _sampleRate), now);
     _mixedUntil = now;
 }
@@ -60,7 +63,8 @@ std::optional<std::chrono::nanoseconds> Mixer::keepTime()
 {
     const std::lock_guard lock(_mixing);
     const Moment now = std::chrono::steady_clock::now();
-    admitNewcomers(now);
+    if (_voices.empty())
+        admitNewcomers(now);
     if (_voices.empty()) {
         const std::chrono::nanoseconds left = _lastSounded + kLinger - now;
         return left > 0ns ? std::optional(left) : std::nullopt;
@@ -73,6 +77,10 @@ std::optional<std::chrono::nanoseconds> Mixer::keepTime()
         framesIn(std::min<std::chrono::nanoseconds>(behind, kLongestStep), _sampleRate);
     mix(std::span(_unheard).first(static_cast<std::size_t>(frames) * 2), 0, now);
     _mixedUntil += std::chrono::nanoseconds(std::nano::den * frames / _sampleRate);
+    if (behind > kLongestStep)
+        return kCatchUpPause;
+    // Only now, so that nobody's time passes before he joined.
+    admitNewcomers(now);
     return kTick;
 }
 
@@ -98,7 +106,6 @@ void Mixer::admitNewcomers(Moment now)
 
 void Mixer::mix(std::span<float> stereo, int heardAfter, Moment now)
 {
-    admitNewcomers(now);
     if (!_voices.empty())
         _lastSounded = now;
     std::ranges::fill(stereo, 0.0F);

@@ -3,6 +3,8 @@
 #include "platform/sound/CubebStream.h"
 #include "platform/sound/Voice.h"
 
+#include <utility>
+
 using namespace std::chrono_literals;
 
 namespace
@@ -25,13 +27,19 @@ void Output::play(const std::shared_ptr<Voice> &voice)
         return;
     }
     _mixer.add(voice);
-    _changed.notify_all();
+    changed();
 }
 
 void Output::close()
 {
     const std::lock_guard lock(_mutex);
     _isClosed = true;
+    changed();
+}
+
+void Output::changed()
+{
+    _hasNews = true;
     _changed.notify_all();
 }
 
@@ -55,7 +63,7 @@ void Output::keepTime()
         const std::optional<std::chrono::nanoseconds> pause = _mixer.keepTime();
         lock.lock();
         if (pause)
-            _changed.wait_for(lock, *pause, [this] { return _isClosed || _mixer.hasNewcomers(); });
+            _changed.wait_for(lock, *pause, [this] { return std::exchange(_hasNews, false); });
         else if (!_mixer.hasNewcomers())
             break;
     }
@@ -72,6 +80,7 @@ void Output::runDevice()
         if (runStream(lock))
             continue;
         _mixer.forgetDevice();
+        changed();
         _changed.wait_for(lock, kRetryAfter, [this] { return !isWanted(); });
     }
     _hasDeviceThread = false;

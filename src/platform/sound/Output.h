@@ -31,6 +31,7 @@ public:
 
 private:
     [[nodiscard]] bool wakeUp();
+    void changed();
     void keepTime();
     void runDevice();
     [[nodiscard]] bool runStream(std::unique_lock<std::mutex> &lock);
@@ -43,6 +44,7 @@ private:
 
     std::mutex _mutex;
     std::condition_variable _changed;
+    bool _hasNews = false; // for the thread that keeps the time
     bool _isSounding = false;
     bool _hasDeviceThread = false;
     bool _streamIsLost = false;

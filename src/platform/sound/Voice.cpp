@@ -19,7 +19,7 @@ constexpr float kGainStep = 1.0F / 256;
 Voice::Voice(OpenSoundBytes open, int sampleRate, std::shared_ptr<const SoundControls> controls)
     : _open(std::move(open)), _sampleRate(sampleRate),
       _framesPerBlock(sampleRate / kBlocksPerSecond), _controls(std::move(controls)),
-      _queue(_framesPerBlock), _gain(_controls->volume)
+      _queue(_framesPerBlock)
 {
 }
 
@@ -78,7 +78,7 @@ bool Voice::mixInto(std::span<float> stereo, int heardAfter)
     }
     if (_ended)
         _unheard = std::min(_unheard, heardAfter) - static_cast<int>(stereo.size() / 2);
-    if (_unheard <= 0 || (_stopped && _gain == 0.0F))
+    if (_unheard <= 0 || (_stopped && _gain.value_or(0.0F) == 0.0F))
         finish();
     return !_over;
 }
@@ -89,11 +89,13 @@ std::size_t Voice::mixBlock(const BlockQueue::Block &block, std::span<float> ste
     const std::size_t frames = std::min(stereo.size() / 2, blockFrames - _played);
     const float *sample = block.samples.data() + _played * 2;
     const float target = _stopped ? 0.0F : _controls->volume.load();
+    float gain = _gain.value_or(target);
     for (std::size_t i = 0; i < frames * 2; i += 2) {
-        _gain += std::clamp(target - _gain, -kGainStep, kGainStep);
-        stereo[i] += *sample++ * _gain;
-        stereo[i + 1] += *sample++ * _gain;
+        gain += std::clamp(target - gain, -kGainStep, kGainStep);
+        stereo[i] += *sample++ * gain;
+        stereo[i + 1] += *sample++ * gain;
     }
+    _gain = gain;
     _played += frames;
     if (_played == blockFrames) {
         _ended = block.endsPass && !_controls->loops;

@@ -9,6 +9,7 @@
 #include <atomic>
 #include <limits>
 #include <memory>
+#include <optional>
 #include <span>
 
 class AudioFile;
@@ -62,7 +63,7 @@ private:
     // The rest belongs to the mixing thread.
     std::size_t _played = 0; // frames of the front block
     std::size_t _starved = 0;
-    float _gain;
+    std::optional<float> _gain; // none before the first frame
     bool _ended = false;
     int _unheard = std::numeric_limits<int>::max();
 };
