@@ -25,8 +25,8 @@ bool CubebStream::start(int sampleRate, const QByteArray &title)
         return false;
     _context.reset(context);
 
-    // A fiftieth of a second: as short as servers keep up with.
-    const auto latency = static_cast<uint32_t>(sampleRate / 50);
+    // Thirty milliseconds: a stop is still heard at once, and a busy computer keeps up.
+    const auto latency = static_cast<uint32_t>(sampleRate * 3 / 100);
     cubeb_stream_params parameters = {};
     parameters.format = CUBEB_SAMPLE_FLOAT32NE;
     parameters.rate = static_cast<uint32_t>(sampleRate);

@@ -78,7 +78,7 @@ qint64 streamOffset(QIODevice &bytes)
     const qint64 offset = offsetBehindId3Tags(bytes);
     if (offset == 0)
         return 0;
-    constexpr qint64 mostPadding = 16 * 1024;
+    constexpr qint64 mostPadding = 16'384;
     const QByteArray rest = bytesAt(bytes, offset, mostPadding);
     const auto isZero = [](char byte) { return byte == 0; };
     return offset + std::distance(rest.begin(), std::ranges::find_if_not(rest, isZero));

@@ -9,7 +9,7 @@ namespace
 /// Long enough for few wake-ups, short enough for little memory.
 constexpr int kBlocksPerSecond = 50;
 
-/// How long a file may fail to deliver before its sound is given up.
+/// How long a file may deliver nothing before its sound is given up.
 constexpr std::size_t kPatienceSeconds = 2;
 
 /// The volume changes by this much a frame, so that no change clicks.
@@ -96,6 +96,7 @@ std::size_t Voice::mixBlock(const BlockQueue::Block &block, std::span<float> ste
         stereo[i + 1] += *sample++ * gain;
     }
     _gain = gain;
+    _starved = 0;
     _played += frames;
     if (_played == blockFrames) {
         _ended = block.endsPass && !_controls->loops;
