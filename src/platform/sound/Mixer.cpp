@@ -79,7 +79,7 @@ std::optional<std::chrono::nanoseconds> Mixer::keepTime()
     _mixedUntil += std::chrono::nanoseconds(std::nano::den * frames / _sampleRate);
     if (behind > kLongestStep)
         return kCatchUpPause;
-    // Only now, so that nobody's time passes before he joined.
+    // Only now, so that no voice's time passes before it has joined.
     admitNewcomers(now);
     return kTick;
 }
