@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QtGlobal>
+
+/// Turns the bytes of one open sound file into samples. One thread at a time.
+class AudioDecoder
+{
+public:
+    /// What a file says of itself; whether that is believable is for the caller to judge.
+    struct Format {
+        int sampleRate = 0;
+        int channels = 0;
+        qint64 frames = 0;
+    };
+
+    AudioDecoder() = default;
+    virtual ~AudioDecoder() = default;
+    Q_DISABLE_COPY_MOVE(AudioDecoder)
+
+    [[nodiscard]] virtual Format format() const = 0;
+
+    /// Reads the next frames, their channels interleaved, and gives how many there were; 0 at the
+    /// end and when the file cannot be read any further.
+    [[nodiscard]] virtual qint64 read(float *samples, qint64 frames) = 0;
+
+    /// Goes back to the first frame.
+    [[nodiscard]] virtual bool rewind() = 0;
+};

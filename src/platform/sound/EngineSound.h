@@ -1,0 +1,36 @@
+#pragma once
+
+#include "platform/Sound.h"
+#include "platform/sound/SoundBytes.h"
+#include "platform/sound/SoundControls.h"
+
+class SoundEngine;
+class Voice;
+
+/// A sound that a SoundEngine plays.
+class EngineSound final : public Sound
+{
+public:
+    /// Opens the bytes once, for their length.
+    EngineSound(QString name, OpenSoundBytes open, std::weak_ptr<SoundEngine> engine);
+    Q_DISABLE_COPY_MOVE(EngineSound)
+    ~EngineSound() override;
+
+    [[nodiscard]] QString name() const override { return _name; }
+    [[nodiscard]] double duration() const override { return _duration; }
+    void play() override;
+    void stop() override;
+    [[nodiscard]] bool isPlaying() const override;
+    [[nodiscard]] float volume() const override { return _controls->volume; }
+    void setVolume(float volume) override;
+    void setLoops(bool loops) override { _controls->loops = loops; }
+
+private:
+    const QString _name;
+    const OpenSoundBytes _open;
+    const std::weak_ptr<SoundEngine> _engine;
+    const std::shared_ptr<SoundControls> _controls;
+    double _duration = 0;
+    int _sampleRate = 0;
+    std::shared_ptr<Voice> _voice;
+};

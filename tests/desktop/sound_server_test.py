@@ -1,0 +1,522 @@
+#!/usr/bin/python3
+"""Plays sounds at a sound server of its own and judges what can be heard there.
+
+Usage: sound_server_test.py SOUNDPLAYER [unittest arguments]
+"""
+
+import array
+import math
+import os
+import shutil
+import signal
+import struct
+import subprocess
+import sys
+import tempfile
+import threading
+import time
+import unittest
+import wave
+
+RATE = 48000
+AUDIBLE = 100  # of 32768
+SOUNDPLAYER = ""
+
+
+def wait_until(condition, seconds, what):
+    """Waits for a condition; gives how many seconds it took."""
+    start = time.monotonic()
+    while not condition():
+        if time.monotonic() - start > seconds:
+            raise AssertionError(f"not within {seconds} s: {what}")
+        time.sleep(0.002)
+    return time.monotonic() - start
+
+
+class Server:
+    """A PulseAudio server with one silent sink, in a run-time folder of its own."""
+
+    def __init__(self, folder):
+        self.environment = dict(os.environ, XDG_RUNTIME_DIR=folder, HOME=folder)
+        for name in ("PULSE_SERVER", "PULSE_SINK", "DISPLAY", "DBUS_SESSION_BUS_ADDRESS"):
+            self.environment.pop(name, None)
+        # Fails the test rather than play at some other device.
+        self.environment["ALSA_CONFIG_PATH"] = "/dev/null"
+        self.process = None
+        self.recorder = None
+        self.start()
+
+    def start(self):
+        self.process = subprocess.Popen(
+            ["pulseaudio", "-n", "--daemonize=no", "--exit-idle-time=-1", "--disable-shm=yes",
+             "--use-pid-file=no", "-L", "module-native-protocol-unix auth-anonymous=1"],
+            env=self.environment, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        wait_until(self.answers, 10, "the sound server answers")
+        self.add_sink()
+
+    def answers(self):
+        return subprocess.run(["pactl", "info"], env=self.environment, stdout=subprocess.DEVNULL,
+                              stderr=subprocess.DEVNULL, check=False).returncode == 0
+
+    def add_sink(self):
+        self.sink = self.ask("load-module", "module-null-sink", "sink_name=test",
+                             f"rate={RATE}", "channels=2", "format=float32le").strip()
+        self.recorder = Recorder(self.environment)
+
+    def remove_sink(self):
+        self.recorder.close()
+        self.ask("unload-module", self.sink)
+
+    def ask(self, *question):
+        return subprocess.run(["pactl", *question], env=self.environment, check=True, timeout=10,
+                              stdout=subprocess.PIPE, text=True).stdout
+
+    def streams(self):
+        return len(self.ask("list", "short", "sink-inputs").splitlines())
+
+    def freeze(self):
+        self.process.send_signal(signal.SIGSTOP)
+
+    def thaw(self):
+        self.process.send_signal(signal.SIGCONT)
+
+    def kill(self):
+        self.process.kill()
+        self.process.wait()
+        self.recorder.close()
+
+    def close(self):
+        self.kill()
+
+
+class Recorder:
+    """Records what the sink plays, each piece with the moment at which it came."""
+
+    def __init__(self, environment):
+        self.pieces = []
+        self.process = subprocess.Popen(
+            ["parec", "-d", "test.monitor", "--format=s16le", f"--rate={RATE}", "--channels=1",
+             "--latency-msec=10", "--raw"],
+            env=environment, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL)
+        self.thread = threading.Thread(target=self.run, daemon=True)
+        self.thread.start()
+        # The sink works in blocks of two seconds until somebody listens.
+        wait_until(lambda: len(self.pieces) > 20, 10, "the recorder hears the sink")
+
+    def run(self):
+        while data := os.read(self.process.stdout.fileno(), 4096):
+            self.pieces.append((time.monotonic(), array.array("h", data[:len(data) // 2 * 2])))
+
+    def between(self, start, end):
+        """The samples that came in between two moments."""
+        samples = array.array("h")
+        for moment, piece in list(self.pieces):
+            if start <= moment <= end:
+                samples.extend(piece)
+        return samples
+
+    def hear(self, seconds):
+        """The samples of the next so many seconds."""
+        start = time.monotonic()
+        time.sleep(seconds)
+        return self.between(start, start + seconds)
+
+    def hear_undisturbed(self, seconds):
+        """The same without gaps. A busy computer may tear one now and then, so there are three
+        attempts; what the program itself leaves out, it leaves out each time."""
+        for _ in range(3):
+            samples = self.hear(seconds)
+            if longest_silence(samples) < 0.5:
+                break
+        return samples
+
+    def first_sound_after(self, start):
+        for moment, piece in list(self.pieces):
+            if moment >= start and loudest(piece) > AUDIBLE:
+                return moment
+        return None
+
+    def last_sound(self):
+        for moment, piece in reversed(list(self.pieces)):
+            if loudest(piece) > AUDIBLE:
+                return moment
+        return 0.0
+
+    def close(self):
+        self.process.kill()
+        self.process.wait()
+        self.thread.join()
+        self.process.stdout.close()
+
+
+def loudest(samples):
+    return max(max(samples, default=0), -min(samples, default=0))
+
+
+def rms(samples):
+    return math.sqrt(sum(sample * sample for sample in samples) / len(samples))
+
+
+def frequency(samples):
+    rises = sum(1 for a, b in zip(samples, samples[1:]) if a < 0 <= b)
+    return rises * RATE / len(samples)
+
+
+def strength(samples, tone):
+    """How loud one tone is among others."""
+    real = imaginary = 0.0
+    step = 2 * math.pi * tone / RATE
+    for i, sample in enumerate(samples):
+        real += sample * math.cos(step * i)
+        imaginary += sample * math.sin(step * i)
+    return 2 * math.hypot(real, imaginary) / len(samples)
+
+
+def longest_silence(samples):
+    """The longest run of silent samples, in milliseconds."""
+    longest = current = 0
+    for sample in samples:
+        current = current + 1 if abs(sample) < AUDIBLE else 0
+        longest = max(longest, current)
+    return longest * 1000 / RATE
+
+
+def largest_step(samples):
+    return max(abs(b - a) for a, b in zip(samples, samples[1:]))
+
+
+class Player:
+    """The program under test, and the orders it takes."""
+
+    def __init__(self, environment):
+        self.process = subprocess.Popen([SOUNDPLAYER], env=environment, stdin=subprocess.PIPE,
+                                        stdout=subprocess.PIPE, text=True, bufsize=1)
+        self.slowest = 0.0
+
+    def order(self, *words):
+        return self.orders(" ".join(str(word) for word in words))[0]
+
+    def orders(self, *lines):
+        """Gives several orders without a pause; gives their results."""
+        self.process.stdin.write("".join(line + "\n" for line in lines))
+        results = []
+        for line in lines:
+            result, microseconds = self.process.stdout.readline().split()
+            results.append(float(result))
+            if not line.startswith("load"):
+                self.slowest = max(self.slowest, int(microseconds) / 1e6)
+        return results
+
+    def is_playing(self, name):
+        return self.order("playing", name) == 1
+
+    def play(self, name):
+        """Plays; gives the moment before."""
+        moment = time.monotonic()
+        self.order("play", name)
+        return moment
+
+    def wait_for_end(self, name, limit):
+        return wait_until(lambda: not self.is_playing(name), limit, f"{name} ends")
+
+    def status(self, field):
+        with open(f"/proc/{self.process.pid}/status", encoding="ascii") as status:
+            return next(line.split()[1] for line in status if line.startswith(field))
+
+    def quit(self):
+        """Lets the program end; gives how many seconds that took and its exit status."""
+        start = time.monotonic()
+        self.process.stdin.write("quit\n")
+        status = self.process.wait(timeout=10)
+        self.process.stdin.close()
+        self.process.stdout.close()
+        return time.monotonic() - start, status
+
+
+class SoundServerTest(unittest.TestCase):
+    @classmethod
+    def setUpClass(cls):
+        for tool in ("pulseaudio", "pactl", "parec"):
+            if not shutil.which(tool):
+                raise RuntimeError(f"{tool} is not installed")
+        cls.folder = tempfile.mkdtemp(prefix="sound-")
+        os.chmod(cls.folder, 0o700)
+        cls.server = Server(cls.folder)
+
+    @classmethod
+    def tearDownClass(cls):
+        cls.server.close()
+        shutil.rmtree(cls.folder)
+
+    def setUp(self):
+        self.player = Player(self.server.environment)
+
+    def tearDown(self):
+        if self.player:
+            self.quit_player()
+
+    def quit_player(self):
+        player, self.player = self.player, None
+        seconds, status = player.quit()
+        self.assertEqual(status, 0)
+        self.assertLess(seconds, 1.5)
+        self.assertLess(player.slowest, 0.1, "no order waits for the server")
+        return seconds
+
+    @property
+    def recorder(self):
+        return self.server.recorder
+
+    def load(self, name, seconds=1.0, tone=1000, amplitude=0.5, rate=RATE):
+        """Writes a sine and loads it."""
+        path = os.path.join(self.folder, f"{name}.wav")
+        with wave.open(path, "wb") as file:
+            file.setnchannels(1)
+            file.setsampwidth(2)
+            file.setframerate(rate)
+            step = 2 * math.pi * tone / rate
+            file.writeframes(b"".join(
+                struct.pack("<h", round(32767 * amplitude * math.sin(step * i)))
+                for i in range(round(seconds * rate))))
+        self.assertAlmostEqual(self.player.order("load", name, path), seconds)
+
+    def wait_for_silence(self):
+        wait_until(lambda: self.server.streams() == 0, 2, "no stream is left")
+
+    def start_loop(self, name, **tone):
+        self.load(name, **tone)
+        self.player.order("loops", name, 1)
+        moment = self.player.play(name)
+        wait_until(lambda: self.recorder.first_sound_after(moment), 1, f"{name} is heard")
+
+    def report(self, text):
+        print(f"{self.id().rsplit('.', 1)[1]}: {text}", flush=True)
+
+    # What is heard
+
+    def test_a_sound_is_heard_as_recorded_and_then_its_stream_is_closed(self):
+        self.load("tone", seconds=2)
+        self.player.play("tone")
+        time.sleep(0.3)
+        heard = self.recorder.hear_undisturbed(0.5)
+        self.assertAlmostEqual(frequency(heard), 1000, delta=3)
+        self.assertAlmostEqual(rms(heard) / (32767 * 0.5 / math.sqrt(2)), 1, delta=0.03)
+        self.assertEqual(self.server.streams(), 1)
+        self.player.wait_for_end("tone", 2)
+        self.wait_for_silence()
+        wait_until(lambda: self.player.status("Threads") == "1", 1, "no thread is left")
+
+    def test_a_sound_of_another_rate_is_heard_as_recorded(self):
+        self.start_loop("tone", tone=700, rate=44100)
+        heard = self.recorder.hear_undisturbed(0.5)
+        self.assertAlmostEqual(frequency(heard), 700, delta=3)
+        self.assertLess(longest_silence(heard), 0.5)
+
+    def test_a_sound_begins_at_once(self):
+        self.load("tone", seconds=0.2)
+        onsets = []
+        for _ in range(5):
+            moment = self.player.play("tone")
+            self.player.wait_for_end("tone", 1)
+            wait_until(lambda m=moment: self.recorder.first_sound_after(m), 1, "it is heard")
+            onsets.append((self.recorder.first_sound_after(moment) - moment) * 1000)
+            self.wait_for_silence()
+        self.report("onset after " + ", ".join(f"{onset:.0f}" for onset in onsets) + " ms")
+        self.assertLess(max(onsets), 100)
+
+    def test_a_sound_plays_until_its_end_has_been_heard(self):
+        self.load("tone", seconds=0.5)
+        moment = self.player.play("tone")
+        self.player.wait_for_end("tone", 1)
+        end = time.monotonic()
+        time.sleep(0.2)
+        last = self.recorder.last_sound()
+        length = last - self.recorder.first_sound_after(moment)
+        self.report(f"heard for {length * 1000:.0f} ms, end told {(end - last) * 1000:.0f} ms later")
+        self.assertAlmostEqual(length, 0.5, delta=0.03)
+        self.assertLess(abs(end - last), 0.06)
+
+    def test_a_stop_is_heard_at_once(self):
+        self.start_loop("tone")
+        time.sleep(0.2)
+        moment = time.monotonic()
+        self.player.order("stop", "tone")
+        self.assertFalse(self.player.is_playing("tone"))
+        time.sleep(0.2)
+        delay = self.recorder.last_sound() - moment
+        self.report(f"silent after {delay * 1000:.0f} ms")
+        self.assertLess(delay, 0.05)
+        self.wait_for_silence()
+
+    def test_a_destroyed_sound_falls_silent(self):
+        self.start_loop("tone")
+        moment = time.monotonic()
+        self.player.order("destroy", "tone")
+        time.sleep(0.2)
+        self.assertLess(self.recorder.last_sound() - moment, 0.05)
+        self.wait_for_silence()
+
+    def test_a_stop_before_the_sound_began_keeps_it_silent(self):
+        self.load("tone")
+        time.sleep(0.1)
+        moment = time.monotonic()
+        self.player.orders("play tone", "stop tone")
+        time.sleep(0.3)
+        self.assertIsNone(self.recorder.first_sound_after(moment))
+        self.wait_for_silence()
+
+    # Loops
+
+    def test_a_loop_has_no_gap(self):
+        self.start_loop("tone", seconds=0.1)
+        heard = self.recorder.hear_undisturbed(1)
+        self.assertLess(longest_silence(heard), 0.5)
+        # The steepest there is in the sine: nothing was left out or played twice.
+        steepest = 32767 * 0.5 * 2 * math.pi * 1000 / RATE
+        self.assertLess(largest_step(heard), steepest * 1.05)
+        self.assertAlmostEqual(frequency(heard), 1000, delta=2)
+
+    def test_a_loop_told_to_end_ends_with_its_pass(self):
+        self.load("tone", seconds=0.5)
+        self.player.order("loops", "tone", 1)
+        moment = self.player.play("tone")
+        time.sleep(0.9)
+        self.player.order("loops", "tone", 0)
+        self.player.wait_for_end("tone", 1)
+        time.sleep(0.1)
+        length = self.recorder.last_sound() - self.recorder.first_sound_after(moment)
+        self.assertAlmostEqual(length, 1.0, delta=0.03)
+
+    def test_a_sound_told_to_loop_in_its_last_moments_goes_on(self):
+        self.load("tone", seconds=0.5)
+        moment = self.player.play("tone")
+        time.sleep(0.42)
+        self.player.order("loops", "tone", 1)
+        time.sleep(0.4)
+        self.player.order("loops", "tone", 0)
+        self.player.wait_for_end("tone", 1)
+        time.sleep(0.1)
+        length = self.recorder.last_sound() - self.recorder.first_sound_after(moment)
+        self.assertAlmostEqual(length, 1.0, delta=0.03)
+
+    # Volume
+
+    def test_the_volume_changes_while_the_sound_plays(self):
+        self.start_loop("tone")
+        time.sleep(0.1)
+        loud = rms(self.recorder.hear(0.3))
+        for volume in (0.5, 0.1, 0.75):
+            self.player.order("volume", "tone", volume)
+            time.sleep(0.1)
+            ratio = rms(self.recorder.hear(0.3)) / loud
+            self.assertAlmostEqual(ratio / volume, 1, delta=0.03)
+        self.player.order("volume", "tone", 0)
+        time.sleep(0.1)
+        self.assertEqual(loudest(self.recorder.hear(0.1)), 0)
+        self.assertTrue(self.player.is_playing("tone"))
+
+    # Many
+
+    def test_forty_sounds_are_heard_at_once_and_stop_one_by_one(self):
+        tones = {f"tone{i}": 300 + 50 * i for i in range(40)}
+        for name, tone in tones.items():
+            self.load(name, tone=tone, amplitude=0.02)
+            self.player.order("loops", name, 1)
+        memory = int(self.player.status("RssAnon"))
+        moment = time.monotonic()
+        for name in tones:
+            self.player.order("play", name)
+        asked = time.monotonic()
+        wait_until(lambda: self.recorder.first_sound_after(moment), 1, "something is heard")
+        onset = self.recorder.first_sound_after(moment) - moment
+        time.sleep(0.1)
+        threads = self.player.status("Threads")
+        more = int(self.player.status("RssAnon")) - memory
+        self.report(f"onset {onset * 1000:.0f} ms (40 orders took {(asked - moment) * 1000:.0f}), "
+                    f"{threads} threads, {more} KiB more")
+        self.assertLess(onset, 0.1)
+        heard = self.recorder.hear(0.2)
+        for name, tone in tones.items():
+            self.assertAlmostEqual(strength(heard, tone) / 655, 1, delta=0.1, msg=name)
+        self.player.order("stop", "tone7")
+        self.player.order("destroy", "tone8")
+        time.sleep(0.1)
+        heard = self.recorder.hear(0.2)
+        for name, tone in tones.items():
+            expected = 0 if name in ("tone7", "tone8") else 1
+            self.assertAlmostEqual(strength(heard, tone) / 655, expected, delta=0.1, msg=name)
+
+    # Hard times
+
+    def test_a_server_that_dies_and_comes_back(self):
+        self.load("short", seconds=1.0)
+        self.start_loop("loop")
+        moment = self.player.play("short")
+        time.sleep(0.2)
+        self.server.kill()
+        self.player.wait_for_end("short", 2)
+        self.assertAlmostEqual(time.monotonic() - moment, 1.0, delta=0.2)
+        self.assertTrue(self.player.is_playing("loop"))
+        moment = self.player.play("short")
+        self.player.wait_for_end("short", 2)
+        self.assertAlmostEqual(time.monotonic() - moment, 1.0, delta=0.2)
+        self.server.start()
+        moment = time.monotonic()
+        wait_until(lambda: self.recorder.first_sound_after(moment), 4, "heard again")
+
+    def test_a_sink_that_goes_away_and_comes_back(self):
+        self.load("short", seconds=1.0)
+        self.start_loop("loop")
+        moment = self.player.play("short")
+        time.sleep(0.2)
+        self.server.remove_sink()
+        self.player.wait_for_end("short", 2)
+        self.assertAlmostEqual(time.monotonic() - moment, 1.0, delta=0.2)
+        self.assertTrue(self.player.is_playing("loop"))
+        self.server.add_sink()
+        moment = time.monotonic()
+        wait_until(lambda: self.recorder.first_sound_after(moment), 4, "heard again")
+
+    def test_a_server_that_freezes_and_thaws(self):
+        self.load("short", seconds=1.0)
+        self.load("late", seconds=0.5)
+        self.start_loop("loop")
+        moment = self.player.play("short")
+        time.sleep(0.2)
+        self.server.freeze()
+        try:
+            self.player.wait_for_end("short", 2)
+            self.assertAlmostEqual(time.monotonic() - moment, 1.0, delta=0.2)
+            moment = self.player.play("late")
+            self.player.wait_for_end("late", 2)
+            self.assertAlmostEqual(time.monotonic() - moment, 0.5, delta=0.2)
+            self.assertTrue(self.player.is_playing("loop"))
+        finally:
+            self.server.thaw()
+        moment = time.monotonic() + 0.5
+        wait_until(lambda: self.recorder.first_sound_after(moment), 4, "heard again")
+
+    def test_the_program_ends_while_the_server_is_frozen(self):
+        self.start_loop("loop")
+        self.server.freeze()
+        try:
+            time.sleep(0.5)
+            self.report(f"ended after {self.quit_player() * 1000:.0f} ms")
+        finally:
+            self.server.thaw()
+
+    def test_a_sound_begins_and_ends_at_a_frozen_server(self):
+        self.load("tone", seconds=0.5)
+        self.server.freeze()
+        try:
+            moment = self.player.play("tone")
+            self.player.wait_for_end("tone", 2)
+            self.assertAlmostEqual(time.monotonic() - moment, 0.5, delta=0.2)
+            self.report(f"ended after {self.quit_player() * 1000:.0f} ms")
+        finally:
+            self.server.thaw()
+
+
+if __name__ == "__main__":
+    SOUNDPLAYER = os.path.abspath(sys.argv.pop(1))
+    unittest.main(verbosity=2)
