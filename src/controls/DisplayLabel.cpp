@@ -27,6 +27,15 @@ public:
     }
 };
 
+/// Whether the texts are surely equally wide in a fixed-pitch font. Measuring a text costs as much
+/// as drawing it, and most new texts only have other digits in the places of the old ones.
+bool isAsWideAs(QStringView text, QStringView other)
+{
+    const auto isPlain = [](QChar character) { return character.unicode() < 0x80; };
+    return text.size() == other.size() && std::ranges::all_of(text, isPlain) &&
+           std::ranges::all_of(other, isPlain);
+}
+
 QAccessibleInterface *makeAccessible(const QString &className, QObject *object)
 {
     if (className == QLatin1String("DisplayLabel"))
@@ -51,6 +60,8 @@ void DisplayLabel::setText(const QString &text)
     if (text == _text)
         return;
     const bool emptinessChanged = text.isEmpty() != _text.isEmpty();
+    if (!isAsWideAs(text, _text))
+        _scale.reset();
     _text = text;
     if (emptinessChanged)
         updateGeometry();
@@ -115,20 +126,34 @@ void DisplayLabel::paintEvent(QPaintEvent *)
     painter.fillRect(rect(), palette().color(QPalette::Base));
     painter.setPen(_textColor);
 
-    const QFontMetricsF metrics(font());
-    const QSizeF textSize(metrics.horizontalAdvance(_text), metrics.height());
-    const qreal scale = fittingScale(textSize, size());
-    if (scale < 1.0) {
+    if (const qreal factor = scale(); factor < 1.0) {
         QFont smaller = font();
-        smaller.setPointSizeF(font().pointSizeF() * scale);
+        smaller.setPointSizeF(font().pointSizeF() * factor);
         painter.setFont(smaller);
     }
     painter.drawText(rect(), static_cast<int>(_alignment) | Qt::TextSingleLine, _text);
 }
 
+qreal DisplayLabel::scale()
+{
+    if (!_scale) {
+        const QFontMetricsF metrics(font());
+        _scale = fittingScale({metrics.horizontalAdvance(_text), metrics.height()}, size());
+    }
+    return *_scale;
+}
+
+void DisplayLabel::resizeEvent(QResizeEvent *event)
+{
+    _scale.reset();
+    QWidget::resizeEvent(event);
+}
+
 void DisplayLabel::changeEvent(QEvent *event)
 {
-    if (event->type() == QEvent::FontChange)
+    if (event->type() == QEvent::FontChange) {
+        _scale.reset();
         updateGeometry();
+    }
     QWidget::changeEvent(event);
 }

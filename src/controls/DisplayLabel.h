@@ -3,6 +3,8 @@
 #include <QColor>
 #include <QWidget>
 
+#include <optional>
+
 /// One line of text on the display, in its own font and colour.
 ///
 /// It may change many times a second, so a new text costs one repaint of the label and never a
@@ -52,10 +54,15 @@ public:
 
 protected:
     void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
     void changeEvent(QEvent *event) override;
 
 private:
+    [[nodiscard]] qreal scale();
+
     QString _text;
+    /// What scale() found for the text, until something changes that it depends on.
+    std::optional<qreal> _scale;
     QColor _textColor = Qt::black;
     Qt::Alignment _alignment = Qt::AlignCenter;
     int _reservedCharacters = 0;

@@ -6,9 +6,10 @@
 
 namespace
 {
-QString part(qint32 count, char unit)
+void append(QString &text, qint32 count, QLatin1String unit)
 {
-    return count == 0 ? QString() : QString::asprintf("%d%c ", count, unit);
+    if (count != 0)
+        text += QString::number(count) + unit;
 }
 } // namespace
 
@@ -21,12 +22,13 @@ QString TimeFormat::stringForTime(double seconds)
     const qint32 days = cutToInteger(seconds / 86400.0);
     const qint32 whole = cutToInteger(seconds);
 
-    QString text = part(days, 'd');
-    text += part((whole / 3600) % 24, 'h');
+    QString text;
+    append(text, days, QLatin1String("d "));
+    append(text, (whole / 3600) % 24, QLatin1String("h "));
     if (days <= mostDaysWithMinutes)
-        text += part((whole / 60) % 60, 'm');
+        append(text, (whole / 60) % 60, QLatin1String("m "));
     if (days == 0)
-        text += QString::asprintf("%ds", whole % 60);
+        text += QString::number(whole % 60) + QLatin1Char('s');
     return text;
 }
 

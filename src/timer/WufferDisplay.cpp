@@ -13,9 +13,9 @@ constexpr double kRedSeconds = 11.0;
 
 void setTextColor(QLineEdit &field, const QColor &color)
 {
-    QPalette palette = field.palette();
-    if (palette.color(QPalette::Text) == color)
+    if (field.palette().color(QPalette::Text) == color)
         return;
+    QPalette palette = field.palette();
     palette.setColor(QPalette::Text, color);
     field.setPalette(palette);
 }

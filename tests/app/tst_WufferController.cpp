@@ -41,8 +41,8 @@ void tst_WufferController::aLaunchOpensWhatTheUserChose_data()
         << QVariant(QStringLiteral("Open and Start Preset ⌘1")) << 1 << true;
     QTest::newRow("without the sign it is another text")
         << QVariant(QStringLiteral("Open and Start Preset 1")) << 1 << false;
-    QTest::newRow("another case is another text") << QVariant(QStringLiteral("do nothing")) << 1
-                                                  << false;
+    QTest::newRow("another case is another text")
+        << QVariant(QStringLiteral("do nothing")) << 1 << false;
     QTest::newRow("no text") << QVariant(42) << 1 << false;
 }
 

@@ -5,7 +5,8 @@
 #include <sndfile.h>
 
 /// A sine of one frequency. The second channel has twice the frequency, the third three times.
-struct Tone {
+struct Tone
+{
     double seconds = 1.0;
     double frequency = 500.0;
     int sampleRate = 48000;
@@ -14,7 +15,8 @@ struct Tone {
 };
 
 /// How a sound file is packed: a format of libsndfile, and whether the bit rate may vary.
-struct Packing {
+struct Packing
+{
     int format = SF_FORMAT_WAV | SF_FORMAT_PCM_16;
     bool variableRate = false;
 };

@@ -140,12 +140,15 @@ void tst_Editing::tabsWalkThroughTheWindowInOrder()
         walk << QApplication::focusWidget()->objectName();
         press(Qt::Key_Tab);
     }
-    const QStringList expected{
-        QStringLiteral("_titleField"),     QStringLiteral("_hoursField"),
-        QStringLiteral("_minutesField"),   QStringLiteral("_secondsField"),
-        QStringLiteral("_goButton"),       QStringLiteral("_keepWuffingBox"),
-        QStringLiteral("_fullScreenBox"),  QStringLiteral("_soundOffImage"),
-        QStringLiteral("_finishedDrawerButton")};
+    const QStringList expected{QStringLiteral("_titleField"),
+                               QStringLiteral("_hoursField"),
+                               QStringLiteral("_minutesField"),
+                               QStringLiteral("_secondsField"),
+                               QStringLiteral("_goButton"),
+                               QStringLiteral("_keepWuffingBox"),
+                               QStringLiteral("_fullScreenBox"),
+                               QStringLiteral("_soundOffImage"),
+                               QStringLiteral("_finishedDrawerButton")};
     QCOMPARE(walk, expected);
     // The drawer is closed, so the walk begins again.
     QCOMPARE(QApplication::focusWidget()->objectName(), QStringLiteral("_titleField"));

@@ -7,7 +7,8 @@ class AudioDecoder
 {
 public:
     /// What a file says of itself; whether that is believable is for the caller to judge.
-    struct Format {
+    struct Format
+    {
         int sampleRate = 0;
         int channels = 0;
         qint64 frames = 0;

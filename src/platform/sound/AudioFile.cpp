@@ -35,10 +35,9 @@ std::unique_ptr<AudioFile> AudioFile::open(std::unique_ptr<QIODevice> bytes)
     return file->isPlausible() ? std::move(file) : nullptr;
 }
 
-AudioFile::AudioFile(std::unique_ptr<AudioDecoder> decoder)
-    : _decoder(std::move(decoder)), _format(_decoder->format())
-{
-}
+AudioFile::AudioFile(std::unique_ptr<AudioDecoder> decoder) :
+    _decoder(std::move(decoder)), _format(_decoder->format())
+{}
 
 double AudioFile::duration() const
 {

@@ -11,7 +11,8 @@
 class BlockQueue final
 {
 public:
-    struct Block {
+    struct Block
+    {
         std::vector<float> samples;
         int frames = 0;
         /// True for the last block of a pass through the file; it may be shorter than others.

@@ -7,10 +7,9 @@ std::unique_ptr<CubebStream> CubebStream::open(int sampleRate, const QByteArray 
     return stream->start(sampleRate, title) ? std::move(stream) : nullptr;
 }
 
-CubebStream::CubebStream(Render render, std::function<void()> lost)
-    : _render(std::move(render)), _lost(std::move(lost))
-{
-}
+CubebStream::CubebStream(Render render, std::function<void()> lost) :
+    _render(std::move(render)), _lost(std::move(lost))
+{}
 
 void CubebStream::Destroy::operator()(cubeb_stream *stream) const
 {

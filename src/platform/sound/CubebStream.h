@@ -26,7 +26,8 @@ public:
     ~CubebStream() = default;
 
 private:
-    struct Destroy {
+    struct Destroy
+    {
         void operator()(cubeb *context) const { cubeb_destroy(context); }
         void operator()(cubeb_stream *stream) const;
     };

@@ -7,9 +7,9 @@
 #include <algorithm>
 #include <cmath>
 
-EngineSound::EngineSound(QString name, OpenSoundBytes open, std::weak_ptr<SoundEngine> engine)
-    : _name(std::move(name)), _open(std::move(open)), _engine(std::move(engine)),
-      _controls(std::make_shared<SoundControls>())
+EngineSound::EngineSound(QString name, OpenSoundBytes open, std::weak_ptr<SoundEngine> engine) :
+    _name(std::move(name)), _open(std::move(open)), _engine(std::move(engine)),
+    _controls(std::make_shared<SoundControls>())
 {
     if (const std::unique_ptr<AudioFile> file = AudioFile::open(_open())) {
         _duration = file->duration();

@@ -22,10 +22,9 @@ std::unique_ptr<AudioDecoder> Mp3Decoder::open(std::unique_ptr<QIODevice> bytes,
     return decoder->openStream() && decoder->measure(statesLength) ? std::move(decoder) : nullptr;
 }
 
-Mp3Decoder::Mp3Decoder(std::unique_ptr<QIODevice> bytes)
-    : _bytes(std::move(bytes)), _handle(mpg123_new(nullptr, nullptr))
-{
-}
+Mp3Decoder::Mp3Decoder(std::unique_ptr<QIODevice> bytes) :
+    _bytes(std::move(bytes)), _handle(mpg123_new(nullptr, nullptr))
+{}
 
 bool Mp3Decoder::openStream()
 {

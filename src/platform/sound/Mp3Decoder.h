@@ -22,7 +22,8 @@ public:
     [[nodiscard]] bool rewind() override;
 
 private:
-    struct Delete {
+    struct Delete
+    {
         void operator()(mpg123_handle *handle) const { mpg123_delete(handle); }
     };
 

@@ -11,7 +11,8 @@
 namespace
 {
 /// The four bytes that begin every frame of MPEG audio layer III.
-struct FrameHeader {
+struct FrameHeader
+{
     static constexpr qint64 kSize = 4;
 
     [[nodiscard]] static std::optional<FrameHeader> parse(const QByteArray &bytes);

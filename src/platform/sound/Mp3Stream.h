@@ -5,7 +5,8 @@
 #include <optional>
 
 /// What the first frames of an MP3 file tell about it without decoding anything.
-struct Mp3Stream {
+struct Mp3Stream
+{
     /// Looks for the stream: it must begin right after the tags at the head of the file, with two
     /// frames that fit together. Nothing when it does not, whatever the file is called. Leaves the
     /// bytes at their beginning.

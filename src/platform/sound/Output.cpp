@@ -13,11 +13,10 @@ namespace
 constexpr auto kRetryAfter = 1s;
 } // namespace
 
-Output::Output(int sampleRate, QByteArray title, Workers workers)
-    : _sampleRate(sampleRate), _title(std::move(title)), _workers(std::move(workers)),
-      _mixer(sampleRate)
-{
-}
+Output::Output(int sampleRate, QByteArray title, Workers workers) :
+    _sampleRate(sampleRate), _title(std::move(title)), _workers(std::move(workers)),
+    _mixer(sampleRate)
+{}
 
 void Output::play(const std::shared_ptr<Voice> &voice)
 {

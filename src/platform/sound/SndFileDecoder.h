@@ -20,7 +20,8 @@ public:
     [[nodiscard]] bool rewind() override;
 
 private:
-    struct Close {
+    struct Close
+    {
         void operator()(SNDFILE *file) const { sf_close(file); }
     };
 

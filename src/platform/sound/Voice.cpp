@@ -16,12 +16,10 @@ constexpr std::size_t kPatienceSeconds = 2;
 constexpr float kGainStep = 1.0F / 256;
 } // namespace
 
-Voice::Voice(OpenSoundBytes open, int sampleRate, std::shared_ptr<const SoundControls> controls)
-    : _open(std::move(open)), _sampleRate(sampleRate),
-      _framesPerBlock(sampleRate / kBlocksPerSecond), _controls(std::move(controls)),
-      _queue(_framesPerBlock)
-{
-}
+Voice::Voice(OpenSoundBytes open, int sampleRate, std::shared_ptr<const SoundControls> controls) :
+    _open(std::move(open)), _sampleRate(sampleRate), _framesPerBlock(sampleRate / kBlocksPerSecond),
+    _controls(std::move(controls)), _queue(_framesPerBlock)
+{}
 
 void Voice::stop()
 {

@@ -5,7 +5,8 @@
 #include <system_error>
 #include <thread>
 
-struct Workers::State {
+struct Workers::State
+{
     std::mutex mutex;
     std::condition_variable becameIdle;
     int running = 0;
