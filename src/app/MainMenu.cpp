@@ -21,6 +21,22 @@ void closeWindow(QWidget &window)
     window.close();
 }
 
+QList<QKeySequence> key(const char *keys)
+{
+    return {QKeySequence(QString::fromLatin1(keys))};
+}
+
+QList<QKeySequence> key(QKeySequence::StandardKey keys)
+{
+    return {QKeySequence(keys)};
+}
+
+/// F11 is known everywhere; some desktops have keys of their own beside it.
+QList<QKeySequence> fullScreenKeys()
+{
+    return key("F11") + QKeySequence::keyBindings(QKeySequence::FullScreen);
+}
+
 void minimizeWindow(QWidget &window)
 {
     window.showMinimized();
@@ -32,7 +48,7 @@ struct MainMenu::Row
 {
     /// Null for a separator.
     const char *text = nullptr;
-    QKeySequence shortcut = {};
+    QList<QKeySequence> shortcuts = {};
     std::variant<std::monostate, WufferController::Operation, Wuffer::Operation, WindowOperation>
         operation = {};
 };
@@ -55,24 +71,23 @@ const std::vector<MainMenu::Menu> &MainMenu::menus()
 {
     using C = WufferController;
     using W = Wuffer;
-    const auto key = [](const char *keys) { return QKeySequence(QString::fromLatin1(keys)); };
     // The platform's own keys where it has some; Alt and Control with a digit are left free.
     static const std::vector<Menu> menus{
         {QT_TR_NOOP("&File"),
-         {{QT_TR_NOOP("&New Wuffer"), QKeySequence::New, &C::newWuffer},
+         {{QT_TR_NOOP("&New Wuffer"), key(QKeySequence::New), &C::newWuffer},
           {QT_TR_NOOP("Start &All"), key("Ctrl+Shift+S"), &C::startAllWuffers},
           {},
           {QT_TR_NOOP("&Preferences…"), key("Ctrl+,"), &C::showPreferences},
           {},
-          {QT_TR_NOOP("&Close"), QKeySequence::Close, closeWindow},
-          {QT_TR_NOOP("&Quit"), QKeySequence::Quit, &C::quit}}},
+          {QT_TR_NOOP("&Close"), key(QKeySequence::Close), closeWindow},
+          {QT_TR_NOOP("&Quit"), key(QKeySequence::Quit), &C::quit}}},
         {QT_TR_NOOP("&Timer"),
          {{QT_TR_NOOP("Stopwatch"), key("Ctrl+T"), &W::stopwatch},
           {QT_TR_NOOP("Count Down to a &Date…"), key("Ctrl+D"), &W::targetTime},
           {QT_TR_NOOP("&Reset"), key("Ctrl+R"), &W::resetWuffer},
           {},
           {QT_TR_NOOP("&Keep Wuffing"), key("Ctrl+K"), &W::toggleKeepWuffing},
-          {QT_TR_NOOP("&Full Screen"), QKeySequence::FullScreen, &W::startStopFullScreen},
+          {QT_TR_NOOP("&Full Screen"), fullScreenKeys(), &W::startStopFullScreen},
           {QT_TR_NOOP("More Options"), key("Ctrl+O"), &W::showHideAdvanced}}},
         {QT_TR_NOOP("&Window"),
          {{QT_TR_NOOP("&Minimize"), key("Ctrl+M"), minimizeWindow},
@@ -125,7 +140,7 @@ void MainMenu::addItem(QMenu &menu, const Row &row)
         return;
     }
     QAction *action = menu.addAction(tr(row.text));
-    action->setShortcut(row.shortcut);
+    action->setShortcuts(row.shortcuts);
     connect(action, &QAction::triggered, this, [this, &row] { run(row); });
     _items.push_back({action, &row});
 }

@@ -34,6 +34,8 @@ TargetTimeSheet::TargetTimeSheet(QWidget &parent) :
     _ui->_targetDateField->setDisplayFormat(displayFormat());
     _ui->_targetCalendar->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
     _ui->_targetButtons->button(QDialogButtonBox::Ok)->setText(tr("Start"));
+    for (QAbstractButton *button : _ui->_targetButtons->buttons())
+        button->setIcon({});
 
     connect(_ui->_targetCalendar, &QCalendarWidget::selectionChanged, this,
             [this] { _ui->_targetDateField->setDate(_ui->_targetCalendar->selectedDate()); });
