@@ -28,13 +28,17 @@ QList<QKeySequence> key(const char *keys)
 
 QList<QKeySequence> key(QKeySequence::StandardKey keys)
 {
-    return {QKeySequence(keys)};
+    return QKeySequence::keyBindings(keys);
 }
 
-/// F11 is known everywhere; some desktops have keys of their own beside it.
+/// F11 is known everywhere; some desktops have keys of their own instead or beside it.
 QList<QKeySequence> fullScreenKeys()
 {
-    return key("F11") + QKeySequence::keyBindings(QKeySequence::FullScreen);
+    const QKeySequence f11(Qt::Key_F11);
+    QList<QKeySequence> keys = key(QKeySequence::FullScreen);
+    keys.removeAll(f11);
+    keys.prepend(f11);
+    return keys;
 }
 
 void minimizeWindow(QWidget &window)
