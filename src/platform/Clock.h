@@ -46,8 +46,7 @@ private:
 
     /// Timers that fire together. Members are only blanked, and groups kept, while firing, so
     /// that whatever a timer does to the others leaves the walk over them intact.
-    struct Group
-    {
+    struct Group {
         double due;
         double interval;
         std::vector<ClockTimer *> members;
@@ -56,6 +55,7 @@ private:
     void addRepeating(ClockTimer &timer, double interval);
     void addOneShot(ClockTimer &timer, double delay);
     void remove(ClockTimer &timer);
+    [[nodiscard]] static double dueAfter(const Group &group, double moment);
     void fire(Group &group);
     void tidy();
 

@@ -25,9 +25,9 @@ double secondsSinceBoot()
 }
 } // namespace
 
-SystemClock::SystemClock() :
-    _bootMoment(static_cast<double>(QDateTime::currentMSecsSinceEpoch()) / 1000.0 -
-                secondsSinceBoot())
+SystemClock::SystemClock()
+    : _bootMoment(static_cast<double>(QDateTime::currentMSecsSinceEpoch()) / 1000.0 -
+                  secondsSinceBoot())
 {
     _alarm.setSingleShot(true);
     _alarm.setTimerType(Qt::PreciseTimer);
