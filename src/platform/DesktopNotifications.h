@@ -5,8 +5,7 @@
 class QObject;
 
 /// What a desktop notification says. Plain text.
-struct DesktopNotification
-{
+struct DesktopNotification {
     QString title;
     QString text;
     /// What kind of event it tells of, in the program's own words.

@@ -11,10 +11,11 @@
 #include <optional>
 
 /// What has been said to the server, and is still to say, on behalf of one sender.
-struct FreedesktopNotifications::Conversation
-{
+struct FreedesktopNotifications::Conversation {
     /// The server's number for the notification shown last; 0 when there is none.
     uint id = 0;
+    /// The unique name of the server that gave the number. To another one it means nothing.
+    QString server;
     /// True from the first question until the server has numbered the notification.
     bool underWay = false;
     /// The latest that has not been sent. Whatever came before it would only be replaced.
@@ -66,8 +67,7 @@ void whenAnswered(const QDBusMessage &call, QObject &context, Function &&functio
 {
     auto *watcher =
         new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(call), &context);
-    QObject::connect(watcher, &QDBusPendingCallWatcher::finished, watcher,
-                     &QObject::deleteLater);
+    QObject::connect(watcher, &QDBusPendingCallWatcher::finished, watcher, &QObject::deleteLater);
     QObject::connect(watcher, &QDBusPendingCallWatcher::finished, &context,
                      std::forward<Function>(function));
 }
@@ -76,7 +76,7 @@ void whenAnswered(const QDBusMessage &call, QObject &context, Function &&functio
 void FreedesktopNotifications::notify(const QObject &sender,
                                       const DesktopNotification &notification)
 {
-    if (!sessionBusIsPresent())
+    if (!sessionBusIsPresent() || !QDBusConnection::sessionBus().isConnected())
         return;
     std::shared_ptr<Conversation> &conversation = _conversations[&sender];
     if (!conversation) {
@@ -95,7 +95,11 @@ void FreedesktopNotifications::askCapabilities(const std::shared_ptr<Conversatio
     whenAnswered(serverCall(QStringLiteral("GetCapabilities")), *this,
                  [this, conversation](QDBusPendingCallWatcher *call) {
                      const QDBusPendingReply<QStringList> capabilities = *call;
-                     send(conversation, capabilities.isValid() &&
+                     // A server that was restarted counts anew: its number for ours is another's.
+                     if (call->reply().service() != conversation->server)
+                         conversation->id = 0;
+                     send(conversation,
+                          capabilities.isValid() &&
                               capabilities.value().contains(QStringLiteral("body-markup")));
                  });
 }
@@ -108,6 +112,7 @@ void FreedesktopNotifications::send(const std::shared_ptr<Conversation> &convers
     whenAnswered(call, *this, [this, conversation](QDBusPendingCallWatcher *answer) {
         const QDBusPendingReply<uint> id = *answer;
         conversation->id = id.isValid() ? id.value() : 0;
+        conversation->server = answer->reply().service();
         conversation->underWay = false;
         if (conversation->next)
             askCapabilities(conversation);

@@ -12,7 +12,12 @@ class Test : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral(".?"))); }
+    void init()
+    {
+        // What a platform without a screen cannot do is no fault of the program.
+        QTest::failOnWarning(
+            QRegularExpression(QStringLiteral("^(?!This plugin does not support )")));
+    }
 };
 
 /// The main function of a test program: runs the tests of the class in a real application object,
