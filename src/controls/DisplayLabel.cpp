@@ -13,8 +13,8 @@ namespace
 class AccessibleDisplayLabel final : public QAccessibleWidget
 {
 public:
-    explicit AccessibleDisplayLabel(QWidget *label) :
-        QAccessibleWidget(label, QAccessible::StaticText)
+    explicit AccessibleDisplayLabel(QWidget *label)
+        : QAccessibleWidget(label, QAccessible::StaticText)
     {
     }
 
@@ -27,6 +27,15 @@ public:
         return QAccessibleWidget::text(kind);
     }
 };
+
+/// What the text needs, its letters that reach beyond their place included.
+QSizeF neededRoom(const QFontMetricsF &metrics, const QString &text)
+{
+    const double advance = metrics.horizontalAdvance(text);
+    const QRectF ink = metrics.boundingRect(text);
+    const double overhang = std::max({0.0, -ink.left(), ink.right() - advance});
+    return {advance + 2 * overhang, metrics.height()};
+}
 
 QAccessibleInterface *makeAccessible(const QString &className, QObject *object)
 {
@@ -53,7 +62,7 @@ void DisplayLabel::setText(const QString &text)
         return;
     const bool emptinessChanged = text.isEmpty() != _text.isEmpty();
     _text = text;
-    if (emptinessChanged)
+    if (emptinessChanged && _reservedCharacters == 0)
         updateGeometry();
     update();
     if (_announced && QAccessible::isActive()) {
@@ -116,15 +125,13 @@ void DisplayLabel::paintEvent(QPaintEvent *)
     painter.fillRect(rect(), palette().color(QPalette::Base));
     painter.setPen(_textColor);
 
-    const QFontMetricsF metrics(font());
-    const QSizeF textSize(metrics.horizontalAdvance(_text), metrics.height());
-    const qreal scale = fittingScale(textSize, size());
-    if (scale < 1.0) {
-        QFont smaller = font();
-        smaller.setPointSizeF(font().pointSizeF() * scale);
-        painter.setFont(smaller);
-    }
-    painter.drawText(rect(), static_cast<int>(_alignment) | Qt::TextSingleLine, _text);
+    // The painter is scaled and not the font: smaller fonts are not smaller in proportion.
+    const double scale = fittingScale(neededRoom(QFontMetricsF(font()), _text), size());
+    if (scale <= 0)
+        return;
+    painter.scale(scale, scale);
+    painter.drawText(QRectF(QPointF(), QSizeF(size()) / scale),
+                     static_cast<int>(_alignment) | Qt::TextSingleLine | Qt::TextDontClip, _text);
 }
 
 void DisplayLabel::changeEvent(QEvent *event)

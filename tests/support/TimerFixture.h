@@ -4,9 +4,9 @@
 #include "controls/DisplayBox.h"
 #include "controls/DisplayLabel.h"
 #include "controls/WebbyComboBox.h"
-#include "platform/NotificationCenter.h"
 #include "settings/WufferWindow.h"
 #include "support/Find.h"
+#include "support/NoticeCounter.h"
 #include "support/TestServices.h"
 #include "timer/Wuffer.h"
 
@@ -42,10 +42,7 @@ public:
     [[nodiscard]] QString fields() const;
     [[nodiscard]] QColor color() const { return label("_resultLabel").textColor(); }
     [[nodiscard]] QColor elapsedColor() const { return label("_elapsedLabel").textColor(); }
-    [[nodiscard]] bool isFullScreen() const
-    {
-        return box().isInFullScreenMode();
-    }
+    [[nodiscard]] bool isFullScreen() const { return box().isInFullScreenMode(); }
 
     [[nodiscard]] DisplayLabel &label(const char *name) const { return *labels.value(name); }
     [[nodiscard]] DisplayBox &box() const { return displayBox; }
@@ -60,20 +57,4 @@ private:
     // Found while they are in the window, which they leave for the full screen.
     DisplayBox &displayBox = part<DisplayBox>("_displayBox");
     QHash<QByteArray, DisplayLabel *> labels = findLabels();
-};
-
-/// Counts the notices of one name while it lives.
-class NoticeCounter final : public QObject
-{
-public:
-    explicit NoticeCounter(const QString &name)
-    {
-        NotificationCenter::defaultCenter().addObserver(*this, name, [this](QObject *object) {
-            ++count;
-            lastObject = object;
-        });
-    }
-
-    int count = 0;
-    QObject *lastObject = nullptr;
 };
