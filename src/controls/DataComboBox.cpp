@@ -5,7 +5,8 @@ void DataComboBox::addDataObject(const QString &dataObject, const QString &combo
     insertDataObject(dataObject, comboObject, count());
 }
 
-void DataComboBox::insertDataObject(const QString &dataObject, const QString &comboObject, int atIndex)
+void DataComboBox::insertDataObject(const QString &dataObject, const QString &comboObject,
+                                    int atIndex)
 {
     Q_ASSERT(atIndex >= 0 && atIndex <= count());
     const bool hadSelection = currentIndex() >= 0;
