@@ -195,7 +195,7 @@ void tst_Drawer::aDrawerThatTurnsRoundEndsWhereItIsSentLast()
     f.drawer.toggle();
     f.drawer.toggle();
     QTRY_COMPARE(f.drawer.state(), State::Open);
-    QCOMPARE(f.heightGained(), kContentHeight + f.layout.spacing());
+    QTRY_COMPARE(f.heightGained(), kContentHeight + f.layout.spacing());
 }
 
 void tst_Drawer::theRoomGrowsWhileItOpens()
@@ -219,11 +219,11 @@ void tst_Drawer::anOpenDrawerTakesTheRoomOfItsContent()
     Fixture f(kAtOnce);
 
     f.drawer.toggle();
-    QCOMPARE(f.heightGained(), kContentHeight + f.layout.spacing());
+    QTRY_COMPARE(f.heightGained(), kContentHeight + f.layout.spacing());
     QCOMPARE(f.content->geometry(), QRect(0, 0, f.drawer.width(), kContentHeight));
 
     f.drawer.toggle();
-    QCOMPARE(f.heightGained(), 0);
+    QTRY_COMPARE(f.heightGained(), 0);
 }
 
 void tst_Drawer::contentAddedLaterIsShownInFull()
@@ -231,11 +231,11 @@ void tst_Drawer::contentAddedLaterIsShownInFull()
     Fixture f(kAtOnce, false);
     f.drawer.toggle();
     QCOMPARE(f.drawer.state(), State::Open);
-    QCOMPARE(f.drawer.sizeHint().height(), -1);
+    QVERIFY(f.heightGained() <= f.layout.spacing());
 
     f.addContent();
 
-    QCOMPARE(f.heightGained(), kContentHeight + f.layout.spacing());
+    QTRY_COMPARE(f.heightGained(), kContentHeight + f.layout.spacing());
     QCOMPARE(f.content->geometry(), QRect(0, 0, f.drawer.width(), kContentHeight));
 }
 
@@ -243,10 +243,11 @@ void tst_Drawer::contentThatGrowsGetsItsRoom()
 {
     Fixture f(kAtOnce);
     f.drawer.toggle();
+    QTRY_COMPARE(f.heightGained(), kContentHeight + f.layout.spacing());
 
     f.content->askForHeight(kContentHeight + 30);
 
-    QCOMPARE(f.heightGained(), kContentHeight + 30 + f.layout.spacing());
+    QTRY_COMPARE(f.heightGained(), kContentHeight + 30 + f.layout.spacing());
     QCOMPARE(f.content->height(), kContentHeight + 30);
 }
 

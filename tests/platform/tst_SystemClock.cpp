@@ -46,7 +46,7 @@ void tst_SystemClock::theTimeComesInStepsOfAPowerOfTwo()
     const SystemClock clock;
     for (int i = 0; i < 1000; ++i) {
         const double steps = clock.now() * 0x1p20;
-        QCOMPARE(steps, std::floor(steps));
+        QVERIFY(steps == std::floor(steps));
     }
 }
 

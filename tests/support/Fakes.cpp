@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-FakeSound::FakeSound(FakeSoundSystem &system, QString name, double duration) :
-    _system(system), _name(std::move(name)), _duration(duration)
+FakeSound::FakeSound(FakeSoundSystem &system, QString name, double duration)
+    : _system(system), _name(std::move(name)), _duration(duration)
 {
     _system._sounds.push_back(this);
     _system._diary << QStringLiteral("make ") + _name;

@@ -75,8 +75,7 @@ private:
 class FakeNotifications final : public DesktopNotifications
 {
 public:
-    struct Shown
-    {
+    struct Shown {
         const QObject *sender;
         DesktopNotification notification;
     };

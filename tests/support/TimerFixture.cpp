@@ -61,8 +61,8 @@ void TimerFixture::set(const char *key, const QVariant &value)
 QString TimerFixture::fields() const
 {
     return part<QLineEdit>("_hoursField").text() + QLatin1Char(' ') +
-        part<QLineEdit>("_minutesField").text() + QLatin1Char(' ') +
-        part<QLineEdit>("_secondsField").text();
+           part<QLineEdit>("_minutesField").text() + QLatin1Char(' ') +
+           part<QLineEdit>("_secondsField").text();
 }
 
 QHash<QByteArray, DisplayLabel *> TimerFixture::findLabels() const
