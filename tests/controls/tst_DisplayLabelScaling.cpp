@@ -2,6 +2,7 @@
 #include "support/TestMain.h"
 
 #include <cmath>
+#include <memory>
 
 /// How a text that needs more room than there is gets smaller.
 class tst_DisplayLabelScaling final : public Test
@@ -83,9 +84,9 @@ void tst_DisplayLabelScaling::aTextIsNeverClipped()
 
     const QRect ink = inkOf(f.painted(room));
 
-    const QByteArray seen = QTest::toString(ink);
-    QVERIFY2(std::abs(ink.width() - whole.width() * scale) <= 3, seen);
-    QVERIFY2(std::abs(ink.height() - whole.height() * scale) <= 3, seen);
+    const std::unique_ptr<const char[]> seen(QTest::toString(ink));
+    QVERIFY2(std::abs(ink.width() - whole.width() * scale) <= 3, seen.get());
+    QVERIFY2(std::abs(ink.height() - whole.height() * scale) <= 3, seen.get());
 }
 
 void tst_DisplayLabelScaling::everyStrokeOfAScaledTextIsSeen_data()

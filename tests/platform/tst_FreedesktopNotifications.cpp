@@ -222,15 +222,13 @@ void tst_FreedesktopNotifications::aMissingServerIsNoMatterAndIsFoundWhenItAppea
     FreedesktopNotifications notifications;
     const QObject sender;
     notifications.notify(sender, saying(QStringLiteral("unheard")));
-    // The bus answers that there is nobody.
+    // Time for the bus to answer that there is nobody; if it takes longer, the first is heard too.
     QTest::qWait(50);
 
     const NotificationServer &server = serve();
     notifications.notify(sender, saying(QStringLiteral("heard")));
 
-    QTRY_COMPARE(server.shown.size(), 1U);
-    QCOMPARE(server.shown.front().text, QStringLiteral("heard"));
-    QCOMPARE(server.shown.front().replacedId, 0U);
+    QTRY_VERIFY(!server.shown.empty() && server.shown.back().text == QStringLiteral("heard"));
 }
 
 void tst_FreedesktopNotifications::aServerThatNeverAnswersBlocksNothing()
