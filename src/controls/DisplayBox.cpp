@@ -5,6 +5,8 @@
 #include <QScreen>
 #include <QVBoxLayout>
 
+#include <utility>
+
 namespace
 {
 constexpr QColor kPanelColor(0xFB, 0xFA, 0xF5);
@@ -20,6 +22,25 @@ QPalette panelPalette()
     palette.setColor(QPalette::WindowText, Qt::black);
     palette.setColor(QPalette::PlaceholderText, QColor(0x6B, 0x67, 0x5C));
     return palette;
+}
+
+/// The widgets that the tab key walks through, from the beginning.
+QList<QPointer<QWidget>> tabOrder(const QWidget &window)
+{
+    QList<QPointer<QWidget>> order;
+    for (QWidget *next = window.nextInFocusChain(); next != &window;
+         next = next->nextInFocusChain()) {
+        if (next->focusPolicy() & Qt::TabFocus)
+            order.append(next);
+    }
+    return order;
+}
+
+void setTabOrder(QList<QPointer<QWidget>> order)
+{
+    order.removeIf([](const QPointer<QWidget> &each) { return each.isNull(); });
+    for (qsizetype i = 1; i < order.size(); ++i)
+        QWidget::setTabOrder(order.at(i - 1), order.at(i));
 }
 } // namespace
 
@@ -40,8 +61,9 @@ public:
 protected:
     void closeEvent(QCloseEvent *event) override
     {
-        event->ignore();
         Q_EMIT _box.fullScreenCloseRequested();
+        // Closing must not take the box along; once that is home again nothing speaks against it.
+        event->setAccepted(!_box.isInFullScreenMode());
     }
 
 private:
@@ -55,18 +77,22 @@ DisplayBox::DisplayBox(QWidget *parent) : QFrame(parent)
 
 DisplayBox::~DisplayBox()
 {
+    if (!isInFullScreenMode())
+        return;
     // Away from home the window around the box is its parent, which must not take it along.
-    if (isInFullScreenMode())
-        setParent(nullptr);
+    setParent(nullptr);
+    destroyPlaceholder();
 }
 
 void DisplayBox::enterFullScreenMode(QScreen &screen)
 {
     Q_ASSERT(!isInFullScreenMode());
+    _tabOrder = tabOrder(*window());
     QLayout *home = parentWidget()->layout();
-    _placeholder = std::make_unique<QWidget>(parentWidget());
+    _placeholder = new QWidget(parentWidget());
     _placeholder->setFixedSize(size());
-    const std::unique_ptr<QLayoutItem> oldItem(home->replaceWidget(this, _placeholder.get()));
+    connect(_placeholder, &QObject::destroyed, this, &QObject::deleteLater);
+    const std::unique_ptr<QLayoutItem> oldItem(home->replaceWidget(this, _placeholder));
 
     _fullScreenWindow = std::make_unique<FullScreenWindow>(*this);
     _fullScreenWindow->setGeometry(screen.geometry());
@@ -79,12 +105,20 @@ void DisplayBox::exitFullScreenModeWithOptions()
 {
     Q_ASSERT(isInFullScreenMode());
     QLayout *home = _placeholder->parentWidget()->layout();
-    const std::unique_ptr<QLayoutItem> oldItem(home->replaceWidget(_placeholder.get(), this));
-    _placeholder.reset();
+    const std::unique_ptr<QLayoutItem> oldItem(home->replaceWidget(_placeholder, this));
+    destroyPlaceholder();
+    ::setTabOrder(std::exchange(_tabOrder, {}));
     show();
     // Its destruction may be asked for by one of its own events.
     _fullScreenWindow->hide();
     _fullScreenWindow.release()->deleteLater();
+}
+
+void DisplayBox::destroyPlaceholder()
+{
+    const std::unique_ptr<QWidget> placeholder(_placeholder);
+    if (placeholder)
+        disconnect(placeholder.get(), nullptr, this, nullptr);
 }
 
 void DisplayBox::paintEvent(QPaintEvent *)

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QFrame>
+#include <QList>
+#include <QPointer>
 
 #include <memory>
 
@@ -17,7 +19,8 @@ public:
     explicit DisplayBox(QWidget *parent = nullptr);
     ~DisplayBox() override;
 
-    /// Fills the screen. The box must be in a layout, and not in full-screen mode.
+    /// Fills the screen. The box must be in a layout, and not in full-screen mode. If the window
+    /// that it has left is destroyed meanwhile, the box goes too.
     void enterFullScreenMode(QScreen &screen);
 
     /// Comes back. The box must be in full-screen mode.
@@ -35,7 +38,11 @@ protected:
 private:
     class FullScreenWindow;
 
+    void destroyPlaceholder();
+
     std::unique_ptr<FullScreenWindow> _fullScreenWindow;
-    /// Keeps the box's place in its window while it is away.
-    std::unique_ptr<QWidget> _placeholder;
+    /// Keeps the box's place in its window, to which it belongs, while the box is away.
+    QPointer<QWidget> _placeholder;
+    /// The order in which the tab key walked through its window before the box left it.
+    QList<QPointer<QWidget>> _tabOrder;
 };

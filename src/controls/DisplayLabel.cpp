@@ -36,6 +36,15 @@ bool isAsWideAs(QStringView text, QStringView other)
            std::ranges::all_of(other, isPlain);
 }
 
+/// What the text needs, its letters that reach beyond their place included.
+QSizeF neededRoom(const QFontMetricsF &metrics, const QString &text)
+{
+    const double advance = metrics.horizontalAdvance(text);
+    const QRectF ink = metrics.boundingRect(text);
+    const double overhang = std::max({0.0, -ink.left(), ink.right() - advance});
+    return {advance + 2 * overhang, metrics.height()};
+}
+
 QAccessibleInterface *makeAccessible(const QString &className, QObject *object)
 {
     if (className == QLatin1String("DisplayLabel"))
@@ -60,10 +69,10 @@ void DisplayLabel::setText(const QString &text)
     if (text == _text)
         return;
     const bool emptinessChanged = text.isEmpty() != _text.isEmpty();
-    if (!isAsWideAs(text, _text))
+    if (_scale != 1.0 || !isAsWideAs(text, _text))
         _scale.reset();
     _text = text;
-    if (emptinessChanged)
+    if (emptinessChanged && _reservedCharacters == 0)
         updateGeometry();
     update();
     if (_announced && QAccessible::isActive()) {
@@ -126,20 +135,19 @@ void DisplayLabel::paintEvent(QPaintEvent *)
     painter.fillRect(rect(), palette().color(QPalette::Base));
     painter.setPen(_textColor);
 
-    if (const qreal factor = scale(); factor < 1.0) {
-        QFont smaller = font();
-        smaller.setPointSizeF(font().pointSizeF() * factor);
-        painter.setFont(smaller);
-    }
-    painter.drawText(rect(), static_cast<int>(_alignment) | Qt::TextSingleLine, _text);
+    // The painter is scaled and not the font: smaller fonts are not smaller in proportion.
+    const double factor = scale();
+    if (factor <= 0)
+        return;
+    painter.scale(factor, factor);
+    painter.drawText(QRectF(QPointF(), QSizeF(size()) / factor),
+                     static_cast<int>(_alignment) | Qt::TextSingleLine | Qt::TextDontClip, _text);
 }
 
-qreal DisplayLabel::scale()
+double DisplayLabel::scale()
 {
-    if (!_scale) {
-        const QFontMetricsF metrics(font());
-        _scale = fittingScale({metrics.horizontalAdvance(_text), metrics.height()}, size());
-    }
+    if (!_scale)
+        _scale = fittingScale(neededRoom(QFontMetricsF(font()), _text), size());
     return *_scale;
 }
 

@@ -58,11 +58,11 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private:
-    [[nodiscard]] qreal scale();
+    [[nodiscard]] double scale();
 
     QString _text;
     /// What scale() found for the text, until something changes that it depends on.
-    std::optional<qreal> _scale;
+    std::optional<double> _scale;
     QColor _textColor = Qt::black;
     Qt::Alignment _alignment = Qt::AlignCenter;
     int _reservedCharacters = 0;

@@ -64,8 +64,8 @@ void Drawer::slide(State state, QVariantAnimation::Direction direction)
     // The time left of a slide under way is kept when it turns round.
     _slide.setDuration(style()->styleHint(QStyle::SH_Widget_Animation_Duration, nullptr, this));
     _slide.setDirection(direction);
-    setState(state);
     show();
+    setState(state);
     if (_slide.state() != QVariantAnimation::Running)
         _slide.start();
 }
@@ -80,8 +80,8 @@ void Drawer::finishSlide()
 {
     const bool opened = _slide.direction() == QVariantAnimation::Forward;
     setVisible(opened);
-    setState(opened ? State::Open : State::Closed);
     updateGeometry();
+    setState(opened ? State::Open : State::Closed);
 }
 
 void Drawer::placeContent()

@@ -36,18 +36,26 @@ void Clock::fireDueTimers()
     }
     std::ranges::stable_sort(dueGroups, {}, &Group::due);
 
-    for (Group *group : dueGroups) {
-        // A tick that was missed is not made up for: the next one is the first still to come.
-        group->due = group->interval == kOnce
-                         ? std::numeric_limits<double>::infinity()
-                         : group->due + (std::floor((moment - group->due) / group->interval) + 1) *
-                                            group->interval;
-    }
     ++_firing;
-    for (Group *group : dueGroups)
+    for (Group *group : dueGroups) {
+        // An event loop inside an action has given the others their turn.
+        if (group->due > moment)
+            continue;
+        group->due = dueAfter(*group, moment);
+        nextDueChanged();
         fire(*group);
+    }
     --_firing;
     tidy();
+}
+
+double Clock::dueAfter(const Group &group, double moment)
+{
+    if (group.interval == kOnce)
+        return std::numeric_limits<double>::infinity();
+    // A tick that was missed is not made up for: the next one is the first still to come.
+    const double ticks = std::floor((moment - group.due) / group.interval) + 1;
+    return group.due + ticks * group.interval;
 }
 
 void Clock::fire(Group &group)

@@ -56,6 +56,7 @@ private:
     void addRepeating(ClockTimer &timer, double interval);
     void addOneShot(ClockTimer &timer, double delay);
     void remove(ClockTimer &timer);
+    [[nodiscard]] static double dueAfter(const Group &group, double moment);
     void fire(Group &group);
     void tidy();
 

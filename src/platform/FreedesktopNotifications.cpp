@@ -15,6 +15,8 @@ struct FreedesktopNotifications::Conversation
 {
     /// The server's number for the notification shown last; 0 when there is none.
     uint id = 0;
+    /// The unique name of the server that gave the number. To another one it means nothing.
+    QString server;
     /// True from the first question until the server has numbered the notification.
     bool underWay = false;
     /// The latest that has not been sent. Whatever came before it would only be replaced.
@@ -75,7 +77,7 @@ void whenAnswered(const QDBusMessage &call, QObject &context, Function &&functio
 void FreedesktopNotifications::notify(const QObject &sender,
                                       const DesktopNotification &notification)
 {
-    if (!sessionBusIsPresent())
+    if (!sessionBusIsPresent() || !QDBusConnection::sessionBus().isConnected())
         return;
     std::shared_ptr<Conversation> &conversation = _conversations[&sender];
     if (!conversation) {
@@ -94,6 +96,9 @@ void FreedesktopNotifications::askCapabilities(const std::shared_ptr<Conversatio
     whenAnswered(serverCall(QStringLiteral("GetCapabilities")), *this,
                  [this, conversation](QDBusPendingCallWatcher *call) {
                      const QDBusPendingReply<QStringList> capabilities = *call;
+                     // A server that was restarted counts anew: its number for ours is another's.
+                     if (call->reply().service() != conversation->server)
+                         conversation->id = 0;
                      send(conversation,
                           capabilities.isValid() &&
                               capabilities.value().contains(QStringLiteral("body-markup")));
@@ -108,6 +113,7 @@ void FreedesktopNotifications::send(const std::shared_ptr<Conversation> &convers
     whenAnswered(call, *this, [this, conversation](QDBusPendingCallWatcher *answer) {
         const QDBusPendingReply<uint> id = *answer;
         conversation->id = id.isValid() ? id.value() : 0;
+        conversation->server = answer->reply().service();
         conversation->underWay = false;
         if (conversation->next)
             askCapabilities(conversation);

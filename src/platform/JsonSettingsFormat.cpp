@@ -19,21 +19,6 @@ std::optional<QJsonObject> objectFrom(QIODevice &device)
     return document.object();
 }
 
-bool read(QIODevice &device, QSettings::SettingsMap &map)
-{
-    const std::optional<QJsonObject> object = objectFrom(device);
-    if (!object)
-        return false;
-    map = object->toVariantMap();
-    return true;
-}
-
-bool write(QIODevice &device, const QSettings::SettingsMap &map)
-{
-    const QByteArray text = QJsonDocument(QJsonObject::fromVariantMap(map)).toJson();
-    return device.write(text) == text.size();
-}
-
 QString freeNameBeside(const QString &path)
 {
     const QString name = path + QStringLiteral(".unreadable");
@@ -42,6 +27,24 @@ QString freeNameBeside(const QString &path)
         candidate = name + QStringLiteral(".%1").arg(number);
     return candidate;
 }
+
+bool read(QIODevice &device, QSettings::SettingsMap &map)
+{
+    const std::optional<QJsonObject> object = objectFrom(device);
+    if (object) {
+        map = object->toVariantMap();
+        return true;
+    }
+    // Done here, because the file is read again whenever somebody else has changed it.
+    const auto *file = qobject_cast<const QFile *>(&device);
+    return file && QFile::rename(file->fileName(), freeNameBeside(file->fileName()));
+}
+
+bool write(QIODevice &device, const QSettings::SettingsMap &map)
+{
+    const QByteArray text = QJsonDocument(QJsonObject::fromVariantMap(map)).toJson();
+    return device.write(text) == text.size();
+}
 } // namespace
 
 QSettings::Format JsonSettingsFormat::format()
@@ -49,15 +52,4 @@ QSettings::Format JsonSettingsFormat::format()
     static const QSettings::Format format =
         QSettings::registerFormat(QStringLiteral("json"), read, write, Qt::CaseSensitive);
     return format;
-}
-
-void JsonSettingsFormat::setAsideUnreadable(const QString &path)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return;
-    const bool readable = objectFrom(file).has_value();
-    file.close();
-    if (!readable)
-        QFile::rename(path, freeNameBeside(path));
 }

@@ -6,10 +6,9 @@
 namespace JsonSettingsFormat
 {
 /// The format to construct a QSettings with; registered at the first call.
+///
+/// A file that is there but holds no JSON object is renamed to "<path>.unreadable" (with a number
+/// when that exists too) before it would be overwritten, so that somebody may still mend it by
+/// hand. An empty file is no settings.
 [[nodiscard]] QSettings::Format format();
-
-/// Renames a file that is there but holds no JSON object to "<path>.unreadable" (with a number
-/// when that exists too), so that writing the settings cannot destroy what somebody may still
-/// want to mend by hand. An empty or missing file stays as it is.
-void setAsideUnreadable(const QString &path);
 } // namespace JsonSettingsFormat

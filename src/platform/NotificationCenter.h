@@ -5,6 +5,7 @@
 #include <QString>
 
 #include <functional>
+#include <memory>
 #include <vector>
 
 /// Carries named notices from those who post them to those who asked for them.
@@ -31,7 +32,8 @@ public:
     void removeObserver(const QObject &observer, const QString &name);
 
     /// Delivers the notice. Observers that register during the delivery do not get this one;
-    /// those that go away during it are left out.
+    /// those that are destroyed or removed during it are left out. Once the object is destroyed
+    /// during it, the rest get null.
     void postNotificationName(const QString &name, QObject *object = nullptr);
 
 private:
@@ -42,5 +44,6 @@ private:
         Handler handler;
     };
 
-    std::vector<Registration> _registrations;
+    // Shared with the deliveries under way, which they outlive.
+    std::vector<std::shared_ptr<Registration>> _registrations;
 };

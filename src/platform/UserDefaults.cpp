@@ -3,6 +3,7 @@
 #include "platform/JsonSettingsFormat.h"
 #include "platform/Service.h"
 
+#include <QJsonValue>
 #include <QStandardPaths>
 
 #include <algorithm>
@@ -17,7 +18,6 @@ std::optional<double> numberFrom(const QVariant &value)
     case QMetaType::Bool:
     case QMetaType::Int:
     case QMetaType::LongLong:
-    case QMetaType::Float:
     case QMetaType::Double:
         return value.toDouble();
     default:
@@ -31,7 +31,6 @@ UserDefaults::UserDefaults(const QString &path)
 #ifdef Q_OS_MACOS
     const QSettings::Format format = QSettings::NativeFormat;
 #else
-    JsonSettingsFormat::setAsideUnreadable(path);
     const QSettings::Format format = JsonSettingsFormat::format();
 #endif
     _settings = std::make_unique<QSettings>(path, format);
@@ -72,7 +71,7 @@ int UserDefaults::integerForKey(const QString &key) const
 
 bool UserDefaults::boolForKey(const QString &key) const
 {
-    return integerForKey(key) != 0;
+    return numberFrom(_settings->value(key)).value_or(0.0) != 0.0;
 }
 
 float UserDefaults::floatForKey(const QString &key) const
@@ -91,8 +90,6 @@ QVariantMap UserDefaults::dictionaryForKey(const QString &key) const
 QStringList UserDefaults::stringArrayForKey(const QString &key) const
 {
     const QVariant value = _settings->value(key);
-    if (value.typeId() == QMetaType::QStringList)
-        return value.toStringList();
     QStringList texts;
     if (value.typeId() != QMetaType::QVariantList)
         return texts;
@@ -105,7 +102,8 @@ QStringList UserDefaults::stringArrayForKey(const QString &key) const
 
 void UserDefaults::setObject(const QVariant &value, const QString &key)
 {
-    _settings->setValue(key, value);
+    // So that it reads now as it will read from the file.
+    _settings->setValue(key, QJsonValue::fromVariant(value).toVariant());
 }
 
 void UserDefaults::removeObjectForKey(const QString &key)

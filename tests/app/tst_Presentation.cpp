@@ -42,6 +42,7 @@ private Q_SLOTS:
     void theMenuTogglesFullScreen();
     void leavingWithoutFullScreenChangesNothing();
     void closingTheFullScreenWindowOnlyEndsTheMode();
+    void theProgramCanBeQuitFromTheFullScreen();
     void theDisplayGoesOnWhileOnTheFullScreen();
     void theDrawerButtonFollowsTheDrawer();
     void aClosingDrawerReopensUnderItsOldTitle();
@@ -158,6 +159,18 @@ void tst_Presentation::closingTheFullScreenWindowOnlyEndsTheMode()
     QVERIFY(!t.isFullScreen());
     QVERIFY(t.timer.isRunning());
     QVERIFY(t.timer.window()->isVisible());
+}
+
+void tst_Presentation::theProgramCanBeQuitFromTheFullScreen()
+{
+    TimerFixture t;
+    t.timer.showWufferWindow();
+    t.startCountdown(60);
+    t.timer.setFullScreenMode(true);
+    QApplication::closeAllWindows();
+    QVERIFY(WufferApplication::getWuffers().empty());
+    for (const QWidget *window : QApplication::topLevelWidgets())
+        QVERIFY(!window->isVisible());
 }
 
 void tst_Presentation::theDisplayGoesOnWhileOnTheFullScreen()

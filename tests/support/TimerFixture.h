@@ -4,9 +4,9 @@
 #include "controls/DisplayBox.h"
 #include "controls/DisplayLabel.h"
 #include "controls/WebbyComboBox.h"
-#include "platform/NotificationCenter.h"
 #include "settings/WufferWindow.h"
 #include "support/Find.h"
+#include "support/NoticeCounter.h"
 #include "support/TestServices.h"
 #include "timer/Wuffer.h"
 
@@ -57,20 +57,4 @@ private:
     // Found while they are in the window, which they leave for the full screen.
     DisplayBox &displayBox = part<DisplayBox>("_displayBox");
     QHash<QByteArray, DisplayLabel *> labels = findLabels();
-};
-
-/// Counts the notices of one name while it lives.
-class NoticeCounter final : public QObject
-{
-public:
-    explicit NoticeCounter(const QString &name)
-    {
-        NotificationCenter::defaultCenter().addObserver(*this, name, [this](QObject *object) {
-            ++count;
-            lastObject = object;
-        });
-    }
-
-    int count = 0;
-    QObject *lastObject = nullptr;
 };

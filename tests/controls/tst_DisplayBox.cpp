@@ -1,0 +1,260 @@
+#include "controls/DisplayBox.h"
+#include "support/TestMain.h"
+
+#include <QLineEdit>
+#include <QPointer>
+#include <QPushButton>
+#include <QScreen>
+#include <QSignalSpy>
+#include <QVBoxLayout>
+
+namespace
+{
+/// A window with a field, a box with a field in it, and a button, from above.
+struct Fixture
+{
+    Fixture()
+    {
+        layout = new QVBoxLayout(window.get());
+        layout->addWidget(first);
+        layout->addWidget(box, 2, Qt::AlignRight);
+        layout->addWidget(last, 1);
+        inside = new QLineEdit(box);
+        (new QVBoxLayout(box))->addWidget(inside);
+        QWidget::setTabOrder(first, inside);
+        QWidget::setTabOrder(inside, last);
+        window->setWindowTitle(QStringLiteral("Tea"));
+        window->resize(400, 300);
+        window->show();
+    }
+
+    void enter() { box->enterFullScreenMode(*window->screen()); }
+    void leave() { box->exitFullScreenModeWithOptions(); }
+
+    /// The widgets that the tab key walks through, from this one.
+    [[nodiscard]] static QList<QWidget *> tabOrderFrom(QWidget *start)
+    {
+        QList<QWidget *> order{start};
+        for (QWidget *next = start->nextInFocusChain(); next != start;
+             next = next->nextInFocusChain()) {
+            if (next->focusPolicy() & Qt::TabFocus)
+                order << next;
+        }
+        return order;
+    }
+
+    std::unique_ptr<QWidget> window = std::make_unique<QWidget>();
+    QLineEdit *first = new QLineEdit(window.get());
+    QPointer<DisplayBox> box = new DisplayBox(window.get());
+    QPushButton *last = new QPushButton(window.get());
+    QVBoxLayout *layout = nullptr;
+    QLineEdit *inside = nullptr;
+};
+
+/// The visible windows of the program.
+QList<QWidget *> visibleWindows()
+{
+    QList<QWidget *> windows = QApplication::topLevelWidgets();
+    windows.removeIf([](const QWidget *each) { return !each->isVisible(); });
+    return windows;
+}
+} // namespace
+
+class tst_DisplayBox final : public Test
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup();
+    void itFillsTheScreen();
+    void theWindowKeepsItsSizeMeanwhile();
+    void itComesBackIntoExactlyItsOldPlace();
+    void itComesBackIntoAnInnerLayout();
+    void itComesBackInTheSameTabOrder();
+    void itCanGoAndComeManyTimes();
+    void theBoxGrowsWithAWindowThatGrewMeanwhile();
+    void aRequestToCloseIsReportedAndRefusedWhileTheBoxIsThere();
+    void aBoxDestroyedOnTheFullScreenLeavesNothingBehind();
+    void aWindowDestroyedMeanwhileTakesTheBoxAlong();
+    void theColoursAreItsOwn();
+};
+
+void tst_DisplayBox::cleanup()
+{
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QCOMPARE(visibleWindows(), QList<QWidget *>());
+}
+
+void tst_DisplayBox::itFillsTheScreen()
+{
+    Fixture f;
+    QVERIFY(!f.box->isInFullScreenMode());
+
+    f.enter();
+    QCoreApplication::processEvents();
+
+    QVERIFY(f.box->isInFullScreenMode());
+    QVERIFY(f.box->isVisible());
+    QVERIFY(f.box->window() != f.window.get());
+    QVERIFY(f.box->window()->windowFlags() & Qt::FramelessWindowHint);
+    QCOMPARE(f.box->window()->windowTitle(), QStringLiteral("Tea"));
+    QCOMPARE(f.box->window()->geometry(), f.window->screen()->geometry());
+    QCOMPARE(f.box->size(), f.window->screen()->size());
+}
+
+void tst_DisplayBox::theWindowKeepsItsSizeMeanwhile()
+{
+    Fixture f;
+    const QSize hint = f.window->sizeHint();
+    const QRect firstPlace = f.first->geometry();
+    const QRect lastPlace = f.last->geometry();
+
+    f.enter();
+    QCoreApplication::processEvents();
+
+    QCOMPARE(f.window->size(), QSize(400, 300));
+    QVERIFY(f.window->sizeHint().height() >= hint.height());
+    QCOMPARE(f.first->geometry(), firstPlace);
+    QCOMPARE(f.last->geometry(), lastPlace);
+}
+
+void tst_DisplayBox::itComesBackIntoExactlyItsOldPlace()
+{
+    Fixture f;
+    const QRect place = f.box->geometry();
+    f.enter();
+    QCoreApplication::processEvents();
+
+    f.leave();
+    QCoreApplication::processEvents();
+
+    QVERIFY(!f.box->isInFullScreenMode());
+    QVERIFY(f.box->isVisible());
+    QCOMPARE(f.box->parentWidget(), f.window.get());
+    QCOMPARE(f.layout->indexOf(f.box), 1);
+    QCOMPARE(f.layout->count(), 3);
+    QCOMPARE(f.layout->stretch(1), 2);
+    QCOMPARE(f.layout->itemAt(1)->alignment(), Qt::AlignRight);
+    QCOMPARE(f.box->geometry(), place);
+    QCOMPARE(f.window->children().size(), 4);
+}
+
+void tst_DisplayBox::itComesBackIntoAnInnerLayout()
+{
+    Fixture f;
+    auto *inner = new QGridLayout;
+    f.layout->insertLayout(1, inner);
+    inner->addWidget(f.box, 1, 2);
+    QCoreApplication::processEvents();
+    const QRect place = f.box->geometry();
+
+    f.enter();
+    f.leave();
+    QCoreApplication::processEvents();
+
+    QCOMPARE(inner->itemAtPosition(1, 2)->widget(), f.box.data());
+    QCOMPARE(f.box->geometry(), place);
+}
+
+void tst_DisplayBox::itComesBackInTheSameTabOrder()
+{
+    Fixture f;
+    const QList<QWidget *> order{f.first, f.inside, f.last};
+    QCOMPARE(Fixture::tabOrderFrom(f.first), order);
+
+    f.enter();
+    QCoreApplication::processEvents();
+    f.leave();
+
+    QCOMPARE(Fixture::tabOrderFrom(f.first), order);
+}
+
+void tst_DisplayBox::itCanGoAndComeManyTimes()
+{
+    Fixture f;
+    const QRect place = f.box->geometry();
+    for (int i = 0; i < 20; ++i) {
+        f.enter();
+        f.leave();
+    }
+    QCoreApplication::processEvents();
+
+    QCOMPARE(f.box->geometry(), place);
+    QCOMPARE(visibleWindows(), QList<QWidget *>{f.window.get()});
+}
+
+void tst_DisplayBox::theBoxGrowsWithAWindowThatGrewMeanwhile()
+{
+    Fixture f;
+    f.enter();
+    f.window->resize(600, 500);
+    QCoreApplication::processEvents();
+
+    f.leave();
+    QCoreApplication::processEvents();
+    const QRect place = f.box->geometry();
+
+    Fixture other;
+    other.window->resize(600, 500);
+    QCoreApplication::processEvents();
+    QCOMPARE(place, other.box->geometry());
+}
+
+void tst_DisplayBox::aRequestToCloseIsReportedAndRefusedWhileTheBoxIsThere()
+{
+    Fixture f;
+    f.enter();
+    const QSignalSpy requests(f.box, &DisplayBox::fullScreenCloseRequested);
+
+    QVERIFY(!f.box->window()->close());
+
+    QCOMPARE(requests.count(), 1);
+    QVERIFY(f.box->window()->isVisible());
+    QVERIFY(f.box->isInFullScreenMode());
+    // The answer may be to come back at once, and then the window may close.
+    connect(f.box, &DisplayBox::fullScreenCloseRequested, this, [&] { f.leave(); });
+    QVERIFY(f.box->window()->close());
+    QCOMPARE(f.box->window(), f.window.get());
+}
+
+void tst_DisplayBox::aBoxDestroyedOnTheFullScreenLeavesNothingBehind()
+{
+    Fixture f;
+    f.enter();
+
+    std::unique_ptr<DisplayBox>(f.box).reset();
+
+    QCOMPARE(visibleWindows(), QList<QWidget *>{f.window.get()});
+    QCOMPARE(f.layout->count(), 2);
+    QCOMPARE(f.window->children().size(), 3);
+}
+
+void tst_DisplayBox::aWindowDestroyedMeanwhileTakesTheBoxAlong()
+{
+    Fixture f;
+    f.enter();
+
+    f.window.reset();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+
+    QVERIFY(f.box.isNull());
+    QCOMPARE(visibleWindows(), QList<QWidget *>());
+}
+
+void tst_DisplayBox::theColoursAreItsOwn()
+{
+    QPalette dark;
+    dark.setColor(QPalette::Base, Qt::black);
+    dark.setColor(QPalette::Text, Qt::white);
+    Fixture f;
+    f.window->setPalette(dark);
+
+    QVERIFY(f.box->palette().color(QPalette::Base).lightness() > 230);
+    QVERIFY(f.box->palette().color(QPalette::Text).lightness() < 30);
+    QCOMPARE(f.inside->palette().color(QPalette::Text), f.box->palette().color(QPalette::Text));
+    const QColor middle = f.box->grab().toImage().pixelColor(f.box->rect().center());
+    QVERIFY(middle.lightness() > 230);
+}
+
+WUFFER_TEST_MAIN(tst_DisplayBox)
+#include "tst_DisplayBox.moc"

@@ -1,0 +1,297 @@
+#include "platform/FreedesktopNotifications.h"
+#include "support/NotificationServer.h"
+#include "support/SessionBus.h"
+#include "support/TestMain.h"
+
+#include <QElapsedTimer>
+#include <QTemporaryDir>
+
+#include <optional>
+
+namespace
+{
+const QString kMarkup = QStringLiteral("body-markup");
+
+DesktopNotification saying(const QString &text)
+{
+    return {QStringLiteral("Tea"), text, QStringLiteral("wuff")};
+}
+} // namespace
+
+/// Runs on a session bus of its own, where the test is the notification server.
+class tst_FreedesktopNotifications final : public Test
+{
+    Q_OBJECT
+
+public:
+    explicit tst_FreedesktopNotifications(QString address) : _address(std::move(address)) {}
+
+private Q_SLOTS:
+    void theServerIsToldWhatToShow();
+    void theHintsSayWhoAndWhat();
+    void theTextIsEscapedForServersThatReadMarkup_data();
+    void theTextIsEscapedForServersThatReadMarkup();
+    void theNextReplacesTheLastOfTheSameSender();
+    void twoSendersDoNotReplaceEachOther();
+    void aSenderAtTheAddressOfADestroyedOneBeginsAnew();
+    void ofSeveralQuickOnesTheFirstAndTheLatestAreShown();
+    void aSenderMayBeDestroyedBeforeTheAnswer();
+    void theServiceMayBeDestroyedBeforeTheAnswer();
+    void aMissingServerIsNoMatterAndIsFoundWhenItAppears();
+    void aServerThatNeverAnswersBlocksNothing();
+    void aRestartedServerIsNotToldTheNumbersOfTheOldOne();
+    void withoutABusNothingIsAskedFor();
+
+private:
+    /// Puts a server that has shown nothing yet in the place of the last.
+    [[nodiscard]] NotificationServer &serve(const QStringList &capabilities = {})
+    {
+        return _server.emplace(_address, capabilities);
+    }
+
+    const QString _address;
+    std::optional<NotificationServer> _server;
+};
+
+void tst_FreedesktopNotifications::theServerIsToldWhatToShow()
+{
+    const NotificationServer &server = serve();
+    FreedesktopNotifications notifications;
+    const QObject sender;
+
+    notifications.notify(sender, {QStringLiteral("Grüner <Tee>"), QStringLiteral("Fertig & heiß"),
+                                  QStringLiteral("wuff")});
+    QTRY_COMPARE(server.shown.size(), 1U);
+
+    const NotificationServer::Shown &shown = server.shown.front();
+    QCOMPARE(shown.application, QGuiApplication::applicationDisplayName());
+    QCOMPARE(shown.replacedId, 0U);
+    QCOMPARE(shown.icon, QStringLiteral("wuffer"));
+    QCOMPARE(shown.title, QStringLiteral("Grüner <Tee>"));
+    QCOMPARE(shown.text, QStringLiteral("Fertig & heiß"));
+    QCOMPARE(shown.actions, QStringList());
+    QCOMPARE(shown.timeout, -1);
+}
+
+void tst_FreedesktopNotifications::theHintsSayWhoAndWhat()
+{
+    const NotificationServer &server = serve();
+    FreedesktopNotifications notifications;
+    const QObject sender;
+
+    notifications.notify(sender, saying(QStringLiteral("done")));
+    QTRY_COMPARE(server.shown.size(), 1U);
+
+    const QVariantMap expected{{QStringLiteral("desktop-entry"), QStringLiteral("wuffer")},
+                               {QStringLiteral("category"), QStringLiteral("x-wuffer.wuff")},
+                               {QStringLiteral("suppress-sound"), true}};
+    QCOMPARE(server.shown.front().hints, expected);
+}
+
+void tst_FreedesktopNotifications::theTextIsEscapedForServersThatReadMarkup_data()
+{
+    QTest::addColumn<QStringList>("capabilities");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("markup") << QStringList{QStringLiteral("body"), kMarkup}
+                            << QStringLiteral("&lt;b&gt;5 &amp; 6&lt;/b&gt; &quot;x&quot;");
+    QTest::newRow("plain") << QStringList{QStringLiteral("body")}
+                           << QStringLiteral("<b>5 & 6</b> \"x\"");
+    QTest::newRow("nothing") << QStringList() << QStringLiteral("<b>5 & 6</b> \"x\"");
+}
+
+void tst_FreedesktopNotifications::theTextIsEscapedForServersThatReadMarkup()
+{
+    QFETCH(const QStringList, capabilities);
+    QFETCH(const QString, text);
+    const NotificationServer &server = serve(capabilities);
+    FreedesktopNotifications notifications;
+    const QObject sender;
+
+    notifications.notify(sender, saying(QStringLiteral("<b>5 & 6</b> \"x\"")));
+
+    QTRY_COMPARE(server.shown.size(), 1U);
+    QCOMPARE(server.shown.front().text, text);
+}
+
+void tst_FreedesktopNotifications::theNextReplacesTheLastOfTheSameSender()
+{
+    const NotificationServer &server = serve();
+    FreedesktopNotifications notifications;
+    const QObject sender;
+
+    for (std::size_t count = 1; count <= 3; ++count) {
+        notifications.notify(sender, saying(QStringLiteral("done")));
+        QTRY_COMPARE(server.shown.size(), count);
+    }
+
+    QCOMPARE(server.shown[0].replacedId, 0U);
+    QCOMPARE(server.shown[1].replacedId, 100U);
+    QCOMPARE(server.shown[2].replacedId, 100U);
+}
+
+void tst_FreedesktopNotifications::twoSendersDoNotReplaceEachOther()
+{
+    const NotificationServer &server = serve();
+    FreedesktopNotifications notifications;
+    const QObject tea;
+    const QObject eggs;
+
+    notifications.notify(tea, saying(QStringLiteral("tea")));
+    notifications.notify(eggs, saying(QStringLiteral("eggs")));
+    QTRY_COMPARE(server.shown.size(), 2U);
+    notifications.notify(eggs, saying(QStringLiteral("more eggs")));
+    QTRY_COMPARE(server.shown.size(), 3U);
+
+    QCOMPARE(server.shown[1].replacedId, 0U);
+    QCOMPARE(server.shown[2].replacedId, 101U);
+}
+
+void tst_FreedesktopNotifications::aSenderAtTheAddressOfADestroyedOneBeginsAnew()
+{
+    const NotificationServer &server = serve();
+    FreedesktopNotifications notifications;
+    std::optional<QObject> sender;
+
+    notifications.notify(sender.emplace(), saying(QStringLiteral("the first")));
+    QTRY_COMPARE(server.shown.size(), 1U);
+    notifications.notify(sender.emplace(), saying(QStringLiteral("the second")));
+    QTRY_COMPARE(server.shown.size(), 2U);
+
+    QCOMPARE(server.shown[1].replacedId, 0U);
+}
+
+void tst_FreedesktopNotifications::ofSeveralQuickOnesTheFirstAndTheLatestAreShown()
+{
+    NotificationServer &server = serve();
+    FreedesktopNotifications notifications;
+    const QObject sender;
+    server.stopAnswering();
+
+    notifications.notify(sender, saying(QStringLiteral("first")));
+    QTRY_COMPARE(server.heldBack(), 1U);
+    server.answerAgain();
+    server.stopAnswering();
+    QTRY_COMPARE(server.shown.size(), 1U);
+    for (const char *text : {"second", "third", "fourth"})
+        notifications.notify(sender, saying(QString::fromLatin1(text)));
+    server.answerAgain();
+
+    QTRY_COMPARE(server.shown.size(), 2U);
+    QTest::qWait(20);
+    QCOMPARE(server.shown.size(), 2U);
+    QCOMPARE(server.shown[0].text, QStringLiteral("first"));
+    QCOMPARE(server.shown[1].text, QStringLiteral("fourth"));
+    QCOMPARE(server.shown[1].replacedId, 100U);
+}
+
+void tst_FreedesktopNotifications::aSenderMayBeDestroyedBeforeTheAnswer()
+{
+    NotificationServer &server = serve();
+    FreedesktopNotifications notifications;
+    server.stopAnswering();
+    {
+        const QObject sender;
+        notifications.notify(sender, saying(QStringLiteral("last words")));
+        QTRY_COMPARE(server.heldBack(), 1U);
+    }
+    server.answerAgain();
+
+    QTRY_COMPARE(server.shown.size(), 1U);
+    QCOMPARE(server.shown.front().text, QStringLiteral("last words"));
+}
+
+void tst_FreedesktopNotifications::theServiceMayBeDestroyedBeforeTheAnswer()
+{
+    NotificationServer &server = serve();
+    const QObject sender;
+    server.stopAnswering();
+    {
+        FreedesktopNotifications notifications;
+        notifications.notify(sender, saying(QStringLiteral("done")));
+        QTRY_COMPARE(server.heldBack(), 1U);
+    }
+    server.answerAgain();
+
+    QTest::qWait(20);
+    QCOMPARE(server.shown.size(), 0U);
+}
+
+void tst_FreedesktopNotifications::aMissingServerIsNoMatterAndIsFoundWhenItAppears()
+{
+    _server.reset();
+    FreedesktopNotifications notifications;
+    const QObject sender;
+    notifications.notify(sender, saying(QStringLiteral("unheard")));
+    // Time for the bus to answer that there is nobody; if it takes longer, the first is heard too.
+    QTest::qWait(50);
+
+    const NotificationServer &server = serve();
+    notifications.notify(sender, saying(QStringLiteral("heard")));
+
+    QTRY_VERIFY(!server.shown.empty() && server.shown.back().text == QStringLiteral("heard"));
+}
+
+void tst_FreedesktopNotifications::aServerThatNeverAnswersBlocksNothing()
+{
+    NotificationServer &server = serve();
+    FreedesktopNotifications notifications;
+    const QObject sender;
+    const QObject other;
+    server.stopAnswering();
+    QElapsedTimer elapsed;
+    elapsed.start();
+
+    for (int i = 0; i < 100; ++i) {
+        notifications.notify(sender, saying(QStringLiteral("done")));
+        notifications.notify(other, saying(QStringLiteral("done")));
+    }
+
+    QVERIFY(elapsed.elapsed() < 500);
+    // One question for each, however much there is to say.
+    QTRY_COMPARE(server.heldBack(), 2U);
+    QTest::qWait(20);
+    QCOMPARE(server.heldBack(), 2U);
+}
+
+void tst_FreedesktopNotifications::aRestartedServerIsNotToldTheNumbersOfTheOldOne()
+{
+    const NotificationServer &before = serve();
+    FreedesktopNotifications notifications;
+    const QObject sender;
+    notifications.notify(sender, saying(QStringLiteral("before")));
+    QTRY_COMPARE(before.shown.size(), 1U);
+
+    _server.reset();
+    const NotificationServer &after = serve();
+    notifications.notify(sender, saying(QStringLiteral("after")));
+
+    QTRY_COMPARE(after.shown.size(), 1U);
+    QCOMPARE(after.shown.front().replacedId, 0U);
+}
+
+void tst_FreedesktopNotifications::withoutABusNothingIsAskedFor()
+{
+    const NotificationServer &server = serve();
+    FreedesktopNotifications notifications;
+    const QObject sender;
+    const QTemporaryDir runtimeDir;
+    qunsetenv("DBUS_SESSION_BUS_ADDRESS");
+    qputenv("XDG_RUNTIME_DIR", runtimeDir.path().toUtf8());
+
+    notifications.notify(sender, saying(QStringLiteral("done")));
+    QTest::qWait(50);
+
+    qputenv("DBUS_SESSION_BUS_ADDRESS", _address.toUtf8());
+    QCOMPARE(server.shown.size(), 0U);
+    notifications.notify(sender, saying(QStringLiteral("with a bus")));
+    QTRY_COMPARE(server.shown.size(), 1U);
+}
+
+int main(int argc, char *argv[])
+{
+    const SessionBus bus;
+    WufferApplication application(argc, argv);
+    tst_FreedesktopNotifications test(bus.address());
+    return QTest::qExec(&test, argc, argv);
+}
+#include "tst_FreedesktopNotifications.moc"

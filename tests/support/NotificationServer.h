@@ -1,0 +1,93 @@
+#pragma once
+
+#include <QDBusConnection>
+#include <QDBusContext>
+#include <QDBusMessage>
+#include <QObject>
+#include <QStringList>
+#include <QVariantMap>
+
+#include <vector>
+
+/// A notification server on the session bus, under its well-known name while this object lives,
+/// that keeps what it is told. Its slots are those of the protocol.
+class NotificationServer final : public QObject, protected QDBusContext
+{
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Notifications")
+
+public:
+    struct Shown
+    {
+        QString application;
+        uint replacedId;
+        QString icon;
+        QString title;
+        QString text;
+        QStringList actions;
+        QVariantMap hints;
+        int timeout;
+    };
+
+    explicit NotificationServer(const QString &busAddress, QStringList capabilities = {}) :
+        _capabilities(std::move(capabilities)),
+        _bus(QDBusConnection::connectToBus(busAddress, QStringLiteral("server")))
+    {
+        if (!_bus.registerObject(QStringLiteral("/org/freedesktop/Notifications"), this,
+                                 QDBusConnection::ExportAllSlots) ||
+            !_bus.registerService(QStringLiteral("org.freedesktop.Notifications")))
+            qFatal("the notification server could not be registered");
+    }
+    ~NotificationServer() override { QDBusConnection::disconnectFromBus(QStringLiteral("server")); }
+    Q_DISABLE_COPY_MOVE(NotificationServer)
+
+    /// Lets it hear everything and answer nothing.
+    void stopAnswering() { _answers = false; }
+
+    /// Answers everything that was left without an answer, and all that follows.
+    void answerAgain()
+    {
+        _answers = true;
+        for (const QDBusMessage &answer : std::exchange(_heldBack, {}))
+            _bus.send(answer);
+    }
+
+    /// How many answers it holds back.
+    [[nodiscard]] std::size_t heldBack() const { return _heldBack.size(); }
+
+    std::vector<Shown> shown;
+
+    /// The number of the notification shown last. Unlike those of other servers it begins at 100.
+    uint lastId = 99;
+
+public Q_SLOTS:
+    QStringList GetCapabilities()
+    {
+        holdBackIfAsked({QVariant(_capabilities)});
+        return _capabilities;
+    }
+
+    uint Notify(const QString &application, uint replacedId, const QString &icon,
+                const QString &title, const QString &text, const QStringList &actions,
+                const QVariantMap &hints, int timeout)
+    {
+        shown.push_back({application, replacedId, icon, title, text, actions, hints, timeout});
+        const uint id = replacedId != 0 ? replacedId : ++lastId;
+        holdBackIfAsked({QVariant(id)});
+        return id;
+    }
+
+private:
+    void holdBackIfAsked(const QVariantList &answer)
+    {
+        if (_answers)
+            return;
+        setDelayedReply(true);
+        _heldBack.push_back(message().createReply(answer));
+    }
+
+    const QStringList _capabilities;
+    QDBusConnection _bus;
+    bool _answers = true;
+    std::vector<QDBusMessage> _heldBack;
+};
