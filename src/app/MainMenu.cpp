@@ -25,6 +25,16 @@ void minimizeWindow(QWidget &window)
 {
     window.showMinimized();
 }
+
+/// The keys for full screen. Only some of the desktops say what they are; F11 is the common one.
+QKeySequence fullScreenKeys()
+{
+#ifdef Q_OS_MACOS
+    return QKeySequence::FullScreen;
+#else
+    return Qt::Key_F11;
+#endif
+}
 } // namespace
 
 /// One line of a menu, as written down.
@@ -72,7 +82,7 @@ const std::vector<MainMenu::Menu> &MainMenu::menus()
           {QT_TR_NOOP("&Reset"), key("Ctrl+R"), &W::resetWuffer},
           {},
           {QT_TR_NOOP("&Keep Wuffing"), key("Ctrl+K"), &W::toggleKeepWuffing},
-          {QT_TR_NOOP("&Full Screen"), QKeySequence::FullScreen, &W::startStopFullScreen},
+          {QT_TR_NOOP("&Full Screen"), fullScreenKeys(), &W::startStopFullScreen},
           {QT_TR_NOOP("More Options"), key("Ctrl+O"), &W::showHideAdvanced}}},
         {QT_TR_NOOP("&Window"),
          {{QT_TR_NOOP("&Minimize"), key("Ctrl+M"), minimizeWindow},
