@@ -67,6 +67,8 @@ void DisplayBox::enterFullScreenMode(QScreen &screen)
     _placeholder = std::make_unique<QWidget>(parentWidget());
     _placeholder->setFixedSize(size());
     const std::unique_ptr<QLayoutItem> oldItem(home->replaceWidget(this, _placeholder.get()));
+    // At once, because a layout has no place for what is hidden.
+    _placeholder->show();
 
     _fullScreenWindow = std::make_unique<FullScreenWindow>(*this);
     _fullScreenWindow->setGeometry(screen.geometry());
