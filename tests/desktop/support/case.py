@@ -4,7 +4,6 @@ import os
 import sys
 import unittest
 
-from support import processes
 from support.picture import Picture
 from support.program import Program
 from support.session import Session
@@ -27,7 +26,7 @@ class DesktopTest(unittest.TestCase):
 
     def setUp(self):
         self.programs = []
-        self.before = set(processes.marked(self.session.folder))
+        self.session.notifications.take_all()
         self.display.move_pointer(0, 0)
 
     def tearDown(self):
