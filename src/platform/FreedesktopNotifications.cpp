@@ -1,10 +1,11 @@
 #include "platform/FreedesktopNotifications.h"
 
+#include "platform/SessionBus.h"
+
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
-#include <QFile>
 #include <QGuiApplication>
 #include <QVariantMap>
 
@@ -23,16 +24,6 @@ struct FreedesktopNotifications::Conversation
 
 namespace
 {
-/// Whether a session bus is there to be asked. Without this look a machine that has none would
-/// have one started for it.
-bool sessionBusIsPresent()
-{
-    if (qEnvironmentVariableIsSet("DBUS_SESSION_BUS_ADDRESS"))
-        return true;
-    const QString runtimeDir = qEnvironmentVariable("XDG_RUNTIME_DIR");
-    return !runtimeDir.isEmpty() && QFile::exists(runtimeDir + QStringLiteral("/bus"));
-}
-
 QDBusMessage serverCall(const QString &method)
 {
     return QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.Notifications"),
@@ -75,7 +66,7 @@ void whenAnswered(const QDBusMessage &call, QObject &context, Function &&functio
 void FreedesktopNotifications::notify(const QObject &sender,
                                       const DesktopNotification &notification)
 {
-    if (!sessionBusIsPresent())
+    if (!SessionBus::isPresent())
         return;
     std::shared_ptr<Conversation> &conversation = _conversations[&sender];
     if (!conversation) {
