@@ -57,13 +57,16 @@ class Program:
         self.application = None
 
     def start(self):
+        self.spawn()
+        if self.accessible:
+            wait_until(self.find_application, 10, "the program shows in the accessibility tree")
+        wait_until(self.has_focus, 10, "the program has a window with the focus")
+
+    def spawn(self):
         with open(self.log, "a", encoding="utf-8") as log:
             # Not through another program: its process must be the program's own.
             self.process = subprocess.Popen([self.executable], env=self.environment,
                                             stdin=subprocess.DEVNULL, stdout=log, stderr=log)
-        if self.accessible:
-            wait_until(self.find_application, 10, "the program shows in the accessibility tree")
-        wait_until(self.has_focus, 10, "the program has a window with the focus")
 
     def find_application(self):
         desktop = Atspi.get_desktop(0)
@@ -191,7 +194,7 @@ class Program:
             return file.read()
 
     def close(self):
-        if self.process.poll() is None:
+        if self.process and self.process.poll() is None:
             self.kill()
 
     def wakeups(self):

@@ -167,6 +167,11 @@ class Session:
         self.environment.update((name, self.sound.environment[name])
                                 for name in ("ALSA_CONFIG_PATH", "PULSE_CLIENTCONFIG"))
 
+    def make_folder(self, name):
+        path = os.path.join(self.folder, name)
+        os.mkdir(path, mode=0o700)
+        return path
+
     def add_display(self, size):
         display = Display(self.environment, size)
         self.closers.append(display.close)
