@@ -1,6 +1,7 @@
 #include "app/SystemServices.h"
 #include "app/WufferApplication.h"
 #include "app/WufferController.h"
+#include "platform/SessionBus.h"
 
 int main(int argc, char *argv[])
 {
@@ -8,6 +9,7 @@ int main(int argc, char *argv[])
     // the one before: three times the wake-ups for a few thousand bytes.
     if (!qEnvironmentVariableIsSet("QT_XCB_NO_MITSHM"))
         qputenv("QT_XCB_NO_MITSHM", "1");
+    SessionBus::startNone();
 
     const WufferApplication application(argc, argv);
     const SystemServices services;

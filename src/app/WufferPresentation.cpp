@@ -6,6 +6,7 @@
 
 #include <QAction>
 #include <QGuiApplication>
+#include <QLayout>
 #include <QScreen>
 #include <QWindow>
 
@@ -38,8 +39,11 @@ void Wuffer::setFullScreenMode(bool fullScreen)
         _ui->_fullTitleField->setVisible(true);
         QGuiApplication::setOverrideCursor(Qt::BlankCursor);
     } else {
+        // It comes back with its large fonts, by which the window must not be stretched.
+        _window->layout()->setEnabled(false);
         _ui->_displayBox->exitFullScreenModeWithOptions();
         setFullScreenFontSizes(false);
+        _window->layout()->setEnabled(true);
         QGuiApplication::restoreOverrideCursor();
     }
 }

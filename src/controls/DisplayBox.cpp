@@ -93,6 +93,8 @@ void DisplayBox::enterFullScreenMode(QScreen &screen)
     _placeholder->setFixedSize(size());
     connect(_placeholder, &QObject::destroyed, this, &QObject::deleteLater);
     const std::unique_ptr<QLayoutItem> oldItem(home->replaceWidget(this, _placeholder));
+    // At once, because a layout has no place for what is hidden.
+    _placeholder->show();
 
     _fullScreenWindow = std::make_unique<FullScreenWindow>(*this);
     _fullScreenWindow->setGeometry(screen.geometry());

@@ -1,10 +1,11 @@
 #include "platform/FreedesktopNotifications.h"
 
+#include "platform/SessionBus.h"
+
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
-#include <QFile>
 #include <QGuiApplication>
 #include <QVariantMap>
 
@@ -25,16 +26,6 @@ struct FreedesktopNotifications::Conversation
 
 namespace
 {
-/// Whether a session bus is there to be asked. Without this look a machine that has none would
-/// have one started for it.
-bool sessionBusIsPresent()
-{
-    if (qEnvironmentVariableIsSet("DBUS_SESSION_BUS_ADDRESS"))
-        return true;
-    const QString runtimeDir = qEnvironmentVariable("XDG_RUNTIME_DIR");
-    return !runtimeDir.isEmpty() && QFile::exists(runtimeDir + QStringLiteral("/bus"));
-}
-
 QDBusMessage serverCall(const QString &method)
 {
     return QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.Notifications"),
@@ -77,7 +68,7 @@ void whenAnswered(const QDBusMessage &call, QObject &context, Function &&functio
 void FreedesktopNotifications::notify(const QObject &sender,
                                       const DesktopNotification &notification)
 {
-    if (!sessionBusIsPresent() || !QDBusConnection::sessionBus().isConnected())
+    if (!SessionBus::isPresent() || !QDBusConnection::sessionBus().isConnected())
         return;
     std::shared_ptr<Conversation> &conversation = _conversations[&sender];
     if (!conversation) {

@@ -1,5 +1,6 @@
 #include "settings/WufferWindow.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QLayout>
 #include <QScreen>
@@ -10,6 +11,16 @@ namespace
 /// One step of a cascade in device-independent pixels: enough to leave the title bar of the
 /// window below in sight.
 constexpr int kCascadeStep = 28;
+
+/// How much the window manager adds to a window: what it adds to those that it shows already.
+QSize decorations()
+{
+    for (const QWidget *window : QApplication::topLevelWidgets()) {
+        if (qobject_cast<const WufferWindow *>(window) && window->isVisible())
+            return window->frameGeometry().size() - window->size();
+    }
+    return {0, 0};
+}
 } // namespace
 
 WufferWindow::WufferWindow(Wuffer &delegate) :
@@ -30,10 +41,18 @@ void WufferWindow::setReturnShortcutEnabled(bool enabled)
     _enter->setEnabled(enabled);
 }
 
+void WufferWindow::setVisible(bool visible)
+{
+    if (visible && !isVisible())
+        fitToContents();
+    QMainWindow::setVisible(visible);
+}
+
 QPoint WufferWindow::cascadeTopLeftFromPoint(QPoint topLeft)
 {
+    fitToContents();
     move(topLeft);
-    return nextCascadePoint(topLeft, frameGeometry().size(), screen()->availableGeometry());
+    return nextCascadePoint(topLeft, size() + decorations(), screen()->availableGeometry());
 }
 
 QPoint WufferWindow::nextCascadePoint(QPoint topLeft, QSize window, const QRect &room)
@@ -46,4 +65,10 @@ void WufferWindow::closeEvent(QCloseEvent *event)
 {
     Q_EMIT willClose();
     event->accept();
+}
+
+void WufferWindow::fitToContents()
+{
+    ensurePolished();
+    layout()->activate();
 }

@@ -19,6 +19,10 @@ public:
     /// Whether Return and Enter press the default button of the window.
     void setReturnShortcutEnabled(bool enabled);
 
+    /// Gives the window its final size before it is shown. One that is resized between the making
+    /// of its native window and its first appearance loses the place of its frame.
+    void setVisible(bool visible) override;
+
     /// Moves the upper left corner of the frame to this point of the screen and returns the point
     /// for the next window: one step to the right and down.
     QPoint cascadeTopLeftFromPoint(QPoint topLeft);
@@ -38,6 +42,8 @@ protected:
     void closeEvent(QCloseEvent *event) override;
 
 private:
+    void fitToContents();
+
     Wuffer &_delegate;
     QShortcut *_return;
     QShortcut *_enter;

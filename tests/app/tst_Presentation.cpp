@@ -25,6 +25,22 @@ private:
     int _milliseconds;
 };
 
+/// Counts how often a window changes its size while this lives.
+class ResizeCounter final : public QObject
+{
+public:
+    explicit ResizeCounter(QWidget &window) { window.installEventFilter(this); }
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() == QEvent::Resize)
+            ++count;
+        return QObject::eventFilter(watched, event);
+    }
+
+    int count = 0;
+};
+
 const QString kMore = QStringLiteral("More Options");
 const QString kHide = QStringLiteral("Hide Options");
 } // namespace
@@ -40,6 +56,7 @@ private Q_SLOTS:
     void thePointerIsHiddenAndShownAgain();
     void thePointerIsHiddenOnceForAStartOnTheFullScreen();
     void theMenuTogglesFullScreen();
+    void theWindowKeepsItsSizeThroughout();
     void leavingWithoutFullScreenChangesNothing();
     void closingTheFullScreenWindowOnlyEndsTheMode();
     void theProgramCanBeQuitFromTheFullScreen();
@@ -136,6 +153,20 @@ void tst_Presentation::theMenuTogglesFullScreen()
     QVERIFY(t.isFullScreen());
     t.timer.startStopFullScreen();
     QVERIFY(!t.isFullScreen());
+}
+
+void tst_Presentation::theWindowKeepsItsSizeThroughout()
+{
+    TimerFixture t;
+    t.timer.showWufferWindow();
+    QCoreApplication::processEvents();
+    ResizeCounter counter(*t.timer.window());
+    for (const bool fullScreen : {true, false}) {
+        t.timer.setFullScreenMode(fullScreen);
+        for (int round = 0; round < 3; ++round)
+            QCoreApplication::processEvents();
+    }
+    QCOMPARE(counter.count, 0);
 }
 
 void tst_Presentation::leavingWithoutFullScreenChangesNothing()

@@ -1,0 +1,123 @@
+#!/usr/bin/python3
+"""Lets alarms ring at a real sound server, also at one that fails while they do.
+
+Usage: alarm_test.py WUFFER FOLDER [unittest arguments]
+"""
+
+import time
+
+from support.case import DesktopTest, main
+from support.samples import AUDIBLE, loudest
+from support.waiting import wait_until
+
+ALARM = 2.24
+
+
+class AlarmTest(DesktopTest):
+    sound = True
+
+    def start_two(self, keep_wuffing=False, **options):
+        """Starts two timers, one soon after the other; gives the later moment of zero."""
+        self.program = self.launch(**options)
+        for count in (1, 2):
+            if count == 2:
+                self.display.key("ctrl+n")
+                window = self.program.wait_for_windows(2)[1]
+                wait_until(lambda: self.display.active_window() == window, 5, "it is active")
+            if keep_wuffing:
+                self.display.key("ctrl+k")
+            # The other one rings first.
+            _, pressed = self.program.start_countdown(count)
+        return pressed + 2
+
+    def wait_for_buttons(self, name, count):
+        wait_until(lambda: len(self.program.all("button", name)) == count, 5,
+                   f"{count} buttons “{name}”", 0.02)
+
+    def wait_until_heard(self):
+        moment = time.monotonic()
+        wait_until(lambda: self.heard().first_sound_after(moment), 1, "the alarm is heard")
+
+    def check_silence(self, moment):
+        """Nothing is heard from 100 ms after the moment on."""
+        time.sleep(0.3)
+        delay = self.heard().last_sound() - moment
+        self.report(f"silent {delay * 1000:.0f} ms after the key")
+        self.assertLess(delay, 0.1)
+
+    def test_keep_wuffing_goes_on_until_reset_for_each_timer_by_itself(self):
+        zero = self.start_two(keep_wuffing=True)
+        self.wait_for_buttons("Reset", 2)
+        self.wait_until_heard()
+        self.display.key("Return")
+        self.wait_for_buttons("Start", 1)
+        time.sleep(zero + 2 * ALARM + 0.3 - time.monotonic())
+        self.assertGreater(loudest(self.heard().hear(0.5)), AUDIBLE)
+        self.display.key("ctrl+w")
+        self.program.wait_for_windows(1)
+        self.assertGreater(loudest(self.heard().hear(0.5)), AUDIBLE)
+        self.assertEqual(self.program.shown("Time"), "Wuff!")
+        moment = time.monotonic()
+        self.display.key("Return")
+        self.check_silence(moment)
+        self.program.wait_for_button("Start")
+        wait_until(lambda: self.session.sound.streams() == 0, 2, "the stream is closed")
+        self.quit(self.program)
+
+    # Failures
+
+    # In each of them one timer rings when it happens and the other beeps.
+
+    def strike(self, break_down):
+        zero = self.start_two()
+        self.wait_for_buttons("Reset", 1)
+        self.wait_until_heard()
+        break_down()
+        self.check_end(zero)
+
+    def check_end(self, zero):
+        """The alarms end by themselves, when they would be over if they were heard."""
+        self.check_life()
+        self.wait_for_buttons("Reset", 2)
+        self.check_life()
+        self.wait_for_buttons("Start", 2)
+        late = time.monotonic() - zero - ALARM
+        self.assertGreater(late, -0.2)
+        self.assertLess(late, 0.8)
+        self.assertEqual({label.get_name()
+                          for label in self.program.all("display", description="Time")},
+                         {"Wuffer"})
+        self.report(f"the alarm phase is over {late * 1000:.0f} ms after the end of its sound, "
+                    f"the program ends in {self.quit(self.program) * 1000:.0f} ms")
+
+    def check_life(self):
+        self.assertLess(self.program.answers(), 0.5)
+        self.assertIsNone(self.program.process.poll())
+
+    def test_the_sound_server_dies_and_comes_back(self):
+        def break_down():
+            self.session.sound.kill()
+            self.check_life()
+            self.session.sound.start()
+
+        self.strike(break_down)
+
+    def test_the_sink_goes_away(self):
+        try:
+            self.strike(self.session.sound.remove_sink)
+        finally:
+            self.session.sound.add_sink()
+
+    def test_the_sound_server_freezes(self):
+        try:
+            self.strike(self.session.sound.freeze)
+        finally:
+            self.session.sound.thaw()
+
+    def test_there_is_no_sound_server(self):
+        nowhere = self.session.make_folder("no-sound")
+        self.check_end(self.start_two(environment={"XDG_RUNTIME_DIR": nowhere}))
+
+
+if __name__ == "__main__":
+    main()

@@ -1,0 +1,99 @@
+#!/usr/bin/python3
+"""Counts down on a real desktop and judges what a person would see and hear.
+
+Usage: countdown_test.py WUFFER FOLDER [unittest arguments]
+"""
+
+import time
+
+from support.case import DesktopTest, main
+from support.picture import Picture
+from support.samples import loudest, rms
+from support.waiting import wait_until
+
+RED = (230, 0, 0)
+
+
+class CountdownTest(DesktopTest):
+    sound = True
+
+    def red_display(self, program):
+        area = program.place(program.find("display", description="Time"))
+        return RED in Picture(self.display).colors(area)
+
+    def test_a_countdown_typed_and_started_with_the_keyboard_ends_with_an_alarm(self):
+        program = self.launch()
+        self.assertEqual(program.focused_field(), "Minutes")
+        self.assertEqual(program.shown("Time"), "Wuffer")
+        program.type_seconds(3)
+        self.assertEqual(program.focused_field(), "Seconds")
+        before = time.monotonic()
+        self.display.key("Return")
+        after = time.monotonic()
+        program.wait_for_button("Stop")
+        program.wait_for_text("Time", "1s", 3)
+        self.assertTrue(self.red_display(program), "the last seconds are red")
+        program.wait_for_text("Time", "Wuff!")
+        program.wait_for_button("Reset")
+        self.assertEqual(program.shown("Elapsed time"), "3s")
+        wait_until(lambda: self.session.notifications.shown() == 1, 2, "one notification is shown")
+        self.assertTrue(self.red_display(program), "the alarm is red")
+        program.wait_for_button("Start")
+        end = time.monotonic()
+        program.wait_for_text("Time", "Wuffer")
+        self.assertFalse(self.red_display(program))
+
+        notification, = self.session.notifications.take_all()
+        self.assertEqual(notification["appname"], "Wuffer")
+        self.assertEqual(notification["summary"], "Wuff!")
+        self.assertEqual(notification["body"], "Wuffer: 3s")
+
+        alarm = self.heard().first_sound_after(before + 2.9)
+        self.report(f"the alarm is heard {(alarm - after - 3) * 1000:.0f} to "
+                    f"{(alarm - before - 3) * 1000:.0f} ms after zero and is over after "
+                    f"{end - alarm:.2f} s")
+        self.assertGreater(alarm, before + 3)
+        self.assertLess(alarm, after + 3.1)
+        self.assertAlmostEqual(end - alarm, 2.24, delta=0.5)
+        self.quit(program)
+
+    def test_the_last_twelve_seconds_beep_ever_louder(self):
+        program = self.launch()
+        before, after = program.start_countdown(13)
+        program.wait_for_text("Time", "Wuff!", 15)
+        beeps = self.beeps(before, after + 13)
+        steps = [b - a for (a, _), (b, _) in zip(beeps, beeps[1:])]
+        volumes = [volume for _, volume in beeps]
+        self.report("beeps with " + ", ".join(f"{after + 13 - moment:.2f}" for moment, _ in beeps)
+                    + " s left, the last " + f"{volumes[-1] / volumes[0]:.1f} times the first")
+        # The first of twelve, between 12 and 11 seconds, is silent.
+        self.assertEqual(len(beeps), 11)
+        self.assertAlmostEqual(after + 13 - beeps[0][0], 11, delta=0.2)
+        for step in steps:
+            self.assertAlmostEqual(step, 1.02, delta=0.1)
+        for quieter, louder in zip(volumes[1:], volumes[2:]):
+            self.assertGreater(louder, quieter * 1.05)
+        # The rule is 0.03 for each second; the beeps are up to 37 ms late, each after the other.
+        self.assertAlmostEqual(volumes[-1] / volumes[0], 10.4, delta=0.8)
+        display = program.shown("Time")
+        self.assertEqual(display, "Wuff!")
+        program.wait_for_button("Reset")
+        self.display.key("Return")
+        program.wait_for_button("Start")
+        self.quit(program)
+
+    def beeps(self, start, end):
+        """The moments at which the beeps began, and how loud they were."""
+        found = []
+        for moment, piece in list(self.heard().pieces):
+            if start <= moment <= end and loudest(piece) > 0:
+                if not found or moment - found[-1][1] > 0.2:
+                    found.append([moment, moment, []])
+                found[-1][1] = moment
+                found[-1][2].extend(piece)
+        # Every beep is as long as every other, so what little is cut off at the ends is the same.
+        return [(first, rms(samples)) for first, _, samples in found]
+
+
+if __name__ == "__main__":
+    main()

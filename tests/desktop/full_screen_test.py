@@ -1,0 +1,187 @@
+#!/usr/bin/python3
+"""Fills screens of two sizes with the display, and gives them back.
+
+Usage: full_screen_test.py WUFFER FOLDER [unittest arguments]
+"""
+
+import os
+import subprocess
+import time
+
+from support import pointer
+from support.case import DesktopTest, main
+from support.display import Rect
+from support.picture import Picture
+from support.waiting import wait_until
+
+PANEL = (0xfb, 0xfa, 0xf5)
+
+
+class FullScreenTest(DesktopTest):
+    def start(self, hours="", **options):
+        """Starts a countdown of an hour or more and puts the pointer over its button."""
+        self.program = self.launch(**options)
+        self.screen = self.program.display
+        self.window = self.program.windows()[0]
+        if hours:
+            self.screen.key("shift+Tab")
+            self.screen.type(hours)
+            self.screen.key("Tab")
+            self.screen.type("11")
+        else:
+            self.screen.type("60")
+        self.screen.key("Return")
+        self.program.wait_for_button("Stop")
+        button = self.program.place(self.program.find("button", "Stop"))
+        self.screen.move_pointer(button.x + button.width // 2, button.y + button.height // 2)
+        self.place = self.screen.frame(self.window)
+
+    def covering_window(self):
+        """The window that covers the whole screen, if there is one."""
+        whole = Rect(0, 0, self.screen.width, self.screen.height)
+        for window in self.program.windows():
+            try:
+                if self.screen.frame(window) == whole == self.screen.geometry(window):
+                    return window
+            except subprocess.CalledProcessError:
+                # It has gone since it was listed.
+                continue
+        return None
+
+    def enter(self):
+        self.screen.key("F11")
+        wait_until(self.covering_window, 5, "the display covers the whole screen")
+        wait_until(lambda: self.screen.focused_window() == self.covering_window(), 5,
+                   "the full screen has the focus")
+        wait_until(lambda: not pointer.is_visible(self.screen), 2, "the pointer is hidden")
+
+    def stays(self):
+        time.sleep(0.2)
+        self.assertIsNotNone(self.covering_window())
+
+    def check_back(self):
+        wait_until(lambda: self.program.windows() == [self.window], 5,
+                   "only the timer's window is left")
+        wait_until(lambda: self.screen.focused_window() == self.window, 5,
+                   "the timer's window has the focus")
+        self.assertEqual(self.screen.frame(self.window), self.place)
+        self.assertTrue(pointer.is_visible(self.screen))
+        self.program.find("button", "Stop")
+
+    def test_any_key_ends_it_and_is_typed_nowhere(self):
+        self.start()
+        for key in ("7", "space", "Return", "Escape", "ctrl+n", "ctrl+t", "F11"):
+            with self.subTest(key):
+                self.enter()
+                self.screen.key(key)
+                self.check_back()
+        for field, text in (("Name", ""), ("Minutes", "60"), ("Seconds", "0")):
+            self.assertEqual(self.program.text(field), text)
+        # Now the keyboard works in the window again, without a click.
+        self.screen.key("Return")
+        self.program.wait_for_button("Start")
+        self.quit(self.program)
+
+    def test_what_is_no_press_leaves_it_as_it_is(self):
+        self.start()
+        self.enter()
+        self.screen.act("click", 3)
+        self.stays()
+        self.screen.act("click", 2)
+        self.stays()
+        self.screen.act("click", 4)
+        self.stays()
+        self.screen.act("keydown", "ctrl", "keyup", "ctrl", "key", "shift")
+        self.stays()
+        # The press that ended the last one is let go in the next.
+        self.screen.act("keydown", "a")
+        self.check_back()
+        self.program.display.act("key", "F11")
+        wait_until(self.covering_window, 5, "the display covers the whole screen")
+        self.screen.act("keyup", "a")
+        self.stays()
+        self.screen.key("Escape")
+        self.check_back()
+        self.quit(self.program)
+
+    def test_a_left_click_ends_it_and_presses_nothing(self):
+        self.start()
+        self.enter()
+        self.screen.act("click", 1)
+        self.check_back()
+        time.sleep(0.3)
+        self.program.find("button", "Stop")
+        self.screen.act("click", 1)
+        self.program.wait_for_button("Start")
+        self.quit(self.program)
+
+    def test_the_end_of_another_timer_ends_it(self):
+        program = self.program = self.launch(settings='{"soundOff": 1}')
+        self.screen = self.display
+        self.window = program.windows()[0]
+        program.start_countdown(3)
+        program.wait_for_button("Stop")
+        self.display.key("ctrl+n")
+        other = program.wait_for_windows(2)[1]
+        wait_until(lambda: self.display.active_window() == other, 5, "the new timer is active")
+        self.display.type("60")
+        self.display.key("Return")
+        wait_until(lambda: len(program.all("button", "Stop")) == 2, 2, "both timers run")
+        place = self.display.frame(other)
+        self.enter()
+        wait_until(lambda: len(program.windows()) == 2, 5, "the display is back in its window")
+        wait_until(lambda: program.has("button", "Reset"), 1, "the other timer has ended")
+        wait_until(lambda: self.display.focused_window() in program.windows(), 5,
+                   "a timer has the focus")
+        self.assertEqual(self.display.frame(other), place)
+        self.quit(program)
+
+    def test_a_timer_told_to_starts_in_it_and_its_alarm_ends_it(self):
+        program = self.program = self.launch()
+        self.screen = self.display
+        box = program.place(program.find("box", "Full screen"))
+        self.display.click(box.x + 8, box.y + box.height // 2)
+        field = program.place(program.find("field", "Minutes"))
+        self.display.click(field.x + 8, field.y + 8)
+        program.start_countdown(1)
+        wait_until(self.covering_window, 2, "the display covers the whole screen")
+        program.wait_for_text("Time", "Wuff!")
+        Picture(self.display).save(os.path.join(self.output, "alarm on the full screen.png"))
+        self.stays()
+        wait_until(lambda: not self.covering_window(), 5, "the end of the alarm ends it")
+        self.quit(program)
+
+    def check_ink(self, name):
+        """Nothing of the display is cut off: around each text there is a free line."""
+        picture = Picture(self.screen)
+        picture.save(os.path.join(self.output, f"{name} {picture.width}x{picture.height}.png"))
+        whole = Rect(0, 0, self.screen.width, self.screen.height)
+        self.assertEqual(picture.border(whole), {PANEL})
+        labels = [label for label in self.program.all("display")
+                  if label.get_name() and label.get_description()]
+        self.assertEqual(len(labels), 4)
+        for label in labels:
+            area = self.program.place(label)
+            self.assertEqual(picture.border(area), {PANEL}, label.get_name())
+            self.assertGreater(len(picture.colors(area)), 1, label.get_name())
+        return picture
+
+    def check_looks(self):
+        self.enter()
+        self.check_ink("full screen")
+        self.screen.key("Escape")
+        self.check_back()
+        self.quit(self.program)
+
+    def test_the_longest_countdown_fits_a_small_screen(self):
+        self.start("11")
+        self.check_looks()
+
+    def test_the_longest_countdown_fits_a_large_screen(self):
+        large = self.session.add_display((1920, 1080))
+        self.start("11", display=large)
+        self.check_looks()
+
+
+if __name__ == "__main__":
+    main()

@@ -1,0 +1,140 @@
+#!/usr/bin/python3
+"""What a desktop is told when a countdown ends, also one that does not listen.
+
+Usage: notification_test.py WUFFER FOLDER [unittest arguments]
+"""
+
+import os
+import signal
+import time
+
+from support import processes
+from support.case import DesktopTest, main
+from support.picture import Picture
+from support.waiting import wait_until
+
+RED = (230, 0, 0)
+MUTED = '{"soundOff": 1}'
+
+
+class NotificationTest(DesktopTest):
+    """The sound is off, so that an alarm lasts until it is reset."""
+
+    def wait_for_notifications(self, count):
+        wait_until(lambda: self.session.notifications.shown() == count, 3,
+                   f"{count} notifications are shown", 0.02)
+
+    def ring(self, program):
+        program.start_countdown(1)
+        program.wait_for_button("Reset")
+
+    def stop(self, program):
+        self.display.key("Return")
+        program.wait_for_button("Start")
+
+    def test_the_second_alarm_of_a_timer_replaces_the_notification_of_its_first(self):
+        program = self.launch(settings=MUTED)
+        self.ring(program)
+        self.wait_for_notifications(1)
+        self.stop(program)
+        self.display.key("shift+Tab")
+        program.wait_for_focus_in("Seconds")
+        self.display.type("2")
+        self.display.key("Return")
+        program.wait_for_button("Reset")
+        program.wait_for_text("Elapsed time", "2s")
+        time.sleep(0.3)
+        self.assertEqual(self.session.notifications.shown(), 1)
+        self.assertEqual([shown["body"] for shown in self.session.notifications.take_all()],
+                         ["Wuffer: 2s"])
+        self.quit(program)
+
+    def test_two_timers_show_two_notifications_with_their_names(self):
+        program = self.launch(settings=MUTED)
+        name = program.place(program.find("field", "Name"))
+        self.display.click(name.x + 10, name.y + 10)
+        self.display.type("Tea & <b>cake</b>")
+        self.display.key("Return")
+        minutes = program.place(program.find("field", "Minutes"))
+        self.display.click(minutes.x + 10, minutes.y + 10)
+        self.ring(program)
+        self.display.key("ctrl+n")
+        program.wait_for_windows(2)
+        wait_until(lambda: self.display.active_window() == program.windows()[1], 3, "it is active")
+        program.start_countdown(1)
+        self.wait_for_notifications(2)
+        bodies = {shown["body"] for shown in self.session.notifications.take_all()}
+        self.assertEqual(bodies, {"Wuffer: 1s", "Tea & <b>cake</b>: 1s"})
+        self.quit(program)
+
+    def check_alarm(self, program):
+        """All of an alarm but the notification is there."""
+        self.ring(program)
+        self.assertEqual(program.shown("Time"), "Wuff!")
+        self.assertLess(program.answers(), 0.5)
+        self.stop(program)
+
+    def test_there_is_no_notification_daemon_until_later(self):
+        self.session.end_notifications()
+        try:
+            program = self.launch(settings=MUTED)
+            self.check_alarm(program)
+        finally:
+            self.session.start_notifications()
+        self.display.key("Return")
+        self.wait_for_notifications(1)
+        self.quit(program)
+
+    def test_the_notification_daemon_is_frozen(self):
+        daemon = self.session.notifications.process
+        processes.signal_group(daemon, signal.SIGSTOP)
+        try:
+            program = self.launch(settings=MUTED)
+            self.check_alarm(program)
+            self.quit(program)
+        finally:
+            processes.signal_group(daemon, signal.SIGCONT)
+
+    def test_there_is_no_session_bus_and_none_is_started(self):
+        others = set(processes.marked(self.session.folder))
+        nowhere = self.session.make_folder("no-bus")
+        program = self.launch(settings=MUTED, accessible=False, environment={
+            "DBUS_SESSION_BUS_ADDRESS": None, "XDG_RUNTIME_DIR": nowhere})
+        window, = program.windows()
+        program.start_countdown(1)
+        wait_until(lambda: self.is_red(window), 3, "the display is red", 0.1)
+        time.sleep(1)
+        started = processes.marked(self.session.folder)
+        for known in others | {program.process.pid}:
+            started.pop(known, None)
+        self.assertEqual(started, {})
+        self.display.key("Return")
+        wait_until(lambda: not self.is_red(window), 3, "the display is black", 0.1)
+        self.assertEqual(os.listdir(nowhere), [])
+        self.quit(program)
+
+    def is_red(self, window):
+        return RED in Picture(self.display).colors(self.display.geometry(window))
+
+    def test_a_muted_timer_asks_for_attention_and_opens_no_stream(self):
+        self.session.start_sound()
+        program = self.launch(settings=MUTED)
+        timer = program.windows()[0]
+        program.start_countdown(1)
+        self.display.key("ctrl+comma")
+        preferences = program.wait_for_windows(2)[1]
+        wait_until(lambda: self.display.active_window() == preferences, 3, "it is active")
+        self.assertFalse(self.display.is_urgent(timer))
+        start = time.monotonic()
+        program.wait_for_button("Reset")
+        wait_until(lambda: self.display.is_urgent(timer), 1, "the timer asks for attention")
+        while time.monotonic() < start + 2:
+            self.assertEqual(self.session.sound.streams(), 0)
+            time.sleep(0.02)
+        self.assertEqual(program.shown("Time"), "Wuff!")
+        self.assertIsNone(self.session.sound.recorder.first_sound_after(start))
+        self.quit(program)
+
+
+if __name__ == "__main__":
+    main()

@@ -1,0 +1,1 @@
+"""What the tests of the whole program on a real desktop share."""

@@ -1,0 +1,73 @@
+"""What every test of the whole program begins and ends with."""
+
+import os
+import sys
+import unittest
+
+from support.picture import Picture
+from support.program import Program
+from support.session import Session
+
+
+class DesktopTest(unittest.TestCase):
+    """Runs each test in a session that the tests of a class share."""
+
+    size = (1280, 800)
+    sound = False
+    output = "."
+
+    @classmethod
+    def setUpClass(cls):
+        cls.session = Session(cls.size)
+        cls.addClassCleanup(cls.session.close)
+        cls.display = cls.session.display
+        if cls.sound:
+            cls.session.start_sound()
+
+    def setUp(self):
+        self.programs = []
+        self.session.notifications.take_all()
+        self.display.move_pointer(0, 0)
+
+    def tearDown(self):
+        try:
+            if self.has_failed():
+                Picture(self.display).save(
+                    os.path.join(self.output, f"{self.id().rsplit('.', 1)[1]}.png"))
+        finally:
+            for program in self.programs:
+                program.close()
+        for program in self.programs:
+            self.assertEqual(program.written(), "", "the program writes nothing")
+
+    def has_failed(self):
+        result = self._outcome.result
+        return any(test is self for test, _ in result.errors + result.failures) or any(
+            test is self and error for test, error in getattr(self._outcome, "errors", []))
+
+    def launch(self, **options):
+        """Starts the program; it ends with the test."""
+        program = Program(self.session, **options)
+        self.programs.append(program)
+        program.start()
+        return program
+
+    def quit(self, program):
+        seconds, status = program.quit()
+        self.assertEqual(status, 0)
+        self.assertLess(seconds, 1.5)
+        return seconds
+
+    def heard(self):
+        return self.session.sound.recorder
+
+    def report(self, text):
+        print(f"{self.id().rsplit('.', 1)[1]}: {text}", flush=True)
+
+
+def main():
+    """Takes the program under test and the folder for pictures from the command line."""
+    Program.executable = os.path.abspath(sys.argv.pop(1))
+    DesktopTest.output = os.path.abspath(sys.argv.pop(1))
+    os.makedirs(DesktopTest.output, exist_ok=True)
+    unittest.main(verbosity=2)

@@ -1,0 +1,120 @@
+"""An X server without a screen, with a window manager; its windows, mouse and keys."""
+
+import os
+import re
+import subprocess
+from typing import NamedTuple
+
+from support import processes
+from support.waiting import wait_until
+
+
+class Rect(NamedTuple):
+    x: int
+    y: int
+    width: int
+    height: int
+
+    @property
+    def right(self):
+        return self.x + self.width
+
+    @property
+    def bottom(self):
+        return self.y + self.height
+
+
+class Display:
+    """One display, free of all others."""
+
+    def __init__(self, environment, size):
+        processes.require("Xvfb", "openbox", "xprop", "xwininfo", "xdotool", "import")
+        self.width, self.height = size
+        reader, writer = os.pipe()
+        self.server = processes.start(
+            ["Xvfb", "-displayfd", str(writer), "-screen", "0", f"{size[0]}x{size[1]}x24",
+             "-noreset", "-nolisten", "tcp"], environment, pass_fds=[writer])
+        os.close(writer)
+        with os.fdopen(reader, encoding="ascii") as pipe:
+            number = pipe.readline().strip()
+        if not number:
+            raise RuntimeError("Xvfb did not start")
+        self.environment = dict(environment, DISPLAY=f":{number}")
+        self.manager = None
+
+    def start_manager(self):
+        self.manager = processes.start(["openbox"], self.environment)
+        wait_until(lambda: "0x" in self.property("_NET_SUPPORTING_WM_CHECK"), 10,
+                   "the window manager answers")
+
+    def close(self):
+        if self.manager:
+            processes.end(self.manager)
+        processes.end(self.server)
+
+    # Mouse and keys
+
+    def act(self, *command):
+        processes.run(["xdotool", *map(str, command)], self.environment)
+
+    def key(self, *keys):
+        self.act("key", "--delay", "0", *keys)
+
+    def type(self, text):
+        self.act("type", "--delay", "0", text)
+
+    def click(self, x, y, button=1):
+        self.act("mousemove", x, y, "click", button)
+
+    def move_pointer(self, x, y):
+        self.act("mousemove", x, y)
+
+    # Windows
+
+    def property(self, name, window=None):
+        """The text after the sign of equality, or of what xprop has to say instead."""
+        where = ["-id", str(window)] if window else ["-root"]
+        result = subprocess.run(["xprop", *where, name], env=self.environment, check=False,
+                                timeout=10, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL,
+                                text=True)
+        return re.split(" = |# |: ", result.stdout.strip(), maxsplit=1)[-1]
+
+    def windows(self, process_id):
+        """The windows of a process that the window manager shows, oldest first."""
+        listed = re.findall("0x[0-9a-f]+", self.property("_NET_CLIENT_LIST"))
+        return [int(window, 16) for window in listed
+                if self.property("_NET_WM_PID", int(window, 16)) == str(process_id)]
+
+    def active_window(self):
+        numbers = re.findall("0x[0-9a-f]+", self.property("_NET_ACTIVE_WINDOW"))
+        return int(numbers[0], 16) if numbers else 0
+
+    def focused_window(self):
+        return int(processes.run(["xdotool", "getwindowfocus"], self.environment))
+
+    def title(self, window):
+        return self.property("_NET_WM_NAME", window).strip('"')
+
+    def state(self, window):
+        return self.property("_NET_WM_STATE", window)
+
+    def is_urgent(self, window):
+        return ("_NET_WM_STATE_DEMANDS_ATTENTION" in self.state(window)
+                or "urgency hint bit is set" in processes.run(
+                    ["xprop", "-id", str(window), "WM_HINTS"], self.environment))
+
+    def information(self, window, *options):
+        return processes.run(["xwininfo", "-id", str(window), *options], self.environment)
+
+    def geometry(self, window):
+        """The place of a window without its decorations."""
+        text = self.information(window)
+        fields = ("Absolute upper-left X", "Absolute upper-left Y", "Width", "Height")
+        return Rect(*(int(re.search(f"{field}: +(-?[0-9]+)", text)[1]) for field in fields))
+
+    def frame(self, window):
+        """The place of a window with its decorations."""
+        root, parent = (int(re.search(f"{name} window id: (0x[0-9a-f]+)",
+                                      self.information(window, "-tree"))[1], 16)
+                        for name in ("Root", "Parent"))
+        return self.geometry(window if parent == root else parent)

@@ -1,0 +1,80 @@
+"""Programs that a test starts, and that must end with it."""
+
+import os
+import shutil
+import signal
+import subprocess
+
+from support.waiting import wait_until
+
+
+def require(*tools):
+    """A tool that is not there fails the test and says so."""
+    for tool in tools:
+        if not shutil.which(tool):
+            raise RuntimeError(f"{tool} is not installed")
+
+
+def start(command, environment, **options):
+    """Starts a program in a process group of its own, which ends when the test program does."""
+    options.setdefault("stdout", subprocess.DEVNULL)
+    options.setdefault("stderr", subprocess.DEVNULL)
+    return subprocess.Popen(["setpriv", "--pdeathsig", "KILL", *command], env=environment,
+                            start_new_session=True, **options)
+
+
+def end(process):
+    """Ends a program and what it has started."""
+    for number in (signal.SIGCONT, signal.SIGTERM):
+        signal_group(process, number)
+    try:
+        process.wait(timeout=3)
+    except subprocess.TimeoutExpired:
+        pass
+    signal_group(process, signal.SIGKILL)
+    process.wait()
+
+
+def signal_group(process, number):
+    try:
+        os.killpg(process.pid, number)
+    except ProcessLookupError:
+        pass
+
+
+def marked(marker):
+    """The names, by process, of all that run with this text in their environment."""
+    found = {}
+    for entry in os.listdir("/proc"):
+        try:
+            with open(f"/proc/{entry}/environ", "rb") as file:
+                if marker.encode() in file.read():
+                    with open(f"/proc/{entry}/comm", encoding="utf-8") as name:
+                        found[int(entry)] = name.read().strip()
+        except (OSError, ValueError):
+            continue
+    return found
+
+
+def wait_for_no_one(marker):
+    """Waits until nobody runs with this text in the environment."""
+    try:
+        wait_until(lambda: not marked(marker), 5, "every process has ended")
+    except AssertionError as error:
+        raise AssertionError(f"left running: {marked(marker)}") from error
+
+
+def run(command, environment):
+    """Runs a tool to its end; gives what it wrote."""
+    return subprocess.run(command, env=environment, check=True, timeout=10,
+                          stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True).stdout
+
+
+def wakeups(process_id):
+    """How often the threads of a process have gone to sleep of their own will."""
+    total = 0
+    for thread in os.listdir(f"/proc/{process_id}/task"):
+        with open(f"/proc/{process_id}/task/{thread}/status", encoding="ascii") as status:
+            total += next(int(line.split()[1]) for line in status
+                          if line.startswith("voluntary_ctxt_switches"))
+    return total

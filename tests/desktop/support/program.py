@@ -1,0 +1,210 @@
+"""The program under test, driven and judged from outside."""
+
+import os
+import subprocess
+import tempfile
+import time
+
+import gi
+
+gi.require_version("Atspi", "2.0")
+from gi.repository import Atspi, GLib  # noqa: E402
+
+from support import processes
+from support.display import Rect
+from support.waiting import wait_until
+
+ROLES = {
+    "window": Atspi.Role.FRAME,
+    "field": Atspi.Role.TEXT,
+    "button": Atspi.Role.PUSH_BUTTON,
+    "box": Atspi.Role.CHECK_BOX,
+    "display": Atspi.Role.LABEL,
+}
+
+# Between two looks at the program, each of which makes it work.
+PAUSE = 0.02
+
+
+class Program:
+    """One run of the program, with folders of its own for its settings."""
+
+    executable = ""
+
+    def __init__(self, session, display=None, environment=None, settings=None, accessible=True):
+        self.session = session
+        self.display = display or session.display
+        self.home = tempfile.mkdtemp(prefix="home-", dir=session.folder)
+        self.settings_path = os.path.join(self.home, "config", "wuffer", "wuffer.json")
+        if settings is not None:
+            os.makedirs(os.path.dirname(self.settings_path))
+            with open(self.settings_path, "w", encoding="utf-8") as file:
+                file.write(settings)
+        self.environment = dict(session.environment, HOME=self.home,
+                                XDG_CONFIG_HOME=f"{self.home}/config",
+                                XDG_DATA_HOME=f"{self.home}/data",
+                                DISPLAY=self.display.environment["DISPLAY"])
+        if accessible:
+            self.environment["QT_LINUX_ACCESSIBILITY_ALWAYS_ON"] = "1"
+        for name, value in (environment or {}).items():
+            if value is None:
+                self.environment.pop(name, None)
+            else:
+                self.environment[name] = value
+        self.accessible = accessible
+        self.log = os.path.join(self.home, "log")
+        self.process = None
+        self.application = None
+
+    def start(self):
+        self.spawn()
+        if self.accessible:
+            wait_until(self.find_application, 10, "the program shows in the accessibility tree")
+        wait_until(self.has_focus, 10, "the program has a window with the focus")
+
+    def spawn(self):
+        with open(self.log, "a", encoding="utf-8") as log:
+            # Not through another program: its process must be the program's own.
+            self.process = subprocess.Popen([self.executable], env=self.environment,
+                                            stdin=subprocess.DEVNULL, stdout=log, stderr=log)
+
+    def find_application(self):
+        desktop = Atspi.get_desktop(0)
+        desktop.clear_cache()
+        for i in range(desktop.get_child_count()):
+            application = desktop.get_child_at_index(i)
+            if application and application.get_process_id() == self.process.pid:
+                # What is read must be what is there now.
+                application.set_cache_mask(Atspi.Cache.NONE)
+                self.application = application
+                return application.get_child_count() > 0
+        return False
+
+    def has_focus(self):
+        return self.display.active_window() in self.windows()
+
+    # Windows
+
+    def windows(self):
+        return self.display.windows(self.process.pid)
+
+    def wait_for_windows(self, count):
+        wait_until(lambda: len(self.windows()) == count, 5, f"there are {count} windows", PAUSE)
+        return self.windows()
+
+    # Controls
+
+    def all(self, role, name=None, description=None, within=None):
+        """All controls that a person could see, by role, name and description."""
+        found = []
+        for child in children(within or self.application):
+            if (child.get_role() == ROLES[role] and name in (None, child.get_name())
+                    and description in (None, child.get_description())):
+                found.append(child)
+            found.extend(self.all(role, name, description, child))
+        return found
+
+    def find(self, role, name=None, description=None, within=None):
+        found = [control for control in self.all(role, name, description, within)
+                 if control.get_state_set().contains(Atspi.StateType.SHOWING)]
+        if len(found) != 1:
+            raise AssertionError(
+                f"{len(found)} of {role} {name or ''} {description or ''} instead of one")
+        return found[0]
+
+    def has(self, role, name=None, description=None, within=None):
+        try:
+            self.find(role, name, description, within)
+        except (AssertionError, GLib.Error):
+            return False
+        return True
+
+    def shown(self, what, within=None):
+        """The text of one of the labels of the display."""
+        try:
+            return self.find("display", description=what, within=within).get_name()
+        except (AssertionError, GLib.Error):
+            # In the moment in which the display moves to another window.
+            return None
+
+    def text(self, field, within=None):
+        field = self.find("field", field, within=within)
+        return Atspi.Text.get_text(field, 0, Atspi.Text.get_character_count(field))
+
+    def place(self, control):
+        """Where a control is on the screen."""
+        area = Atspi.Component.get_extents(control, Atspi.CoordType.SCREEN)
+        return Rect(area.x, area.y, area.width, area.height)
+
+    def wait_for_text(self, what, text, seconds=5):
+        wait_until(lambda: self.shown(what) == text, seconds, f"{what} is “{text}”", PAUSE)
+
+    def wait_for_button(self, name, seconds=5):
+        wait_until(lambda: self.has("button", name), seconds,
+                   f"there is a button “{name}”", PAUSE)
+
+    def focused_field(self):
+        focused = [field.get_name() for field in self.all("field")
+                   if field.get_state_set().contains(Atspi.StateType.FOCUSED)]
+        return focused[0] if len(focused) == 1 else focused
+
+    def wait_for_focus_in(self, field):
+        wait_until(lambda: self.focused_field() == field, 5, f"the focus is in {field}", PAUSE)
+
+    def answers(self):
+        """Gives how many seconds the program took to answer; fails when it hangs."""
+        start = time.monotonic()
+        if self.application.get_child_count() < 1:
+            raise AssertionError("the program has no window")
+        return time.monotonic() - start
+
+    # Verbs
+
+    def type_seconds(self, seconds):
+        """Types a duration into a new timer, the minutes field of which has the focus."""
+        self.display.key("Tab")
+        self.display.type(str(seconds))
+
+    def start_countdown(self, seconds):
+        """Starts a countdown with the keyboard; gives the moments before and after the press."""
+        self.type_seconds(seconds)
+        before = time.monotonic()
+        self.display.key("Return")
+        return before, time.monotonic()
+
+    # The end
+
+    def quit(self):
+        """Quits with the keyboard; gives how many seconds that took and the exit status."""
+        start = time.monotonic()
+        self.display.key("ctrl+q")
+        return self.wait_for_end(start)
+
+    def wait_for_end(self, start):
+        status = self.process.wait(timeout=10)
+        return time.monotonic() - start, status
+
+    def kill(self):
+        self.process.kill()
+        self.process.wait()
+
+    def written(self):
+        """What the program has written so far; it should be nothing."""
+        with open(self.log, encoding="utf-8") as file:
+            return file.read()
+
+    def close(self):
+        if self.process and self.process.poll() is None:
+            self.kill()
+
+    def wakeups(self):
+        return processes.wakeups(self.process.pid)
+
+
+def children(control):
+    try:
+        return [child for i in range(control.get_child_count())
+                if (child := control.get_child_at_index(i))]
+    except GLib.Error:
+        # It has gone in the meantime.
+        return []

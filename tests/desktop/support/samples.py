@@ -1,0 +1,42 @@
+"""What can be said of recorded samples, which are 16-bit numbers."""
+
+import math
+
+RATE = 48000
+AUDIBLE = 100  # of 32768
+
+
+def loudest(samples):
+    return max(max(samples, default=0), -min(samples, default=0))
+
+
+def rms(samples):
+    return math.sqrt(sum(sample * sample for sample in samples) / len(samples))
+
+
+def frequency(samples):
+    rises = sum(1 for a, b in zip(samples, samples[1:]) if a < 0 <= b)
+    return rises * RATE / len(samples)
+
+
+def strength(samples, tone):
+    """How loud one tone is among others."""
+    real = imaginary = 0.0
+    step = 2 * math.pi * tone / RATE
+    for i, sample in enumerate(samples):
+        real += sample * math.cos(step * i)
+        imaginary += sample * math.sin(step * i)
+    return 2 * math.hypot(real, imaginary) / len(samples)
+
+
+def longest_silence(samples):
+    """The longest run of silent samples, in milliseconds."""
+    longest = current = 0
+    for sample in samples:
+        current = current + 1 if abs(sample) < AUDIBLE else 0
+        longest = max(longest, current)
+    return longest * 1000 / RATE
+
+
+def largest_step(samples):
+    return max(abs(b - a) for a, b in zip(samples, samples[1:]))

@@ -1,0 +1,185 @@
+"""A desktop session of the test's own: buses, notifications, sound, and displays."""
+
+import os
+import shutil
+import tempfile
+
+from gi.repository import Gio, GLib
+
+from support import processes
+from support.display import Display
+from support.sound_server import Server
+from support.waiting import wait_until
+
+# Nothing is started on demand here: what is not there must be missed.
+BUS_CONFIGURATION = """<busconfig>
+  <type>session</type>
+  <listen>unix:path={folder}/session-bus</listen>
+  <auth>EXTERNAL</auth>
+  <policy context="default">
+    <allow send_destination="*" eavesdrop="true"/>
+    <allow eavesdrop="true"/>
+    <allow own="*"/>
+  </policy>
+</busconfig>
+"""
+
+# Whatever is shown stays, so that it can be counted.
+NOTIFICATION_CONFIGURATION = """[global]
+    idle_threshold = 0
+    stack_duplicates = false
+    history_length = 50
+    notification_limit = 20
+[urgency_low]
+    timeout = 0
+[urgency_normal]
+    timeout = 0
+[urgency_critical]
+    timeout = 0
+"""
+
+
+def ask(bus, name, path, interface, method, arguments=None):
+    return bus.call_sync(name, path, interface, method, arguments, None,
+                         Gio.DBusCallFlags.NO_AUTO_START, 5000, None).unpack()
+
+
+class Notifications:
+    """A notification daemon, and what it shows."""
+
+    NAME = "org.freedesktop.Notifications"
+    PATH = "/org/freedesktop/Notifications"
+
+    def __init__(self, bus, folder, environment):
+        processes.require("dunst")
+        self.bus = bus
+        self.taken = set()
+        configuration = os.path.join(folder, "dunstrc")
+        with open(configuration, "w", encoding="ascii") as file:
+            file.write(NOTIFICATION_CONFIGURATION)
+        self.process = processes.start(["dunst", "-conf", configuration], environment)
+        wait_until(lambda: ask(bus, "org.freedesktop.DBus", "/", "org.freedesktop.DBus",
+                               "NameHasOwner", GLib.Variant("(s)", (self.NAME,)))[0],
+                   10, "the notification daemon answers")
+
+    def shown(self):
+        return ask(self.bus, self.NAME, self.PATH, "org.freedesktop.DBus.Properties", "Get",
+                   GLib.Variant("(ss)", ("org.dunstproject.cmd0", "displayedLength")))[0]
+
+    def take_all(self):
+        """Takes away what is shown; gives it, the latest first."""
+        self.ask_for("NotificationCloseAll")
+        history, = self.ask_for("NotificationListHistory")
+        taken = [item for item in history if item["id"] not in self.taken]
+        self.taken.update(item["id"] for item in taken)
+        return taken
+
+    def ask_for(self, what):
+        return ask(self.bus, self.NAME, self.PATH, "org.dunstproject.cmd0", what)
+
+    def close(self):
+        processes.end(self.process)
+
+
+class Session:
+    """Everything that a desktop has; the program under test runs in it."""
+
+    def __init__(self, size=(1280, 800)):
+        processes.require("dbus-daemon", "setpriv", "pulseaudio", "pactl", "parec",
+                          "/usr/libexec/at-spi-bus-launcher")
+        self.folder = tempfile.mkdtemp(prefix="desktop-")
+        os.chmod(self.folder, 0o700)
+        self.sound = None
+        self.closers = []
+        try:
+            self.start(size)
+        except BaseException:
+            self.close()
+            raise
+
+    def start(self, size):
+        self.environment = {
+            "PATH": os.environ["PATH"], "LC_ALL": "C.UTF-8", "TZ": "UTC", "HOME": self.folder,
+            "XDG_RUNTIME_DIR": self.folder, "XDG_CACHE_HOME": f"{self.folder}/cache",
+            "DBUS_SESSION_BUS_ADDRESS": f"unix:path={self.folder}/session-bus",
+        }
+        self.environment.update((name, value) for name, value in os.environ.items()
+                                if name.endswith("SAN_OPTIONS"))
+        self.start_bus()
+        self.display = self.add_display(size)
+        self.environment["DISPLAY"] = self.display.environment["DISPLAY"]
+        self.start_accessibility()
+        self.notifications = None
+        self.closers.append(self.end_notifications)
+        self.start_notifications()
+
+    def start_bus(self):
+        configuration = os.path.join(self.folder, "session.conf")
+        with open(configuration, "w", encoding="ascii") as file:
+            file.write(BUS_CONFIGURATION.format(folder=self.folder))
+        reader, writer = os.pipe()
+        daemon = processes.start(
+            ["dbus-daemon", f"--config-file={configuration}", "--nofork",
+             f"--print-address={writer}"], self.environment, pass_fds=[writer])
+        self.closers.append(lambda: processes.end(daemon))
+        os.close(writer)
+        with os.fdopen(reader, encoding="ascii") as pipe:
+            address = pipe.readline().strip()
+        if not address:
+            raise RuntimeError("dbus-daemon did not start")
+        flags = (Gio.DBusConnectionFlags.AUTHENTICATION_CLIENT
+                 | Gio.DBusConnectionFlags.MESSAGE_BUS_CONNECTION)
+        self.bus = Gio.DBusConnection.new_for_address_sync(address, flags, None, None)
+        self.bus.set_exit_on_close(False)
+
+    def start_accessibility(self):
+        launcher = processes.start(
+            ["/usr/libexec/at-spi-bus-launcher", "--launch-immediately"], self.environment)
+        self.closers.append(lambda: processes.end(launcher))
+        address = None
+
+        def answers():
+            nonlocal address
+            try:
+                address = ask(self.bus, "org.a11y.Bus", "/org/a11y/bus", "org.a11y.Bus",
+                              "GetAddress")[0]
+            except GLib.Error:
+                return False
+            return True
+
+        wait_until(answers, 10, "the accessibility bus answers")
+        # For the bindings in this process.
+        os.environ["AT_SPI_BUS_ADDRESS"] = address
+        os.environ["DBUS_SESSION_BUS_ADDRESS"] = self.environment["DBUS_SESSION_BUS_ADDRESS"]
+
+    def start_notifications(self):
+        self.notifications = Notifications(self.bus, self.folder, self.environment)
+
+    def end_notifications(self):
+        if self.notifications:
+            self.notifications.close()
+        self.notifications = None
+
+    def start_sound(self):
+        """Starts a sound server; the program finds it in its run-time folder."""
+        self.sound = Server(self.folder)
+        self.closers.append(self.sound.close)
+        self.environment.update((name, self.sound.environment[name])
+                                for name in ("ALSA_CONFIG_PATH", "PULSE_CLIENTCONFIG"))
+
+    def make_folder(self, name):
+        path = os.path.join(self.folder, name)
+        os.mkdir(path, mode=0o700)
+        return path
+
+    def add_display(self, size):
+        display = Display(self.environment, size)
+        self.closers.append(display.close)
+        display.start_manager()
+        return display
+
+    def close(self):
+        while self.closers:
+            self.closers.pop()()
+        processes.wait_for_no_one(self.folder)
+        shutil.rmtree(self.folder)
