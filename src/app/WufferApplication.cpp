@@ -140,7 +140,7 @@ bool WufferApplication::swallowsKey(QEvent &event)
     if (isModifier(keyEvent.key()))
         return false;
     if (event.type() == QEvent::KeyRelease) {
-        if (!keyEvent.isAutoRepeat())
+        if (!keyEvent.isAutoRepeat() && _swallowedKey == keyEvent.key())
             _swallowedKey.reset();
         return false;
     }
@@ -150,7 +150,8 @@ bool WufferApplication::swallowsKey(QEvent &event)
     if (newPress)
         _swallowedKey.reset();
     if (_swallowedKey != keyEvent.key()) {
-        if (!cancelFullScreenMode())
+        // Nor does the key that has brought the full screen end it while it is still held.
+        if (keyEvent.isAutoRepeat() || !cancelFullScreenMode())
             return false;
         _swallowedKey = keyEvent.key();
     }

@@ -17,11 +17,6 @@ namespace
 constexpr QStringView kLaunchNothing = u"Do Nothing";
 constexpr QStringView kLaunchPreset = u"Open Preset ⌘1";
 constexpr QStringView kLaunchAndStartPreset = u"Open and Start Preset ⌘1";
-
-std::unique_ptr<AuxiliaryWindow> auxiliaryWindow(MainMenu &menu, const QString &title)
-{
-    return std::make_unique<AuxiliaryWindow>(menu, title);
-}
 } // namespace
 
 WufferController::WufferController() : _mainMenu(std::make_unique<MainMenu>(*this)) {}
@@ -82,23 +77,24 @@ void WufferController::startAllWuffers()
 
 void WufferController::showPreferences()
 {
-    if (!_preferencesWindow)
-        _preferencesWindow = auxiliaryWindow(*_mainMenu, tr("Preferences"));
-    _preferencesWindow->orderFront();
+    show(_preferencesWindow, tr("Preferences"));
 }
 
 void WufferController::showConverter()
 {
-    if (!_converterWindow)
-        _converterWindow = auxiliaryWindow(*_mainMenu, tr("Converter"));
-    _converterWindow->orderFront();
+    show(_converterWindow, tr("Converter"));
 }
 
 void WufferController::showMeasurements()
 {
-    if (!_measurementsWindow)
-        _measurementsWindow = auxiliaryWindow(*_mainMenu, tr("Measurements"));
-    _measurementsWindow->orderFront();
+    show(_measurementsWindow, tr("Measurements"));
+}
+
+void WufferController::show(std::unique_ptr<AuxiliaryWindow> &window, const QString &title)
+{
+    if (!window)
+        window = std::make_unique<AuxiliaryWindow>(*_mainMenu, title);
+    window->orderFront();
 }
 
 void WufferController::donate()

@@ -52,6 +52,8 @@ public:
 private:
     [[nodiscard]] static Wuffer *newestWuffer();
     void openAtLaunch();
+    /// Shows one of the windows beside the timers, which is made when it is first asked for.
+    void show(std::unique_ptr<AuxiliaryWindow> &window, const QString &title);
 
     std::unique_ptr<MainMenu> _mainMenu;
     std::unique_ptr<AuxiliaryWindow> _preferencesWindow;

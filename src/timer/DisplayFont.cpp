@@ -8,6 +8,7 @@ void DisplayFont::apply(QWidget &label, double points)
         return;
     QFont font(kResultLabelFont.toString());
     font.setStyleHint(QFont::TypeWriter);
+    font.setFixedPitch(true);
     font.setPointSizeF(points);
     label.setFont(font);
 }

@@ -2,7 +2,6 @@
 
 #include "platform/NotificationCenter.h"
 #include "settings/WufferWindow.h"
-#include "timer/NumberText.h"
 #include "timer/TargetTimeSheet.h"
 #include "timer/TimeFormat.h"
 #include "timer/TimerTexts.h"
@@ -50,7 +49,7 @@ void Wuffer::awakeFromNib()
 {
     connectControls();
     setFullScreenFontSizes(false);
-    setResultLabelText(QStringLiteral("Wuffer"));
+    setResultLabelText(kUnnamedTitle.toString());
     setDefaultDisplayValues();
     enableReturnShortcut();
     populateFinishedCombo();
@@ -100,11 +99,7 @@ QString Wuffer::title() const
 
 QString Wuffer::description() const
 {
-    const QString duration =
-        TimeFormat::hmsString(NumberText::integerFrom(_ui->_hoursField->text()),
-                              NumberText::integerFrom(_ui->_minutesField->text()),
-                              NumberText::integerFrom(_ui->_secondsField->text()));
-    return title() + QStringLiteral(" - ") + duration;
+    return title() + QStringLiteral(" - ") + TimeFormat::hmsString(hours(), minutes(), seconds());
 }
 
 QString Wuffer::statusString() const

@@ -36,7 +36,7 @@ public:
     Wuffer();
     ~Wuffer() override;
 
-    // What others ask a timer.
+    // What others ask a timer: Wuffer.cpp.
 
     [[nodiscard]] WufferWindow *window() const { return _window.get(); }
     /// Started and not closed; a timer in its alarm phase counts as running.
@@ -85,6 +85,7 @@ public:
     void refreshDisplay(double remaining, double timeElapsed);
     /// The only way by which text reaches the big display: fits the font to the text.
     void setResultLabelText(const QString &text);
+    /// Colours every text of the display, the elapsed line only if it is asked for.
     void setColorForDisplayText(const QColor &color, bool elapsedToo);
     /// The idle display.
     void setDefaultDisplayValues();
@@ -104,8 +105,11 @@ public:
 
     // Full screen and windows: app/WufferPresentation.cpp.
 
+    /// Moves the display onto the screen that the user looks at, the pointer hidden, or back.
     void setFullScreenMode(bool fullScreen);
+    /// Sets the three texts of the display in the sizes of the full screen or of the window.
     void setFullScreenFontSizes(bool fullScreen);
+    /// Enters full-screen mode, or leaves it.
     void startStopFullScreen();
     /// Leaves full-screen mode; answers whether the timer was in it.
     bool setWindowed();
@@ -159,7 +163,7 @@ public:
 Q_SIGNALS:
     /// What the menu items of this timer may do, or are called, may have changed.
     void stateChanged();
-    /// The window has closed; the timer is of no more use.
+    /// The window closes; the timer is of no more use. Before the notice that tells of it.
     void closed();
 
 private:
@@ -176,6 +180,10 @@ private:
     void postStatusChanged();
     void windowWillClose();
 
+    /// What the number fields say, each as a whole number.
+    [[nodiscard]] qint32 hours() const;
+    [[nodiscard]] qint32 minutes() const;
+    [[nodiscard]] qint32 seconds() const;
     void controlTextDidChange(const QLineEdit &field);
     void controlTextDidEndEditing(const QLineEdit &field);
     void enableReturnShortcut();
@@ -204,6 +212,7 @@ private:
     bool _stopwatch = false;
     bool _soundOff = false;
     bool _suppressCountdown = false;
+    /// Loaded with the others; who opens presets reads the setting itself.
     bool _autoStartPresets = false;
     bool _disableGrowl = false;
     bool _closed = false;

@@ -40,6 +40,7 @@ void Wuffer::refreshDisplay(double remaining, double timeElapsed)
     const double shown = _stopwatch ? timeElapsed : remaining;
     _ui->_msLabel->setText(_energySaverActive ? QString() : TimeFormat::msStringForTime(shown));
 
+    // The text is looked at after it was written, so it is the name only if a time reads so.
     const bool black = remaining > kRedSeconds || _stopwatch || statusString() == BuildInfo::name();
     setColorForDisplayText(black ? QColor(Qt::black) : TimerColors::red(), true);
 }

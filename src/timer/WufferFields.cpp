@@ -1,17 +1,27 @@
-#include "platform/Sound.h"
-#include "platform/UserDefaults.h"
 #include "settings/WufferWindow.h"
 #include "timer/NumberText.h"
-#include "timer/TargetTimeSheet.h"
 #include "timer/TimeFields.h"
 #include "timer/Wuffer.h"
 #include "ui_Wuffer.h"
 
 double Wuffer::timeLeftFromFields() const
 {
-    return TimeFields::total(NumberText::integerFrom(_ui->_hoursField->text()),
-                             NumberText::integerFrom(_ui->_minutesField->text()),
-                             NumberText::integerFrom(_ui->_secondsField->text()));
+    return TimeFields::total(hours(), minutes(), seconds());
+}
+
+qint32 Wuffer::hours() const
+{
+    return NumberText::integerFrom(_ui->_hoursField->text());
+}
+
+qint32 Wuffer::minutes() const
+{
+    return NumberText::integerFrom(_ui->_minutesField->text());
+}
+
+qint32 Wuffer::seconds() const
+{
+    return NumberText::integerFrom(_ui->_secondsField->text());
 }
 
 void Wuffer::setFieldsWithTimeLeft(double timeLeft)
@@ -49,28 +59,4 @@ void Wuffer::disableReturnShortcut()
 {
     _returnTimer.invalidate();
     _window->setReturnShortcutEnabled(false);
-}
-
-void Wuffer::windowWillClose()
-{
-    if (_closed)
-        return;
-    setWindowed();
-    endTargetTimeSheet();
-    for (Sound *sound : {_doneSound.get(), _beepSound.get()}) {
-        if (sound && sound->isPlaying())
-            sound->stop();
-    }
-    // A running timer closes without a trace.
-    if (_timerStarted) {
-        _checkTimer.invalidate();
-        _timerStarted = false;
-    } else {
-        saveSettingsToDefaultKey();
-        UserDefaults::standardUserDefaults().synchronize();
-    }
-    _closed = true;
-    postStatusChanged();
-    Q_EMIT stateChanged();
-    Q_EMIT closed();
 }

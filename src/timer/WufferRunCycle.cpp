@@ -1,7 +1,7 @@
 #include "platform/NotificationCenter.h"
 #include "timer/BeepSchedule.h"
-#include "timer/Integers.h"
 #include "timer/NumberText.h"
+#include "timer/TimeFields.h"
 #include "timer/TimerTexts.h"
 #include "timer/Wuffer.h"
 #include "ui_Wuffer.h"
@@ -44,11 +44,13 @@ void Wuffer::goPressed()
 
 void Wuffer::startRun()
 {
+    // A sheet that still asks when to end has been overtaken.
+    endTargetTimeSheet();
     _wuffTimer.invalidate();
     setColorForDisplayText(Qt::black, false);
     _timerStarted = true;
 
-    const auto total = cutToInteger(timeLeftFromFields());
+    const qint32 total = TimeFields::total(hours(), minutes(), seconds());
     const Date now = Date::now();
     if (_stopwatch) {
         const qint64 milliseconds = NumberText::integerFrom(_ui->_msLabel->text());
@@ -141,8 +143,6 @@ void Wuffer::stopwatch()
     _stopwatch = !_stopwatch;
     if (_stopwatch) {
         setFieldsWithTimeLeft(0);
-        _ui->_keepWuffingBox->setEnabled(false);
-        _ui->_keepWuffingBox->setChecked(false);
         _ui->_elapsedLabel->setText(kStopwatchString.toString());
         _ui->_msLabel->setText({});
         setResultLabelText(QStringLiteral("0s"));

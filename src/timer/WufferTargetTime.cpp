@@ -3,7 +3,6 @@
 #include "settings/WufferWindow.h"
 #include "timer/TargetTimeSheet.h"
 #include "timer/Wuffer.h"
-#include "ui_Wuffer.h"
 
 void Wuffer::targetTime()
 {

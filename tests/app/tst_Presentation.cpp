@@ -118,8 +118,10 @@ void tst_Presentation::theNameOnTheFullScreenStaysVisibleAfterwards()
     TimerFixture t;
     t.typeName(QStringLiteral("Tea"));
     t.timer.showWufferWindow();
+    QVERIFY(!t.label("_fullTitleField").isVisible());
     t.timer.setFullScreenMode(true);
     QVERIFY(t.label("_fullTitleField").isVisible());
+    QVERIFY(!t.titleField.isVisible());
     QCOMPARE(t.label("_fullTitleField").text(), QStringLiteral("Tea"));
     t.timer.setFullScreenMode(false);
     QVERIFY(t.label("_fullTitleField").isVisible());

@@ -23,6 +23,8 @@ private Q_SLOTS:
     void aKeyPressEndsFullScreenAndIsNotTyped();
     void theNextKeyPressIsTyped();
     void aHeldKeyDoesNothingMore();
+    void anotherKeyLetGoDoesNotFreeTheHeldOne();
+    void theHeldKeyThatBroughtTheFullScreenDoesNotEndIt();
     void aMenuShortcutEndsFullScreenOnly();
     void aModifierAloneDoesNotEndFullScreen();
     void returnEndsFullScreenWithoutStopping();
@@ -202,6 +204,27 @@ void tst_WufferApplication::aHeldKeyDoesNothingMore()
     QCOMPARE(t.fields(), QStringLiteral("0 7 0"));
 }
 
+void tst_WufferApplication::anotherKeyLetGoDoesNotFreeTheHeldOne()
+{
+    TimerFixture t;
+    show(t);
+    t.timer.setFullScreenMode(true);
+    press(*t.box().window(), Qt::Key_7);
+    release(*t.timer.window(), Qt::Key_X);
+    QKeyEvent repeat(QEvent::KeyPress, Qt::Key_7, Qt::NoModifier, QStringLiteral("7"), true);
+    QCoreApplication::sendEvent(&t.part<QLineEdit>("_minutesField"), &repeat);
+    QCOMPARE(t.fields(), QStringLiteral("0 0 0"));
+}
+
+void tst_WufferApplication::theHeldKeyThatBroughtTheFullScreenDoesNotEndIt()
+{
+    TimerFixture t;
+    t.timer.setFullScreenMode(true);
+    QKeyEvent repeat(QEvent::KeyPress, Qt::Key_F11, Qt::NoModifier, QString(), true);
+    QCoreApplication::sendEvent(&t.box(), &repeat);
+    QVERIFY(t.isFullScreen());
+}
+
 void tst_WufferApplication::aMenuShortcutEndsFullScreenOnly()
 {
     TimerFixture t;
@@ -228,8 +251,8 @@ void tst_WufferApplication::aModifierAloneDoesNotEndFullScreen()
     TimerFixture t;
     show(t);
     t.timer.setFullScreenMode(true);
-    for (const Qt::Key key :
-         {Qt::Key_Control, Qt::Key_Shift, Qt::Key_Alt, Qt::Key_Meta, Qt::Key_CapsLock}) {
+    for (const Qt::Key key : {Qt::Key_Control, Qt::Key_Shift, Qt::Key_Alt, Qt::Key_Meta,
+                              Qt::Key_AltGr, Qt::Key_CapsLock}) {
         press(*t.box().window(), key);
         release(*t.box().window(), key);
         QVERIFY(t.isFullScreen());

@@ -24,6 +24,7 @@ private Q_SLOTS:
     void theOtherWindowsAreShownAndActive_data();
     void theOtherWindowsAreShownAndActive();
     void aWindowShownAgainIsTheSame();
+    void aMinimizedWindowIsShownAgain();
     void theWebPageIsOpened();
     void everyItemOfTheControllerIsEnabled();
 };
@@ -169,6 +170,18 @@ void tst_WufferController::aWindowShownAgainIsTheSame()
     const auto windows = QApplication::topLevelWidgets().size();
     controller.showConverter();
     QCOMPARE(QApplication::topLevelWidgets().size(), windows);
+}
+
+void tst_WufferController::aMinimizedWindowIsShownAgain()
+{
+    const TestServices services;
+    WufferController controller;
+    controller.showConverter();
+    QTRY_VERIFY(QApplication::activeWindow());
+    QWidget *window = QApplication::activeWindow();
+    window->showMinimized();
+    controller.showConverter();
+    QVERIFY(!window->isMinimized());
 }
 
 void tst_WufferController::theWebPageIsOpened()

@@ -20,6 +20,7 @@ void FakeSound::play()
 {
     Q_ASSERT_X(_duration > 0, "FakeSound", "a sound without a duration cannot be played");
     _playing = true;
+    _system.whenPlayed();
     _system._diary << QStringLiteral("play %1 at %2").arg(_name).arg(static_cast<double>(_volume));
 }
 

@@ -8,6 +8,7 @@
 #include <QStringList>
 #include <QUrl>
 
+#include <functional>
 #include <vector>
 
 class FakeSoundSystem;
@@ -60,6 +61,9 @@ public:
     /// The lines of the diary that begin so.
     [[nodiscard]] QStringList diary(const QString &beginning = {}) const;
     void clearDiary() { _diary.clear(); }
+
+    /// Called whenever a sound begins.
+    std::function<void()> whenPlayed = [] {};
 
 private:
     friend class FakeSound;

@@ -51,6 +51,9 @@ public:
         return child<Class>(*timer.window(), name);
     }
 
+    /// Found while it is in the window, like the labels.
+    QLineEdit &titleField = part<QLineEdit>("_titleField");
+
 private:
     [[nodiscard]] QHash<QByteArray, DisplayLabel *> findLabels() const;
 

@@ -36,6 +36,11 @@ private Q_SLOTS:
     void unmutingDuringTheAlarmEndsIt();
     void anEmptyFinishActionIsNone();
     void theFinishedTextIsTheUsers();
+    void aLongFinishedTextShrinks();
+    void theAlarmIsLookedAtEveryFifthOfASecond();
+    void aMutedAlarmLastsFiveSecondsAndNoLess();
+    void theOtherTimersLeaveTheFullScreenBeforeTheAlarmSounds();
+    void theBoxDecidesWhetherTheNextAlarmLoops();
 };
 
 void tst_AlarmPhase::theEndIsShownInRed()
@@ -362,6 +367,72 @@ void tst_AlarmPhase::theFinishedTextIsTheUsers()
     t.startCountdown(1);
     t.pass(1.1);
     QCOMPARE(t.display(), QStringLiteral("Wuff!"));
+}
+
+void tst_AlarmPhase::aLongFinishedTextShrinks()
+{
+    TimerFixture t;
+    t.set("finishedText", QString(20, QLatin1Char('w')));
+    t.startCountdown(0);
+    t.pass(0.04);
+    QCOMPARE(t.label("_resultLabel").font().pointSizeF(), 13.5);
+}
+
+void tst_AlarmPhase::theAlarmIsLookedAtEveryFifthOfASecond()
+{
+    TimerFixture t;
+    t.startCountdown(0);
+    t.pass(0.0371);
+    t.sounds.sound(kWuff)->reachEnd();
+    t.pass(0.198);
+    QCOMPARE(t.go(), QStringLiteral("Reset"));
+    t.pass(0.003);
+    QCOMPARE(t.go(), QStringLiteral("Start"));
+}
+
+void tst_AlarmPhase::aMutedAlarmLastsFiveSecondsAndNoLess()
+{
+    TimerFixture t;
+    t.set("soundOff", 1);
+    t.chooseFinish(QStringLiteral("Loop this Wuffer"));
+    // Late enough for an alarm tick to fall just before the five seconds are over.
+    t.startCountdown(0);
+    t.clock.sleep(0.19);
+    t.pass(4.805);
+    QCOMPARE(t.go(), QStringLiteral("Reset"));
+    t.pass(0.25);
+    QCOMPARE(t.notifications.shown.size(), std::size_t(2));
+}
+
+void tst_AlarmPhase::theOtherTimersLeaveTheFullScreenBeforeTheAlarmSounds()
+{
+    TimerFixture t;
+    Wuffer &other = WufferApplication::instance().openWuffer();
+    const auto &otherBox = child<DisplayBox>(*other.window(), "_displayBox");
+    other.setFullScreenMode(true);
+    bool fullScreenAtTheAlarm = true;
+    t.sounds.whenPlayed = [&] { fullScreenAtTheAlarm = otherBox.isInFullScreenMode(); };
+    t.startCountdown(0);
+    t.pass(0.04);
+    QVERIFY(t.sounds.isPlaying(kWuff));
+    QVERIFY(!fullScreenAtTheAlarm);
+}
+
+void tst_AlarmPhase::theBoxDecidesWhetherTheNextAlarmLoops()
+{
+    TimerFixture t;
+    const QString bell = QStringLiteral("/home/somebody/Bell.aiff");
+    t.sounds.setFileDuration(bell, 1.5);
+    t.chooseAlarm(bell);
+    t.tick("_keepWuffingBox");
+    t.startCountdown(0);
+    t.pass(0.3);
+    QVERIFY(t.sounds.sound(bell)->loops());
+    t.pressGo();
+    t.tick("_keepWuffingBox", false);
+    t.startCountdown(1);
+    t.pass(0.1);
+    QVERIFY(!t.sounds.sound(bell)->loops());
 }
 
 WUFFER_TEST_MAIN(tst_AlarmPhase)

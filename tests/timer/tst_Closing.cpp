@@ -1,6 +1,7 @@
 #include "support/TestMain.h"
 #include "support/TimerFixture.h"
 
+#include <QAction>
 #include <QDialog>
 #include <QFile>
 
@@ -21,7 +22,8 @@ private Q_SLOTS:
     void closingLeavesTheFullScreen();
     void closingTakesTheSheetAlong();
     void aClosedTimerIsDestroyed();
-    void aClosedTimerNoLongerListensForSettings();
+    void aRunningTimerClosesWithoutATrace();
+    void aClosedTimerIsGoneWhenTheRestIsTold();
 
 private:
     static void letGo() { QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); }
@@ -138,13 +140,30 @@ void tst_Closing::aClosedTimerIsDestroyed()
     QVERIFY(!window);
 }
 
-void tst_Closing::aClosedTimerNoLongerListensForSettings()
+void tst_Closing::aRunningTimerClosesWithoutATrace()
 {
     TimerFixture t;
+    t.defaults.setObject(7, QStringLiteral("something"));
+    t.startCountdown(60);
     t.timer.window()->close();
-    letGo();
-    t.set("soundOff", 1);
-    QVERIFY(WufferApplication::getWuffers().empty());
+    QVERIFY(!QFile::exists(t.settingsPath()));
+}
+
+void tst_Closing::aClosedTimerIsGoneWhenTheRestIsTold()
+{
+    const TimerFixture t;
+    bool listed = true;
+    bool enabled = true;
+    QAction item;
+    QObject observer;
+    NotificationCenter::defaultCenter().addObserver(
+        observer, QStringLiteral("statusChanged"), [&](QObject *) {
+            listed = !WufferApplication::getWuffers().empty();
+            enabled = t.timer.validateMenuItem(item, &Wuffer::resetWuffer);
+        });
+    t.timer.window()->close();
+    QVERIFY(!listed);
+    QVERIFY(!enabled);
 }
 
 WUFFER_TEST_MAIN(tst_Closing)

@@ -20,7 +20,6 @@ private Q_SLOTS:
     void zeroOrLessRestoresTheIdleDisplay();
     void theLastElevenSecondsAreRed();
     void itStaysRedWhenStoppedInTheLastSeconds();
-    void theProgramsNameNeverTurnsRed();
     void theColorOfTheElapsedLineIsAskedForApart();
     void theBigTextShrinksToTheWidthOfTenCharacters_data();
     void theBigTextShrinksToTheWidthOfTenCharacters();
@@ -103,16 +102,6 @@ void tst_Display::itStaysRedWhenStoppedInTheLastSeconds()
     QCOMPARE(t.display(), QStringLiteral("5s"));
 }
 
-void tst_Display::theProgramsNameNeverTurnsRed()
-{
-    TimerFixture t;
-    // The text is written before it is looked at, so only a time that reads like the name could
-    // be meant; the idle display is what a refresh without time shows.
-    t.timer.refreshDisplay(0, 0);
-    QCOMPARE(t.display(), BuildInfo::name());
-    QCOMPARE(t.color(), QColor(Qt::black));
-}
-
 void tst_Display::theColorOfTheElapsedLineIsAskedForApart()
 {
     TimerFixture t;
@@ -158,8 +147,8 @@ void tst_Display::theBigTextShrinksToTheWidthOfTenCharacters()
 void tst_Display::everyTextOfTheDisplayIsInCourier()
 {
     TimerFixture t;
-    for (const bool fullScreen : {false, true}) {
-        t.timer.setFullScreenFontSizes(fullScreen);
+    for (const bool fullScreen : {false, true, false}) {
+        t.timer.setFullScreenMode(fullScreen);
         const double small = fullScreen ? 36 : 12;
         QCOMPARE(t.label("_resultLabel").font().family(), QStringLiteral("Courier"));
         for (const char *name : {"_msLabel", "_elapsedLabel"}) {

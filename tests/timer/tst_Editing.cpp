@@ -17,6 +17,9 @@ private Q_SLOTS:
     void leavingTheNameGivesReturnBack();
     void keepWuffingIsToggledOnce();
     void tabsWalkThroughTheWindowInOrder();
+    void aNameThatIsErasedLeavesTheWindowWithoutOne();
+    void theButtonsDoWhatTheySay();
+    void aHeldReturnPressesOnce();
 
 private:
     static void show(const TimerFixture &t);
@@ -100,6 +103,7 @@ void tst_Editing::afterTheNameReturnStartsAgain()
     name.setFocus();
     t.typeName(QStringLiteral("Tea"));
     press(Qt::Key_Return);
+    t.pass(0.009);
     press(Qt::Key_Return);
     QVERIFY(!t.timer.isRunning());
     t.pass(0.011);
@@ -152,6 +156,43 @@ void tst_Editing::tabsWalkThroughTheWindowInOrder()
     QCOMPARE(walk, expected);
     // The drawer is closed, so the walk begins again.
     QCOMPARE(QApplication::focusWidget()->objectName(), QStringLiteral("_titleField"));
+}
+
+void tst_Editing::aNameThatIsErasedLeavesTheWindowWithoutOne()
+{
+    TimerFixture t;
+    t.typeName(QStringLiteral("Tea"));
+    auto &name = t.part<QLineEdit>("_titleField");
+    name.selectAll();
+    QTest::keyClick(&name, Qt::Key_Backspace);
+    QCOMPARE(t.timer.window()->windowTitle(), QString());
+    QCOMPARE(t.timer.title(), QStringLiteral("Wuffer"));
+}
+
+void tst_Editing::theButtonsDoWhatTheySay()
+{
+    TimerFixture t;
+    show(t);
+    auto &options = t.part<QPushButton>("_finishedDrawerButton");
+    QTest::mouseClick(&options, Qt::LeftButton);
+    QCOMPARE(options.text(), QStringLiteral("Hide Options"));
+    auto &combo = t.part<QComboBox>("_finishedCombo");
+    QTest::keyClick(&combo, Qt::Key_Down);
+    QCOMPARE(combo.currentText(), QStringLiteral("Loop this Wuffer"));
+    QVERIFY(!t.part<QCheckBox>("_keepWuffingBox").isEnabled());
+    QTest::mouseClick(&t.part<QPushButton>("_goButton"), Qt::LeftButton);
+    QVERIFY(t.timer.isRunning());
+}
+
+void tst_Editing::aHeldReturnPressesOnce()
+{
+    TimerFixture t;
+    show(t);
+    t.typeDuration(0, 5, 0);
+    QWindow *window = t.timer.window()->windowHandle();
+    QTest::simulateEvent(window, true, Qt::Key_Return, Qt::NoModifier, QStringLiteral("\r"), false);
+    QTest::simulateEvent(window, true, Qt::Key_Return, Qt::NoModifier, QStringLiteral("\r"), true);
+    QVERIFY(t.timer.isRunning());
 }
 
 WUFFER_TEST_MAIN(tst_Editing)

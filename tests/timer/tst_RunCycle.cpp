@@ -23,12 +23,16 @@ private Q_SLOTS:
     void hugeDurationsDoNotOverflow();
     void resettingRestoresTheDurationOfTheLastStart();
     void resettingWhileRunningStops();
+    void resettingBeforeAnyStartEmptiesTheFields();
+    void aStopwatchRunLeavesTheDurationToResetAlone();
+    void theButtonPressGivesTheKeepWuffingBoxBack();
+    void aMutedTimersKeepWuffingBoxStaysDisabled();
+    void theRestIsToldWhenAllIsDone();
     void everyFifthTickTellsTheRestOfTheProgram();
     void theCountOfTicksGoesOnOverAStop();
     void startAndStopEachTellTheRestOnce();
     void savingEnergyWorksEveryFifthTickOnly();
     void startingIsNotRefusedByADisabledButton();
-    void startingSilencesAnAlarmSound();
     void hundredTimersWakeTheProcessAsOftenAsOne();
     void anIdleTimerWakesNothing();
 };
@@ -280,16 +284,6 @@ void tst_RunCycle::startingIsNotRefusedByADisabledButton()
     QVERIFY(t.part<QPushButton>("_goButton").isEnabled());
 }
 
-void tst_RunCycle::startingSilencesAnAlarmSound()
-{
-    TimerFixture t;
-    t.startCountdown(0);
-    t.pass(0.038);
-    QVERIFY(t.sounds.isPlaying(QStringLiteral("wolvesWuff.wav")));
-    t.timer.goPressed();
-    QVERIFY(!t.sounds.isPlaying(QStringLiteral("wolvesWuff.wav")));
-}
-
 void tst_RunCycle::hundredTimersWakeTheProcessAsOftenAsOne()
 {
     TimerFixture t;
@@ -313,6 +307,65 @@ void tst_RunCycle::anIdleTimerWakesNothing()
     QVERIFY(!t.clock.isIdle());
     t.pressGo();
     QVERIFY(t.clock.isIdle());
+}
+
+void tst_RunCycle::resettingBeforeAnyStartEmptiesTheFields()
+{
+    TimerFixture t;
+    t.typeDuration(1, 2, 3);
+    t.timer.resetWuffer();
+    QCOMPARE(t.fields(), QStringLiteral("0 0 0"));
+}
+
+void tst_RunCycle::aStopwatchRunLeavesTheDurationToResetAlone()
+{
+    TimerFixture t;
+    t.startCountdown(100);
+    t.pressGo();
+    t.timer.stopwatch();
+    t.pressGo();
+    t.pass(5);
+    t.pressGo();
+    t.timer.stopwatch();
+    t.timer.resetWuffer();
+    QCOMPARE(t.fields(), QStringLiteral("0 1 40"));
+}
+
+void tst_RunCycle::theButtonPressGivesTheKeepWuffingBoxBack()
+{
+    TimerFixture t;
+    auto &box = t.part<QCheckBox>("_keepWuffingBox");
+    box.setEnabled(false);
+    t.startCountdown(60);
+    QVERIFY(box.isEnabled());
+    box.setEnabled(false);
+    t.pressGo();
+    QVERIFY(box.isEnabled());
+}
+
+void tst_RunCycle::aMutedTimersKeepWuffingBoxStaysDisabled()
+{
+    TimerFixture t;
+    t.set("soundOff", 1);
+    t.startCountdown(60);
+    QVERIFY(!t.part<QCheckBox>("_keepWuffingBox").isEnabled());
+}
+
+void tst_RunCycle::theRestIsToldWhenAllIsDone()
+{
+    TimerFixture t;
+    QStringList told;
+    QObject observer;
+    NotificationCenter::defaultCenter().addObserver(
+        observer, QStringLiteral("statusChanged"),
+        [&](QObject *) { told << t.go() + QLatin1Char(' ') + t.display(); });
+    t.startCountdown(5);
+    t.pressGo();
+    t.startCountdown(0);
+    t.pass(0.04);
+    const QStringList expected{QStringLiteral("Stop 5s"), QStringLiteral("Start 5s"),
+                               QStringLiteral("Stop Wuffer"), QStringLiteral("Reset Wuff!")};
+    QCOMPARE(told, expected);
 }
 
 WUFFER_TEST_MAIN(tst_RunCycle)

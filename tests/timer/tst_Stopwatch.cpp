@@ -20,6 +20,7 @@ private Q_SLOTS:
     void resettingStartsOverInTheSameMode();
     void resettingWhileRunningStopsAndStartsOver();
     void theAlarmCannotBeKeptGoing();
+    void aStopwatchMayFillTheScreen();
 };
 
 void tst_Stopwatch::enteringTheModeClearsTheTimer()
@@ -51,6 +52,7 @@ void tst_Stopwatch::leavingTheModeGivesTheChoicesBack()
     t.timer.stopwatch();
 
     QCOMPARE(t.elapsed(), QString());
+    QCOMPARE(t.display(), QStringLiteral("0s"));
     QCOMPARE(t.color(), QColor(Qt::black));
     QVERIFY(t.part<QCheckBox>("_keepWuffingBox").isEnabled());
     for (const char *combo :
@@ -187,6 +189,15 @@ void tst_Stopwatch::theAlarmCannotBeKeptGoing()
     t.pressGo();
     t.pressGo();
     QVERIFY(!t.part<QCheckBox>("_keepWuffingBox").isEnabled());
+}
+
+void tst_Stopwatch::aStopwatchMayFillTheScreen()
+{
+    TimerFixture t;
+    t.tick("_fullScreenBox");
+    t.timer.stopwatch();
+    t.pressGo();
+    QVERIFY(t.isFullScreen());
 }
 
 WUFFER_TEST_MAIN(tst_Stopwatch)

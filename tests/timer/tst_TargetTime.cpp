@@ -22,6 +22,9 @@ private Q_SLOTS:
     void aDateThatHasPassedMeanwhileEndsAtOnce();
     void theComputersClockDecidesOnlyWhatIsPicked();
     void changesOfSummerTimeAreCounted();
+    void theSheetBeginsAnewEachTime();
+    void confirmingHidesTheSheet();
+    void aStartMeanwhileEndsTheSheet();
 
 private:
     static TargetTimeSheet &sheet(const TimerFixture &t)
@@ -135,12 +138,45 @@ void tst_TargetTime::changesOfSummerTimeAreCounted()
     TimerFixture t;
     const QDateTime now = t.clock.calendarNow();
     t.timer.targetTime();
-    // The same time of day half a year on is a whole number of days away in UTC and in India,
-    // and would be an hour off where the clocks change.
+    // Half a year on the same time of day is an hour nearer or farther where the clocks change
+    // in between, as they do in one of the places where this test runs.
     sheet(t).setDateValue(now.addDays(180));
     const qint64 expected = now.secsTo(now.addDays(180)) - 1;
     t.timer.startWithTargetTime();
     QCOMPARE(t.timer.targetDate()->timeIntervalSinceNow(), double(expected));
+}
+
+void tst_TargetTime::theSheetBeginsAnewEachTime()
+{
+    TimerFixture t;
+    t.timer.targetTime();
+    sheet(t).setDateValue(t.clock.calendarNow().addDays(3));
+    t.timer.endTargetTimeSheet();
+    t.pass(3600);
+    t.typeDuration(0, 1, 0);
+    t.timer.targetTime();
+    const QDateTime now = t.clock.calendarNow();
+    QCOMPARE(sheet(t).dateValue().toSecsSinceEpoch(), now.toSecsSinceEpoch() + 60);
+    sheet(t).setDateValue(now.addDays(-3));
+    QCOMPARE(sheet(t).dateValue().toSecsSinceEpoch(), now.toSecsSinceEpoch());
+}
+
+void tst_TargetTime::confirmingHidesTheSheet()
+{
+    TimerFixture t;
+    t.timer.targetTime();
+    t.timer.startWithTargetTime();
+    QVERIFY(!sheet(t).isVisible());
+}
+
+void tst_TargetTime::aStartMeanwhileEndsTheSheet()
+{
+    TimerFixture t;
+    t.typeDuration(0, 1, 0);
+    t.timer.targetTime();
+    t.pressGo();
+    QVERIFY(!sheet(t).isVisible());
+    QVERIFY(t.timer.isRunning());
 }
 
 WUFFER_TEST_MAIN(tst_TargetTime)

@@ -1,3 +1,4 @@
+#include "controls/ClickableImageView.h"
 #include "support/TestMain.h"
 #include "support/TimerFixture.h"
 
@@ -18,8 +19,11 @@ private Q_SLOTS:
     void twelveBeepsRiseInTheLastTwelveSeconds();
     void theFirstBeepIsSilentEvenAfterAnEarlierRun();
     void suppressedBeepsAreNotHeard();
+    void suppressionLeavesTheScheduleAlone();
     void theAlarmCutsABeepOff();
     void theAlarmCutsABeepOffEvenWhenMuted();
+    void theAlarmStopsTheOneBeforeEvenWhenMuted();
+    void theSpeakerTellsWhetherTimersAreMuted();
     void theBuiltInAlarmIsLookedUpEachTime();
     void theSameFileIsNotLoadedAgain();
     void anotherChoiceReplacesTheAlarm();
@@ -113,6 +117,32 @@ void tst_TimerSounds::theAlarmCutsABeepOffEvenWhenMuted()
     t.sounds.sound(kCrow)->play();
     t.timer.playDone();
     QVERIFY(!t.sounds.isPlaying(kCrow));
+    t.sounds.sound(kCrow)->play();
+    t.timer.playBeep();
+    QVERIFY(!t.sounds.isPlaying(kCrow));
+}
+
+void tst_TimerSounds::theAlarmStopsTheOneBeforeEvenWhenMuted()
+{
+    TimerFixture t;
+    t.timer.playDone();
+    t.set("soundOff", 1);
+    t.sounds.sound(kWuff)->play();
+    t.timer.playDone();
+    QVERIFY(!t.sounds.isPlaying(kWuff));
+}
+
+void tst_TimerSounds::theSpeakerTellsWhetherTimersAreMuted()
+{
+    TimerFixture t;
+    const auto &speaker = t.part<ClickableImageView>("_soundOffImage");
+    QCOMPARE(speaker.imageName(), QStringLiteral("sound_high.png"));
+    t.set("soundOff", 1);
+    QCOMPARE(speaker.imageName(), QStringLiteral("sound_mute.png"));
+    QVERIFY(!speaker.pixmap().isNull());
+    t.set("soundOff", 0);
+    QCOMPARE(speaker.imageName(), QStringLiteral("sound_high.png"));
+    QVERIFY(!speaker.pixmap().isNull());
 }
 
 void tst_TimerSounds::theBuiltInAlarmIsLookedUpEachTime()
@@ -296,6 +326,17 @@ void tst_TimerSounds::disabledNotificationsAreNotPosted()
     t.pass(5.04);
     QCOMPARE(t.display(), QStringLiteral("Wuff!"));
     QVERIFY(t.notifications.shown.empty());
+}
+
+void tst_TimerSounds::suppressionLeavesTheScheduleAlone()
+{
+    TimerFixture t;
+    t.set("suppressCountdown", 1);
+    t.startCountdown(12);
+    t.pass(6.5);
+    t.set("suppressCountdown", 0);
+    t.pass(0.04);
+    QCOMPARE(t.sounds.diary(QStringLiteral("play")).size(), 1);
 }
 
 WUFFER_TEST_MAIN(tst_TimerSounds)

@@ -1,0 +1,26 @@
+#include "platform/UserDefaults.h"
+#include "timer/Wuffer.h"
+
+void Wuffer::windowWillClose()
+{
+    if (_closed)
+        return;
+    setWindowed();
+    endTargetTimeSheet();
+    for (Sound *sound : {_doneSound.get(), _beepSound.get()}) {
+        if (sound && sound->isPlaying())
+            sound->stop();
+    }
+    // A running timer closes without a trace.
+    if (_timerStarted) {
+        _checkTimer.invalidate();
+        _timerStarted = false;
+    } else {
+        saveSettingsToDefaultKey();
+        UserDefaults::standardUserDefaults().synchronize();
+    }
+    _closed = true;
+    Q_EMIT closed();
+    postStatusChanged();
+    Q_EMIT stateChanged();
+}
