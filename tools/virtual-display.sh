@@ -74,7 +74,9 @@ has_session_bus() {
 
 start_virtual_display() {
     local number
-    start_server_and_read number Xvfb -displayfd 3 -screen 0 1280x800x24 -nolisten tcp
+    # Without -noreset it would begin anew, and throw the window manager out, when a client that
+    # came before that one leaves.
+    start_server_and_read number Xvfb -displayfd 3 -screen 0 1280x800x24 -noreset -nolisten tcp
     export DISPLAY=:$number
     if ! has_session_bus; then
         start_server_and_read DBUS_SESSION_BUS_ADDRESS dbus-daemon --session --nofork \

@@ -153,10 +153,11 @@ class FullScreenTest(DesktopTest):
 
     def check_ink(self, name):
         """Nothing of the display is cut off: around each text there is a free line."""
+        whole = Rect(0, 0, self.screen.width, self.screen.height)
+        wait_until(lambda: Picture(self.screen).border(whole) == {PANEL}, 3,
+                   "the display is drawn, and not up to the edges", 0.1)
         picture = Picture(self.screen)
         picture.save(os.path.join(self.output, f"{name} {picture.width}x{picture.height}.png"))
-        whole = Rect(0, 0, self.screen.width, self.screen.height)
-        self.assertEqual(picture.border(whole), {PANEL})
         labels = [label for label in self.program.all("display")
                   if label.get_name() and label.get_description()]
         self.assertEqual(len(labels), 4)
@@ -164,7 +165,6 @@ class FullScreenTest(DesktopTest):
             area = self.program.place(label)
             self.assertEqual(picture.border(area), {PANEL}, label.get_name())
             self.assertGreater(len(picture.colors(area)), 1, label.get_name())
-        return picture
 
     def check_looks(self):
         self.enter()

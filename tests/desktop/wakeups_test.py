@@ -29,7 +29,7 @@ class WakeupsTest(DesktopTest):
         program = self.launch(accessible=False)
         self.wait_until_calm(program)
         self.assertTrue(program.has_focus())
-        self.assertEqual(self.wakeups(program, 4), 0)
+        self.assertEqual(self.wakeups(program, 3), 0)
         self.quit(program)
 
     def test_an_idle_program_sleeps_after_a_run_with_sound(self):
@@ -46,25 +46,42 @@ class WakeupsTest(DesktopTest):
         self.assertEqual(self.wakeups(program, 3), 0)
         self.quit(program)
 
-    def test_ten_running_timers_wake_the_program_no_more_often_than_one(self):
-        program = self.launch(accessible=False)
+    def start_stopwatch(self):
         self.display.key("ctrl+t")
         self.display.key("Return")
+
+    def test_ten_running_timers_wake_the_program_no_more_often_than_one(self):
+        program = self.launch(accessible=False)
+        self.start_stopwatch()
         time.sleep(0.5)
-        one = self.wakeups(program, 3)
+        seen = self.wakeups(program, 2)
+        # What nobody sees is not drawn. Drawing is an exchange with the X server, of which each
+        # answer is another wake-up.
+        rates = [self.wakeups_unseen(program)]
         for count in range(2, 11):
             self.display.key("ctrl+n")
             window = program.wait_for_windows(count)[-1]
             wait_until(lambda w=window: self.display.active_window() == w, 3, "it is active")
-            self.display.key("ctrl+t")
-        self.display.key("ctrl+shift+s")
-        time.sleep(0.5)
-        ten = self.wakeups(program, 3)
-        self.report(f"{one:.1f} wake-ups a second with one timer, {ten:.1f} with ten")
-        for rate in (one, ten):
+            self.start_stopwatch()
+        rates.append(self.wakeups_unseen(program))
+        self.report(f"{rates[0]:.1f} wake-ups a second with one timer, {rates[1]:.1f} with ten; "
+                    f"{seen:.1f} with one that is seen")
+        for rate in rates:
             self.assertGreater(rate, TICKS * 0.8)
-            self.assertLess(rate, TICKS * 1.3)
+            self.assertLess(rate, TICKS * 1.2)
+        self.assertLess(seen, TICKS * 4.5)
         self.quit(program)
+
+    def wakeups_unseen(self, program):
+        windows = program.windows()
+        for window in windows:
+            self.display.act("windowminimize", window)
+        wait_until(lambda: all("HIDDEN" in self.display.state(window) for window in windows), 3,
+                   "the windows are minimised")
+        time.sleep(0.5)
+        rate = self.wakeups(program, 2)
+        self.display.act("windowactivate", "--sync", windows[-1])
+        return rate
 
 
 if __name__ == "__main__":

@@ -32,7 +32,8 @@ class DesktopTest(unittest.TestCase):
     def tearDown(self):
         try:
             if self.has_failed():
-                Picture(self.display).save(
+                display = self.programs[-1].display if self.programs else self.display
+                Picture(display).save(
                     os.path.join(self.output, f"{self.id().rsplit('.', 1)[1]}.png"))
         finally:
             for program in self.programs:
