@@ -43,9 +43,11 @@ class Display:
         self.manager = None
 
     def start_manager(self):
-        self.manager = processes.start(["openbox"], self.environment)
-        wait_until(lambda: "0x" in self.property("_NET_SUPPORTING_WM_CHECK"), 10,
-                   "the window manager answers")
+        # It says that it is there before it is; what it is told to run comes after that.
+        self.manager = processes.start(
+            ["openbox", "--startup", "xprop -root -format MANAGED 8s -set MANAGED yes"],
+            self.environment)
+        wait_until(lambda: self.property("MANAGED") == '"yes"', 10, "the window manager is ready")
 
     def close(self):
         if self.manager:
