@@ -43,6 +43,8 @@ _x.XOpenDisplay.restype = ctypes.c_void_p
 _x.XDefaultRootWindow.restype = ctypes.c_ulong
 _x.XGetImage.restype = ctypes.POINTER(_Image)
 _display = ctypes.c_void_p(_x.XOpenDisplay(None))
+if not _display:
+    raise OSError("there is no X display")
 _root = ctypes.c_ulong(_x.XDefaultRootWindow(_display))
 # A window may vanish while it is looked at, which is no reason to end.
 _IGNORE = ctypes.CFUNCTYPE(ctypes.c_int, ctypes.c_void_p, ctypes.c_void_p)(lambda _d, _e: 0)
