@@ -3,7 +3,9 @@
 #include <QAccessible>
 #include <QAccessibleWidget>
 #include <QEvent>
+#include <QPaintEvent>
 #include <QPainter>
+#include <QStyle>
 
 #include <algorithm>
 
@@ -27,13 +29,10 @@ public:
     }
 };
 
-/// Whether the texts are surely equally wide in a fixed-pitch font. Measuring a text costs as much
-/// as drawing it, and most new texts only have other digits in the places of the old ones.
-bool isAsWideAs(QStringView text, QStringView other)
+/// How many characters the texts have in common at their beginning.
+qsizetype commonLength(QStringView text, QStringView other)
 {
-    const auto isPlain = [](QChar character) { return character.unicode() < 0x80; };
-    return text.size() == other.size() && std::ranges::all_of(text, isPlain) &&
-           std::ranges::all_of(other, isPlain);
+    return std::ranges::mismatch(text, other).in1 - text.begin();
 }
 
 /// What the text needs, its letters that reach beyond their place included.
@@ -69,12 +68,13 @@ void DisplayLabel::setText(const QString &text)
     if (text == _text)
         return;
     const bool emptinessChanged = text.isEmpty() != _text.isEmpty();
-    if (_scale != 1.0 || !isAsWideAs(text, _text))
-        _scale.reset();
+    const QRect changed = changedPart(text);
     _text = text;
     if (emptinessChanged && _reservedCharacters == 0)
         updateGeometry();
-    update();
+    // At once: a repaint that is put off costs another turn of the event loop, three calls of
+    // the kernel at every change of the milliseconds.
+    repaint(changed);
     if (_announced && QAccessible::isActive()) {
         QAccessibleEvent event(this, QAccessible::NameChanged);
         QAccessible::updateAccessibility(&event);
@@ -129,38 +129,62 @@ QSize DisplayLabel::minimumSizeHint() const
     return {0, _reservedPointSize > 0 ? 0 : sizeHint().height()};
 }
 
-void DisplayLabel::paintEvent(QPaintEvent *)
+void DisplayLabel::paintEvent(QPaintEvent *event)
 {
     QPainter painter(this);
-    painter.fillRect(rect(), palette().color(QPalette::Base));
+    painter.fillRect(event->rect(), palette().color(QPalette::Base));
     painter.setPen(_textColor);
 
-    // The painter is scaled and not the font: smaller fonts are not smaller in proportion.
-    const double factor = scale();
-    if (factor <= 0)
+    if (const std::optional<QPointF> origin = plainOrigin(_text)) {
+        painter.drawGlyphRun(*origin, glyphs().run(_text));
         return;
-    painter.scale(factor, factor);
-    painter.drawText(QRectF(QPointF(), QSizeF(size()) / factor),
+    }
+    // The painter is scaled and not the font: smaller fonts are not smaller in proportion.
+    const double scale = fittingScale(neededRoom(QFontMetricsF(font()), _text), size());
+    if (scale <= 0)
+        return;
+    painter.scale(scale, scale);
+    painter.drawText(QRectF(QPointF(), QSizeF(size()) / scale),
                      static_cast<int>(_alignment) | Qt::TextSingleLine | Qt::TextDontClip, _text);
 }
 
-double DisplayLabel::scale()
+const GlyphLine &DisplayLabel::glyphs() const
 {
-    if (!_scale)
-        _scale = fittingScale(neededRoom(QFontMetricsF(font()), _text), size());
-    return *_scale;
+    if (!_glyphs)
+        _glyphs.emplace(font());
+    return *_glyphs;
 }
 
-void DisplayLabel::resizeEvent(QResizeEvent *event)
+std::optional<QPointF> DisplayLabel::plainOrigin(QStringView text) const
 {
-    _scale.reset();
-    QWidget::resizeEvent(event);
+    if (!glyphs().canSet(text))
+        return std::nullopt;
+    const QSizeF textSize(glyphs().width(text), glyphs().height());
+    if (fittingScale(textSize, size()) < 1.0)
+        return std::nullopt;
+    const QRect place =
+        QStyle::alignedRect(layoutDirection(), _alignment, textSize.toSize(), rect());
+    return QPointF(place.x(), place.y() + glyphs().ascent());
+}
+
+QRect DisplayLabel::changedPart(QStringView newText) const
+{
+    const std::optional<QPointF> origin = plainOrigin(_text);
+    // What begins and ends where the old text does differs from it in its last characters only.
+    if (!origin || plainOrigin(newText) != origin || newText.size() != _text.size() ||
+        glyphs().width(newText) != glyphs().width(_text))
+        return rect();
+    const qsizetype kept = commonLength(newText, _text);
+    const int left = static_cast<int>(origin->x() + glyphs().width(newText.first(kept)));
+    // Strokes may stand out of their places a little.
+    constexpr int overhang = 2;
+    return rect().adjusted(left - overhang, 0, 0, 0);
 }
 
 void DisplayLabel::changeEvent(QEvent *event)
 {
     if (event->type() == QEvent::FontChange) {
-        _scale.reset();
+        _glyphs.reset();
         updateGeometry();
     }
     QWidget::changeEvent(event);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "controls/GlyphLine.h"
+
 #include <QColor>
 #include <QWidget>
 
@@ -54,15 +56,18 @@ public:
 
 protected:
     void paintEvent(QPaintEvent *event) override;
-    void resizeEvent(QResizeEvent *event) override;
     void changeEvent(QEvent *event) override;
 
 private:
-    [[nodiscard]] double scale();
+    [[nodiscard]] const GlyphLine &glyphs() const;
+    /// Where the text begins if it is a plain one that fits; nothing for one that does not.
+    [[nodiscard]] std::optional<QPointF> plainOrigin(QStringView text) const;
+    /// What has to be painted when this text follows the present one.
+    [[nodiscard]] QRect changedPart(QStringView newText) const;
 
     QString _text;
-    /// What scale() found for the text, until something changes that it depends on.
-    std::optional<double> _scale;
+    /// Made when it is first needed, for the font of the moment.
+    mutable std::optional<GlyphLine> _glyphs;
     QColor _textColor = Qt::black;
     Qt::Alignment _alignment = Qt::AlignCenter;
     int _reservedCharacters = 0;
