@@ -196,6 +196,9 @@ private:
     /// Made when it is first asked for: a calendar is costly.
     std::unique_ptr<TargetTimeSheet> _targetTimeWindow;
 
+    /// The number field that had the focus when the run began; null when none had.
+    QLineEdit *_fieldInUse = nullptr;
+
     bool _timerStarted = false;
     std::optional<Date> _targetDate;
     std::optional<Date> _startDate;

@@ -1,4 +1,5 @@
 #include "platform/NotificationCenter.h"
+#include "settings/WufferWindow.h"
 #include "timer/BeepSchedule.h"
 #include "timer/NumberText.h"
 #include "timer/TimeFields.h"
@@ -6,6 +7,7 @@
 #include "timer/Wuffer.h"
 #include "ui_Wuffer.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace
@@ -172,8 +174,18 @@ void Wuffer::setRunningControls(bool running, const QString &goTitle)
 {
     _ui->_goButton->setText(goTitle);
     _ui->_goButton->setEnabled(true);
-    for (QLineEdit *field : {_ui->_hoursField, _ui->_minutesField, _ui->_secondsField})
+    QLineEdit *const fields[] = {_ui->_hoursField, _ui->_minutesField, _ui->_secondsField};
+    if (running) {
+        const auto *used = std::ranges::find(fields, _window->focusWidget());
+        _fieldInUse = used == std::end(fields) ? nullptr : *used;
+        if (_fieldInUse)
+            _ui->_goButton->setFocus();
+    }
+    for (QLineEdit *field : fields)
         field->setEnabled(!running);
+    // The next time is typed where the last one was, unless the user has gone elsewhere.
+    if (!running && _fieldInUse && _window->focusWidget() == _ui->_goButton)
+        _fieldInUse->setFocus(Qt::TabFocusReason);
 }
 
 void Wuffer::postStatusChanged()

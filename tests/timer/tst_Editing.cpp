@@ -8,6 +8,8 @@ class tst_Editing final : public Test
 
 private Q_SLOTS:
     void digitsTypedStraightAwayAreMinutes();
+    void theNextTimeIsTypedWhereTheLastOneWas();
+    void theFocusStaysWhereTheUserPutIt();
     void returnStartsFromANumberField();
     void returnPressesTheButtonInEveryState();
     void theEnterKeyOfTheKeypadDoesTheSame();
@@ -38,6 +40,33 @@ void tst_Editing::digitsTypedStraightAwayAreMinutes()
     show(t);
     QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("25"));
     QCOMPARE(t.fields(), QStringLiteral("0 25 0"));
+}
+
+void tst_Editing::theNextTimeIsTypedWhereTheLastOneWas()
+{
+    TimerFixture t;
+    show(t);
+    press(Qt::Key_Tab);
+    QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("5"));
+    press(Qt::Key_Return);
+    t.pass(5.1);
+    press(Qt::Key_Return);
+    QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("8"));
+    QCOMPARE(t.fields(), QStringLiteral("0 0 8"));
+}
+
+void tst_Editing::theFocusStaysWhereTheUserPutIt()
+{
+    TimerFixture t;
+    show(t);
+    press(Qt::Key_Return);
+    t.part<QCheckBox>("_keepWuffingBox").setFocus();
+    press(Qt::Key_Return);
+    QCOMPARE(QApplication::focusWidget(), &t.part<QCheckBox>("_keepWuffingBox"));
+    t.part<QPushButton>("_goButton").setFocus();
+    press(Qt::Key_Space);
+    press(Qt::Key_Space);
+    QCOMPARE(QApplication::focusWidget(), &t.part<QPushButton>("_goButton"));
 }
 
 void tst_Editing::returnStartsFromANumberField()
