@@ -26,7 +26,6 @@ public:
     Voice(OpenSoundBytes open, int sampleRate, std::shared_ptr<const SoundControls> controls);
     Q_DISABLE_COPY_MOVE(Voice)
 
-
     /// True until the end has been heard or stop was called. Any thread.
     [[nodiscard]] bool isPlaying() const { return !_over && !_stopped; }
 
