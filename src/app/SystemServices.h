@@ -1,11 +1,11 @@
 #pragma once
 
 #include "platform/FreedesktopNotifications.h"
+#include "platform/LazySoundSystem.h"
 #include "platform/Service.h"
 #include "platform/SystemClock.h"
 #include "platform/SystemDesktop.h"
 #include "platform/UserDefaults.h"
-#include "platform/sound/CubebSoundSystem.h"
 
 /// The services of the platform that the running program uses, installed for as long as this
 /// object lives.
@@ -18,7 +18,7 @@ public:
 private:
     SystemClock _clock;
     UserDefaults _defaults{UserDefaults::standardPath()};
-    CubebSoundSystem _sounds;
+    LazySoundSystem _sounds;
     FreedesktopNotifications _notifications;
     SystemDesktop _desktop;
 

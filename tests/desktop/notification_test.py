@@ -37,7 +37,7 @@ class NotificationTest(DesktopTest):
         self.ring(program)
         self.wait_for_notifications(1)
         self.stop(program)
-        self.display.key("shift+Tab")
+        # Where the time was typed before.
         program.wait_for_focus_in("Seconds")
         self.display.type("2")
         self.display.key("Return")

@@ -1,0 +1,52 @@
+#include "platform/LazySoundSystem.h"
+
+#include <QFile>
+#include <QTest>
+
+class tst_LazySoundSystem final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void theModuleIsLoadedForTheFirstSound();
+    void withoutTheModuleThereAreNoSounds();
+};
+
+namespace
+{
+bool soundLibraryIsLoaded()
+{
+    QFile maps(QStringLiteral("/proc/self/maps"));
+    return maps.open(QIODevice::ReadOnly) && maps.readAll().contains("libcubeb");
+}
+} // namespace
+
+void tst_LazySoundSystem::theModuleIsLoadedForTheFirstSound()
+{
+    LazySoundSystem system;
+    QVERIFY(!soundLibraryIsLoaded());
+
+    const auto blip = system.soundNamed(QStringLiteral("test-blip.wav"));
+
+    QVERIFY(soundLibraryIsLoaded());
+    QVERIFY(blip);
+    QCOMPARE(blip->duration(), 0.3);
+    QVERIFY(!system.soundNamed(QStringLiteral("missing.wav")));
+    QCOMPARE(system.soundWithContentsOfFile(QStringLiteral("/missing"))->duration(), 0.0);
+}
+
+void tst_LazySoundSystem::withoutTheModuleThereAreNoSounds()
+{
+    LazySoundSystem system(QStringLiteral("/missing/module"));
+
+    QVERIFY(!system.soundNamed(QStringLiteral("test-blip.wav")));
+
+    const auto sound = system.soundWithContentsOfFile(QStringLiteral("/some/file"));
+    QCOMPARE(sound->name(), QStringLiteral("/some/file"));
+    QCOMPARE(sound->duration(), 0.0);
+    sound->play();
+    QVERIFY(!sound->isPlaying());
+}
+
+QTEST_GUILESS_MAIN(tst_LazySoundSystem)
+#include "tst_LazySoundSystem.moc"
