@@ -1,3 +1,4 @@
+#include "app/ProcessTuning.h"
 #include "app/SystemServices.h"
 #include "app/WufferApplication.h"
 #include "app/WufferController.h"
@@ -165,8 +166,7 @@ void Stage::ring(int count, int seconds)
 
 int main(int argc, char *argv[])
 {
-    if (!qEnvironmentVariableIsSet("QT_XCB_NO_MITSHM"))
-        qputenv("QT_XCB_NO_MITSHM", "1");
+    tuneProcess();
     const WufferApplication application(argc, argv);
     WufferApplication::setQuitOnLastWindowClosed(false);
     const SystemServices services;
