@@ -1,6 +1,7 @@
 #include "app/AuxiliaryWindow.h"
 
 #include "app/MainMenu.h"
+#include "controls/WindowOrder.h"
 
 AuxiliaryWindow::AuxiliaryWindow(MainMenu &menu, const QString &title)
 {
@@ -11,8 +12,5 @@ AuxiliaryWindow::AuxiliaryWindow(MainMenu &menu, const QString &title)
 
 void AuxiliaryWindow::orderFront()
 {
-    setWindowState(windowState() & ~Qt::WindowMinimized);
-    show();
-    raise();
-    activateWindow();
+    bringToFront(*this);
 }

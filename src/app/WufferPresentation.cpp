@@ -1,3 +1,4 @@
+#include "controls/WindowOrder.h"
 #include "settings/WufferWindow.h"
 #include "timer/DisplayFont.h"
 #include "timer/TimerTexts.h"
@@ -81,10 +82,7 @@ void Wuffer::showHideAdvanced()
 
 void Wuffer::showWufferWindow()
 {
-    _window->setWindowState(_window->windowState() & ~Qt::WindowMinimized);
-    _window->show();
-    _window->raise();
-    _window->activateWindow();
+    bringToFront(*_window);
 }
 
 bool Wuffer::validateMenuItem(QAction &item, Operation action) const

@@ -8,6 +8,7 @@
 #include "ui_Wuffer.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace
@@ -174,10 +175,10 @@ void Wuffer::setRunningControls(bool running, const QString &goTitle)
 {
     _ui->_goButton->setText(goTitle);
     _ui->_goButton->setEnabled(true);
-    QLineEdit *const fields[] = {_ui->_hoursField, _ui->_minutesField, _ui->_secondsField};
+    const std::array fields{_ui->_hoursField, _ui->_minutesField, _ui->_secondsField};
     if (running) {
         const auto *used = std::ranges::find(fields, _window->focusWidget());
-        _fieldInUse = used == std::end(fields) ? nullptr : *used;
+        _fieldInUse = used == fields.end() ? nullptr : *used;
         if (_fieldInUse)
             _ui->_goButton->setFocus();
     }
