@@ -170,7 +170,7 @@ bool MainMenu::isEnabled(const Item &item) const
         return _controller.validateMenuItem(*ofController);
     if (const auto *ofTimer = std::get_if<Wuffer::Operation>(&operation)) {
         const Wuffer *timer = WufferApplication::keyWuffer();
-        return timer && timer->validateMenuItem(*item.action, *ofTimer);
+        return timer != nullptr && timer->validateMenuItem(*item.action, *ofTimer);
     }
     return QApplication::activeWindow() != nullptr;
 }

@@ -30,7 +30,7 @@ QList<QPointer<QWidget>> tabOrder(const QWidget &window)
     QList<QPointer<QWidget>> order;
     for (QWidget *next = window.nextInFocusChain(); next != &window;
          next = next->nextInFocusChain()) {
-        if (next->focusPolicy() & Qt::TabFocus)
+        if ((next->focusPolicy() & Qt::TabFocus) != 0)
             order.append(next);
     }
     return order;
