@@ -4,7 +4,9 @@
 #include "app/WufferApplication.h"
 #include "timer/Wuffer.h"
 
-LinkMenu::LinkMenu() : QMenu(tr("When F&inished, Start"))
+#include <QActionGroup>
+
+LinkMenu::LinkMenu() : QMenu(tr("When F&inished, Start")), _choice(new QActionGroup(this))
 {
     connect(this, &QMenu::aboutToShow, this, &LinkMenu::populate);
 }
@@ -27,6 +29,7 @@ void LinkMenu::addItem(const QString &text, Wuffer &timer, Wuffer *target)
 {
     QAction *item = addAction(text);
     item->setCheckable(true);
+    _choice->addAction(item);
     const bool linked = timer.getTargetWuffer() == target;
     item->setChecked(linked);
     if (linked)

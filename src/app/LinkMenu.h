@@ -2,6 +2,7 @@
 
 #include <QMenu>
 
+class QActionGroup;
 class Wuffer;
 
 /// The menu that says which timer the active one starts when it has finished: what dragging one
@@ -16,4 +17,7 @@ public:
 private:
     void populate();
     void addItem(const QString &text, Wuffer &timer, Wuffer *target);
+
+    /// Of the items one is chosen.
+    QActionGroup *_choice;
 };
