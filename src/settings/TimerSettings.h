@@ -15,7 +15,8 @@ struct TimerSettings
     qint32 seconds = 0;
     bool keepWuffing = false;
     bool fullScreen = false;
-    /// Missing when the timer is to start another: a link ends with the windows.
+    /// Missing when the timer is to start another, because a link ends with the windows, and when
+    /// nothing is selected.
     std::optional<QString> finishOption;
     /// The place in the list of presets, from 0; only where one is to be started.
     std::optional<qint32> presetSelection;

@@ -29,7 +29,8 @@ QString Wuffer::chainString()
 
 void Wuffer::setTargetWuffer(Wuffer *timer)
 {
-    if (timer == this)
+    // Nor does a timer that is about to be destroyed begin a link or get one.
+    if (timer == this || _closed || (timer && timer->_closed))
         return;
     removeTargetWuffer();
     // Where the link would close a circle, this timer becomes the head.

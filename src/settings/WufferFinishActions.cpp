@@ -107,11 +107,11 @@ void Wuffer::startTargetWuffer()
         qCWarning(wufferLog, "Couldn't start the targeted wuffer!");
         return;
     }
-    const QPointer<Wuffer> target = _targetWuffer;
-    target->goPressed();
+    Wuffer &target = *_targetWuffer;
+    target.goPressed();
     // Whoever was told of the start may have closed it.
-    if (target)
-        target->showWufferWindow();
+    if (!target._closed)
+        target.showWufferWindow();
 }
 
 void Wuffer::getFinishingHelp()

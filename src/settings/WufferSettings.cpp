@@ -32,7 +32,7 @@ TimerSettings Wuffer::settings() const
     settings.keepWuffing = _ui->_keepWuffingBox->isChecked();
     settings.fullScreen = _ui->_fullScreenBox->isChecked();
     const QString option = _ui->_finishedCombo->currentText();
-    if (option != kWufferFinishedWuffer)
+    if (!option.isEmpty() && option != kWufferFinishedWuffer)
         settings.finishOption = option;
     if (option == kWufferFinishedPreset)
         settings.presetSelection = _ui->_finishedPicker->currentIndex();

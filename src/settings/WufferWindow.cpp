@@ -6,6 +6,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QDrag>
 #include <QLayout>
 #include <QScreen>
 #include <QShortcut>
@@ -93,6 +94,9 @@ void WufferWindow::setFrameUsingName(const QString &name)
 
 void WufferWindow::closeEvent(QCloseEvent *event)
 {
+    // A drag does not survive the window that it comes from, nor the one that it is over.
+    if (_drag || _hovering)
+        QDrag::cancel();
     Q_EMIT willClose();
     event->accept();
 }

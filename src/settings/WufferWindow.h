@@ -5,6 +5,7 @@
 
 #include <optional>
 
+class QDrag;
 class QDropEvent;
 class QShortcut;
 class Wuffer;
@@ -84,6 +85,8 @@ private:
     Wuffer &_delegate;
     /// Where the mouse was pressed, on the screen, until it is dragged.
     std::optional<QPoint> _pressedAt;
+    /// The drag of a link from this window, while there is one.
+    QPointer<QDrag> _drag;
     /// The window that is dragged over this one.
     QPointer<WufferWindow> _hovering;
     QShortcut *_return;

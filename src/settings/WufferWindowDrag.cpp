@@ -1,3 +1,4 @@
+#include "controls/WindowOrder.h"
 #include "platform/Keyboard.h"
 #include "settings/WufferWindow.h"
 #include "timer/Wuffer.h"
@@ -55,15 +56,15 @@ void WufferWindow::rightMouseDragged()
 void WufferWindow::chainDrag()
 {
     _pressedAt.reset();
-    auto *drag = new QDrag(this);
+    _drag = new QDrag(this);
     auto *contents = new QMimeData;
     contents->setData(kDragType, {});
-    drag->setMimeData(contents);
-    drag->setPixmap(QIcon(QStringLiteral(":/images/chain.png"))
-                        .pixmap(QSize(kPictureSize, kPictureSize), devicePixelRatio()));
+    _drag->setMimeData(contents);
+    _drag->setPixmap(QIcon(QStringLiteral(":/images/chain.png"))
+                         .pixmap(QSize(kPictureSize, kPictureSize), devicePixelRatio()));
     // Beside the pointer, not under it.
-    drag->setHotSpot({0, kPictureSize});
-    drag->exec(Qt::LinkAction);
+    _drag->setHotSpot({0, kPictureSize});
+    _drag->exec(Qt::LinkAction);
 
     // Only what is static from here on: the window may have been closed meanwhile. A chain that
     // lost a member during the drag has windows that no longer hang together.
@@ -137,8 +138,7 @@ bool WufferWindow::performDragOperation(const QDropEvent &drag)
     highlightChain(false);
     _hovering.clear();
     delegate().setTargetWuffer(&source->delegate());
-    raise();
-    activateWindow();
+    bringToFront(*this);
     return true;
 }
 

@@ -56,6 +56,9 @@ void Wuffer::wuffLoop()
         return;
 
     goPressed();
+    // Whoever was told of the stop may have closed the window.
+    if (_closed)
+        return;
     if (_ui->_finishedCombo->currentText() != kWufferFinishedRestart)
         setWindowed();
     if (!nothingFollows)

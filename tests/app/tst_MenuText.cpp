@@ -24,6 +24,9 @@ void tst_MenuText::aMenuShowsTheTextAsItIs_data()
     QTest::newRow("one line") << QStringLiteral("Tea\n\nMilk") << QStringLiteral("Tea Milk");
     QTest::newRow("markup") << QStringLiteral("<b>Tea</b>") << QStringLiteral("<b>Tea</b>");
     QTest::newRow("80 characters") << x40 + x40 << x40 + x40;
+    const QString bell = QStringLiteral("🔔");
+    QTest::newRow("no half characters") << x40.left(39) + bell + bell + x40.left(39)
+                                        << x40.left(39) + QStringLiteral("…") + x40.left(39);
     QTest::newRow("81 characters")
         << x40 + QLatin1Char('-') + x40 << x40 + QStringLiteral("…") + x40;
 }

@@ -15,6 +15,8 @@ private Q_SLOTS:
     void everyPresetHasItsKeys();
     void aPresetOpensInANewTimer();
     void presetZeroOpensWithZero();
+    void anEmptiedPresetOpensATimerOnly();
+    void aPresetOpensWithoutATimer();
     void aPresetStartsWhenTheUserWishesSo();
     void aPresetOpensOneStepOffTheWindowThatHoldsIt();
     void withoutAnItemNothingOpens();
@@ -121,6 +123,24 @@ void tst_PresetsMenu::presetZeroOpensWithZero()
 {
     press(0, Keyboard::kCommand);
     QCOMPARE(newest().description(), QStringLiteral("Preset 0 - 0h 0m 0s"));
+}
+
+void tst_PresetsMenu::anEmptiedPresetOpensATimerOnly()
+{
+    _services->defaults.removeObjectForKey(QStringLiteral("Preset 3"));
+    press(3, Keyboard::kCommand);
+    QCOMPARE(count(), std::size_t(2));
+    QCOMPARE(newest().description(), QStringLiteral("Wuffer - 0h 0m 0s"));
+    QCOMPARE(newest().currentTextColor(), QColor(Qt::black));
+}
+
+void tst_PresetsMenu::aPresetOpensWithoutATimer()
+{
+    _controller->showConverter();
+    newest().window()->close();
+    QTRY_VERIFY(QApplication::activeWindow() != nullptr);
+    press(3, Keyboard::kCommand);
+    QCOMPARE(newest().description(), QStringLiteral("Preset 3 - 0h 30m 0s"));
 }
 
 void tst_PresetsMenu::aPresetStartsWhenTheUserWishesSo()

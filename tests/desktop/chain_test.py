@@ -121,14 +121,47 @@ class ChainTest(DesktopTest):
             self.display.key("ctrl+o")
             wait_until(lambda w=window, c=closed: self.display.geometry(w).height > c + 50, 3,
                        "the drawer is out")
-        time.sleep(0.5)
-        self.link(first, second)
+        # From the drawer of the one to the drawer of the other.
+        with self.display.dragging(self.label_in(second), self.label_in(first), key="ctrl"):
+            wait_until(lambda: self.is_lit(first) and self.is_lit(second), 3, "both are lit")
         self.wait_for_chain(first, second)
-        self.assertIn("Wuffer - 0h 0m 2s", self.picker_texts())
+        self.assertIn("Wuffer - 0h 0m 2s",
+                      [choice.get_name() for choice in self.program.all("choice")])
         self.quit(self.program)
 
-    def picker_texts(self):
-        return [child.get_name() for child in self.program.all("choice")]
+    def label_in(self, window):
+        """A point on one of the labels in the drawer of the window."""
+        area = self.display.geometry(window)
+        places = [self.program.place(label) for label in self.program.all("display", "Alarm:")]
+        inside = [place for place in places if area.x <= place.x < area.right]
+        self.assertEqual(len(inside), 1)
+        return inside[0].x + 4, inside[0].y + 4
+
+    def test_a_window_that_closes_while_it_is_dragged_ends_the_drag(self):
+        first, second, third = self.launch_timers(3)
+        with self.display.dragging(self.margin(third), self.margin(first), key="ctrl"):
+            wait_until(lambda: self.is_lit(first), 3, "the window is lit")
+            self.display.close_window(third)
+            self.program.wait_for_windows(2)
+            wait_until(lambda: not self.is_lit(first), 3, "the window is not lit")
+        self.program.answers()
+        self.link(first, second)
+        self.wait_for_chain(first, second)
+        self.quit(self.program)
+
+    def test_a_window_that_closes_under_a_drag_is_not_linked(self):
+        first, second, third = self.launch_timers(3)
+        self.link(first, second)
+        with self.display.dragging(self.margin(third), self.margin(second), key="ctrl"):
+            wait_until(lambda: self.is_lit(first) and self.is_lit(third), 3, "they are lit")
+            self.display.close_window(second)
+            self.program.wait_for_windows(2)
+            wait_until(lambda: not self.is_lit(first) and not self.is_lit(third), 3,
+                       "none is lit")
+        self.assertEqual(len(self.program.all("button", "Start")), 2)
+        self.link(first, third)
+        self.wait_for_chain(first, third)
+        self.quit(self.program)
 
     def test_a_plain_drag_moves_the_window(self):
         first, second = self.launch_timers(2)

@@ -26,11 +26,18 @@ private Q_SLOTS:
     void linkingAgainChangesNothing();
     void closingAMemberLeavesTheOthersAlone();
     void closingARunningMemberCutsItsLinksToo();
+    void closingAnEndLeavesTheRestChained_data();
+    void closingAnEndLeavesTheRestChained();
+    void aClosedTimerIsNotLinked();
+    void aLinkedTimerStoresNoFinishActionWhenItCloses();
     void aRunningMemberShowsItsTime();
     void aRunningMemberThatIsUnlinkedCanBeStopped();
     void onlyTheHeadCanBeStarted();
     void aChainRunsFromItsHeadToItsTail();
     void theUsersStopShowsStartUntilTheNextRefresh();
+    void theUsersResetStartsNobody();
+    void aTimerThatIsClosedByItsStartStaysClosed();
+    void aTimerThatIsClosedByItsEndDoesNothingMore();
     void aNewNameIsShownByTheTimerBefore();
     void aTailInItsAlarmEndsByItselfWhenMuted();
     void unlinkingShowsTheIdleDisplay();
@@ -264,6 +271,50 @@ void tst_Chains::closingARunningMemberCutsItsLinksToo()
     QVERIFY(t.b.goButton().isEnabled());
 }
 
+void tst_Chains::closingAnEndLeavesTheRestChained_data()
+{
+    QTest::addColumn<QString>("closed");
+    QTest::addColumn<QString>("rest");
+    QTest::newRow("the head") << QStringLiteral("A") << QStringLiteral("BC");
+    QTest::newRow("the tail") << QStringLiteral("C") << QStringLiteral("AB");
+}
+
+void tst_Chains::closingAnEndLeavesTheRestChained()
+{
+    QFETCH(const QString, closed);
+    QFETCH(const QString, rest);
+    FourTimers t;
+    t.make(QStringLiteral("A>B B>C"));
+    t[closed.at(0)].timer.window()->close();
+    const TimerUser &head = t[rest.at(0)];
+    const TimerUser &tail = t[rest.at(1)];
+    QCOMPARE(chain(head), rest);
+    QCOMPARE(head.go(), QStringLiteral("Start Chain"));
+    QCOMPARE(head.elapsed(), QStringLiteral("Wuffer Chain - 1 of 2"));
+    QCOMPARE(tail.go(), QStringLiteral("Chained"));
+    QCOMPARE(tail.finish(), kNothing);
+}
+
+void tst_Chains::aClosedTimerIsNotLinked()
+{
+    FourTimers t;
+    t.b.timer.window()->close();
+    t.make(QStringLiteral("A>B B>C"));
+    for (const TimerUser *user : {&t.a, &t.b, &t.c})
+        QVERIFY(!user->timer.isChained());
+    QCOMPARE(t.a.finish(), kNothing);
+}
+
+void tst_Chains::aLinkedTimerStoresNoFinishActionWhenItCloses()
+{
+    FourTimers t;
+    t.make(QStringLiteral("A>B"));
+    t.a.timer.window()->close();
+    const QVariantMap stored = t.defaults.dictionaryForKey(QStringLiteral("defaultWufferSettings"));
+    QCOMPARE(stored.value(QStringLiteral("title")), QVariant(QStringLiteral("A")));
+    QVERIFY(!stored.contains(QStringLiteral("finishOption")));
+}
+
 void tst_Chains::aRunningMemberShowsItsTime()
 {
     FourTimers t;
@@ -335,6 +386,49 @@ void tst_Chains::theUsersStopShowsStartUntilTheNextRefresh()
     t.a.timer.refreshChainStatusForAllChainedWuffers();
     QCOMPARE(t.b.go(), QStringLiteral("Chained"));
     QVERIFY(!t.b.goButton().isEnabled());
+}
+
+void tst_Chains::theUsersResetStartsNobody()
+{
+    FourTimers t;
+    t.make(QStringLiteral("A>B"));
+    t.a.startCountdown(1);
+    t.clock.advance(1.1);
+    QCOMPARE(t.a.go(), QStringLiteral("Reset"));
+    t.a.goButton().click();
+    t.clock.advance(5);
+    QCOMPARE(t.a.go(), QStringLiteral("Start"));
+    QVERIFY(!t.b.timer.isRunning());
+    QCOMPARE(t.a.timer.getTargetWuffer(), &t.b.timer);
+}
+
+void tst_Chains::aTimerThatIsClosedByItsStartStaysClosed()
+{
+    FourTimers t;
+    t.make(QStringLiteral("A>B"));
+    QObject observer;
+    NotificationCenter::defaultCenter().addObserver(observer, QStringLiteral("statusChanged"),
+                                                    [&](QObject *timer) {
+                                                        if (timer == &t.b.timer)
+                                                            t.b.timer.window()->close();
+                                                    });
+    t.a.timer.handleFinishedBehaviour();
+    QVERIFY(!t.b.timer.window()->isVisible());
+    QVERIFY(!t.a.timer.isChained());
+}
+
+void tst_Chains::aTimerThatIsClosedByItsEndDoesNothingMore()
+{
+    FourTimers t;
+    t.a.chooseFinish(QStringLiteral("Loop this Wuffer"));
+    t.a.startCountdown(1);
+    t.clock.advance(1.1);
+    QObject observer;
+    NotificationCenter::defaultCenter().addObserver(
+        observer, QStringLiteral("statusChanged"), [&](QObject *) { t.a.timer.window()->close(); });
+    t.endAlarm();
+    QVERIFY(!t.a.timer.isRunning());
+    QVERIFY(t.clock.isIdle());
 }
 
 void tst_Chains::aNewNameIsShownByTheTimerBefore()

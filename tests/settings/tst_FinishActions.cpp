@@ -10,27 +10,12 @@ const QString kWuffer = QStringLiteral("Start other open Wuffer");
 const char *const kCannotStart = "Couldn't start the targeted wuffer!";
 } // namespace
 
-/// What can follow the end of a countdown, and how it is chosen.
+/// What follows the end of a countdown.
 class tst_FinishActions final : public Test
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void theOptionsAreListedInOrder();
-    void thePickerIsShownWhereThereIsAChoice_data();
-    void thePickerIsShownWhereThereIsAChoice();
-    void thePickerListsThePresetsInTheirOrder();
-    void thePickerKeepsThePlace();
-    void thePickerIsNeverWithoutAPlace();
-    void thePickerIsRefilledWhenItOpens();
-    void thePickerSaysHowToLink();
-    void thePickerShowsTheLink();
-    void thePickerOfAStopwatchEndsEnabled();
-    void anotherOptionCutsTheLink_data();
-    void anotherOptionCutsTheLink();
-    void keepWuffingNeedsNothingToFollow_data();
-    void keepWuffingNeedsNothingToFollow();
-    void aMutedTimerCannotKeepWuffing();
     void loopingCountsThePasses();
     void everyOtherActionForgetsThePasses_data();
     void everyOtherActionForgetsThePasses();
@@ -38,6 +23,7 @@ private Q_SLOTS:
     void aPresetStartedLeavesTheWindowWhereItIs();
     void presetsFollowEachOther();
     void theTenthPlaceRunsTheTimerAgain();
+    void aRecordForTheTenthPlaceIsLoaded();
     void noPlaceStartsPresetZero();
     void aLinkStartsTheOtherTimer();
     void aLinkToNobodyIsLogged();
@@ -54,190 +40,7 @@ private:
         t.sounds.sound(QStringLiteral("wolvesWuff.wav"))->reachEnd();
         t.pass(0.3);
     }
-    static bool isShown(const QWidget &widget) { return !widget.isHidden(); }
 };
-
-void tst_FinishActions::theOptionsAreListedInOrder()
-{
-    const TimerFixture t;
-    const auto &combo = t.part<QComboBox>("_finishedCombo");
-    QStringList options;
-    for (int index = 0; index < combo.count(); ++index)
-        options << combo.itemText(index);
-    const QStringList expected{kNothing, kLoop, kPreset, kWuffer};
-    QCOMPARE(options, expected);
-    QCOMPARE(t.finish(), kNothing);
-}
-
-void tst_FinishActions::thePickerIsShownWhereThereIsAChoice_data()
-{
-    QTest::addColumn<QString>("option");
-    QTest::addColumn<bool>("shown");
-    QTest::addColumn<bool>("enabled");
-    QTest::newRow("nothing") << kNothing << false << true;
-    QTest::newRow("loop") << kLoop << false << true;
-    QTest::newRow("preset") << kPreset << true << true;
-    QTest::newRow("other timer") << kWuffer << true << false;
-}
-
-void tst_FinishActions::thePickerIsShownWhereThereIsAChoice()
-{
-    QFETCH(const QString, option);
-    TimerFixture t;
-    t.chooseFinish(option);
-    QTEST(isShown(t.picker()), "shown");
-    QTEST(t.picker().isEnabled(), "enabled");
-    t.chooseFinish(kNothing);
-    QVERIFY(!isShown(t.picker()));
-}
-
-void tst_FinishActions::thePickerListsThePresetsInTheirOrder()
-{
-    TimerFixture t;
-    t.chooseFinish(kPreset);
-    QCOMPARE(t.picker().count(), 10);
-    QCOMPARE(t.picker().itemText(0), QStringLiteral("Preset 1 - 0h 10m 0s"));
-    QCOMPARE(t.picker().itemText(8), QStringLiteral("Preset 9 - 0h 90m 0s"));
-    QCOMPARE(t.picker().itemText(9), QStringLiteral("Preset 0 - 0h 0m 0s"));
-}
-
-void tst_FinishActions::thePickerKeepsThePlace()
-{
-    TimerFixture t;
-    t.chooseFinish(kPreset);
-    t.pick(6);
-    t.timer.handleFinishedComboChange();
-    QCOMPARE(t.picker().currentIndex(), 6);
-    // Hidden, it keeps its list and place.
-    t.chooseFinish(kLoop);
-    t.chooseFinish(kPreset);
-    QCOMPARE(t.picker().currentIndex(), 6);
-    // The one line that tells of a link is a first place.
-    t.chooseFinish(kWuffer);
-    t.chooseFinish(kPreset);
-    QCOMPARE(t.picker().currentIndex(), 0);
-}
-
-void tst_FinishActions::thePickerIsNeverWithoutAPlace()
-{
-    TimerFixture t;
-    t.chooseFinish(kPreset);
-    t.picker().setCurrentIndex(-1);
-    t.timer.handleFinishedComboChange();
-    QCOMPARE(t.picker().currentIndex(), 0);
-    t.picker().setCurrentIndex(-1);
-    t.chooseFinish(kNothing);
-    QVERIFY(!isShown(t.picker()));
-    QCOMPARE(t.picker().currentIndex(), 0);
-}
-
-void tst_FinishActions::thePickerIsRefilledWhenItOpens()
-{
-    TimerFixture t;
-    t.timer.window()->show();
-    t.chooseFinish(kPreset);
-    t.pick(2);
-    t.defaults.setObject(QVariantMap{{QStringLiteral("title"), QStringLiteral("Eggs")}},
-                         QStringLiteral("Preset 3"));
-    for (const char *name : {"_finishedCombo", "_finishedPicker"}) {
-        t.picker().setItemText(2, QStringLiteral("old"));
-        auto &combo = t.part<QComboBox>(name);
-        combo.showPopup();
-        QCOMPARE(t.picker().currentText(), QStringLiteral("Eggs - 0h 0m 0s"));
-        combo.hidePopup();
-    }
-}
-
-void tst_FinishActions::thePickerSaysHowToLink()
-{
-    TimerFixture t;
-    t.chooseFinish(kWuffer);
-    QCOMPARE(t.picker().count(), 1);
-    QCOMPARE(t.picker().currentText(), QStringLiteral("Control-Drag a Wuffer"));
-}
-
-void tst_FinishActions::thePickerShowsTheLink()
-{
-    const TimerFixture t;
-    TimerUser other;
-    other.typeName(QStringLiteral("Eggs"));
-    other.typeDuration(0, 5, 0);
-    t.timer.setTargetWuffer(&other.timer);
-    QCOMPARE(t.picker().count(), 1);
-    QCOMPARE(t.picker().currentText(), QStringLiteral("Eggs - 0h 5m 0s"));
-    QVERIFY(!t.picker().isEnabled());
-    QVERIFY(isShown(t.picker()));
-}
-
-void tst_FinishActions::thePickerOfAStopwatchEndsEnabled()
-{
-    TimerFixture t;
-    t.chooseFinish(kPreset);
-    t.timer.stopwatch();
-    QVERIFY(!t.part<QComboBox>("_finishedCombo").isEnabled());
-    QVERIFY(t.picker().isEnabled());
-    t.chooseFinish(kNothing);
-    t.timer.stopwatch();
-    t.timer.stopwatch();
-    QVERIFY(!t.picker().isEnabled());
-}
-
-void tst_FinishActions::anotherOptionCutsTheLink_data()
-{
-    QTest::addColumn<QString>("option");
-    for (const QString &option : {kNothing, kLoop, kPreset})
-        QTest::newRow(qPrintable(option)) << option;
-}
-
-void tst_FinishActions::anotherOptionCutsTheLink()
-{
-    QFETCH(const QString, option);
-    TimerFixture t;
-    const TimerUser other;
-    t.timer.setTargetWuffer(&other.timer);
-    t.chooseFinish(option);
-    QVERIFY(!t.timer.isChained());
-    QVERIFY(!other.timer.isChained());
-    QCOMPARE(t.finish(), option);
-    QCOMPARE(other.go(), QStringLiteral("Start"));
-    QVERIFY(other.goButton().isEnabled());
-    // The same option again leaves everything as it is.
-    t.timer.setTargetWuffer(&other.timer);
-    t.chooseFinish(kWuffer);
-    QCOMPARE(t.timer.getTargetWuffer(), &other.timer);
-}
-
-void tst_FinishActions::keepWuffingNeedsNothingToFollow_data()
-{
-    QTest::addColumn<QString>("option");
-    QTest::addColumn<bool>("may");
-    QTest::newRow("nothing") << kNothing << true;
-    QTest::newRow("loop") << kLoop << false;
-    QTest::newRow("preset") << kPreset << false;
-    QTest::newRow("other timer") << kWuffer << false;
-}
-
-void tst_FinishActions::keepWuffingNeedsNothingToFollow()
-{
-    QFETCH(const QString, option);
-    TimerFixture t;
-    const auto &box = t.part<QCheckBox>("_keepWuffingBox");
-    t.tick("_keepWuffingBox");
-    t.chooseFinish(option);
-    QTEST(box.isEnabled(), "may");
-    QTEST(box.isChecked(), "may");
-    t.chooseFinish(kNothing);
-    QVERIFY(box.isEnabled());
-}
-
-void tst_FinishActions::aMutedTimerCannotKeepWuffing()
-{
-    TimerFixture t;
-    t.tick("_keepWuffingBox");
-    t.set("soundOff", 1);
-    QVERIFY(!t.part<QCheckBox>("_keepWuffingBox").isEnabled());
-    QVERIFY(!t.part<QCheckBox>("_keepWuffingBox").isChecked());
-}
 
 void tst_FinishActions::loopingCountsThePasses()
 {
@@ -344,6 +147,17 @@ void tst_FinishActions::theTenthPlaceRunsTheTimerAgain()
     QCOMPARE(t.fields(), QStringLiteral("0 0 1"));
     QCOMPARE(t.picker().currentIndex(), 9);
     QVERIFY(t.defaults.dictionaryForKey(QStringLiteral("Preset 10")).isEmpty());
+}
+
+void tst_FinishActions::aRecordForTheTenthPlaceIsLoaded()
+{
+    TimerFixture t;
+    t.defaults.setObject(QVariantMap{{QStringLiteral("title"), QStringLiteral("Ten")}},
+                         QStringLiteral("Preset 10"));
+    t.chooseFinish(kPreset);
+    t.pick(9);
+    finish(t);
+    QCOMPARE(t.titleField.text(), QStringLiteral("Ten"));
 }
 
 void tst_FinishActions::noPlaceStartsPresetZero()

@@ -123,9 +123,12 @@ void tst_LinkDrag::aPressThatDoesNotMoveIsNoDrag()
     WufferWindow &window = *t.timer.window();
     window.show();
     for (const Qt::MouseButton button : {Qt::LeftButton, Qt::RightButton}) {
+        const QPoint to(5, 61);
         QTest::mousePress(&window, button, Keyboard::kControl, QPoint(4, 60));
-        QTest::mouseMove(&window, QPoint(5, 61));
-        QTest::mouseRelease(&window, button, Keyboard::kControl, QPoint(5, 61));
+        QMouseEvent move(QEvent::MouseMove, to, window.mapToGlobal(to), Qt::NoButton, button,
+                         Keyboard::kControl);
+        QCoreApplication::sendEvent(&window, &move);
+        QTest::mouseRelease(&window, button, Keyboard::kControl, to);
         QVERIFY(window.findChildren<QDrag *>().isEmpty());
     }
 }

@@ -3,10 +3,17 @@
 #include "support/TestMain.h"
 #include "support/TimerFixture.h"
 
+#include <functional>
+
 namespace
 {
 const QString kChanged = QStringLiteral("presetsChangedNotification");
+
+/// Something that happens to a timer.
+using Act = std::function<void(TimerFixture &)>;
 } // namespace
+
+Q_DECLARE_METATYPE(Act)
 
 /// The ten presets: their records, saving a timer into one, and the mark of one unchanged.
 class tst_Presets final : public Test
@@ -232,38 +239,39 @@ void tst_Presets::savingATimerWithALinkForgetsTheLink()
 
 void tst_Presets::theMarkIsLostByAnEdit_data()
 {
-    QTest::addColumn<QString>("edit");
-    for (const char *edit :
-         {"_titleField", "_hoursField", "_minutesField", "_secondsField", "_keepWuffingBox",
-          "_finishedCombo", "_finishedPicker", "_alarmSoundCombo", "_countdownSoundCombo",
-          "the menu item for keeping on"})
-        QTest::newRow(edit) << QString::fromLatin1(edit);
+    QTest::addColumn<Act>("edit");
+    for (const char *field : {"_titleField", "_hoursField", "_minutesField", "_secondsField"}) {
+        QTest::newRow(field) << Act([field](TimerFixture &t) {
+            QTest::keyClicks(&t.part<QLineEdit>(field), QStringLiteral("1"));
+        });
+    }
+    for (const char *name :
+         {"_finishedCombo", "_finishedPicker", "_alarmSoundCombo", "_countdownSoundCombo"}) {
+        QTest::newRow(name) << Act([name](TimerFixture &t) {
+            auto &combo = t.part<QComboBox>(name);
+            QTest::keyClick(&combo, combo.currentIndex() > 0 ? Qt::Key_Home : Qt::Key_Down);
+        });
+    }
+    QTest::newRow("_keepWuffingBox") << Act([](TimerFixture &t) {
+        t.chooseFinish(QStringLiteral("Do Nothing"));
+        t.timer.setPreset(4);
+        t.part<QCheckBox>("_keepWuffingBox").click();
+    });
+    QTest::newRow("the menu item for keeping on")
+        << Act([](TimerFixture &t) { t.timer.toggleKeepWuffing(); });
 }
 
 void tst_Presets::theMarkIsLostByAnEdit()
 {
-    QFETCH(const QString, edit);
+    QFETCH(const Act, edit);
     TimerFixture t;
     t.chooseFinish(QStringLiteral("Start a Preset"));
+    t.chooseAlarm(QStringLiteral("/sounds/bell.wav"));
+    t.chooseBeep(QStringLiteral("/sounds/tick.wav"));
     t.timer.setPreset(4);
     t.timer.loadSettingsFromDefaultsWithKey(QStringLiteral("Preset 4"), false);
     QVERIFY(isMarked(t));
-    const QByteArray name = edit.toLatin1();
-    if (auto *field = t.timer.window()->findChild<QLineEdit *>(edit))
-        QTest::keyClicks(field, QStringLiteral("1"));
-    else if (auto *box = t.timer.window()->findChild<QCheckBox *>(edit)) {
-        t.chooseFinish(QStringLiteral("Do Nothing"));
-        t.timer.setPreset(4);
-        box->click();
-    } else if (auto *combo = t.timer.window()->findChild<QComboBox *>(edit)) {
-        combo->show();
-        QTest::keyClick(combo, combo->currentIndex() > 0 ? Qt::Key_Home : Qt::Key_Down);
-        // The list has only one entry until the user has sounds of his own.
-        if (combo->count() == 1)
-            Q_EMIT combo->activated(0);
-    } else {
-        t.timer.toggleKeepWuffing();
-    }
+    edit(t);
     QCOMPARE(t.color(), QColor(Qt::black));
     QCOMPARE(t.elapsedColor(), QColor(Qt::black));
     QCOMPARE(t.elapsed(), QString());
@@ -271,31 +279,29 @@ void tst_Presets::theMarkIsLostByAnEdit()
 
 void tst_Presets::theMarkStays_data()
 {
-    QTest::addColumn<QString>("event");
-    for (const char *event : {"the full-screen box", "a change of the preferences", "the drawer",
-                              "a list that opens", "another load"})
-        QTest::newRow(event) << QString::fromLatin1(event);
+    QTest::addColumn<Act>("event");
+    QTest::newRow("the full-screen box")
+        << Act([](TimerFixture &t) { t.part<QCheckBox>("_fullScreenBox").click(); });
+    QTest::newRow("a change of the preferences")
+        << Act([](TimerFixture &t) { t.set("soundOff", 1); });
+    QTest::newRow("the drawer") << Act([](TimerFixture &t) { t.timer.showHideAdvanced(); });
+    QTest::newRow("a list that opens") << Act([](TimerFixture &t) {
+        t.timer.window()->show();
+        t.picker().showPopup();
+        t.picker().hidePopup();
+    });
+    QTest::newRow("another load") << Act([](TimerFixture &t) {
+        t.timer.loadSettingsFromDefaultsWithKey(QStringLiteral("Preset 4"), false);
+    });
 }
 
 void tst_Presets::theMarkStays()
 {
-    QFETCH(const QString, event);
+    QFETCH(const Act, event);
     TimerFixture t;
     t.chooseFinish(QStringLiteral("Start a Preset"));
     t.timer.setPreset(4);
-    if (event == QStringLiteral("the full-screen box")) {
-        t.part<QCheckBox>("_fullScreenBox").click();
-    } else if (event == QStringLiteral("a change of the preferences")) {
-        t.set("soundOff", 1);
-    } else if (event == QStringLiteral("the drawer")) {
-        t.timer.showHideAdvanced();
-    } else if (event == QStringLiteral("a list that opens")) {
-        t.timer.window()->show();
-        t.picker().showPopup();
-        t.picker().hidePopup();
-    } else {
-        t.timer.loadSettingsFromDefaultsWithKey(QStringLiteral("Preset 4"), false);
-    }
+    event(t);
     QVERIFY(isMarked(t));
     QVERIFY(t.elapsed().contains(QStringLiteral("Preset 4")));
 }

@@ -1,8 +1,6 @@
 #include "support/TestMain.h"
 #include "support/TimerFixture.h"
 
-#include <QScreen>
-
 namespace
 {
 const QString kDefault = QStringLiteral("defaultWufferSettings");
@@ -41,6 +39,9 @@ private Q_SLOTS:
     void anEmptyTitleLeavesTheTitleOfTheWindow();
     void nothingStoredChangesNothing();
     void anUnknownOptionSelectsNothing();
+    void nothingSelectedIsNotStored();
+    void aHandWrittenLinkLeadsToNobody();
+    void aMutedTimerDoesNotTakeOverKeepWuffing();
     void whatWasSavedWithALinkDoesNothing();
     void aPlaceOutsideTheListIsPassedOn();
     void thePlaceIsTheFirstWhenItIsMissing();
@@ -50,19 +51,6 @@ private Q_SLOTS:
     void anUnknownSoundLeavesTheSelection();
     void theSettingsOfTheLastTimeShowNothing();
     void aRunningStateIsNotRestored();
-    void theWindowIsShownInAnyCase();
-    void theWindowComesBackToItsPlace();
-    void theWindowStaysWhereNoPlaceIsStored();
-    void theWindowStaysWhenItIsNotToMove();
-    void theWindowStaysWithoutARecord();
-    void theWindowMovesOffAnother();
-    void theWindowMovesOffEveryOther();
-    void windowsAtEveryPlaceStopTheMoving();
-    void aPlaceThatIsGoneComesBackIntoSight();
-    void junkForAPlaceIsIgnored();
-
-private:
-    static QPoint place(const TimerUser &user) { return user.timer.window()->pos(); }
 };
 
 void tst_SettingsRecord::everyControlIsStored()
@@ -261,6 +249,37 @@ void tst_SettingsRecord::anUnknownOptionSelectsNothing()
     }
 }
 
+void tst_SettingsRecord::nothingSelectedIsNotStored()
+{
+    TimerFixture t;
+    t.part<QComboBox>("_finishedCombo").setCurrentIndex(-1);
+    t.timer.storeSettingsInDefaultsWithKey(kDefault);
+    QVERIFY(!value(t, kDefault, "finishOption").isValid());
+}
+
+void tst_SettingsRecord::aHandWrittenLinkLeadsToNobody()
+{
+    TimerFixture t;
+    t.defaults.setObject(
+        record({{QStringLiteral("finishOption"), QStringLiteral("Start other open Wuffer")}}),
+        kDefault);
+    t.timer.loadSettingsFromDefaultsWithKey(kDefault, false);
+    QCOMPARE(t.finish(), QStringLiteral("Start other open Wuffer"));
+    QCOMPARE(t.picker().currentText(), QStringLiteral("Control-Drag a Wuffer"));
+    QVERIFY(!t.timer.isChained());
+}
+
+void tst_SettingsRecord::aMutedTimerDoesNotTakeOverKeepWuffing()
+{
+    TimerFixture t;
+    t.set("soundOff", 1);
+    t.defaults.setObject(record({{QStringLiteral("keepWuffing"), 1},
+                                 {QStringLiteral("finishOption"), QStringLiteral("Do Nothing")}}),
+                         kDefault);
+    t.timer.loadSettingsFromDefaultsWithKey(kDefault, false);
+    QVERIFY(!t.part<QCheckBox>("_keepWuffingBox").isChecked());
+}
+
 void tst_SettingsRecord::whatWasSavedWithALinkDoesNothing()
 {
     TimerFixture t;
@@ -380,130 +399,6 @@ void tst_SettingsRecord::aRunningStateIsNotRestored()
     QVERIFY(!other.timer.isRunning());
     // It is still the stopwatch that it was.
     QVERIFY(!other.part<QComboBox>("_finishedCombo").isEnabled());
-}
-
-void tst_SettingsRecord::theWindowIsShownInAnyCase()
-{
-    const TestServices services;
-    for (const QString &key : {kDefault, kPreset}) {
-        const TimerUser user;
-        QVERIFY(!user.timer.window()->isVisible());
-        user.timer.loadSettingsFromDefaultsWithKey(key, true);
-        QVERIFY(QTest::qWaitForWindowActive(user.timer.window()));
-    }
-}
-
-void tst_SettingsRecord::theWindowComesBackToItsPlace()
-{
-    TimerFixture t;
-    t.timer.window()->move(120, 90);
-    t.timer.storeSettingsInDefaultsWithKey(kPreset);
-    t.timer.window()->move(10, 20);
-    t.timer.storeSettingsInDefaultsWithKey(kDefault);
-    t.timer.window()->close();
-    const TimerUser other;
-    other.timer.loadSettingsFromDefaultsWithKey(kPreset, true);
-    QCOMPARE(place(other), QPoint(120, 90));
-}
-
-void tst_SettingsRecord::theWindowStaysWhereNoPlaceIsStored()
-{
-    TimerFixture t;
-    t.defaults.setObject(record({{QStringLiteral("minutes"), 4}}), kPreset);
-    t.timer.window()->move(120, 90);
-    t.timer.loadSettingsFromDefaultsWithKey(kPreset, true);
-    QCOMPARE(place(t), QPoint(120, 90));
-}
-
-void tst_SettingsRecord::theWindowStaysWhenItIsNotToMove()
-{
-    TimerFixture t;
-    t.timer.window()->move(120, 90);
-    t.timer.storeSettingsInDefaultsWithKey(kPreset);
-    t.timer.window()->move(50, 60);
-    const TimerUser other;
-    other.timer.window()->move(50, 60);
-    t.timer.loadSettingsFromDefaultsWithKey(kPreset, false);
-    QCOMPARE(place(t), QPoint(50, 60));
-}
-
-void tst_SettingsRecord::theWindowStaysWithoutARecord()
-{
-    TimerFixture t;
-    t.timer.window()->move(120, 90);
-    t.timer.storeSettingsInDefaultsWithKey(kPreset);
-    t.defaults.removeObjectForKey(kPreset);
-    t.timer.window()->move(50, 60);
-    t.timer.loadSettingsFromDefaultsWithKey(kPreset, true);
-    QCOMPARE(place(t), QPoint(50, 60));
-}
-
-void tst_SettingsRecord::theWindowMovesOffAnother()
-{
-    TimerFixture t;
-    t.timer.window()->move(120, 90);
-    t.timer.storeSettingsInDefaultsWithKey(kPreset);
-    const TimerUser other;
-    other.timer.loadSettingsFromDefaultsWithKey(kPreset, true);
-    const QPoint step = place(other) - place(t);
-    QVERIFY(step.x() > 10 && step.x() < 60);
-    QCOMPARE(step.x(), step.y());
-}
-
-void tst_SettingsRecord::theWindowMovesOffEveryOther()
-{
-    const TimerFixture t;
-    t.timer.window()->move(120, 90);
-    t.timer.storeSettingsInDefaultsWithKey(kPreset);
-    const TimerUser second;
-    const TimerUser third;
-    second.timer.loadSettingsFromDefaultsWithKey(kPreset, true);
-    third.timer.loadSettingsFromDefaultsWithKey(kPreset, true);
-    QCOMPARE(place(third) - place(second), place(second) - place(t));
-}
-
-void tst_SettingsRecord::windowsAtEveryPlaceStopTheMoving()
-{
-    const TestServices services;
-    // As many as a cascade has places on this screen, from one end to the other and round again.
-    const TimerUser last;
-    last.timer.window()->move(0, 0);
-    last.timer.storeSettingsInDefaultsWithKey(kPreset);
-    QPoint next(0, 0);
-    do {
-        const TimerUser user;
-        next = user.timer.window()->cascadeTopLeftFromPoint(next);
-        user.timer.window()->show();
-    } while (next != QPoint(0, 0));
-    QVERIFY(WufferApplication::getWuffers().size() > 10);
-    last.timer.loadSettingsFromDefaultsWithKey(kPreset, true);
-    QVERIFY(last.timer.window()->isVisible());
-    QVERIFY(WufferApplication::otherWufferWindowSharesOrigin(*last.timer.window()));
-}
-
-void tst_SettingsRecord::aPlaceThatIsGoneComesBackIntoSight()
-{
-    TimerFixture t;
-    t.timer.window()->move(30000, -4000);
-    t.timer.storeSettingsInDefaultsWithKey(kPreset);
-    t.timer.loadSettingsFromDefaultsWithKey(kPreset, true);
-    const QRect room = t.timer.window()->screen()->availableGeometry();
-    const QRect frame(place(t), t.timer.window()->size());
-    QVERIFY2(room.contains(frame), qPrintable(QDebug::toString(frame)));
-}
-
-void tst_SettingsRecord::junkForAPlaceIsIgnored()
-{
-    TimerFixture t;
-    t.timer.storeSettingsInDefaultsWithKey(kPreset);
-    t.timer.window()->move(50, 60);
-    for (const QVariant &junk :
-         {QVariant(7), QVariant(QVariantList{1, 2}), QVariant(QVariantMap{{kPreset, 5}}),
-          QVariant(QVariantMap{{kPreset, QVariantMap{{QStringLiteral("x"), 1}}}})}) {
-        t.defaults.setObject(junk, QStringLiteral("windowFrames"));
-        t.timer.loadSettingsFromDefaultsWithKey(kPreset, true);
-        QCOMPARE(place(t), QPoint(50, 60));
-    }
 }
 
 WUFFER_TEST_MAIN(tst_SettingsRecord)

@@ -30,7 +30,7 @@ class Display:
     """One display, free of all others."""
 
     def __init__(self, environment, size):
-        processes.require("Xvfb", "openbox", "xprop", "xwininfo", "xdotool", "import")
+        processes.require("Xvfb", "openbox", "xprop", "xwininfo", "xdotool", "wmctrl", "import")
         self.width, self.height = size
         reader, writer = os.pipe()
         self.server = processes.start(
@@ -103,6 +103,10 @@ class Display:
         wait_until(lambda: (x, y) in (self.geometry(window)[:2], self.frame(window)[:2]), 3,
                    "the window is there")
         return self.frame(window)
+
+    def close_window(self, window):
+        """Asks the window manager to, as a task bar does."""
+        processes.run(["wmctrl", "-i", "-c", hex(window)], self.environment)
 
     def property(self, name, window=None):
         """The text after the sign of equality, or of what xprop has to say instead."""
