@@ -6,6 +6,7 @@
 
 class AuxiliaryWindow;
 class MainMenu;
+class QMainWindow;
 class Wuffer;
 
 /// The one controller of the program: decides what opens at launch, makes timers and places their
@@ -52,8 +53,10 @@ public:
 private:
     [[nodiscard]] static Wuffer *newestWuffer();
     void openAtLaunch();
-    /// Shows one of the windows beside the timers, which is made when it is first asked for.
-    void show(std::unique_ptr<AuxiliaryWindow> &window, const QString &title);
+    /// Shows one of the windows beside the timers, which is made and filled when it is first asked
+    /// for.
+    void show(std::unique_ptr<AuxiliaryWindow> &window, const QString &title,
+              void (*fill)(QMainWindow &window));
 
     std::unique_ptr<MainMenu> _mainMenu;
     std::unique_ptr<AuxiliaryWindow> _preferencesWindow;
