@@ -8,6 +8,8 @@
 #include <QLayout>
 #include <QMainWindow>
 
+#include <utility>
+
 namespace
 {
 const QString kFahrenheitValue = QStringLiteral("fahrenheitValue");
@@ -63,7 +65,7 @@ void Converter::awakeFromNib()
 void Converter::controlTextDidChange(const NumberField &field)
 {
     using Operation = void (Converter::*)(const NumberField &);
-    const std::pair<const NumberField *, Operation> operations[] = {
+    const std::array<std::pair<const NumberField *, Operation>, 9> operations{{
         {_ui->_cField, &Converter::convertTemperature},
         {_ui->_fField, &Converter::convertTemperature},
         {_ui->_gramsField, &Converter::convertWeight},
@@ -73,7 +75,7 @@ void Converter::controlTextDidChange(const NumberField &field)
         {_ui->_cupsField, &Converter::convertVolume},
         {_ui->_tablespoonsField, &Converter::convertVolume},
         {_ui->_teaspoonsField, &Converter::convertVolume},
-    };
+    }};
     for (const auto &[own, operation] : operations) {
         if (own == &field)
             (this->*operation)(field);

@@ -2,6 +2,8 @@
 
 #include <QTextEdit>
 
+struct MeasurementTable;
+
 /// A table of kitchen measures to look things up in. It has no behaviour of its own, but its text
 /// can be selected and copied, and read aloud by a screen reader.
 class MeasurementsPanel final : public QTextEdit
@@ -15,9 +17,6 @@ public:
     [[nodiscard]] QSize sizeHint() const override;
 
 private:
-    struct Table;
-
-    [[nodiscard]] static const std::vector<Table> &tables();
     [[nodiscard]] static QString html();
-    [[nodiscard]] static QString htmlOf(const Table &table);
+    [[nodiscard]] static QString htmlOf(const MeasurementTable &table);
 };

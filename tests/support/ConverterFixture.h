@@ -8,6 +8,8 @@
 
 #include <QMainWindow>
 
+#include <array>
+
 /// The converter in a window that is shown.
 struct ConverterWindow : QMainWindow
 {
@@ -22,12 +24,12 @@ struct ConverterWindow : QMainWindow
     {
         return child<NumberField>(*this, name);
     }
-    void type(const char *name, const QString &keys)
+    void type(const char *name, const QString &keys) const
     {
         field(name).selectText();
         QTest::keyClicks(&field(name), keys);
     }
-    void type(const char *name, const char *keys) { type(name, QString::fromUtf8(keys)); }
+    void type(const char *name, const char *keys) const { type(name, QString::fromUtf8(keys)); }
     [[nodiscard]] QString text(const char *name) const { return field(name).text(); }
     [[nodiscard]] float value(const char *name) const { return field(name).floatValue(); }
 
@@ -70,12 +72,12 @@ struct VolumeField
     Conversions::Volume unit;
 };
 
-inline constexpr VolumeField kVolumeFields[] = {
-    {"_millilitersField", Conversions::Volume::Milliliters},
-    {"_fluidOuncesField", Conversions::Volume::FluidOunces},
-    {"_cupsField", Conversions::Volume::Cups},
-    {"_tablespoonsField", Conversions::Volume::Tablespoons},
-    {"_teaspoonsField", Conversions::Volume::Teaspoons},
+inline constexpr std::array kVolumeFields{
+    VolumeField{"_millilitersField", Conversions::Volume::Milliliters},
+    VolumeField{"_fluidOuncesField", Conversions::Volume::FluidOunces},
+    VolumeField{"_cupsField", Conversions::Volume::Cups},
+    VolumeField{"_tablespoonsField", Conversions::Volume::Tablespoons},
+    VolumeField{"_teaspoonsField", Conversions::Volume::Teaspoons},
 };
 
-inline constexpr const char *kOtherFields[] = {"_gramsField", "_ouncesField", "_cField", "_fField"};
+inline constexpr std::array kOtherFields{"_gramsField", "_ouncesField", "_cField", "_fField"};

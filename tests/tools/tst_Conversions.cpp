@@ -138,7 +138,7 @@ void tst_Conversions::productsAreRoundedOnce()
     int differentInSinglePrecision = 0;
     for (int tenths = -1000; tenths <= 10000; ++tenths) {
         const float value = static_cast<float>(tenths) / 10.0F;
-        const double exact = static_cast<double>(value);
+        const auto exact = static_cast<double>(value);
         QCOMPARE(exactly(Conversions::millilitersFrom(unit, value)),
                  exactly(static_cast<float>(exact * to)));
         QCOMPARE(exactly(Conversions::fromMilliliters(value, unit)),

@@ -3,6 +3,8 @@
 
 #include <QLabel>
 
+#include <utility>
+
 /// Typing in the fields, and finding the way through them.
 class tst_ConverterWindow final : public Test
 {
@@ -71,10 +73,13 @@ void tst_ConverterWindow::typingFromLeftToRightGivesTheNumberTyped_data()
     QTest::addColumn<QString>("keys");
     QTest::addColumn<float>("number");
 
-    const std::pair<const char *, float> numbers[] = {
-        {"12.5", 12.5F},    {"0.05", 0.05F},         {"3.75", 3.75F},           {"-7.3", -7.3F},
-        {".5", 0.5F},       {"1000", 1000.0F},       {"33.333332", 33.333332F}, {"1e-3", 0.001F},
-        {"100.10", 100.1F}, {"0.000012", 0.000012F},
+    using Row = std::pair<const char *, float>;
+    constexpr std::array numbers{
+        Row{"12.5", 12.5F},    Row{"0.05", 0.05F},
+        Row{"3.75", 3.75F},    Row{"-7.3", -7.3F},
+        Row{".5", 0.5F},       Row{"1000", 1000.0F},
+        Row{"1e-3", 0.001F},   Row{"33.333332", 33.333332F},
+        Row{"100.10", 100.1F}, Row{"0.000012", 0.000012F},
     };
     for (const char *locale : {"en_US", "de_DE", "fr_FR", "sv_SE"}) {
         const QString point = QLocale(QString::fromLatin1(locale)).decimalPoint();

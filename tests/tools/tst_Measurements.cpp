@@ -288,21 +288,21 @@ void tst_Measurements::aScreenReaderFindsItsNameAndItsText()
 void tst_Measurements::theKeyboardScrollsItAndLeavesIt()
 {
     QWidget window;
-    auto *panel = new MeasurementsPanel(&window);
-    auto *other = new QPushButton(&window);
+    MeasurementsPanel panel(&window);
+    const QPushButton other(&window);
     window.resize(400, 300);
-    panel->resize(400, 200);
+    panel.resize(400, 200);
     window.show();
     QVERIFY(QTest::qWaitForWindowActive(&window));
-    panel->setFocus();
-    QTest::keyClick(panel, Qt::Key_PageDown);
-    QVERIFY(panel->verticalScrollBar()->value() > 0);
-    QTest::keyClick(panel, Qt::Key_End, Qt::ControlModifier);
+    panel.setFocus();
+    QTest::keyClick(&panel, Qt::Key_PageDown);
+    QVERIFY(panel.verticalScrollBar()->value() > 0);
+    QTest::keyClick(&panel, Qt::Key_End, Qt::ControlModifier);
     // The last line is in sight; the margin below it need not be.
-    const auto margin = static_cast<int>(panel->document()->documentMargin());
-    QVERIFY(panel->verticalScrollBar()->value() >= panel->verticalScrollBar()->maximum() - margin);
-    QTest::keyClick(panel, Qt::Key_Tab);
-    QVERIFY(other->hasFocus());
+    const auto margin = static_cast<int>(panel.document()->documentMargin());
+    QVERIFY(panel.verticalScrollBar()->value() >= panel.verticalScrollBar()->maximum() - margin);
+    QTest::keyClick(&panel, Qt::Key_Tab);
+    QVERIFY(other.hasFocus());
 }
 
 void tst_Measurements::itFollowsADarkPalette()
