@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Draws Wuffer's images: the application icon and the sound button's states.
+"""Draws Wuffer's images: the application icon, the sound button's states, the chain.
 
 Run it from anywhere, without arguments; it needs python3-cairo:
 
@@ -10,6 +10,7 @@ It writes, next to itself:
     wuffer.svg, wuffer-16.png ... wuffer-256.png   the application icon
     sound_high.png, sound_high@2x.png              a sounding loudspeaker
     sound_mute.png, sound_mute@2x.png              the same one, crossed out
+    chain.png, chain@2x.png                        two links, dragged to join timers
 
 A picture is a list of shapes whose outlines use the SVG path letters M, L, C
 and Z. The same shapes are painted into the PNG files and written into the SVG
@@ -208,6 +209,40 @@ def muted() -> Picture:
     return sound_button([line(15, 9, 21, 15), line(15, 15, 21, 9)], VERMILION)
 
 
+def link(x: float, y: float) -> str:
+    """One link of a chain, lying along the rising diagonal."""
+    r, reach = 4.2, 3.6
+    turned = []
+    for side in (1, -1):
+        a, b = reach * side, r * side
+        turned.append(((a, -b), (a + 1.333 * b, -b), (a + 1.333 * b, b), (a, b)))
+    (p0, c0, c1, p1), (q0, d0, d1, q1) = turned
+    cosine = math.sqrt(0.5)
+
+    def place(point: tuple[float, float]) -> tuple[float, float]:
+        u, v = point
+        return x + cosine * (u + v), y + cosine * (v - u)
+
+    corners = [place(p) for p in (p0, c0, c1, p1, q0, d0, d1, q1)]
+    first, *rest = corners
+    curves = [path("C", *rest[0], *rest[1], *rest[2]), path("L", *rest[3])]
+    curves.append(path("C", *rest[4], *rest[5], *rest[6]))
+    return " ".join([path("M", *first), *curves, "Z"])
+
+
+def chain() -> Picture:
+    """For 32 units: two links, one through the other, rimmed to stand out anywhere."""
+    lower, upper = link(11.5, 20.5), link(20.5, 11.5)
+    return [
+        Shape(lower, stroke="#ffffff", width=6),
+        Shape(upper, stroke="#ffffff", width=6),
+        Shape(lower, stroke=SLATE, width=3.4),
+        Shape(upper, stroke="#ffffff", width=5),
+        Shape(upper, stroke=BLUE, width=3.4),
+        Shape(line(14.2, 17.8, 17.8, 14.2), stroke=SLATE, width=3.4),
+    ]
+
+
 def channels(colour: str) -> tuple[float, ...]:
     return tuple(int(colour[i : i + 2], 16) / 255 for i in (1, 3, 5))
 
@@ -287,6 +322,8 @@ def main() -> None:
     for name, picture in ("sound_high", sounding()), ("sound_mute", muted()):
         paint(picture, f"{name}.png", 24, 24)
         paint(picture, f"{name}@2x.png", 24, 48)
+    paint(chain(), "chain.png", 32, 32)
+    paint(chain(), "chain@2x.png", 32, 64)
 
 
 if __name__ == "__main__":

@@ -1,5 +1,7 @@
 #include "app/MainMenu.h"
 
+#include "app/LinkMenu.h"
+#include "app/PresetsMenu.h"
 #include "app/WufferApplication.h"
 #include "app/WufferController.h"
 #include "timer/Wuffer.h"
@@ -103,10 +105,17 @@ const std::vector<MainMenu::Menu> &MainMenu::menus()
     return menus;
 }
 
-MainMenu::MainMenu(WufferController &controller) : _controller(controller)
+MainMenu::MainMenu(WufferController &controller, PresetsMenu &presetsMenu) :
+    _controller(controller), _presetsMenu(presetsMenu), _linkMenu(std::make_unique<LinkMenu>())
 {
     for (const Menu &menu : menus())
         addMenu(menu);
+    // Those that are not written down, because their items come and go.
+    constexpr int timerMenu = 1;
+    _menuBar.at(timerMenu)->addSeparator();
+    _menuBar.at(timerMenu)->addMenu(_linkMenu.get());
+    _menuBar.insert(_menuBar.begin() + timerMenu + 1, &_presetsMenu);
+    connect(&_presetsMenu, &QMenu::aboutToShow, this, &MainMenu::validate);
 
     connect(qApp, &QApplication::focusWindowChanged, this, &MainMenu::validate);
     connect(&WufferApplication::instance(), &WufferApplication::wufferOpened, this,
@@ -119,19 +128,22 @@ MainMenu::~MainMenu() = default;
 
 void MainMenu::addTo(QMainWindow &window)
 {
-    for (const std::unique_ptr<QMenu> &menu : _menus)
-        window.menuBar()->addMenu(menu.get());
+    for (QMenu *menu : _menuBar)
+        window.menuBar()->addMenu(menu);
 }
 
 void MainMenu::validate()
 {
     for (const Item &item : _items)
         item.action->setEnabled(isEnabled(item));
+    _linkMenu->menuAction()->setEnabled(WufferApplication::keyWuffer() != nullptr);
+    _presetsMenu.validate();
 }
 
 void MainMenu::addMenu(const Menu &menu)
 {
     QMenu &made = *_menus.emplace_back(std::make_unique<QMenu>(tr(menu.title)));
+    _menuBar.push_back(&made);
     connect(&made, &QMenu::aboutToShow, this, &MainMenu::validate);
     for (const Row &row : menu.rows)
         addItem(made, row);

@@ -8,6 +8,8 @@
 class QAction;
 class QMainWindow;
 class QMenu;
+class LinkMenu;
+class PresetsMenu;
 class WufferController;
 
 /// The menus of the program: one set, carried by every window of it.
@@ -21,7 +23,7 @@ class MainMenu final : public QObject
     Q_OBJECT
 
 public:
-    explicit MainMenu(WufferController &controller);
+    MainMenu(WufferController &controller, PresetsMenu &presetsMenu);
     ~MainMenu() override;
 
     /// Gives the window a menu bar with these menus.
@@ -42,6 +44,10 @@ private:
     [[nodiscard]] bool isEnabled(const Item &item) const;
 
     WufferController &_controller;
+    PresetsMenu &_presetsMenu;
+    std::unique_ptr<LinkMenu> _linkMenu;
     std::vector<std::unique_ptr<QMenu>> _menus;
+    /// All menus of the menu bar in their order.
+    std::vector<QMenu *> _menuBar;
     std::vector<Item> _items;
 };

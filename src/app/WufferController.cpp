@@ -2,6 +2,7 @@
 
 #include "app/AuxiliaryWindow.h"
 #include "app/MainMenu.h"
+#include "app/PresetsMenu.h"
 #include "app/WebPage.h"
 #include "app/WufferApplication.h"
 #include "platform/Desktop.h"
@@ -23,7 +24,10 @@ constexpr QStringView kLaunchPreset = u"Open Preset ⌘1";
 constexpr QStringView kLaunchAndStartPreset = u"Open and Start Preset ⌘1";
 } // namespace
 
-WufferController::WufferController() : _mainMenu(std::make_unique<MainMenu>(*this)) {}
+WufferController::WufferController() :
+    _presetsMenu(std::make_unique<PresetsMenu>(*this)),
+    _mainMenu(std::make_unique<MainMenu>(*this, *_presetsMenu))
+{}
 
 WufferController::~WufferController() = default;
 
@@ -127,7 +131,32 @@ bool WufferController::validateMenuItem(Operation /*action*/) const
     return true;
 }
 
-void WufferController::populatePresetsMenu() {}
+bool WufferController::validateMenuItem(SaveOperation /*action*/) const
+{
+    return newestWuffer() != nullptr;
+}
+
+void WufferController::populatePresetsMenu()
+{
+    _presetsMenu->populate();
+}
+
+void WufferController::preset(const QAction *sender)
+{
+    if (!sender)
+        return;
+    createNewWuffer();
+    const auto number = static_cast<quint32>(PresetsMenu::presetNumber(*sender));
+    newestWuffer()->loadSettingsFromDefaultsWithKey(Wuffer::keyForPreset(number), true);
+    if (UserDefaults::standardUserDefaults().boolForKey(QStringLiteral("autoStartPresets")))
+        newestWuffer()->goPressed();
+}
+
+void WufferController::setPreset(const QAction &sender)
+{
+    if (Wuffer *timer = WufferApplication::keyWuffer())
+        timer->setPreset(PresetsMenu::presetNumber(sender));
+}
 
 void WufferController::refreshStatusItem() {}
 

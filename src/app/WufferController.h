@@ -4,8 +4,10 @@
 
 #include <memory>
 
+class QAction;
 class AuxiliaryWindow;
 class MainMenu;
+class PresetsMenu;
 class QMainWindow;
 class Wuffer;
 
@@ -44,9 +46,18 @@ public:
     using Operation = void (WufferController::*)();
     /// Whether the menu item with this operation is enabled now.
     [[nodiscard]] bool validateMenuItem(Operation action) const;
+    /// What an item of the Presets menu does that saves a timer.
+    using SaveOperation = void (WufferController::*)(const QAction &sender);
+    [[nodiscard]] bool validateMenuItem(SaveOperation action) const;
 
-    /// Fills the Presets menu; there are no presets yet.
+    /// Brings the Presets menu up to date.
     void populatePresetsMenu();
+    /// Opens the preset of the menu item in a new timer, and starts it if the user wishes so.
+    /// Nothing happens without an item.
+    void preset(const QAction *sender);
+    /// Saves the timer of the active window into the preset of the menu item. Nothing happens
+    /// when the active window is not a timer's.
+    void setPreset(const QAction &sender);
     /// Shows the running timers in the status item; there is no status item yet.
     void refreshStatusItem();
 
@@ -58,6 +69,7 @@ private:
     void show(std::unique_ptr<AuxiliaryWindow> &window, const QString &title,
               void (*fill)(QMainWindow &window));
 
+    std::unique_ptr<PresetsMenu> _presetsMenu;
     std::unique_ptr<MainMenu> _mainMenu;
     std::unique_ptr<AuxiliaryWindow> _preferencesWindow;
     std::unique_ptr<AuxiliaryWindow> _converterWindow;

@@ -1,30 +1,14 @@
 #include "platform/UserDefaults.h"
 
 #include "platform/JsonSettingsFormat.h"
+#include "platform/PropertyList.h"
 #include "platform/Service.h"
 
 #include <QJsonValue>
 #include <QStandardPaths>
 
 #include <algorithm>
-#include <cmath>
 #include <limits>
-
-namespace
-{
-std::optional<double> numberFrom(const QVariant &value)
-{
-    switch (value.typeId()) {
-    case QMetaType::Bool:
-    case QMetaType::Int:
-    case QMetaType::LongLong:
-    case QMetaType::Double:
-        return value.toDouble();
-    default:
-        return std::nullopt;
-    }
-}
-} // namespace
 
 UserDefaults::UserDefaults(const QString &path)
 {
@@ -54,37 +38,29 @@ UserDefaults &UserDefaults::standardUserDefaults()
 
 std::optional<QString> UserDefaults::stringForKey(const QString &key) const
 {
-    const QVariant value = _settings->value(key);
-    if (value.typeId() != QMetaType::QString)
-        return std::nullopt;
-    return value.toString();
+    return PropertyList::stringFrom(_settings->value(key));
 }
 
 int UserDefaults::integerForKey(const QString &key) const
 {
-    using Limits = std::numeric_limits<int>;
-    const double number = numberFrom(_settings->value(key)).value_or(0.0);
-    if (std::isnan(number))
-        return 0;
-    return static_cast<int>(std::clamp<double>(number, Limits::min(), Limits::max()));
+    return PropertyList::integerFrom(_settings->value(key));
 }
 
 bool UserDefaults::boolForKey(const QString &key) const
 {
-    return numberFrom(_settings->value(key)).value_or(0.0) != 0.0;
+    return PropertyList::boolFrom(_settings->value(key));
 }
 
 float UserDefaults::floatForKey(const QString &key) const
 {
     constexpr double largest = std::numeric_limits<float>::max();
-    const double number = numberFrom(_settings->value(key)).value_or(0.0);
+    const double number = PropertyList::numberFrom(_settings->value(key)).value_or(0.0);
     return static_cast<float>(std::clamp(number, -largest, largest));
 }
 
 QVariantMap UserDefaults::dictionaryForKey(const QString &key) const
 {
-    const QVariant value = _settings->value(key);
-    return value.typeId() == QMetaType::QVariantMap ? value.toMap() : QVariantMap();
+    return PropertyList::dictionaryFrom(_settings->value(key));
 }
 
 QStringList UserDefaults::stringArrayForKey(const QString &key) const
@@ -94,8 +70,8 @@ QStringList UserDefaults::stringArrayForKey(const QString &key) const
     if (value.typeId() != QMetaType::QVariantList)
         return texts;
     for (const QVariant &member : value.toList()) {
-        if (member.typeId() == QMetaType::QString)
-            texts.append(member.toString());
+        if (const std::optional<QString> text = PropertyList::stringFrom(member))
+            texts.append(*text);
     }
     return texts;
 }

@@ -1,19 +1,50 @@
+#include "platform/Log.h"
+#include "settings/Preset.h"
 #include "timer/TimerTexts.h"
 #include "timer/Wuffer.h"
 #include "ui_Wuffer.h"
 
 #include <QWhatsThis>
 
+#include <array>
+
+namespace
+{
+/// What can follow the end of a countdown, in the order of the list.
+constexpr std::array kFinishOptions{kWufferFinishedNothing, kWufferFinishedRestart,
+                                    kWufferFinishedPreset, kWufferFinishedWuffer};
+} // namespace
+
 void Wuffer::populateFinishedCombo()
 {
-    _ui->_finishedCombo->addItem(kWufferFinishedNothing.toString());
-    _ui->_finishedCombo->addItem(kWufferFinishedRestart.toString());
-    _ui->_finishedCombo->setCurrentIndex(0);
+    for (const QStringView option : kFinishOptions)
+        _ui->_finishedCombo->addItem(option.toString());
+    selectFinishOption(kWufferFinishedNothing);
+}
+
+void Wuffer::selectFinishOption(QStringView option)
+{
+    // An unknown text is not found, and leaves nothing selected.
+    _ui->_finishedCombo->setCurrentIndex(_ui->_finishedCombo->findText(
+        option.toString(), Qt::MatchExactly | Qt::MatchCaseSensitive));
 }
 
 void Wuffer::handleFinishedComboChange()
 {
-    _ui->_finishedPicker->hide();
+    const QString option = _ui->_finishedCombo->currentText();
+    const bool linkWanted = option == kWufferFinishedWuffer;
+    if (option == kWufferFinishedPreset)
+        populateFinishedPickerComboWithPresets();
+    else if (linkWanted)
+        populateFinishedPickerComboWithChosenTargetWuffer();
+    else
+        _ui->_finishedPicker->hide();
+
+    if (_ui->_finishedPicker->count() > 0 && _ui->_finishedPicker->currentIndex() < 0)
+        _ui->_finishedPicker->setCurrentIndex(0);
+    if (_targetWuffer && !linkWanted)
+        removeTargetWuffer();
+
     const bool mayKeepWuffing = shouldKeepWuffing() && !_soundOff;
     _ui->_keepWuffingBox->setEnabled(mayKeepWuffing);
     if (!mayKeepWuffing)
@@ -21,22 +52,67 @@ void Wuffer::handleFinishedComboChange()
     Q_EMIT stateChanged();
 }
 
+void Wuffer::populateFinishedPickerComboWithPresets()
+{
+    PopUpComboBox &picker = *_ui->_finishedPicker;
+    const int selected = picker.currentIndex();
+    picker.clear();
+    for (const int number : Preset::kNumbers)
+        picker.addItem(stringForPreset(number));
+    if (selected >= 0)
+        picker.setCurrentIndex(selected);
+    picker.setEnabled(true);
+    picker.show();
+}
+
+void Wuffer::populateFinishedPickerComboWithChosenTargetWuffer()
+{
+    PopUpComboBox &picker = *_ui->_finishedPicker;
+    picker.clear();
+    picker.addItem(_targetWuffer ? _targetWuffer->description()
+                                 : QStringLiteral("Control-Drag a Wuffer"));
+    picker.setCurrentIndex(0);
+    // It only shows the link, which is made elsewhere.
+    picker.setEnabled(false);
+    picker.show();
+}
+
 void Wuffer::handleFinishedBehaviour()
 {
-    if (_ui->_finishedCombo->currentText() == kWufferFinishedRestart) {
+    const QString option = _ui->_finishedCombo->currentText();
+    if (option == kWufferFinishedRestart) {
         ++_repeatCount;
         goPressed();
-    } else {
-        _repeatCount = 1;
+        return;
     }
+    _repeatCount = 1;
+    if (option == kWufferFinishedPreset)
+        startChosenPreset();
+    else if (option == kWufferFinishedWuffer)
+        startTargetWuffer();
 }
 
-bool Wuffer::isChained() const
+void Wuffer::startChosenPreset()
 {
-    return false;
+    // The last in the list, preset 0, becomes number 10. Under that key there is nothing, so the
+    // timer runs again as it is.
+    const auto number = static_cast<quint32>(_ui->_finishedPicker->currentIndex() + 1);
+    loadSettingsFromDefaultsWithKey(keyForPreset(number), false);
+    goPressed();
 }
 
-void Wuffer::refreshChainStatusForAllChainedWuffers() {}
+void Wuffer::startTargetWuffer()
+{
+    if (!_targetWuffer || _targetWuffer->isRunning()) {
+        qCWarning(wufferLog, "Couldn't start the targeted wuffer!");
+        return;
+    }
+    const QPointer<Wuffer> target = _targetWuffer;
+    target->goPressed();
+    // Whoever was told of the start may have closed it.
+    if (target)
+        target->showWufferWindow();
+}
 
 void Wuffer::getFinishingHelp()
 {

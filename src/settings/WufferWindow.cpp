@@ -1,5 +1,9 @@
 #include "settings/WufferWindow.h"
 
+#include "platform/PropertyList.h"
+#include "platform/UserDefaults.h"
+#include "settings/WindowPlace.h"
+
 #include <QApplication>
 #include <QCloseEvent>
 #include <QLayout>
@@ -11,6 +15,9 @@ namespace
 /// One step of a cascade in device-independent pixels: enough to leave the title bar of the
 /// window below in sight.
 constexpr int kCascadeStep = 28;
+
+/// The places of windows are kept beside what they belong to, under the same names.
+const QString kPlacesKey = QStringLiteral("windowFrames");
 
 /// How much the window manager adds to a window: what it adds to those that it shows already.
 QSize decorations()
@@ -29,6 +36,7 @@ WufferWindow::WufferWindow(Wuffer &delegate) :
 {
     // As large as its contents, which grow and shrink with the drawer.
     layout()->setSizeConstraint(QLayout::SetFixedSize);
+    setAcceptDrops(true);
     for (QShortcut *shortcut : {_return, _enter}) {
         shortcut->setAutoRepeat(false);
         connect(shortcut, &QShortcut::activated, this, &WufferWindow::returnPressed);
@@ -59,6 +67,28 @@ QPoint WufferWindow::nextCascadePoint(QPoint topLeft, QSize window, const QRect 
 {
     const QPoint next = topLeft + QPoint(kCascadeStep, kCascadeStep);
     return room.contains(QRect(next, window)) ? next : room.topLeft();
+}
+
+void WufferWindow::saveFrameUsingName(const QString &name) const
+{
+    UserDefaults &defaults = UserDefaults::standardUserDefaults();
+    QVariantMap places = defaults.dictionaryForKey(kPlacesKey);
+    places[name] = WindowPlace::record(pos());
+    defaults.setObject(places, kPlacesKey);
+}
+
+void WufferWindow::setFrameUsingName(const QString &name)
+{
+    const QVariantMap places = UserDefaults::standardUserDefaults().dictionaryForKey(kPlacesKey);
+    const std::optional<QPoint> place =
+        WindowPlace::fromRecord(PropertyList::dictionaryFrom(places[name]));
+    if (!place)
+        return;
+    QList<QRect> rooms;
+    for (const QScreen *each : QGuiApplication::screens())
+        rooms.append(each->availableGeometry());
+    fitToContents();
+    move(WindowPlace::reachable(*place, size() + decorations(), rooms));
 }
 
 void WufferWindow::closeEvent(QCloseEvent *event)

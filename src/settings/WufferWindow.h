@@ -1,12 +1,21 @@
 #pragma once
 
 #include <QMainWindow>
+#include <QPointer>
 
+#include <optional>
+
+class QDropEvent;
 class QShortcut;
 class Wuffer;
 
 /// The window of one timer, whose delegate the timer is. It only reports what the user does to it
 /// as a window; what stands in it is the timer's.
+///
+/// It is moved by dragging it anywhere where nothing else takes the mouse. With the Control key
+/// held, or with the right button, such a drag is that of a link instead: dropped onto the window
+/// of another timer, it makes that one start the timer that was dragged. The drawer is a part of
+/// the window for all of this.
 class WufferWindow final : public QMainWindow
 {
     Q_OBJECT
@@ -32,6 +41,17 @@ public:
     /// the room there.
     [[nodiscard]] static QPoint nextCascadePoint(QPoint topLeft, QSize window, const QRect &room);
 
+    /// Keeps the place of the frame in the settings under this name.
+    void saveFrameUsingName(const QString &name) const;
+
+    /// Moves the frame to the place kept under this name, or to the nearest that can be reached
+    /// if its screen is gone. Nothing happens when there is none.
+    void setFrameUsingName(const QString &name);
+
+    /// Shows every window of this one's chain in the highlight, or in the colour that is normal
+    /// for this window.
+    void highlightChain(bool on);
+
 Q_SIGNALS:
     /// The window is about to close. It cannot be refused.
     void willClose();
@@ -40,11 +60,32 @@ Q_SIGNALS:
 
 protected:
     void closeEvent(QCloseEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dragMoveEvent(QDragMoveEvent *event) override;
+    void dragLeaveEvent(QDragLeaveEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
 
 private:
     void fitToContents();
 
+    void mouseDragged(const QMouseEvent &event);
+    void rightMouseDragged();
+    void chainDrag();
+    /// The window that is dragged over this one if it may be dropped here; else null.
+    [[nodiscard]] WufferWindow *windowFromSource(const QDropEvent &drag) const;
+    void draggingEnteredOrUpdated(QDropEvent &drag);
+    void draggingExited();
+    [[nodiscard]] bool performDragOperation(const QDropEvent &drag);
+    [[nodiscard]] static QColor normalColor();
+    void setBackgroundColor(const QColor &color);
+
     Wuffer &_delegate;
+    /// Where the mouse was pressed, on the screen, until it is dragged.
+    std::optional<QPoint> _pressedAt;
+    /// The window that is dragged over this one.
+    QPointer<WufferWindow> _hovering;
     QShortcut *_return;
     QShortcut *_enter;
 };

@@ -8,6 +8,9 @@ inline constexpr QStringView kGoButtonStart = u"Start";
 inline constexpr QStringView kGoButtonStop = u"Stop";
 /// The button's title while the alarm lasts.
 inline constexpr QStringView kGoButtonReset = u"Reset";
+/// The button's title at the head of a chain, which alone can start it, and at the others.
+inline constexpr QStringView kGoButtonStartChain = u"Start Chain";
+inline constexpr QStringView kGoButtonChained = u"Chained";
 inline constexpr QStringView kStopwatchString = u"Stopwatch";
 
 inline constexpr QStringView kMoreOptions = u"More Options";
@@ -18,6 +21,8 @@ inline constexpr QStringView kUnnamedTitle = u"Wuffer";
 
 inline constexpr QStringView kWufferFinishedNothing = u"Do Nothing";
 inline constexpr QStringView kWufferFinishedRestart = u"Loop this Wuffer";
+inline constexpr QStringView kWufferFinishedPreset = u"Start a Preset";
+inline constexpr QStringView kWufferFinishedWuffer = u"Start other open Wuffer";
 
 inline constexpr QStringView kWuffSound = u"Wuff (Default)";
 inline constexpr QStringView kCrowSound = u"Crow (Default)";

@@ -64,7 +64,8 @@ void Wuffer::fitControls()
     constexpr int digits = 6;
     for (QLineEdit *field : {_ui->_hoursField, _ui->_minutesField, _ui->_secondsField})
         fitToDigits(*field, digits);
-    fitToTitles(*_ui->_goButton, {kGoButtonStart, kGoButtonStop, kGoButtonReset});
+    fitToTitles(*_ui->_goButton, {kGoButtonStart, kGoButtonStop, kGoButtonReset,
+                                  kGoButtonStartChain, kGoButtonChained});
     fitToTitles(*_ui->_finishedDrawerButton, {kMoreOptions, kHideOptions});
     // Most countdowns are minutes: what is typed straight away goes there.
     _ui->_minutesField->setFocus();
@@ -88,7 +89,14 @@ void Wuffer::connectControls()
         connect(field, &QLineEdit::editingFinished, this,
                 [this, field] { controlTextDidEndEditing(*field); });
     }
-    connect(_ui->_finishedCombo, &QComboBox::activated, this, &Wuffer::handleFinishedComboChange);
+    for (QComboBox *combo :
+         std::initializer_list<QComboBox *>{_ui->_finishedCombo, _ui->_finishedPicker,
+                                            _ui->_alarmSoundCombo, _ui->_countdownSoundCombo}) {
+        connect(combo, &QComboBox::activated, this,
+                [this, combo] { comboBoxSelectionDidChange(*combo); });
+    }
+    for (const PopUpComboBox *combo : {_ui->_finishedCombo, _ui->_finishedPicker})
+        connect(combo, &PopUpComboBox::willPopUp, this, &Wuffer::handleFinishedComboChange);
 }
 
 QString Wuffer::title() const

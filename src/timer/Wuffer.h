@@ -3,16 +3,20 @@
 #include "platform/ClockTimer.h"
 #include "platform/Date.h"
 #include "platform/Sound.h"
+#include "timer/TimerColors.h"
 
 #include <QObject>
+#include <QPointer>
 
 #include <memory>
 #include <optional>
+#include <vector>
 
 class QAction;
-class QColor;
+class QComboBox;
 class QLineEdit;
 class TargetTimeSheet;
+struct TimerSettings;
 class WufferWindow;
 
 namespace Ui
@@ -86,7 +90,9 @@ public:
     /// The only way by which text reaches the big display: fits the font to the text.
     void setResultLabelText(const QString &text);
     /// Colours every text of the display, the elapsed line only if it is asked for.
-    void setColorForDisplayText(const QColor &color, bool elapsedToo);
+    void setColorForDisplayText(TextColor color, bool elapsedToo);
+    /// The colour that the big display is in.
+    [[nodiscard]] QColor currentTextColor() const;
     /// The idle display.
     void setDefaultDisplayValues();
 
@@ -124,32 +130,69 @@ public:
     /// follows the state.
     [[nodiscard]] bool validateMenuItem(QAction &item, Operation action) const;
 
-    // Settings and presets: settings/WufferSettings.cpp.
+    // Settings: settings/WufferSettings.cpp.
+
+    /// Keeps the settings of this timer and the place of its window under the key.
+    void storeSettingsInDefaultsWithKey(const QString &key);
+    /// Keeps them for the next launch.
+    void saveSettingsToDefaultKey();
+    /// Reads what is kept under the key into the controls, puts the window where it was kept if
+    /// that is asked for, but never exactly onto another timer's, and shows it.
+    void loadSettingsFromDefaultsWithKey(const QString &key, bool moveWindow);
+
+    // Presets: settings/WufferPresets.cpp.
 
     /// The key of a preset in the settings: "Preset 3". Any number will do.
     [[nodiscard]] static QString keyForPreset(quint32 number);
-    /// Keeps the settings of this timer for the next launch. Nothing is kept yet.
-    void saveSettingsToDefaultKey();
-    /// Reads what is kept under the key, which is nothing yet, into the controls and shows the
-    /// window.
-    void loadSettingsFromDefaultsWithKey(const QString &key, bool moveWindow);
-    /// Undoes the marking of a preset after an edit. Nothing is marked yet.
+    /// A preset in a list: "Tea - 0h 5m 0s". One that was never saved is made first.
+    [[nodiscard]] static QString stringForPreset(qint32 number);
+    /// Saves this timer into the preset of that number; ignored while started or a stopwatch.
+    void setPreset(qint32 number);
+    /// Marks the timer as one that holds a preset unchanged.
+    void setPresetColor();
+    /// Undoes that after an edit.
     void removePresetColor();
 
-    // Finish actions and chains: settings/WufferFinishActions.cpp.
+    // Finish actions: settings/WufferFinishActions.cpp.
 
     /// Fills the finish combo with what can follow the end, and selects "Do Nothing".
     void populateFinishedCombo();
     /// Adapts the picker and the keep-wuffing box to the finish action selected.
     void handleFinishedComboChange();
+    /// Lists the presets in the picker, keeping the place that is selected.
+    void populateFinishedPickerComboWithPresets();
+    /// Shows in the picker which timer this one starts, or how to choose one.
+    void populateFinishedPickerComboWithChosenTargetWuffer();
     /// Runs the finish action.
     void handleFinishedBehaviour();
-    /// Whether another timer starts this one or is started by it; none can yet.
-    [[nodiscard]] bool isChained() const;
-    /// Shows the state of the chain in all its timers; there are none yet.
-    void refreshChainStatusForAllChainedWuffers();
     /// Explains the finish actions.
     void getFinishingHelp();
+
+    // Chains of timers that start one another: settings/WufferChain.cpp. What one side is told
+    // the other learns, and no chain ever closes to a circle.
+
+    /// The timer that this one starts when it has finished; null when there is none.
+    [[nodiscard]] Wuffer *getTargetWuffer() const { return _targetWuffer; }
+    /// The timer that starts this one; null when there is none.
+    [[nodiscard]] Wuffer *getTargetingWuffer() const { return _reverseTargetWuffer; }
+    /// Whether this timer starts another or is started by one.
+    [[nodiscard]] bool isChained() const;
+    /// The whole chain of this timer, in the order in which its members run.
+    [[nodiscard]] std::vector<Wuffer *> chainedWuffers();
+    /// "Wuffer Chain - 2 of 3"; empty when the timer is not chained.
+    [[nodiscard]] QString chainString();
+    /// Lets this timer start another one, or none for null, when it has finished. Links that
+    /// stand in the way are cut. Ignored for the timer itself.
+    void setTargetWuffer(Wuffer *timer);
+    /// The other side of setTargetWuffer(), which alone calls it.
+    void setTargeted(Wuffer &timer);
+    /// Cuts the link to the timer that this one starts.
+    void removeTargetWuffer();
+    /// Cuts the link from the timer that starts this one.
+    void removeTargetingWuffer();
+    /// Shows the state of the chain in this timer, unless it is started.
+    void refreshChainStatus();
+    void refreshChainStatusForAllChainedWuffers();
 
     // Global settings: preferences/WufferGlobalSettings.cpp.
 
@@ -186,15 +229,29 @@ private:
     [[nodiscard]] qint32 seconds() const;
     void controlTextDidChange(const QLineEdit &field);
     void controlTextDidEndEditing(const QLineEdit &field);
+    void comboBoxSelectionDidChange(const QComboBox &combo);
     void enableReturnShortcut();
     void disableReturnShortcut();
 
     [[nodiscard]] QString repeatSuffix() const;
+    void setElapsedColor(TextColor color);
+
+    [[nodiscard]] TimerSettings settings() const;
+    void takeOver(const TimerSettings &settings);
+    void showAsPreset(const TimerSettings &settings, const QString &key);
+    void showPresetMark(const QString &name, const QString &origin);
+    void restorePlace(const QString &key);
+    void selectFinishOption(QStringView option);
+    void startChosenPreset();
+    void startTargetWuffer();
 
     std::unique_ptr<WufferWindow> _window;
     std::unique_ptr<Ui::Wuffer> _ui;
     /// Made when it is first asked for: a calendar is costly.
     std::unique_ptr<TargetTimeSheet> _targetTimeWindow;
+
+    TextColor _titleColor = TextColor::Black;
+    TextColor _elapsedColor = TextColor::Black;
 
     /// The number field that had the focus when the run began; null when none had.
     QLineEdit *_fieldInUse = nullptr;
@@ -225,4 +282,8 @@ private:
     quint32 _refreshCount = 0;
     /// The duration of the last countdown start, in whole seconds.
     double _initialTimeLeft = 0;
+    /// The timer that this one starts when it has finished. Closing a window cuts its links.
+    QPointer<Wuffer> _targetWuffer;
+    /// The timer whose end starts this one.
+    QPointer<Wuffer> _reverseTargetWuffer;
 };

@@ -3,7 +3,6 @@
 #include "platform/Service.h"
 #include "settings/WufferWindow.h"
 #include "timer/TimeFormat.h"
-#include "timer/TimerColors.h"
 #include "timer/TimerTexts.h"
 #include "timer/Wuffer.h"
 #include "ui_Wuffer.h"
@@ -21,7 +20,7 @@ void Wuffer::timerDone()
     WufferApplication::instance().cancelFullScreenModeForOthers(*this);
     playDone();
     _checkTimer.invalidate();
-    setColorForDisplayText(TimerColors::red(), true);
+    setColorForDisplayText(TextColor::Red, true);
     setResultLabelText(_finishedText);
     _ui->_msLabel->setText({});
     const double duration = _targetDate->timeIntervalSinceDate(*_startDate);

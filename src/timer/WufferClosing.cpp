@@ -19,6 +19,10 @@ void Wuffer::windowWillClose()
         saveSettingsToDefaultKey();
         UserDefaults::standardUserDefaults().synchronize();
     }
+    if (_targetWuffer)
+        _targetWuffer->removeTargetingWuffer();
+    if (_reverseTargetWuffer)
+        _reverseTargetWuffer->removeTargetWuffer();
     _closed = true;
     Q_EMIT closed();
     postStatusChanged();

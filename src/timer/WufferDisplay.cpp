@@ -1,7 +1,6 @@
 #include "BuildInfo.h"
 #include "timer/DisplayFont.h"
 #include "timer/TimeFormat.h"
-#include "timer/TimerColors.h"
 #include "timer/TimerTexts.h"
 #include "timer/Wuffer.h"
 #include "ui_Wuffer.h"
@@ -42,7 +41,7 @@ void Wuffer::refreshDisplay(double remaining, double timeElapsed)
 
     // The text is looked at after it was written, so it is the name only if a time reads so.
     const bool black = remaining > kRedSeconds || _stopwatch || statusString() == BuildInfo::name();
-    setColorForDisplayText(black ? QColor(Qt::black) : TimerColors::red(), true);
+    setColorForDisplayText(black ? TextColor::Black : TextColor::Red, true);
 }
 
 void Wuffer::setResultLabelText(const QString &text)
@@ -52,14 +51,26 @@ void Wuffer::setResultLabelText(const QString &text)
     _ui->_resultLabel->setText(text);
 }
 
-void Wuffer::setColorForDisplayText(const QColor &color, bool elapsedToo)
+void Wuffer::setColorForDisplayText(TextColor color, bool elapsedToo)
 {
-    setTextColor(*_ui->_titleField, color);
-    _ui->_fullTitleField->setTextColor(color);
-    _ui->_resultLabel->setTextColor(color);
-    _ui->_msLabel->setTextColor(color);
+    _titleColor = color;
+    setTextColor(*_ui->_titleField, colorOf(color));
+    _ui->_fullTitleField->setTextColor(colorOf(color));
+    _ui->_resultLabel->setTextColor(colorOf(color));
+    _ui->_msLabel->setTextColor(colorOf(color));
     if (elapsedToo)
-        _ui->_elapsedLabel->setTextColor(color);
+        setElapsedColor(color);
+}
+
+void Wuffer::setElapsedColor(TextColor color)
+{
+    _elapsedColor = color;
+    _ui->_elapsedLabel->setTextColor(colorOf(color));
+}
+
+QColor Wuffer::currentTextColor() const
+{
+    return _ui->_resultLabel->textColor();
 }
 
 void Wuffer::setDefaultDisplayValues()
@@ -67,5 +78,5 @@ void Wuffer::setDefaultDisplayValues()
     setResultLabelText(BuildInfo::name());
     _ui->_msLabel->setText(QStringLiteral("v") + BuildInfo::version());
     _ui->_elapsedLabel->setText(tr("Ready when you are"));
-    setColorForDisplayText(Qt::black, true);
+    setColorForDisplayText(TextColor::Black, true);
 }

@@ -39,6 +39,8 @@ void Wuffer::controlTextDidChange(const QLineEdit &field)
         // Return ends the name now instead of starting the timer.
         disableReturnShortcut();
     }
+    if (_reverseTargetWuffer)
+        _reverseTargetWuffer->populateFinishedPickerComboWithChosenTargetWuffer();
     removePresetColor();
 }
 
@@ -48,6 +50,13 @@ void Wuffer::controlTextDidEndEditing(const QLineEdit &field)
     constexpr double returnPause = 0.01;
     if (&field == _ui->_titleField)
         _returnTimer.startOnce(returnPause);
+}
+
+void Wuffer::comboBoxSelectionDidChange(const QComboBox &combo)
+{
+    removePresetColor();
+    if (&combo == _ui->_finishedCombo)
+        handleFinishedComboChange();
 }
 
 void Wuffer::enableReturnShortcut()

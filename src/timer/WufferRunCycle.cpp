@@ -50,7 +50,7 @@ void Wuffer::startRun()
     // A sheet that still asks when to end has been overtaken.
     endTargetTimeSheet();
     _wuffTimer.invalidate();
-    setColorForDisplayText(Qt::black, false);
+    setColorForDisplayText(TextColor::Black, false);
     _timerStarted = true;
 
     const qint32 total = TimeFields::total(hours(), minutes(), seconds());
@@ -77,7 +77,7 @@ void Wuffer::startRun()
 void Wuffer::stopRun()
 {
     _wuffTimer.invalidate();
-    setColorForDisplayText(Qt::black, false);
+    setColorForDisplayText(TextColor::Black, false);
     _timerStarted = false;
 
     const Date now = Date::now();
@@ -154,7 +154,7 @@ void Wuffer::stopwatch()
     }
     _ui->_finishedCombo->setEnabled(!_stopwatch);
     _ui->_finishedPicker->setEnabled(!_stopwatch);
-    setColorForDisplayText(Qt::black, true);
+    setColorForDisplayText(TextColor::Black, true);
     handleFinishedComboChange();
     refreshSoundComboEnabledness();
     Q_EMIT stateChanged();

@@ -67,3 +67,9 @@ std::unique_ptr<Sound> FakeSoundSystem::make(const QString &name, double duratio
 {
     return std::make_unique<FakeSound>(*this, name, duration);
 }
+
+void FakeSoundSystem::endAll()
+{
+    for (FakeSound *sound : _sounds)
+        sound->reachEnd();
+}

@@ -57,6 +57,8 @@ public:
     /// The living sound of this name that was made last; null when there is none.
     [[nodiscard]] FakeSound *sound(const QString &name) const;
     [[nodiscard]] bool isPlaying(const QString &name) const;
+    /// Lets every sound reach its end.
+    void endAll();
 
     /// The lines of the diary that begin so.
     [[nodiscard]] QStringList diary(const QString &beginning = {}) const;

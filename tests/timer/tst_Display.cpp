@@ -105,10 +105,10 @@ void tst_Display::itStaysRedWhenStoppedInTheLastSeconds()
 void tst_Display::theColorOfTheElapsedLineIsAskedForApart()
 {
     TimerFixture t;
-    t.timer.setColorForDisplayText(Qt::blue, false);
+    t.timer.setColorForDisplayText(TextColor::Blue, false);
     QCOMPARE(t.color(), QColor(Qt::blue));
     QCOMPARE(t.elapsedColor(), QColor(Qt::black));
-    t.timer.setColorForDisplayText(Qt::blue, true);
+    t.timer.setColorForDisplayText(TextColor::Blue, true);
     QCOMPARE(t.elapsedColor(), QColor(Qt::blue));
 }
 

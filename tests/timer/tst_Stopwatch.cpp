@@ -28,7 +28,7 @@ void tst_Stopwatch::enteringTheModeClearsTheTimer()
     TimerFixture t;
     t.typeDuration(1, 2, 3);
     t.tick("_keepWuffingBox");
-    t.timer.setColorForDisplayText(Qt::blue, true);
+    t.timer.setColorForDisplayText(TextColor::Blue, true);
     t.timer.stopwatch();
 
     QCOMPARE(t.fields(), QStringLiteral("0 0 0"));
@@ -48,7 +48,7 @@ void tst_Stopwatch::leavingTheModeGivesTheChoicesBack()
 {
     TimerFixture t;
     t.timer.stopwatch();
-    t.timer.setColorForDisplayText(Qt::blue, true);
+    t.timer.setColorForDisplayText(TextColor::Blue, true);
     t.timer.stopwatch();
 
     QCOMPARE(t.elapsed(), QString());

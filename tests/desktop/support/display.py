@@ -1,8 +1,10 @@
 """An X server without a screen, with a window manager; its windows, mouse and keys."""
 
+import contextlib
 import os
 import re
 import subprocess
+import time
 from typing import NamedTuple
 
 from support import processes
@@ -71,7 +73,36 @@ class Display:
     def move_pointer(self, x, y):
         self.act("mousemove", x, y)
 
+    @contextlib.contextmanager
+    def dragging(self, start, end, button=1, key=None):
+        """Drags from one point to another, and lets go when the block within has ended."""
+        steps = 10
+        self.move_pointer(*start)
+        if key:
+            self.act("keydown", key)
+        self.act("mousedown", button)
+        for step in range(1, steps + 1):
+            self.move_pointer(*(a + (b - a) * step // steps for a, b in zip(start, end)))
+            # No hand is faster, and who is dragged over must be able to answer.
+            time.sleep(0.02)
+        try:
+            yield
+        finally:
+            self.act("mouseup", button)
+            if key:
+                self.act("keyup", key)
+
     # Windows
+
+    def move_window(self, window, x, y):
+        """Moves a window there, with or without its decorations, whichever it has asked for.
+
+        Gives where its frame is then.
+        """
+        self.act("windowmove", window, x, y)
+        wait_until(lambda: (x, y) in (self.geometry(window)[:2], self.frame(window)[:2]), 3,
+                   "the window is there")
+        return self.frame(window)
 
     def property(self, name, window=None):
         """The text after the sign of equality, or of what xprop has to say instead."""

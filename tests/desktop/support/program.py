@@ -20,6 +20,7 @@ ROLES = {
     "button": Atspi.Role.PUSH_BUTTON,
     "box": Atspi.Role.CHECK_BOX,
     "display": Atspi.Role.LABEL,
+    "choice": Atspi.Role.COMBO_BOX,
 }
 
 # Between two looks at the program, each of which makes it work.

@@ -1,0 +1,44 @@
+#include "app/LinkMenu.h"
+
+#include "app/MenuText.h"
+#include "app/WufferApplication.h"
+#include "timer/Wuffer.h"
+
+#include <QActionGroup>
+
+LinkMenu::LinkMenu() : QMenu(tr("When F&inished, Start")), _choice(new QActionGroup(this))
+{
+    connect(this, &QMenu::aboutToShow, this, &LinkMenu::populate);
+}
+
+void LinkMenu::populate()
+{
+    clear();
+    Wuffer *timer = WufferApplication::keyWuffer();
+    if (!timer)
+        return;
+    addItem(tr("&None"), *timer, nullptr);
+    addSeparator();
+    for (Wuffer *other : WufferApplication::getWuffers()) {
+        if (other != timer)
+            addItem(menuText(other->description()), *timer, other);
+    }
+}
+
+void LinkMenu::addItem(const QString &text, Wuffer &timer, Wuffer *target)
+{
+    QAction *item = addAction(text);
+    item->setCheckable(true);
+    _choice->addAction(item);
+    const bool linked = timer.getTargetWuffer() == target;
+    item->setChecked(linked);
+    if (linked)
+        return;
+    // Both may close while the menu is open.
+    const QPointer<Wuffer> to(target);
+    const bool none = target == nullptr;
+    connect(item, &QAction::triggered, &timer, [&timer, to, none] {
+        if (to || none)
+            timer.setTargetWuffer(to);
+    });
+}

@@ -1,0 +1,64 @@
+#include "app/PresetsMenu.h"
+
+#include "app/MenuText.h"
+#include "app/WufferController.h"
+#include "platform/Keyboard.h"
+#include "settings/Preset.h"
+#include "timer/Wuffer.h"
+
+namespace
+{
+/// An item that stands for a preset has this plus the number of the preset for its tag.
+constexpr int kFirstTag = 1000;
+
+QAction *addItem(QMenu &menu, Qt::KeyboardModifier modifier, int number)
+{
+    QAction *item = menu.addAction(QString());
+    item->setData(kFirstTag + number);
+    item->setShortcut(QKeyCombination(modifier, Qt::Key(Qt::Key_0 + number)));
+    // A key that is held down opens one timer and not thirty in a second.
+    item->setAutoRepeat(false);
+    return item;
+}
+} // namespace
+
+PresetsMenu::PresetsMenu(WufferController &controller) :
+    QMenu(tr("&Presets")), _controller(controller)
+{
+    for (const int number : Preset::kNumbers) {
+        QAction *item = _open.emplace_back(addItem(*this, Keyboard::kCommand, number));
+        connect(item, &QAction::triggered, this, [this, item] { _controller.preset(item); });
+    }
+    addSeparator();
+    QMenu &submenu = *addMenu(QStringLiteral("Save Wuffer to Preset"));
+    submenu.addAction(QStringLiteral("Shortcut: Hold Control and press a number key"))
+        ->setEnabled(false);
+    submenu.addSeparator();
+    for (const int number : Preset::kNumbers) {
+        QAction *item = _save.emplace_back(addItem(submenu, Keyboard::kControl, number));
+        connect(item, &QAction::triggered, this, [this, item] { _controller.setPreset(*item); });
+    }
+}
+
+void PresetsMenu::populate()
+{
+    for (std::size_t place = 0; place < Preset::kNumbers.size(); ++place) {
+        const int number = Preset::kNumbers.at(place);
+        const QString text = Wuffer::stringForPreset(number);
+        _open.at(place)->setText(menuText(text));
+        _save.at(place)->setText(
+            menuText(QStringLiteral("⌘%1 (Overwrite %2)").arg(QString::number(number), text)));
+    }
+}
+
+void PresetsMenu::validate()
+{
+    const bool mayBeSaved = _controller.validateMenuItem(&WufferController::setPreset);
+    for (QAction *item : _save)
+        item->setEnabled(mayBeSaved);
+}
+
+int PresetsMenu::presetNumber(const QAction &item)
+{
+    return item.data().toInt() - kFirstTag;
+}

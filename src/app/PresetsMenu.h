@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QMenu>
+
+#include <vector>
+
+class WufferController;
+
+/// The menu of presets: the items that open one, and a submenu with those that save into one.
+///
+/// Its items are made once and only change their texts, so that saving from an item of this menu
+/// does not destroy that item.
+class PresetsMenu final : public QMenu
+{
+    Q_OBJECT
+
+public:
+    explicit PresetsMenu(WufferController &controller);
+
+    /// Brings the texts up to date. A preset that was never saved is made first.
+    void populate();
+
+    /// Enables the items that save while there is a timer to save.
+    void validate();
+
+    /// The number of the preset that the item of this menu stands for.
+    [[nodiscard]] static int presetNumber(const QAction &item);
+
+private:
+    WufferController &_controller;
+    /// In the order of the list.
+    std::vector<QAction *> _open;
+    std::vector<QAction *> _save;
+};

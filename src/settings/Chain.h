@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QSet>
+#include <QString>
+
+#include <algorithm>
+#include <vector>
+
+/// The walk along timers that start one another, over anything that is linked in both directions.
+namespace Chain
+{
+/// All that hangs together with this member, from the one that nobody starts to the one that
+/// starts nobody. The functions answer the one before and the one after, or null. Each member is
+/// visited once, so the walk ends even where the links run in a circle.
+template<class Link, class Before, class After>
+[[nodiscard]] std::vector<Link *> membersThrough(Link &member, Before before, After after)
+{
+    QSet<Link *> met;
+    const auto isNew = [&met](Link *link) {
+        if (!link || met.contains(link))
+            return false;
+        met.insert(link);
+        return true;
+    };
+    std::vector<Link *> forward;
+    for (Link *link = &member; isNew(link); link = after(*link))
+        forward.push_back(link);
+    std::vector<Link *> chain;
+    for (Link *link = before(member); isNew(link); link = before(*link))
+        chain.push_back(link);
+    std::ranges::reverse(chain);
+    chain.insert(chain.end(), forward.begin(), forward.end());
+    return chain;
+}
+
+/// "Wuffer Chain - 2 of 3"; the position counts from 1.
+[[nodiscard]] inline QString text(quint32 position, quint32 length)
+{
+    return QStringLiteral("Wuffer Chain - %1 of %2").arg(position).arg(length);
+}
+} // namespace Chain

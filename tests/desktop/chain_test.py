@@ -1,0 +1,168 @@
+#!/usr/bin/python3
+"""Links timers by dragging one window onto another, and runs them as a chain.
+
+Usage: chain_test.py WUFFER FOLDER [unittest arguments]
+"""
+
+import time
+
+from support.case import DesktopTest, main
+from support.picture import Picture
+from support.waiting import wait_until
+
+WHITE = (255, 255, 255)
+PLACES = ((20, 20), (660, 20), (20, 400), (660, 400))
+
+
+class ChainTest(DesktopTest):
+    def launch_timers(self, count):
+        """So many timers side by side, of two seconds each."""
+        self.program = self.launch()
+        for number in range(1, count + 1):
+            if number > 1:
+                self.display.key("ctrl+n")
+                window = self.program.wait_for_windows(number)[-1]
+                wait_until(lambda w=window: self.display.active_window() == w, 5, "it is active")
+            self.program.wait_for_focus_in("Minutes")
+            self.program.type_seconds(2)
+        windows = self.program.windows()
+        for window, place in zip(windows, PLACES):
+            self.display.move_window(window, *place)
+        return windows
+
+    def margin(self, window):
+        """A point of the window where nothing takes the mouse."""
+        place = self.display.geometry(window)
+        return place.x + 5, place.bottom - 5
+
+    def link(self, target, source, button=1, key="ctrl"):
+        """Drags the source onto the target."""
+        with self.display.dragging(self.margin(source), self.margin(target), button, key):
+            wait_until(lambda: self.is_lit(target) and self.is_lit(source), 3,
+                       "both windows are lit")
+        wait_until(lambda: not self.is_lit(target) and not self.is_lit(source), 3,
+                   "neither window is lit")
+
+    def is_lit(self, window):
+        x, y = self.margin(window)
+        # Not where the dragged picture is.
+        return Picture(self.display).at(x + 300, y) == WHITE
+
+    def shown_in(self, window):
+        """What the elapsed line of the window on the screen says."""
+        place = self.display.geometry(window)
+        found = [label.get_name() for label in self.program.all("display",
+                                                                description="Elapsed time")
+                 if place.x <= self.program.place(label).x < place.right
+                 and place.y <= self.program.place(label).y < place.bottom]
+        self.assertEqual(len(found), 1)
+        return found[0]
+
+    def wait_for_chain(self, *windows):
+        for position, window in enumerate(windows, start=1):
+            text = f"Wuffer Chain - {position} of {len(windows)}"
+            wait_until(lambda w=window, t=text: self.shown_in(w) == t, 5, text)
+
+    def test_three_timers_linked_by_drags_run_one_after_the_other(self):
+        first, second, third = self.launch_timers(3)
+        self.link(first, second)
+        self.wait_for_chain(first, second)
+        self.assertEqual(self.display.active_window(), first)
+        # With the right button no key is needed.
+        self.link(second, third, button=3, key=None)
+        self.wait_for_chain(first, second, third)
+        self.assertEqual(len(self.program.all("button", "Chained")), 2)
+
+        self.display.act("windowactivate", "--sync", first)
+        start = time.monotonic()
+        self.display.key("Return")
+        for window in (first, second, third):
+            wait_until(lambda w=window: self.shown_in(w) == "2s", 8, "it is in its alarm")
+            self.assertEqual(len(self.program.all("button", "Reset")), 1)
+            moment = time.monotonic() - start
+            self.report(f"alarm after {moment:.2f} s")
+        self.wait_for_chain(first, second, third)
+        self.program.wait_for_button("Start Chain")
+        self.assertEqual(len(self.session.notifications.take_all()), 3)
+        self.quit(self.program)
+
+    def test_a_whole_chain_is_lit(self):
+        first, second, third, fourth = self.launch_timers(4)
+        self.link(first, second)
+        self.link(third, fourth)
+        with self.display.dragging(self.margin(third), self.margin(first), key="ctrl"):
+            for window in (first, second, third, fourth):
+                wait_until(lambda w=window: self.is_lit(w), 3, "the window is lit")
+            # Away from all of them.
+            self.display.move_pointer(1270, 790)
+            for window in (first, second, third, fourth):
+                wait_until(lambda w=window: not self.is_lit(w), 3, "the window is not lit")
+        self.wait_for_chain(first, second)
+        self.wait_for_chain(third, fourth)
+        self.quit(self.program)
+
+    def test_a_window_is_not_linked_to_itself(self):
+        first, second = self.launch_timers(2)
+        x, y = self.margin(first)
+        with self.display.dragging((x, y), (x + 200, y), key="ctrl"):
+            time.sleep(0.2)
+            self.assertFalse(self.is_lit(first))
+        self.program.answers()
+        self.assertEqual(len(self.program.all("button", "Start")), 2)
+        self.link(first, second)
+        self.wait_for_chain(first, second)
+        self.quit(self.program)
+
+    def test_a_drag_begins_and_ends_in_the_drawer_too(self):
+        first, second = self.launch_timers(2)
+        for window in (first, second):
+            closed = self.display.geometry(window).height
+            self.display.act("windowactivate", "--sync", window)
+            self.display.key("ctrl+o")
+            wait_until(lambda w=window, c=closed: self.display.geometry(w).height > c + 50, 3,
+                       "the drawer is out")
+        time.sleep(0.5)
+        self.link(first, second)
+        self.wait_for_chain(first, second)
+        self.assertIn("Wuffer - 0h 0m 2s", self.picker_texts())
+        self.quit(self.program)
+
+    def picker_texts(self):
+        return [child.get_name() for child in self.program.all("choice")]
+
+    def test_a_plain_drag_moves_the_window(self):
+        first, second = self.launch_timers(2)
+        before = self.display.frame(first)
+        x, y = self.margin(first)
+        with self.display.dragging((x, y), (x + 150, y + 90)):
+            pass
+        wait_until(lambda: self.display.frame(first).x > before.x + 50, 3, "the window moves")
+        moved = self.display.frame(first)
+        self.report(f"moved by {moved.x - before.x}, {moved.y - before.y}")
+        self.assertEqual(moved[2:], before[2:])
+        self.assertEqual(len(self.program.all("button", "Start")), 2)
+        # The mouse is free again.
+        self.link(first, second)
+        self.quit(self.program)
+
+    def test_keys_alone_link_timers(self):
+        self.launch_timers(2)
+        self.display.key("alt+t")
+        self.display.key("i")
+        time.sleep(0.3)
+        self.display.key("Down", "Return")
+        self.program.wait_for_button("Start Chain")
+        self.quit(self.program)
+
+    def test_a_link_is_gone_when_its_window_closes(self):
+        first, second = self.launch_timers(2)
+        self.link(first, second)
+        self.display.act("windowactivate", "--sync", second)
+        self.display.key("ctrl+w")
+        self.program.wait_for_windows(1)
+        self.program.wait_for_button("Start")
+        self.quit(self.program)
+
+
+if __name__ == "__main__":
+    main()

@@ -1,0 +1,94 @@
+#!/usr/bin/python3
+"""Saves timers into presets and opens them, over restarts and kills.
+
+Usage: presets_test.py WUFFER FOLDER [unittest arguments]
+"""
+
+import json
+import time
+
+from support.case import DesktopTest, main
+from support.waiting import wait_until
+
+
+class PresetsTest(DesktopTest):
+    def stored(self, program):
+        with open(program.settings_path, encoding="utf-8") as file:
+            return json.load(file)
+
+    def type_tea(self, program):
+        """Names the timer and sets it to four minutes and thirty seconds."""
+        program.wait_for_focus_in("Minutes")
+        self.display.type("4")
+        self.display.key("Tab")
+        self.display.type("30")
+        self.display.key("shift+Tab", "shift+Tab", "shift+Tab")
+        program.wait_for_focus_in("Name")
+        self.display.type("Tea")
+        wait_until(lambda: program.text("Name") == "Tea", 3, "it has its name")
+
+    def check_tea(self, program):
+        record = self.stored(program)["Preset 4"]
+        self.assertEqual(
+            {key: record[key] for key in ("title", "hours", "minutes", "seconds",
+                                          "finishOption", "keepWuffing", "fullScreen")},
+            {"title": "Tea", "hours": 0, "minutes": 4, "seconds": 30,
+             "finishOption": "Do Nothing", "keepWuffing": 0, "fullScreen": 0})
+
+    def test_a_preset_survives_a_kill_a_second_after_it_was_saved(self):
+        program = self.launch()
+        self.type_tea(program)
+        self.display.key("ctrl+4")
+        program.wait_for_text("Elapsed time", "Saved to Preset 4")
+        place = self.display.move_window(program.windows()[0], 300, 200)
+        self.display.key("ctrl+4")
+        time.sleep(1)
+        program.kill()
+        self.check_tea(program)
+
+        program.start()
+        self.display.key("alt+4")
+        program.wait_for_windows(2)
+        wait_until(lambda: program.all("display", "Preset 4", "Elapsed time"), 3, "it is open")
+        self.assertEqual(len(program.all("display", "Tea", "Time")), 1)
+        self.assertEqual(len(program.all("display", "0h 4m 30s", "Milliseconds")), 1)
+        self.assertEqual(self.display.frame(program.windows()[1])[:2], place[:2])
+        # The next one stands one step off.
+        self.display.key("alt+4")
+        frame = self.display.frame(program.wait_for_windows(3)[2])
+        self.assertEqual(frame[:2], (place.x + 28, place.y + 28))
+        self.quit(program)
+        self.check_tea(program)
+        self.report(json.dumps({key: value for key, value in self.stored(program).items()
+                                if key in ("Preset 4", "windowFrames")}))
+
+    def test_a_first_launch_lists_ten_presets(self):
+        program = self.launch()
+        self.quit(program)
+        stored = self.stored(program)
+        for number in range(10):
+            record = stored[f"Preset {number}"]
+            self.assertEqual((record["title"], record["minutes"]),
+                             (f"Preset {number}", number * 10))
+
+    def test_a_timer_comes_back_as_it_was(self):
+        program = self.launch()
+        self.type_tea(program)
+        # Return ends the name, and is no press of the button.
+        self.display.key("Return")
+        place = self.display.move_window(program.windows()[0], 200, 100)
+        self.display.key("ctrl+w")
+        program.wait_for_end(time.monotonic())
+        for _ in range(3):
+            program.start()
+            wait_until(lambda: program.text("Name") == "Tea", 3, "it has its name")
+            self.assertEqual((program.text("Minutes"), program.text("Seconds")), ("4", "30"))
+            window = program.windows()[0]
+            self.assertEqual(self.display.frame(window)[:2], place[:2])
+            self.assertIn("Tea", self.display.title(window))
+            self.display.key("ctrl+w")
+            program.wait_for_end(time.monotonic())
+
+
+if __name__ == "__main__":
+    main()

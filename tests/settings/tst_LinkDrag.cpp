@@ -1,0 +1,134 @@
+#include "platform/Keyboard.h"
+#include "support/TestMain.h"
+#include "support/TimerFixture.h"
+
+#include <QDrag>
+#include <QDragEnterEvent>
+#include <QMimeData>
+#include <QSignalSpy>
+
+namespace
+{
+const QString kType = QStringLiteral("WufferWindow");
+
+QColor background(const TimerUser &user)
+{
+    return user.timer.window()->palette().color(QPalette::Window);
+}
+} // namespace
+
+/// What is dragged from a timer's window and over it. A drag has no source unless there is a real
+/// one, which the tests on a desktop make; here are the rules that can be seen without.
+class tst_LinkDrag final : public Test
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void highlightingShowsTheWholeChain();
+    void theHighlightIsReadableInEveryTheme();
+    void whatAnotherProgramDragsIsRefused_data();
+    void whatAnotherProgramDragsIsRefused();
+    void leavingWithoutADragIsHarmless();
+    void thePictureIsThere();
+    void aPressThatDoesNotMoveIsNoDrag();
+};
+
+void tst_LinkDrag::highlightingShowsTheWholeChain()
+{
+    const TimerFixture t;
+    const TimerUser second;
+    const TimerUser third;
+    const TimerUser stranger;
+    t.timer.setTargetWuffer(&second.timer);
+    second.timer.setTargetWuffer(&third.timer);
+    const QColor normal = background(t);
+    QVERIFY(normal != QColor(Qt::white));
+    second.timer.window()->highlightChain(true);
+    for (const TimerUser *user : std::initializer_list<const TimerUser *>{&t, &second, &third})
+        QCOMPARE(background(*user), QColor(Qt::white));
+    QCOMPARE(background(stranger), normal);
+    third.timer.window()->highlightChain(false);
+    for (const TimerUser *user : std::initializer_list<const TimerUser *>{&t, &second, &third})
+        QCOMPARE(background(*user), normal);
+}
+
+void tst_LinkDrag::theHighlightIsReadableInEveryTheme()
+{
+    const QPalette light = QApplication::palette();
+    QPalette dark = light;
+    dark.setColor(QPalette::Window, QColor(40, 40, 40));
+    dark.setColor(QPalette::WindowText, Qt::white);
+    QApplication::setPalette(dark);
+    {
+        const TimerFixture t;
+        const auto &box = t.part<QCheckBox>("_fullScreenBox");
+        QCOMPARE(box.palette().color(QPalette::WindowText), QColor(Qt::white));
+        t.timer.window()->highlightChain(true);
+        QCOMPARE(box.palette().color(QPalette::Window), QColor(Qt::white));
+        QCOMPARE(box.palette().color(QPalette::WindowText), QColor(Qt::black));
+        t.timer.window()->highlightChain(false);
+        QCOMPARE(box.palette().color(QPalette::WindowText), QColor(Qt::white));
+        // The theme may change later.
+        QApplication::setPalette(light);
+        QTRY_COMPARE(background(t), light.color(QPalette::Window));
+    }
+    QApplication::setPalette(light);
+}
+
+void tst_LinkDrag::whatAnotherProgramDragsIsRefused_data()
+{
+    QTest::addColumn<QString>("type");
+    QTest::newRow("a link of its own") << kType;
+    QTest::newRow("a text") << QStringLiteral("text/plain");
+    QTest::newRow("files") << QStringLiteral("text/uri-list");
+}
+
+void tst_LinkDrag::whatAnotherProgramDragsIsRefused()
+{
+    QFETCH(const QString, type);
+    const TimerFixture t;
+    QMimeData data;
+    data.setData(type, {});
+    WufferWindow &window = *t.timer.window();
+    const QColor normal = background(t);
+
+    QDragEnterEvent enter(QPoint(5, 5), Qt::LinkAction, &data, Qt::LeftButton, {});
+    QCoreApplication::sendEvent(&window, &enter);
+    QVERIFY(!enter.isAccepted());
+    QCOMPARE(background(t), normal);
+    QDropEvent drop(QPointF(5, 5), Qt::LinkAction, &data, Qt::LeftButton, {});
+    QCoreApplication::sendEvent(&window, &drop);
+    QVERIFY(!drop.isAccepted());
+    QVERIFY(!t.timer.isChained());
+}
+
+void tst_LinkDrag::leavingWithoutADragIsHarmless()
+{
+    const TimerFixture t;
+    const QColor normal = background(t);
+    QDragLeaveEvent leave;
+    QCoreApplication::sendEvent(t.timer.window(), &leave);
+    QCOMPARE(background(t), normal);
+}
+
+void tst_LinkDrag::thePictureIsThere()
+{
+    const QPixmap picture(QStringLiteral(":/images/chain.png"));
+    QCOMPARE(picture.size(), QSize(32, 32));
+}
+
+void tst_LinkDrag::aPressThatDoesNotMoveIsNoDrag()
+{
+    const TimerFixture t;
+    WufferWindow &window = *t.timer.window();
+    window.show();
+    for (const Qt::MouseButton button : {Qt::LeftButton, Qt::RightButton}) {
+        QTest::mousePress(&window, button, Keyboard::kControl, QPoint(4, 60));
+        QTest::mouseMove(&window, QPoint(5, 61));
+        QTest::mouseRelease(&window, button, Keyboard::kControl, QPoint(5, 61));
+        QVERIFY(window.findChildren<QDrag *>().isEmpty());
+    }
+}
+
+WUFFER_TEST_MAIN(tst_LinkDrag)
+#include "tst_LinkDrag.moc"
