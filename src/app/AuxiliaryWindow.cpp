@@ -3,6 +3,8 @@
 #include "app/MainMenu.h"
 #include "controls/WindowOrder.h"
 
+#include <QKeyEvent>
+
 AuxiliaryWindow::AuxiliaryWindow(MainMenu &menu, const QString &title)
 {
     setWindowTitle(title);
@@ -13,4 +15,12 @@ AuxiliaryWindow::AuxiliaryWindow(MainMenu &menu, const QString &title)
 void AuxiliaryWindow::orderFront()
 {
     bringToFront(*this);
+}
+
+void AuxiliaryWindow::keyPressEvent(QKeyEvent *event)
+{
+    if (event->matches(QKeySequence::Cancel))
+        close();
+    else
+        QMainWindow::keyPressEvent(event);
 }

@@ -4,8 +4,8 @@
 
 class MainMenu;
 
-/// A window beside the timers, with the menus of the program. It is empty until somebody gives it
-/// a central widget.
+/// A window beside the timers, with the menus of the program, that Escape closes. It is empty until
+/// somebody gives it a central widget.
 class AuxiliaryWindow final : public QMainWindow
 {
     Q_OBJECT
@@ -15,4 +15,7 @@ public:
 
     /// Shows the window in front of the program's others and makes it the active one.
     void orderFront();
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
 };

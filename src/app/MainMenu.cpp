@@ -98,8 +98,8 @@ const std::vector<MainMenu::Menu> &MainMenu::menus()
         {QT_TR_NOOP("&Window"),
          {{QT_TR_NOOP("&Minimize"), key("Ctrl+M"), minimizeWindow},
           {},
-          {QT_TR_NOOP("&Converter"), key("Ctrl+U"), &C::showConverter},
-          {QT_TR_NOOP("M&easurements"), key("Ctrl+Shift+U"), &C::showMeasurements}}},
+          {QT_TR_NOOP("&Converter"), key("Ctrl+Shift+C"), &C::showConverter},
+          {QT_TR_NOOP("M&easurements"), key("Ctrl+Shift+E"), &C::showMeasurements}}},
         {QT_TR_NOOP("&Help"), {{QT_TR_NOOP("Wuffer on the &Web"), {}, &C::donate}}},
     };
     return menus;

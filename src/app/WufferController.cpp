@@ -11,6 +11,10 @@
 #include "platform/UserDefaults.h"
 #include "settings/WufferWindow.h"
 #include "timer/Wuffer.h"
+#include "tools/Converter.h"
+#include "tools/MeasurementsPanel.h"
+
+#include <QScreen>
 
 namespace
 {
@@ -81,23 +85,34 @@ void WufferController::startAllWuffers()
 
 void WufferController::showPreferences()
 {
-    show(_preferencesWindow, tr("Preferences"));
+    show(_preferencesWindow, tr("Preferences"), [](QMainWindow &) {});
 }
 
 void WufferController::showConverter()
 {
-    show(_converterWindow, tr("Converter"));
+    show(_converterWindow, tr("Converter"), [](QMainWindow &window) {
+        auto *converter = new Converter(&window);
+        converter->setConverterWindow(&window);
+        converter->awakeFromNib();
+    });
 }
 
 void WufferController::showMeasurements()
 {
-    show(_measurementsWindow, tr("Measurements"));
+    show(_measurementsWindow, tr("Measurements"), [](QMainWindow &window) {
+        window.setCentralWidget(new MeasurementsPanel(&window));
+        window.centralWidget()->setFocus();
+        window.resize(window.sizeHint().boundedTo(window.screen()->availableSize()));
+    });
 }
 
-void WufferController::show(std::unique_ptr<AuxiliaryWindow> &window, const QString &title)
+void WufferController::show(std::unique_ptr<AuxiliaryWindow> &window, const QString &title,
+                            void (*fill)(QMainWindow &window))
 {
-    if (!window)
+    if (!window) {
         window = std::make_unique<AuxiliaryWindow>(*_mainMenu, title);
+        fill(*window);
+    }
     window->orderFront();
 }
 

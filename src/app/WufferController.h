@@ -8,6 +8,7 @@ class QAction;
 class AuxiliaryWindow;
 class MainMenu;
 class PresetsMenu;
+class QMainWindow;
 class Wuffer;
 
 /// The one controller of the program: decides what opens at launch, makes timers and places their
@@ -63,8 +64,10 @@ public:
 private:
     [[nodiscard]] static Wuffer *newestWuffer();
     void openAtLaunch();
-    /// Shows one of the windows beside the timers, which is made when it is first asked for.
-    void show(std::unique_ptr<AuxiliaryWindow> &window, const QString &title);
+    /// Shows one of the windows beside the timers, which is made and filled when it is first asked
+    /// for.
+    void show(std::unique_ptr<AuxiliaryWindow> &window, const QString &title,
+              void (*fill)(QMainWindow &window));
 
     std::unique_ptr<PresetsMenu> _presetsMenu;
     std::unique_ptr<MainMenu> _mainMenu;

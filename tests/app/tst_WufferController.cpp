@@ -2,9 +2,15 @@
 #include "app/WufferController.h"
 #include "support/TestMain.h"
 #include "support/TimerFixture.h"
+#include "tools/MeasurementsPanel.h"
+#include "tools/NumberField.h"
 
 #include <QFile>
 #include <QScreen>
+
+#include <algorithm>
+
+Q_DECLARE_METATYPE(WufferController::Operation)
 
 /// What opens at launch, new timers and their places, and the windows beside them.
 class tst_WufferController final : public Test
@@ -23,6 +29,11 @@ private Q_SLOTS:
     void startingAllTwiceChangesNothing();
     void theOtherWindowsAreShownAndActive_data();
     void theOtherWindowsAreShownAndActive();
+    void theOtherWindowsAreMadeWhenAskedFor();
+    void theConverterAwaitsANumber();
+    void theMeasurementsAreShown();
+    void escapeClosesTheConverterAndTheMeasurements_data();
+    void escapeClosesTheConverterAndTheMeasurements();
     void aWindowShownAgainIsTheSame();
     void aMinimizedWindowIsShownAgain();
     void theWebPageIsOpened();
@@ -160,6 +171,62 @@ void tst_WufferController::theOtherWindowsAreShownAndActive()
     (controller.*operations.value(title))();
     QTRY_VERIFY(QApplication::activeWindow() &&
                 QApplication::activeWindow()->windowTitle() == title);
+}
+
+void tst_WufferController::theOtherWindowsAreMadeWhenAskedFor()
+{
+    const TestServices services;
+    WufferController controller;
+    controller.awakeFromNib();
+    const auto windows = QApplication::topLevelWidgets();
+    QVERIFY(!std::ranges::any_of(windows, [](const QWidget *window) {
+        return window->findChild<NumberField *>() || window->findChild<MeasurementsPanel *>();
+    }));
+}
+
+void tst_WufferController::theConverterAwaitsANumber()
+{
+    const TestServices services;
+    WufferController controller;
+    controller.showConverter();
+    QTRY_VERIFY(qobject_cast<NumberField *>(QApplication::focusWidget()));
+    auto &field = static_cast<NumberField &>(*QApplication::focusWidget());
+    QCOMPARE(field.objectName(), QStringLiteral("_millilitersField"));
+    QTest::keyClicks(&field, QStringLiteral("250"));
+    QCOMPARE(services.defaults.floatForKey(QStringLiteral("mLValue")), 250.0F);
+    // Shown again, it is as it was.
+    field.window()->close();
+    controller.showConverter();
+    QCOMPARE(field.text(), QStringLiteral("250"));
+}
+
+void tst_WufferController::theMeasurementsAreShown()
+{
+    const TestServices services;
+    WufferController controller;
+    controller.showMeasurements();
+    QTRY_VERIFY(qobject_cast<MeasurementsPanel *>(QApplication::focusWidget()));
+    const QWidget &panel = *QApplication::focusWidget();
+    QVERIFY(panel.width() >= panel.sizeHint().width());
+}
+
+void tst_WufferController::escapeClosesTheConverterAndTheMeasurements_data()
+{
+    QTest::addColumn<WufferController::Operation>("show");
+    QTest::newRow("converter") << &WufferController::showConverter;
+    QTest::newRow("measurements") << &WufferController::showMeasurements;
+}
+
+void tst_WufferController::escapeClosesTheConverterAndTheMeasurements()
+{
+    QFETCH(const WufferController::Operation, show);
+    const TestServices services;
+    WufferController controller;
+    (controller.*show)();
+    QTRY_VERIFY(QApplication::focusWidget());
+    QWidget *window = QApplication::activeWindow();
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+    QVERIFY(!window->isVisible());
 }
 
 void tst_WufferController::aWindowShownAgainIsTheSame()

@@ -1,0 +1,233 @@
+#include "support/TestMain.h"
+#include "tools/NumberField.h"
+
+#include <QClipboard>
+
+namespace
+{
+/// A field whose number is answered while somebody types in it, as a conversion there and back
+/// does: by a number that is a little too large, or by another one.
+struct Fixture
+{
+    explicit Fixture(float factor = 1.0F) : _factor(factor)
+    {
+        QLocale::setDefault(QLocale::c());
+        field.setFloatValue(0.0F);
+        field.show();
+        field.selectText();
+        QObject::connect(&field, &NumberField::edited, &field, [this] {
+            typed.append(field.floatValue());
+            field.setFloatValue(field.floatValue() * _factor);
+        });
+    }
+
+    ~Fixture() { QLocale::setDefault(QLocale::system()); }
+    Q_DISABLE_COPY_MOVE(Fixture)
+
+    void type(const char *keys) { QTest::keyClicks(&field, QString::fromLatin1(keys)); }
+    void press(Qt::Key key, Qt::KeyboardModifiers with = {}) { QTest::keyClick(&field, key, with); }
+    void paste(const char *text)
+    {
+        QGuiApplication::clipboard()->setText(QString::fromLatin1(text));
+        press(Qt::Key_V, Qt::ControlModifier);
+    }
+
+    /// The text with a bar for the cursor.
+    [[nodiscard]] QString shown() const
+    {
+        return field.text().insert(field.cursorPosition(), QLatin1Char('|'));
+    }
+
+    NumberField field;
+    /// What the field has read as after each change.
+    QList<float> typed;
+
+private:
+    float _factor;
+};
+
+/// The next float but one: 3 shows as 3.0000005.
+constexpr float kALittleMore = 1.00000013F;
+} // namespace
+
+class tst_NumberField final : public Test
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void aNumberIsShownAndReadInTheUsersLocale();
+    void selectingMovesTheFocus();
+    void aNumberSetByTheProgramIsNoEdit();
+    void whatReadsAsTheNumberStays_data();
+    void whatReadsAsTheNumberStays();
+    void typingGoesOnFromWhatWasTyped();
+    void deletingGoesOnFromWhatWasTyped();
+    void typingInTheMiddleGoesOnThere();
+    void deletingInTheMiddleGoesOnThere();
+    void pastingGoesOnFromWhatWasTyped();
+    void movingTheCursorTakesWhatIsShown();
+    void selectingTakesWhatIsShown();
+    void aNumberSetLaterTakesThePlaceOfWhatWasTyped();
+    void whatIsNoNumberVanishes();
+    void anEmptiedFieldStaysEmpty();
+};
+
+void tst_NumberField::aNumberIsShownAndReadInTheUsersLocale()
+{
+    const QLocale usual;
+    QLocale::setDefault(QLocale(QStringLiteral("de_DE")));
+    NumberField field;
+    field.setFloatValue(12.5F);
+    QCOMPARE(field.text(), QStringLiteral("12,5"));
+    field.setText(QStringLiteral("1.234,75 g"));
+    QCOMPARE(field.floatValue(), 1234.75F);
+    QLocale::setDefault(usual);
+}
+
+void tst_NumberField::selectingMovesTheFocus()
+{
+    Fixture f;
+    QVERIFY(QTest::qWaitForWindowActive(&f.field));
+    QVERIFY(f.field.hasFocus());
+    QCOMPARE(f.field.selectedText(), QStringLiteral("0"));
+}
+
+void tst_NumberField::aNumberSetByTheProgramIsNoEdit()
+{
+    Fixture f;
+    f.field.setFloatValue(7.0F);
+    QCOMPARE(f.typed, QList<float>());
+}
+
+void tst_NumberField::whatReadsAsTheNumberStays_data()
+{
+    QTest::addColumn<QString>("keys");
+    QTest::newRow("a point at the end") << QStringLiteral("12.");
+    QTest::newRow("zeros at the end") << QStringLiteral("12.50");
+    QTest::newRow("zeros after the point") << QStringLiteral("0.00");
+    QTest::newRow("zeros at the beginning") << QStringLiteral("007");
+    QTest::newRow("a sign") << QStringLiteral("-");
+    QTest::newRow("an exponent") << QStringLiteral("1e3");
+    QTest::newRow("half an exponent") << QStringLiteral("1e");
+}
+
+void tst_NumberField::whatReadsAsTheNumberStays()
+{
+    QFETCH(const QString, keys);
+    Fixture f;
+    QTest::keyClicks(&f.field, keys);
+    QCOMPARE(f.shown(), keys + QLatin1Char('|'));
+}
+
+void tst_NumberField::typingGoesOnFromWhatWasTyped()
+{
+    Fixture f(kALittleMore);
+    f.type("1");
+    QCOMPARE(f.shown(), QStringLiteral("1.0000001|"));
+    f.type("2.5");
+    QCOMPARE(f.typed, QList<float>({1.0F, 12.0F, 12.0F, 12.5F}));
+    QCOMPARE(f.shown(), QStringLiteral("12.500002|"));
+}
+
+void tst_NumberField::deletingGoesOnFromWhatWasTyped()
+{
+    Fixture f(kALittleMore);
+    f.type("36");
+    f.press(Qt::Key_Backspace);
+    QCOMPARE(f.typed.back(), 3.0F);
+    f.press(Qt::Key_Backspace);
+    QCOMPARE(f.typed.back(), 0.0F);
+    QCOMPARE(f.shown(), QStringLiteral("|"));
+    f.type("8");
+    QCOMPARE(f.typed.back(), 8.0F);
+}
+
+void tst_NumberField::typingInTheMiddleGoesOnThere()
+{
+    Fixture f(kALittleMore);
+    f.field.setFloatValue(45.0F);
+    f.press(Qt::Key_Home);
+    f.type("12");
+    QCOMPARE(f.typed, QList<float>({145.0F, 1245.0F}));
+    QCOMPARE(f.field.cursorPosition(), 2);
+    f.type(".");
+    QCOMPARE(f.typed.back(), 12.45F);
+}
+
+void tst_NumberField::deletingInTheMiddleGoesOnThere()
+{
+    Fixture f(kALittleMore);
+    f.field.setFloatValue(1234.0F);
+    f.press(Qt::Key_Home);
+    f.press(Qt::Key_Delete);
+    f.press(Qt::Key_Delete);
+    QCOMPARE(f.typed, QList<float>({234.0F, 34.0F}));
+    f.type("5");
+    f.press(Qt::Key_Backspace);
+    QCOMPARE(f.typed, QList<float>({234.0F, 34.0F, 534.0F, 34.0F}));
+}
+
+void tst_NumberField::pastingGoesOnFromWhatWasTyped()
+{
+    Fixture f(kALittleMore);
+    f.type("1");
+    f.paste("2.5 cups");
+    QCOMPARE(f.typed.back(), 12.5F);
+    f.type("5");
+    QCOMPARE(f.typed.back(), 12.5F); // after the blank it belongs to no number
+    f.field.selectAll();
+    f.paste("7.25");
+    QCOMPARE(f.typed.back(), 7.25F);
+}
+
+void tst_NumberField::movingTheCursorTakesWhatIsShown()
+{
+    Fixture f(kALittleMore);
+    f.type("1");
+    f.press(Qt::Key_Left);
+    f.type("5");
+    QCOMPARE(f.typed.back(), 1.00000051F);
+}
+
+void tst_NumberField::selectingTakesWhatIsShown()
+{
+    Fixture f(kALittleMore);
+    f.type("1");
+    f.press(Qt::Key_Left, Qt::ShiftModifier);
+    f.type("3");
+    QCOMPARE(f.typed.back(), 1.0000003F);
+}
+
+void tst_NumberField::aNumberSetLaterTakesThePlaceOfWhatWasTyped()
+{
+    Fixture f(kALittleMore);
+    f.type("1");
+    f.field.setFloatValue(40.0F);
+    QCOMPARE(f.shown(), QStringLiteral("40|"));
+    f.type("5");
+    QCOMPARE(f.typed.back(), 405.0F);
+}
+
+void tst_NumberField::whatIsNoNumberVanishes()
+{
+    Fixture f;
+    f.type("a1b2.c5.");
+    QCOMPARE(f.shown(), QStringLiteral("12.5|"));
+    f.paste("cups");
+    QCOMPARE(f.shown(), QStringLiteral("12.5|"));
+    f.field.selectAll();
+    f.paste("cups");
+    QCOMPARE(f.shown(), QStringLiteral("|"));
+    QCOMPARE(f.typed.back(), 0.0F);
+}
+
+void tst_NumberField::anEmptiedFieldStaysEmpty()
+{
+    Fixture f;
+    f.press(Qt::Key_Delete);
+    QCOMPARE(f.typed, QList<float>({0.0F}));
+    QCOMPARE(f.shown(), QStringLiteral("|"));
+}
+
+WUFFER_TEST_MAIN(tst_NumberField)
+#include "tst_NumberField.moc"
