@@ -6,6 +6,7 @@
 
 class AuxiliaryWindow;
 class MainMenu;
+class Preferences;
 class Wuffer;
 
 /// The one controller of the program: decides what opens at launch, makes timers and places their
@@ -31,6 +32,8 @@ public:
     void newWuffer();
     /// Starts every timer that is not running.
     void startAllWuffers();
+    /// Mutes every timer, or lets them all be heard again.
+    void toggleMute();
     void showPreferences();
     void showConverter();
     void showMeasurements();
@@ -52,11 +55,14 @@ public:
 private:
     [[nodiscard]] static Wuffer *newestWuffer();
     void openAtLaunch();
+    /// Makes the preferences, not shown, and loads them, unless that is done.
+    void makePreferences();
     /// Shows one of the windows beside the timers, which is made when it is first asked for.
     void show(std::unique_ptr<AuxiliaryWindow> &window, const QString &title);
 
     std::unique_ptr<MainMenu> _mainMenu;
     std::unique_ptr<AuxiliaryWindow> _preferencesWindow;
+    std::unique_ptr<Preferences> _preferences;
     std::unique_ptr<AuxiliaryWindow> _converterWindow;
     std::unique_ptr<AuxiliaryWindow> _measurementsWindow;
 };

@@ -1,5 +1,6 @@
 #include "timer/Wuffer.h"
 
+#include "controls/PickFromList.h"
 #include "platform/NotificationCenter.h"
 #include "settings/WufferWindow.h"
 #include "timer/TargetTimeSheet.h"
@@ -89,6 +90,10 @@ void Wuffer::connectControls()
                 [this, field] { controlTextDidEndEditing(*field); });
     }
     connect(_ui->_finishedCombo, &QComboBox::activated, this, &Wuffer::handleFinishedComboChange);
+    for (WebbyComboBox *combo : {_ui->_alarmSoundCombo, _ui->_countdownSoundCombo}) {
+        new PickFromList(*combo);
+        connect(combo, &QComboBox::activated, this, [this, combo] { handleManageSounds(*combo); });
+    }
 }
 
 QString Wuffer::title() const

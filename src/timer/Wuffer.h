@@ -13,6 +13,7 @@ class QAction;
 class QColor;
 class QLineEdit;
 class TargetTimeSheet;
+class WebbyComboBox;
 class WufferWindow;
 
 namespace Ui
@@ -188,6 +189,10 @@ private:
     void controlTextDidEndEditing(const QLineEdit &field);
     void enableReturnShortcut();
     void disableReturnShortcut();
+
+    /// Where the combo offers to manage the sounds and that was chosen, goes back to its built-in
+    /// sound and asks for the preferences.
+    void handleManageSounds(WebbyComboBox &combo);
 
     [[nodiscard]] QString repeatSuffix() const;
 

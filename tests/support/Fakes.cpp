@@ -67,3 +67,14 @@ std::unique_ptr<Sound> FakeSoundSystem::make(const QString &name, double duratio
 {
     return std::make_unique<FakeSound>(*this, name, duration);
 }
+
+std::optional<QUrl> FakeOpenPanel::runModal(QWidget &window, const QString &title)
+{
+    titles << title;
+    lastWindow = &window;
+    if (_choices.empty())
+        return std::nullopt;
+    const QUrl choice = _choices.front();
+    _choices.erase(_choices.begin());
+    return choice;
+}
