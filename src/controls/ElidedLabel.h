@@ -11,6 +11,7 @@ class ElidedLabel final : public QLabel
 public:
     explicit ElidedLabel(QWidget *parent = nullptr);
 
+    [[nodiscard]] QSize sizeHint() const override { return minimumSizeHint(); }
     [[nodiscard]] QSize minimumSizeHint() const override;
 
 protected:

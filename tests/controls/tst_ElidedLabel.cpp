@@ -28,6 +28,7 @@ void tst_ElidedLabel::noTextMakesItsWindowWider()
     ElidedLabel label;
     label.setText(QString(500, QLatin1Char('w')));
     QCOMPARE(label.minimumSizeHint().width(), 0);
+    QCOMPARE(label.sizeHint().width(), 0);
     QVERIFY(label.minimumSizeHint().height() >= label.fontMetrics().height());
     QCOMPARE(label.text().size(), 500);
 }

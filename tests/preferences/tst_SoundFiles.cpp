@@ -98,7 +98,8 @@ void tst_SoundFiles::anyNameIsAccepted()
     Fixture p;
     const Wuffer &timer = p.openTimer();
     const int width = timer.window()->sizeHint().width();
-    const int ownWidth = p.window.sizeHint().width();
+    const auto &tab = p.part<QWidget>("soundTab");
+    const int ownWidth = tab.sizeHint().width();
     writeTone(p.path(name));
     p.add(p.path(name));
     QCOMPARE(p.defaults.stringForKey(QStringLiteral("alarmPath")), p.path(name));
@@ -106,7 +107,7 @@ void tst_SoundFiles::anyNameIsAccepted()
     QTEST(p.label("_alarmLabel"), "title");
     // No name makes a window any wider.
     QCOMPARE(timer.window()->sizeHint().width(), width);
-    QCOMPARE(p.window.sizeHint().width(), ownWidth);
+    QCOMPARE(tab.sizeHint().width(), ownWidth);
 }
 
 void tst_SoundFiles::whatIsNoSoundIsNot_data()
