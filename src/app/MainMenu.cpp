@@ -129,7 +129,7 @@ QAction &MainMenu::itemFor(WufferController::Operation operation) const
 {
     const auto item = std::ranges::find_if(_items, [&](const Item &each) {
         const auto *own = std::get_if<WufferController::Operation>(&each.row->operation);
-        return own && *own == operation;
+        return own != nullptr && *own == operation;
     });
     Q_ASSERT(item != _items.end());
     return *item->action;

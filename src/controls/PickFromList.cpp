@@ -9,7 +9,7 @@ namespace
 bool isCommand(const QKeyEvent &event)
 {
     constexpr auto command = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
-    return event.modifiers() & command && !event.text().isEmpty();
+    return event.modifiers().testAnyFlags(command) && !event.text().isEmpty();
 }
 
 /// Whether a closed combo box would select another entry at this key.

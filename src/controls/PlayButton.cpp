@@ -55,8 +55,7 @@ void PlayButton::paintEvent(QPaintEvent * /*event*/)
         // A little to the right, so that the weight of the triangle stands in the middle.
         sign.translate(side / 12, 0);
         const QPointF tip(sign.right(), sign.center().y());
-        const QPointF corners[] = {sign.topLeft(), tip, sign.bottomLeft()};
-        painter.drawPolygon(corners, 3);
+        painter.drawPolygon(QPolygonF({sign.topLeft(), tip, sign.bottomLeft()}));
     }
 }
 
