@@ -17,7 +17,9 @@ std::optional<QUrl> run(SystemOpenPanel &panel, const std::function<void(QFileDi
 {
     QWidget window;
     window.show();
-    QTimer::singleShot(0, &window, [&] {
+    QTimer soon;
+    soon.setSingleShot(true);
+    QObject::connect(&soon, &QTimer::timeout, &window, [&] {
         auto *dialog = window.findChild<QFileDialog *>();
         if (!dialog)
             qFatal("there is no file dialog");
@@ -26,6 +28,7 @@ std::optional<QUrl> run(SystemOpenPanel &panel, const std::function<void(QFileDi
         if (dialog->isVisible())
             dialog->reject();
     });
+    soon.start(0);
     return panel.runModal(window, kTitle);
 }
 

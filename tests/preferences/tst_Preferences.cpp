@@ -2,6 +2,8 @@
 #include "support/PreferencesFixture.h"
 #include "support/TestMain.h"
 
+#include <array>
+
 namespace
 {
 const QStringList kLaunchChoices{QStringLiteral("Open a Wuffer"), QStringLiteral("Do Nothing"),
@@ -18,12 +20,12 @@ struct Box
     const char *name;
     const char *key;
 };
-constexpr Box kBoxes[] = {{"_energySaverCheckbox", "energySaverMode"},
-                          {"_turnOffSoundCheckbox", "soundOff"},
-                          {"_autoStartPresetsCheckbox", "autoStartPresets"},
-                          {"_disableGrowlCheckbox", "growlDisabled"},
-                          {"_disableMenuBarCheckbox", "noStatusBar"},
-                          {"_suppressCountdownCheckbox", "suppressCountdown"}};
+constexpr std::array<Box, 6> kBoxes{{{"_energySaverCheckbox", "energySaverMode"},
+                                     {"_turnOffSoundCheckbox", "soundOff"},
+                                     {"_autoStartPresetsCheckbox", "autoStartPresets"},
+                                     {"_disableGrowlCheckbox", "growlDisabled"},
+                                     {"_disableMenuBarCheckbox", "noStatusBar"},
+                                     {"_suppressCountdownCheckbox", "suppressCountdown"}}};
 
 ClickableImageView &speaker(const Wuffer &timer)
 {
@@ -119,7 +121,7 @@ void tst_Preferences::aStoredBoxIsShown_data()
     QTest::addColumn<QString>("key");
     QTest::addColumn<QVariant>("value");
     QTest::addColumn<bool>("checked");
-    const std::tuple<const char *, QVariant, bool> values[] = {
+    const std::initializer_list<std::tuple<const char *, QVariant, bool>> values = {
         {"on", 1, true},
         {"off", 0, false},
         {"another number", -7, true},
@@ -155,7 +157,7 @@ void tst_Preferences::theLaunchChoiceIsShown_data()
     QTest::addColumn<QString>("shown");
     for (const QString &choice : kLaunchChoices)
         QTest::newRow(qUtf8Printable(choice)) << QVariant(choice) << choice;
-    const QString first = kLaunchChoices.first();
+    const QString &first = kLaunchChoices.first();
     QTest::newRow("without the sign") << QVariant(QStringLiteral("Open Preset 1")) << first;
     QTest::newRow("in another case") << QVariant(QStringLiteral("do nothing")) << first;
     QTest::newRow("with a space behind") << QVariant(QStringLiteral("Do Nothing ")) << first;
@@ -375,7 +377,7 @@ void tst_Preferences::aClickOnTheSpeakerOfAnyTimerMutesAll()
 {
     PreferencesFixture p;
     p.open();
-    Wuffer *timers[] = {&p.openTimer(), &p.openTimer()};
+    const std::array timers{&p.openTimer(), &p.openTimer()};
     for (Wuffer *timer : timers)
         timer->playDone();
     timers[0]->playBeep();
@@ -409,7 +411,7 @@ void tst_Preferences::everyTimerIsUpToDateWhenSavingReturns()
 {
     PreferencesFixture p;
     Preferences &preferences = p.open();
-    Wuffer *timers[] = {&p.openTimer(), &p.openTimer(), &p.openTimer()};
+    const std::array timers{&p.openTimer(), &p.openTimer(), &p.openTimer()};
     p.part<QCheckBox>("_turnOffSoundCheckbox").setChecked(true);
     p.part<QLineEdit>("_finishedText").setText(QStringLiteral("Tea!"));
     preferences.savePreferences();

@@ -10,17 +10,17 @@ Preferences &PreferencesFixture::open()
     return *preferences;
 }
 
-void PreferencesFixture::choose(const char *name, const QString &text)
+void PreferencesFixture::choose(const char *combo, const QString &text) const
 {
-    auto &combo = part<QComboBox>(name);
-    const int index = combo.findText(text);
+    auto &box = part<QComboBox>(combo);
+    const int index = box.findText(text);
     if (index < 0)
         qFatal("there is no entry %s", qUtf8Printable(text));
-    combo.setCurrentIndex(index);
-    Q_EMIT combo.activated(index);
+    box.setCurrentIndex(index);
+    Q_EMIT box.activated(index);
 }
 
-void PreferencesFixture::type(const QString &text)
+void PreferencesFixture::type(const QString &text) const
 {
     auto &field = part<QLineEdit>("_finishedText");
     field.selectAll();

@@ -31,10 +31,10 @@ public:
     [[nodiscard]] Wuffer &openTimer() { return WufferApplication::instance().openWuffer(); }
 
     // What a user does.
-    void click(const char *box) { part<QCheckBox>(box).click(); }
+    void click(const char *box) const { part<QCheckBox>(box).click(); }
     /// Selects the entry that shows this text, as from the open list.
-    void choose(const char *combo, const QString &text);
-    void type(const QString &text);
+    void choose(const char *combo, const QString &text) const;
+    void type(const QString &text) const;
 
     // What there is.
     void set(const char *key, const QVariant &value);
