@@ -8,8 +8,12 @@
 AuxiliaryWindow::AuxiliaryWindow(MainMenu &menu, const QString &title)
 {
     setWindowTitle(title);
-    resize(420, 300);
     menu.addTo(*this);
+}
+
+QSize AuxiliaryWindow::sizeHint() const
+{
+    return centralWidget() ? QMainWindow::sizeHint() : QSize(420, 300);
 }
 
 void AuxiliaryWindow::orderFront()

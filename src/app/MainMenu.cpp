@@ -11,6 +11,7 @@
 #include <QMenuBar>
 #include <QWindow>
 
+#include <algorithm>
 #include <variant>
 
 namespace
@@ -82,6 +83,7 @@ const std::vector<MainMenu::Menu> &MainMenu::menus()
         {QT_TR_NOOP("&File"),
          {{QT_TR_NOOP("&New Wuffer"), key(QKeySequence::New), &C::newWuffer},
           {QT_TR_NOOP("Start &All"), key("Ctrl+Shift+S"), &C::startAllWuffers},
+          {QT_TR_NOOP("Mute All"), key("Ctrl+Shift+M"), &C::toggleMute},
           {},
           {QT_TR_NOOP("&Preferences…"), key("Ctrl+,"), &C::showPreferences},
           {},
@@ -130,6 +132,16 @@ void MainMenu::addTo(QMainWindow &window)
 {
     for (QMenu *menu : _menuBar)
         window.menuBar()->addMenu(menu);
+}
+
+QAction &MainMenu::itemFor(WufferController::Operation operation) const
+{
+    const auto item = std::ranges::find_if(_items, [&](const Item &each) {
+        const auto *own = std::get_if<WufferController::Operation>(&each.row->operation);
+        return own != nullptr && *own == operation;
+    });
+    Q_ASSERT(item != _items.end());
+    return *item->action;
 }
 
 void MainMenu::validate()

@@ -29,6 +29,9 @@ public:
     /// Gives the window a menu bar with these menus.
     void addTo(QMainWindow &window);
 
+    /// The item that does this, which there must be.
+    [[nodiscard]] QAction &itemFor(void (WufferController::*operation)()) const;
+
     /// Asks for every item anew whether it is enabled.
     void validate();
 

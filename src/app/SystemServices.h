@@ -5,6 +5,7 @@
 #include "platform/Service.h"
 #include "platform/SystemClock.h"
 #include "platform/SystemDesktop.h"
+#include "platform/SystemOpenPanel.h"
 #include "platform/UserDefaults.h"
 
 /// The services of the platform that the running program uses, installed for as long as this
@@ -21,10 +22,12 @@ private:
     LazySoundSystem _sounds;
     FreedesktopNotifications _notifications;
     SystemDesktop _desktop;
+    SystemOpenPanel _openPanel;
 
     Service<Clock> _clockService{_clock};
     Service<UserDefaults> _defaultsService{_defaults};
     Service<SoundSystem> _soundService{_sounds};
     Service<DesktopNotifications> _notificationService{_notifications};
     Service<Desktop> _desktopService{_desktop};
+    Service<OpenPanel> _openPanelService{_openPanel};
 };

@@ -114,9 +114,27 @@ void WufferApplication::cancelFullScreenModeForOthers(const Wuffer &timer)
     }
 }
 
+/// Whether this is Return on its way to the open list of a combo box.
+static bool belongsToOpenList(const QObject &receiver, const QEvent &event)
+{
+    if (event.type() != QEvent::ShortcutOverride || !receiver.isWidgetType())
+        return false;
+    const int key = static_cast<const QKeyEvent &>(event).key();
+    const QWidget *window = static_cast<const QWidget &>(receiver).window();
+    return window->windowType() == Qt::Popup && (key == Qt::Key_Return || key == Qt::Key_Enter);
+}
+
 bool WufferApplication::notify(QObject *receiver, QEvent *event)
 {
-    return swallows(*event) || QApplication::notify(receiver, event);
+    if (swallows(*event))
+        return true;
+    const bool forList = belongsToOpenList(*receiver, *event);
+    const bool handled = QApplication::notify(receiver, event);
+    // The list has picked an entry and closed, but says nothing. Without a word the press would be
+    // a shortcut of the window below, too, and start its timer.
+    if (forList)
+        event->accept();
+    return handled;
 }
 
 bool WufferApplication::swallows(QEvent &event)

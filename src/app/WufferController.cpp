@@ -9,20 +9,14 @@
 #include "platform/NotificationCenter.h"
 #include "platform/Service.h"
 #include "platform/UserDefaults.h"
+#include "preferences/PreferenceTexts.h"
+#include "preferences/Preferences.h"
 #include "settings/WufferWindow.h"
 #include "timer/Wuffer.h"
 #include "tools/Converter.h"
 #include "tools/MeasurementsPanel.h"
 
 #include <QScreen>
-
-namespace
-{
-// What may open at launch, as the settings hold it. Anything else opens one timer.
-constexpr QStringView kLaunchNothing = u"Do Nothing";
-constexpr QStringView kLaunchPreset = u"Open Preset ⌘1";
-constexpr QStringView kLaunchAndStartPreset = u"Open and Start Preset ⌘1";
-} // namespace
 
 WufferController::WufferController() :
     _presetsMenu(std::make_unique<PresetsMenu>(*this)),
@@ -38,6 +32,8 @@ void WufferController::awakeFromNib()
     center.addObserver(*this, QStringLiteral("presetsChangedNotification"),
                        [this](QObject *) { populatePresetsMenu(); });
     openAtLaunch();
+    // While the window of the timer is still on its way to the screen, this costs no time.
+    makePreferences();
     // Last, so that what started at launch shows at its first tick and not before.
     center.addObserver(*this, QStringLiteral("statusChanged"),
                        [this](QObject *) { refreshStatusItem(); });
@@ -83,9 +79,25 @@ void WufferController::startAllWuffers()
     }
 }
 
+void WufferController::toggleMute()
+{
+    makePreferences();
+    _preferences->toggleMute();
+}
+
+void WufferController::makePreferences()
+{
+    if (_preferences)
+        return;
+    _preferencesWindow = std::make_unique<AuxiliaryWindow>(*_mainMenu, tr("Preferences"));
+    _preferences = std::make_unique<Preferences>(*_preferencesWindow,
+                                                 _mainMenu->itemFor(&WufferController::toggleMute));
+}
+
 void WufferController::showPreferences()
 {
-    show(_preferencesWindow, tr("Preferences"), [](QMainWindow &) {});
+    makePreferences();
+    _preferencesWindow->orderFront();
 }
 
 void WufferController::showConverter()

@@ -8,6 +8,7 @@ class QAction;
 class AuxiliaryWindow;
 class MainMenu;
 class PresetsMenu;
+class Preferences;
 class QMainWindow;
 class Wuffer;
 
@@ -34,6 +35,8 @@ public:
     void newWuffer();
     /// Starts every timer that is not running.
     void startAllWuffers();
+    /// Mutes every timer, or lets them all be heard again.
+    void toggleMute();
     void showPreferences();
     void showConverter();
     void showMeasurements();
@@ -64,6 +67,8 @@ public:
 private:
     [[nodiscard]] static Wuffer *newestWuffer();
     void openAtLaunch();
+    /// Makes the preferences, not shown, and loads them, unless that is done.
+    void makePreferences();
     /// Shows one of the windows beside the timers, which is made and filled when it is first asked
     /// for.
     void show(std::unique_ptr<AuxiliaryWindow> &window, const QString &title,
@@ -72,6 +77,7 @@ private:
     std::unique_ptr<PresetsMenu> _presetsMenu;
     std::unique_ptr<MainMenu> _mainMenu;
     std::unique_ptr<AuxiliaryWindow> _preferencesWindow;
+    std::unique_ptr<Preferences> _preferences;
     std::unique_ptr<AuxiliaryWindow> _converterWindow;
     std::unique_ptr<AuxiliaryWindow> _measurementsWindow;
 };

@@ -1,5 +1,7 @@
 #include "controls/DataComboBox.h"
 
+#include <QStylePainter>
+
 void DataComboBox::addDataObject(const QString &dataObject, const QString &comboObject)
 {
     insertDataObject(dataObject, comboObject, count());
@@ -67,6 +69,21 @@ void DataComboBox::selectItemWithDataObjectValue(const QString &dataObject)
     const int index = indexOfDataObject(dataObject);
     if (index >= 0)
         setCurrentIndex(index);
+}
+
+void DataComboBox::paintEvent(QPaintEvent * /*event*/)
+{
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    const QRect room =
+        style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this);
+    // Styles keep a point free at each side, and cut off the rest.
+    constexpr int margins = 2;
+    option.currentText =
+        fontMetrics().elidedText(option.currentText, Qt::ElideMiddle, room.width() - margins);
+    QStylePainter painter(this);
+    painter.drawComplexControl(QStyle::CC_ComboBox, option);
+    painter.drawControl(QStyle::CE_ComboBoxLabel, option);
 }
 
 QString DataComboBox::dataObjectAt(int index) const

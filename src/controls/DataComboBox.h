@@ -6,7 +6,8 @@
 
 /// A combo box that keeps a data object beside each entry: the entry shows a short text, while
 /// the program works with a full value. An entry that was added without one is its own data
-/// object. Nothing is selected until somebody selects it.
+/// object. Nothing is selected until somebody selects it. A text for which the box is too narrow
+/// is shortened.
 class DataComboBox : public QComboBox
 {
     Q_OBJECT
@@ -39,6 +40,9 @@ public:
 
     /// Selects the first entry with this data object; without one the selection stays.
     void selectItemWithDataObjectValue(const QString &dataObject);
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
 
 private:
     [[nodiscard]] QString dataObjectAt(int index) const;

@@ -1,17 +1,25 @@
+#include "platform/NotificationCenter.h"
 #include "platform/UserDefaults.h"
+#include "preferences/PreferenceTexts.h"
+#include "preferences/SoundCombos.h"
 #include "timer/TimerTexts.h"
 #include "timer/Wuffer.h"
 #include "ui_Wuffer.h"
 
+#include <QSignalBlocker>
+
 namespace
 {
-/// Empties the combo and fills it anew, keeping its selection where that is still listed.
-void refill(WebbyComboBox &combo, QStringView builtInSound)
+/// Fills the combo anew, keeping its selection where that is still listed. Before there was one,
+/// the sound of the preferences is selected.
+void refill(WebbyComboBox &combo, QStringView builtInSound, const QString &globalPath)
 {
+    const QSignalBlocker quiet(combo);
     const std::optional<QString> selected = combo.dataObjectOfSelectedItem();
-    combo.removeAllItems();
-    combo.addItemWithObjectValue(builtInSound.toString());
+    SoundCombos::fill(combo, builtInSound, {kManageSounds});
     combo.selectItemWithDataObjectValue(builtInSound.toString());
+    if (!globalPath.isEmpty())
+        combo.selectItemWithDataObjectValue(globalPath);
     if (selected && !selected->isEmpty())
         combo.selectItemWithDataObjectValue(*selected);
 }
@@ -27,7 +35,7 @@ void Wuffer::loadGlobalSettings()
     _energySaverActive = defaults.boolForKey(QStringLiteral("energySaverMode"));
 
     const QString text = defaults.stringForKey(QStringLiteral("finishedText")).value_or(QString());
-    _finishedText = text.isEmpty() ? QStringLiteral("Wuff!") : text;
+    _finishedText = text.isEmpty() ? kFinishedTextDefault.toString() : text;
 
     if (_soundOff) {
         for (Sound *sound : {_doneSound.get(), _beepSound.get()}) {
@@ -45,8 +53,21 @@ void Wuffer::loadGlobalSettings()
 
 void Wuffer::populateSoundCombos()
 {
-    refill(*_ui->_alarmSoundCombo, kWuffSound);
-    refill(*_ui->_countdownSoundCombo, kCrowSound);
+    const UserDefaults &defaults = UserDefaults::standardUserDefaults();
+    const auto path = [&](const QString &key) {
+        return defaults.stringForKey(key).value_or(QString());
+    };
+    refill(*_ui->_alarmSoundCombo, kWuffSound, path(QStringLiteral("alarmPath")));
+    refill(*_ui->_countdownSoundCombo, kCrowSound, path(QStringLiteral("countdownPath")));
+}
+
+void Wuffer::handleManageSounds(WebbyComboBox &combo)
+{
+    if (combo.dataObjectOfSelectedItem() != kManageSounds)
+        return;
+    combo.setCurrentIndex(0);
+    NotificationCenter::defaultCenter().postNotificationName(
+        QStringLiteral("manageSoundsNotification"));
 }
 
 void Wuffer::refreshSoundComboEnabledness()

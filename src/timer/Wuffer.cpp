@@ -1,5 +1,6 @@
 #include "timer/Wuffer.h"
 
+#include "controls/PickFromList.h"
 #include "platform/NotificationCenter.h"
 #include "settings/WufferWindow.h"
 #include "timer/TargetTimeSheet.h"
@@ -97,6 +98,8 @@ void Wuffer::connectControls()
     }
     for (const PopUpComboBox *combo : {_ui->_finishedCombo, _ui->_finishedPicker})
         connect(combo, &PopUpComboBox::willPopUp, this, &Wuffer::handleFinishedComboChange);
+    for (WebbyComboBox *combo : {_ui->_alarmSoundCombo, _ui->_countdownSoundCombo})
+        new PickFromList(*combo);
 }
 
 QString Wuffer::title() const

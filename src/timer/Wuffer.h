@@ -17,6 +17,7 @@ class QComboBox;
 class QLineEdit;
 class TargetTimeSheet;
 struct TimerSettings;
+class WebbyComboBox;
 class WufferWindow;
 
 namespace Ui
@@ -229,9 +230,13 @@ private:
     [[nodiscard]] qint32 seconds() const;
     void controlTextDidChange(const QLineEdit &field);
     void controlTextDidEndEditing(const QLineEdit &field);
-    void comboBoxSelectionDidChange(const QComboBox &combo);
+    void comboBoxSelectionDidChange(QComboBox &combo);
     void enableReturnShortcut();
     void disableReturnShortcut();
+
+    /// Where the combo offers to manage the sounds and that was chosen, goes back to its built-in
+    /// sound and asks for the preferences.
+    void handleManageSounds(WebbyComboBox &combo);
 
     [[nodiscard]] QString repeatSuffix() const;
     void setElapsedColor(TextColor color);

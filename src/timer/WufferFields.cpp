@@ -52,11 +52,13 @@ void Wuffer::controlTextDidEndEditing(const QLineEdit &field)
         _returnTimer.startOnce(returnPause);
 }
 
-void Wuffer::comboBoxSelectionDidChange(const QComboBox &combo)
+void Wuffer::comboBoxSelectionDidChange(QComboBox &combo)
 {
     removePresetColor();
     if (&combo == _ui->_finishedCombo)
         handleFinishedComboChange();
+    if (auto *sounds = qobject_cast<WebbyComboBox *>(&combo))
+        handleManageSounds(*sounds);
 }
 
 void Wuffer::enableReturnShortcut()

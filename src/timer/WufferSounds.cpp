@@ -1,6 +1,6 @@
 #include "platform/DesktopNotifications.h"
 #include "platform/Service.h"
-#include "timer/TimerTexts.h"
+#include "timer/SoundChoice.h"
 #include "timer/Wuffer.h"
 #include "ui_Wuffer.h"
 
@@ -21,12 +21,7 @@ void stop(const std::unique_ptr<Sound> &sound)
 
 std::unique_ptr<Sound> Wuffer::createSoundWithPath(const QString &path) const
 {
-    SoundSystem &sounds = Service<SoundSystem>::current();
-    if (path == kWuffSound)
-        return sounds.soundNamed(QStringLiteral("wolvesWuff.wav"));
-    if (path == kCrowSound)
-        return sounds.soundNamed(QStringLiteral("crow.wav"));
-    return sounds.soundWithContentsOfFile(path);
+    return soundForChoice(path);
 }
 
 void Wuffer::playDone()

@@ -24,6 +24,7 @@ private Q_SLOTS:
     void closeClosesTheActiveWindow();
     void minimizeMinimizesTheActiveWindow();
     void newOpensAnotherTimer();
+    void muteIsRenamedWithEveryChange();
 
 private:
     static QAction &item(const QMainWindow &window, const QString &text)
@@ -232,6 +233,27 @@ void tst_MainMenu::newOpensAnotherTimer()
     activate(*newest().window());
     QTest::keyClick(QGuiApplication::focusWindow(), Qt::Key_N, Qt::ControlModifier);
     QCOMPARE(WufferApplication::getWuffers().size(), std::size_t(2));
+}
+
+void tst_MainMenu::muteIsRenamedWithEveryChange()
+{
+    TestServices services;
+    WufferController controller;
+    controller.awakeFromNib();
+    const WufferWindow &window = *newest().window();
+    activate(window);
+    trigger(window, QStringLiteral("Mute All"));
+    QVERIFY(services.defaults.boolForKey(QStringLiteral("soundOff")));
+    trigger(window, QStringLiteral("Unmute All"));
+    QVERIFY(!services.defaults.boolForKey(QStringLiteral("soundOff")));
+    QTest::mouseClick(&child<QWidget>(window, "_soundOffImage"), Qt::LeftButton);
+    QVERIFY(item(window, QStringLiteral("Unmute All")).isEnabled());
+    // From another window, by its keys.
+    controller.showPreferences();
+    QTRY_VERIFY(QApplication::activeWindow() && QApplication::activeWindow() != &window);
+    QTest::keyClick(QGuiApplication::focusWindow(), Qt::Key_M,
+                    Qt::ControlModifier | Qt::ShiftModifier);
+    QVERIFY(!services.defaults.boolForKey(QStringLiteral("soundOff")));
 }
 
 WUFFER_TEST_MAIN(tst_MainMenu)

@@ -34,6 +34,8 @@ private Q_SLOTS:
     void aKeyReleaseDoesNotEndFullScreen();
     void pressesReachTheirTargetsWithoutFullScreen();
     void theTimerOfTheActiveWindowIsTheKeyTimer();
+    void returnInAnOpenListPicksAndDoesNotStart_data();
+    void returnInAnOpenListPicksAndDoesNotStart();
 
 private:
     static void show(const TimerFixture &t)
@@ -346,6 +348,28 @@ void tst_WufferApplication::theTimerOfTheActiveWindowIsTheKeyTimer()
     other.activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(&other));
     QVERIFY(!WufferApplication::keyWuffer());
+}
+
+void tst_WufferApplication::returnInAnOpenListPicksAndDoesNotStart_data()
+{
+    QTest::addColumn<Qt::Key>("key");
+    QTest::newRow("Return") << Qt::Key_Return;
+    QTest::newRow("Enter") << Qt::Key_Enter;
+}
+
+void tst_WufferApplication::returnInAnOpenListPicksAndDoesNotStart()
+{
+    QFETCH(const Qt::Key, key);
+    const TimerFixture t;
+    show(t);
+    auto &combo = t.part<QComboBox>("_finishedCombo");
+    combo.showPopup();
+    QWindow *list = QApplication::activePopupWidget()->windowHandle();
+    QTest::keyClick(list, Qt::Key_Down);
+    QTest::keyClick(list, key);
+    QVERIFY(!QApplication::activePopupWidget());
+    QCOMPARE(combo.currentIndex(), 1);
+    QVERIFY(!t.timer.isRunning());
 }
 
 WUFFER_TEST_MAIN(tst_WufferApplication)

@@ -21,6 +21,8 @@ private Q_SLOTS:
     void aLaunchOpensWhatTheUserChose_data();
     void aLaunchOpensWhatTheUserChose();
     void theTimerOpenedAtLaunchIsShown();
+    void aLaunchLeavesEveryOptionInTheSettings();
+    void aLaunchShowsNoPreferences();
     void newTimersStandOneStepFromTheNewest();
     void aCascadeThatWouldLeaveTheScreenBeginsAgain_data();
     void aCascadeThatWouldLeaveTheScreenBeginsAgain();
@@ -79,6 +81,35 @@ void tst_WufferController::theTimerOpenedAtLaunchIsShown()
     const Wuffer &timer = *WufferApplication::getWuffers().front();
     QVERIFY(timer.window()->isVisible());
     QVERIFY(QTest::qWaitForWindowActive(timer.window()));
+}
+
+void tst_WufferController::aLaunchLeavesEveryOptionInTheSettings()
+{
+    TestServices services;
+    WufferController controller;
+    controller.awakeFromNib();
+    const UserDefaults &defaults = services.defaults;
+    QCOMPARE(defaults.stringForKey(QStringLiteral("launchBehavior")),
+             QStringLiteral("Open a Wuffer"));
+    QCOMPARE(defaults.stringForKey(QStringLiteral("finishedText")), QStringLiteral("Wuff!"));
+    services.defaults.synchronize();
+    QFile file(services.settingsPath());
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QByteArray stored = file.readAll();
+    for (const char *key : {"soundOff", "suppressCountdown", "autoStartPresets", "growlDisabled",
+                            "energySaverMode", "noStatusBar"})
+        QVERIFY2(stored.contains(QByteArray("\"") + key + "\": 0"), key);
+}
+
+void tst_WufferController::aLaunchShowsNoPreferences()
+{
+    const TestServices services;
+    WufferController controller;
+    controller.awakeFromNib();
+    int shown = 0;
+    for (const QWidget *window : QApplication::topLevelWidgets())
+        shown += window->isVisible() ? 1 : 0;
+    QCOMPARE(shown, 1);
 }
 
 void tst_WufferController::newTimersStandOneStepFromTheNewest()

@@ -31,6 +31,14 @@ QStringList words(const char *text)
 {
     return QString::fromLatin1(text).split(QLatin1Char(' '));
 }
+
+QImage painted(QComboBox &box)
+{
+    box.resize(120, 26);
+    QImage image(box.size(), QImage::Format_RGB32);
+    box.render(&image);
+    return image;
+}
 } // namespace
 
 class tst_DataComboBox final : public Test
@@ -53,6 +61,8 @@ private Q_SLOTS:
     void removingByValueTakesTheFirstThatShowsIt();
     void removingEverythingLeavesNothing();
     void containsAsksForDataAndNotForTexts();
+    void aTextWithRoomLooksAsUsual();
+    void aTextWithoutRoomIsShortened();
 };
 
 void tst_DataComboBox::anEntryWithoutADataObjectIsItsOwn()
@@ -236,6 +246,29 @@ void tst_DataComboBox::containsAsksForDataAndNotForTexts()
     QVERIFY(box.containsDataObject(kBellFile));
     QVERIFY(!box.containsDataObject(kBell));
     QVERIFY(!box.containsDataObject(QString()));
+}
+
+void tst_DataComboBox::aTextWithRoomLooksAsUsual()
+{
+    DataComboBox box;
+    QComboBox usual;
+    for (QComboBox *each : {static_cast<QComboBox *>(&box), &usual}) {
+        each->addItem(kBell);
+        each->setCurrentIndex(0);
+    }
+    QCOMPARE(painted(box), painted(usual));
+}
+
+void tst_DataComboBox::aTextWithoutRoomIsShortened()
+{
+    DataComboBox box;
+    const QString text = QStringLiteral("A very long name of a sound, as some have");
+    box.addItem(text);
+    box.setCurrentIndex(0);
+    QComboBox cut;
+    cut.addItem(text);
+    QVERIFY(painted(box) != painted(cut));
+    QCOMPARE(box.currentText(), text);
 }
 
 WUFFER_TEST_MAIN(tst_DataComboBox)

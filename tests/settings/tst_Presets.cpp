@@ -1,7 +1,10 @@
+#include "controls/Drawer.h"
 #include "settings/Preset.h"
 #include "settings/TimerSettings.h"
 #include "support/TestMain.h"
 #include "support/TimerFixture.h"
+
+#include <QAbstractItemView>
 
 #include <functional>
 
@@ -245,11 +248,21 @@ void tst_Presets::theMarkIsLostByAnEdit_data()
             QTest::keyClicks(&t.part<QLineEdit>(field), QStringLiteral("1"));
         });
     }
-    for (const char *name :
-         {"_finishedCombo", "_finishedPicker", "_alarmSoundCombo", "_countdownSoundCombo"}) {
+    for (const char *name : {"_finishedCombo", "_finishedPicker"}) {
         QTest::newRow(name) << Act([name](TimerFixture &t) {
             auto &combo = t.part<QComboBox>(name);
             QTest::keyClick(&combo, combo.currentIndex() > 0 ? Qt::Key_Home : Qt::Key_Down);
+        });
+    }
+    for (const char *name : {"_alarmSoundCombo", "_countdownSoundCombo"}) {
+        QTest::newRow(name) << Act([name](TimerFixture &t) {
+            t.timer.window()->show();
+            if (t.part<Drawer>("_drawer").state() == Drawer::State::Closed)
+                t.timer.showHideAdvanced();
+            auto &combo = t.part<QComboBox>(name);
+            combo.showPopup();
+            QTest::keyClick(combo.view(), Qt::Key_Home);
+            QTest::keyClick(combo.view(), Qt::Key_Return);
         });
     }
     QTest::newRow("_keepWuffingBox") << Act([](TimerFixture &t) {

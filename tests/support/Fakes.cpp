@@ -73,3 +73,14 @@ void FakeSoundSystem::endAll()
     for (FakeSound *sound : _sounds)
         sound->reachEnd();
 }
+
+std::optional<QUrl> FakeOpenPanel::runModal(QWidget &window, const QString &title)
+{
+    titles << title;
+    lastWindow = &window;
+    if (_choices.empty())
+        return std::nullopt;
+    const QUrl choice = _choices.front();
+    _choices.erase(_choices.begin());
+    return choice;
+}

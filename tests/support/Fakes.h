@@ -2,6 +2,7 @@
 
 #include "platform/Desktop.h"
 #include "platform/DesktopNotifications.h"
+#include "platform/OpenPanel.h"
 #include "platform/Sound.h"
 
 #include <QHash>
@@ -106,4 +107,23 @@ public:
     std::vector<QWidget *> attentionAskedFor;
     std::vector<QUrl> opened;
     int beeps = 0;
+};
+
+/// Chooses the files that the test has put in its hands, in that order; with none left it cancels.
+class FakeOpenPanel final : public OpenPanel
+{
+public:
+    std::optional<QUrl> runModal(QWidget &window, const QString &title) override;
+
+    /// Lets it choose this file, after those that it was given before.
+    void choose(const QString &path) { _choices.push_back(QUrl::fromLocalFile(path)); }
+    void choose(const QUrl &url) { _choices.push_back(url); }
+
+    /// The titles under which it was shown.
+    QStringList titles;
+    /// The window over which it was shown last.
+    QWidget *lastWindow = nullptr;
+
+private:
+    std::vector<QUrl> _choices;
 };

@@ -1,6 +1,8 @@
 """What can be said of recorded samples, which are 16-bit numbers."""
 
+import array
 import math
+import wave
 
 RATE = 48000
 AUDIBLE = 100  # of 32768
@@ -40,3 +42,14 @@ def longest_silence(samples):
 
 def largest_step(samples):
     return max(abs(b - a) for a, b in zip(samples, samples[1:]))
+
+
+def write_tone(path, tone, seconds):
+    """Writes a sound file with a sine of one frequency."""
+    with wave.open(path, "wb") as file:
+        file.setnchannels(1)
+        file.setsampwidth(2)
+        file.setframerate(RATE)
+        file.writeframes(array.array("h", (
+            round(16000 * math.sin(2 * math.pi * tone * i / RATE))
+            for i in range(round(seconds * RATE)))).tobytes())

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "platform/OpenPanel.h"
+
+/// The file dialog of the desktop.
+class SystemOpenPanel final : public OpenPanel
+{
+public:
+    [[nodiscard]] std::optional<QUrl> runModal(QWidget &window, const QString &title) override;
+
+private:
+    /// Where the last file was chosen; empty before the first.
+    QUrl _folder;
+};

@@ -1,0 +1,163 @@
+#include "preferences/Preferences.h"
+
+#include "controls/PickFromList.h"
+#include "controls/WindowOrder.h"
+#include "platform/NotificationCenter.h"
+#include "platform/UserDefaults.h"
+#include "preferences/PreferenceTexts.h"
+#include "preferences/SoundPreview.h"
+#include "ui_Preferences.h"
+
+#include <QAction>
+#include <QEvent>
+
+namespace
+{
+void load(QCheckBox &box, const QString &key)
+{
+    box.setChecked(UserDefaults::standardUserDefaults().integerForKey(key) != 0);
+}
+
+void save(const QCheckBox &box, const QString &key)
+{
+    UserDefaults::standardUserDefaults().setObject(box.isChecked() ? 1 : 0, key);
+}
+} // namespace
+
+Preferences::Preferences(QMainWindow &window, QAction &muteMenu) :
+    _window(&window), _ui(std::make_unique<Ui::Preferences>()), _preferencesWindow(&window),
+    _muteMenu(muteMenu)
+{
+    _ui->setupUi(&window);
+    _alarmPreview = std::make_unique<SoundPreview>(*_ui->_alarmPlayButton, *_ui->_alarmCombo);
+    _countdownPreview =
+        std::make_unique<SoundPreview>(*_ui->_countdownPlayButton, *_ui->_countdownCombo);
+    connectControls();
+    awakeFromNib();
+}
+
+Preferences::~Preferences() = default;
+
+void Preferences::awakeFromNib()
+{
+    NotificationCenter &center = NotificationCenter::defaultCenter();
+    center.addObserver(*this, QStringLiteral("manageSoundsNotification"),
+                       [this](QObject *) { showSoundTab(); });
+    for (const QStringView choice :
+         {kLaunchTimer, kLaunchNothing, kLaunchPreset, kLaunchAndStartPreset})
+        _ui->_launchCombobox->addItemWithObjectValue(choice.toString());
+    center.addObserver(*this, QStringLiteral("ClickableImageViewClicked"),
+                       [this](QObject *) { toggleMute(); });
+    loadPreferences();
+}
+
+void Preferences::connectControls()
+{
+    _preferencesWindow->installEventFilter(this);
+    for (const QCheckBox *box : {_ui->_energySaverCheckbox, _ui->_autoStartPresetsCheckbox,
+                                 _ui->_disableGrowlCheckbox, _ui->_disableMenuBarCheckbox})
+        connect(box, &QCheckBox::clicked, this, &Preferences::savePreferences);
+    // The box of the countdown sound enables its combo, too.
+    for (const QCheckBox *box : {_ui->_turnOffSoundCheckbox, _ui->_suppressCountdownCheckbox})
+        connect(box, &QCheckBox::clicked, this, &Preferences::turnOffSound);
+    connect(_ui->_launchCombobox, &QComboBox::activated, this, &Preferences::savePreferences);
+    connect(_ui->_finishedText, &QLineEdit::textEdited, this,
+            [this] { controlTextDidChange(*_ui->_finishedText); });
+    for (WebbyComboBox *combo : {_ui->_alarmCombo, _ui->_countdownCombo}) {
+        new PickFromList(*combo);
+        connect(combo, &QComboBox::activated, this,
+                [this, combo] { comboBoxSelectionDidChange(combo); });
+    }
+    // One at a time.
+    connect(_alarmPreview.get(), &SoundPreview::starting, this, &Preferences::stopPreviews);
+    connect(_countdownPreview.get(), &SoundPreview::starting, this, &Preferences::stopPreviews);
+}
+
+void Preferences::loadPreferences()
+{
+    populateComboBoxes();
+    refreshSoundTitles();
+    load(*_ui->_energySaverCheckbox, QStringLiteral("energySaverMode"));
+    load(*_ui->_suppressCountdownCheckbox, QStringLiteral("suppressCountdown"));
+    load(*_ui->_autoStartPresetsCheckbox, QStringLiteral("autoStartPresets"));
+    load(*_ui->_turnOffSoundCheckbox, QStringLiteral("soundOff"));
+    load(*_ui->_disableGrowlCheckbox, QStringLiteral("growlDisabled"));
+    load(*_ui->_disableMenuBarCheckbox, QStringLiteral("noStatusBar"));
+
+    const UserDefaults &defaults = UserDefaults::standardUserDefaults();
+    _ui->_launchCombobox->selectItemWithDataObjectValue(kLaunchTimer.toString());
+    _ui->_launchCombobox->selectItemWithDataObjectValue(
+        defaults.stringForKey(QStringLiteral("launchBehavior")).value_or(QString()));
+
+    const QString text = defaults.stringForKey(QStringLiteral("finishedText")).value_or(QString());
+    _ui->_finishedText->setText(text.isEmpty() ? kFinishedTextDefault.toString() : text);
+    turnOffSound();
+}
+
+void Preferences::savePreferences()
+{
+    UserDefaults &defaults = UserDefaults::standardUserDefaults();
+    save(*_ui->_energySaverCheckbox, QStringLiteral("energySaverMode"));
+    save(*_ui->_suppressCountdownCheckbox, QStringLiteral("suppressCountdown"));
+    defaults.setObject(_ui->_finishedText->text(), QStringLiteral("finishedText"));
+    save(*_ui->_turnOffSoundCheckbox, QStringLiteral("soundOff"));
+    save(*_ui->_autoStartPresetsCheckbox, QStringLiteral("autoStartPresets"));
+    save(*_ui->_disableGrowlCheckbox, QStringLiteral("growlDisabled"));
+    save(*_ui->_disableMenuBarCheckbox, QStringLiteral("noStatusBar"));
+    defaults.setObject(_ui->_launchCombobox->currentText(), QStringLiteral("launchBehavior"));
+    sendChangedNotification();
+}
+
+void Preferences::sendChangedNotification()
+{
+    NotificationCenter::defaultCenter().postNotificationName(
+        QStringLiteral("prefsChangedNotification"), this);
+}
+
+void Preferences::turnOffSound()
+{
+    const bool soundOn = !_ui->_turnOffSoundCheckbox->isChecked();
+    const bool countdownOn = soundOn && !_ui->_suppressCountdownCheckbox->isChecked();
+    _ui->_suppressCountdownCheckbox->setEnabled(soundOn);
+    _ui->_alarmCombo->setEnabled(soundOn);
+    _alarmPreview->setEnabled(soundOn);
+    _ui->_countdownCombo->setEnabled(countdownOn);
+    _countdownPreview->setEnabled(countdownOn);
+    _muteMenu.setText(soundOn ? tr("Mute All") : tr("Unmute All"));
+    savePreferences();
+}
+
+void Preferences::toggleMute()
+{
+    _ui->_turnOffSoundCheckbox->toggle();
+    turnOffSound();
+}
+
+void Preferences::showSoundTab()
+{
+    bringToFront(*_window);
+    _ui->_tabView->setCurrentWidget(_ui->soundTab);
+}
+
+void Preferences::controlTextDidChange(const QLineEdit &field)
+{
+    if (&field == _ui->_finishedText)
+        savePreferences();
+}
+
+void Preferences::windowWillClose(const QWidget &window)
+{
+    if (&window == _preferencesWindow)
+        savePreferences();
+}
+
+bool Preferences::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == _preferencesWindow) {
+        if (event->type() == QEvent::Close)
+            windowWillClose(*_preferencesWindow);
+        else if (event->type() == QEvent::Hide)
+            stopPreviews();
+    }
+    return QObject::eventFilter(watched, event);
+}

@@ -1,0 +1,25 @@
+#include "preferences/SoundCombos.h"
+
+#include "controls/WebbyComboBox.h"
+#include "platform/UserDefaults.h"
+
+SoundHistory SoundCombos::storedHistory()
+{
+    return SoundHistory(
+        UserDefaults::standardUserDefaults().stringArrayForKey(QStringLiteral("soundHistory")));
+}
+
+void SoundCombos::fill(WebbyComboBox &combo, QStringView builtInSound,
+                       std::initializer_list<QStringView> commands)
+{
+    combo.removeAllItems();
+    combo.addItemWithObjectValue(builtInSound.toString());
+    const SoundHistory history = storedHistory();
+    for (const QString &path : history.paths()) {
+        combo.addDataObject(path, SoundHistory::displayTitle(path));
+        // Files of the same name are told apart by where they lie.
+        combo.setItemData(combo.count() - 1, path, Qt::ToolTipRole);
+    }
+    for (const QStringView command : commands)
+        combo.addItemWithObjectValue(command.toString());
+}

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "preferences/SoundHistory.h"
+
+class WebbyComboBox;
+
+/// What the combo boxes in which sounds are chosen have in common.
+namespace SoundCombos
+{
+/// The sounds that the user has added, from the settings.
+[[nodiscard]] SoundHistory storedHistory();
+
+/// Empties the box and lists the built-in sound, the user's own, newest first, and the commands.
+/// Nothing is selected afterwards.
+void fill(WebbyComboBox &combo, QStringView builtInSound,
+          std::initializer_list<QStringView> commands);
+} // namespace SoundCombos

@@ -1,0 +1,59 @@
+#include "preferences/SoundPreview.h"
+
+#include "controls/DataComboBox.h"
+#include "controls/PlayButton.h"
+#include "platform/Desktop.h"
+#include "platform/Service.h"
+#include "timer/SoundChoice.h"
+
+SoundPreview::SoundPreview(PlayButton &button, const DataComboBox &combo) :
+    _button(button), _combo(combo)
+{
+    connect(&button, &QToolButton::clicked, this, &SoundPreview::playOrStop);
+}
+
+SoundPreview::~SoundPreview() = default;
+
+void SoundPreview::stop()
+{
+    _endTimer.invalidate();
+    _sound.reset();
+    _button.setPlaying(false);
+}
+
+void SoundPreview::setEnabled(bool enabled)
+{
+    if (!enabled)
+        stop();
+    _button.setEnabled(enabled);
+}
+
+void SoundPreview::playOrStop()
+{
+    if (_sound)
+        stop();
+    else
+        play();
+}
+
+void SoundPreview::play()
+{
+    constexpr double secondsBetweenLooks = 0.1;
+    Q_EMIT starting();
+    std::unique_ptr<Sound> sound =
+        soundForChoice(_combo.dataObjectOfSelectedItem().value_or(QString()));
+    if (!sound || sound->duration() == 0) {
+        Service<Desktop>::current().beep();
+        return;
+    }
+    _sound = std::move(sound);
+    _sound->play();
+    _button.setPlaying(true);
+    _endTimer.startRepeating(secondsBetweenLooks);
+}
+
+void SoundPreview::noticeEnd()
+{
+    if (!_sound->isPlaying())
+        stop();
+}

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "platform/ClockTimer.h"
+#include "platform/Sound.h"
+
+#include <QObject>
+
+class DataComboBox;
+class PlayButton;
+
+/// Lets the user hear the sound selected in a combo box: a press of the button plays it, another
+/// press stops it. Nothing is opened and nothing ticks unless a sound plays.
+class SoundPreview final : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// The button and the box must outlive the preview.
+    SoundPreview(PlayButton &button, const DataComboBox &combo);
+    ~SoundPreview() override;
+
+    void stop();
+
+    /// Whether the sound may be played now; stops it when not.
+    void setEnabled(bool enabled);
+
+Q_SIGNALS:
+    /// A sound is about to be played.
+    void starting();
+
+private:
+    void playOrStop();
+    void play();
+    void noticeEnd();
+
+    PlayButton &_button;
+    const DataComboBox &_combo;
+    std::unique_ptr<Sound> _sound;
+    /// Looks for the end of the sound while it plays; nobody tells of it.
+    ClockTimer _endTimer{[this] { noticeEnd(); }};
+};
