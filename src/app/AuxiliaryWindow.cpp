@@ -11,11 +11,6 @@ AuxiliaryWindow::AuxiliaryWindow(MainMenu &menu, const QString &title)
     menu.addTo(*this);
 }
 
-QSize AuxiliaryWindow::sizeHint() const
-{
-    return centralWidget() ? QMainWindow::sizeHint() : QSize(420, 300);
-}
-
 void AuxiliaryWindow::orderFront()
 {
     bringToFront(*this);

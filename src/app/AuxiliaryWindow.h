@@ -13,9 +13,6 @@ class AuxiliaryWindow final : public QMainWindow
 public:
     AuxiliaryWindow(MainMenu &menu, const QString &title);
 
-    /// As large as its contents.
-    [[nodiscard]] QSize sizeHint() const override;
-
     /// Shows the window in front of the program's others and makes it the active one.
     void orderFront();
 

@@ -128,6 +128,8 @@ bool WufferApplication::notify(QObject *receiver, QEvent *event)
 {
     if (swallows(*event))
         return true;
+    if (event->type() == QEvent::Quit)
+        _quitting = true;
     const bool forList = belongsToOpenList(*receiver, *event);
     const bool handled = QApplication::notify(receiver, event);
     // The list has picked an entry and closed, but says nothing. Without a word the press would be

@@ -43,6 +43,9 @@ public:
     /// Ends full-screen mode of every timer but this one.
     void cancelFullScreenModeForOthers(const Wuffer &timer);
 
+    /// Whether the program is about to end.
+    [[nodiscard]] static bool isQuitting() { return instance()._quitting; }
+
     bool notify(QObject *receiver, QEvent *event) override;
 
 Q_SIGNALS:
@@ -57,4 +60,5 @@ private:
     std::vector<std::unique_ptr<Wuffer>> _wuffers;
     /// The key that has ended full-screen mode, until it is let go or pressed anew.
     std::optional<int> _swallowedKey;
+    bool _quitting = false;
 };

@@ -60,6 +60,7 @@ void Preferences::connectControls()
     // The box of the countdown sound enables its combo, too.
     for (const QCheckBox *box : {_ui->_turnOffSoundCheckbox, _ui->_suppressCountdownCheckbox})
         connect(box, &QCheckBox::clicked, this, &Preferences::turnOffSound);
+    new PickFromList(*_ui->_launchCombobox);
     connect(_ui->_launchCombobox, &QComboBox::activated, this, &Preferences::savePreferences);
     connect(_ui->_finishedText, &QLineEdit::textEdited, this,
             [this] { controlTextDidChange(*_ui->_finishedText); });

@@ -1,3 +1,4 @@
+#include "app/WufferApplication.h"
 #include "controls/WindowOrder.h"
 #include "platform/Desktop.h"
 #include "platform/OpenPanel.h"
@@ -96,7 +97,7 @@ void Preferences::refreshSoundTitles()
         const QString path = storedPath(kind.key);
         kind.label.setText(path.isEmpty() ? kind.builtInSound.toString()
                                           : SoundHistory::displayTitle(path));
-        kind.label.setToolTip(path);
+        kind.label.setToolTip(SoundCombos::toolTip(path));
     }
 }
 
@@ -155,7 +156,8 @@ void Preferences::selectAnotherSound(const Kind &kind)
     if (const std::optional<QString> path = addSoundPath()) {
         populateComboBoxes();
         selectAndReport(kind.combo, *path);
-    } else {
+    } else if (!WufferApplication::isQuitting()) {
+        // The end of the program closes the panel, too, and is no choice of a sound.
         selectAndReport(kind.combo, kind.builtInSound.toString());
     }
 }

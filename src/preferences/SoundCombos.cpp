@@ -3,10 +3,18 @@
 #include "controls/WebbyComboBox.h"
 #include "platform/UserDefaults.h"
 
+#include <QTextDocument>
+
 SoundHistory SoundCombos::storedHistory()
 {
     return SoundHistory(
         UserDefaults::standardUserDefaults().stringArrayForKey(QStringLiteral("soundHistory")));
+}
+
+QString SoundCombos::toolTip(const QString &path)
+{
+    // What looks like markup in a name is none.
+    return path.isEmpty() ? QString() : Qt::convertFromPlainText(path);
 }
 
 void SoundCombos::fill(WebbyComboBox &combo, QStringView builtInSound,
@@ -18,7 +26,7 @@ void SoundCombos::fill(WebbyComboBox &combo, QStringView builtInSound,
     for (const QString &path : history.paths()) {
         combo.addDataObject(path, SoundHistory::displayTitle(path));
         // Files of the same name are told apart by where they lie.
-        combo.setItemData(combo.count() - 1, path, Qt::ToolTipRole);
+        combo.setItemData(combo.count() - 1, toolTip(path), Qt::ToolTipRole);
     }
     for (const QStringView command : commands)
         combo.addItemWithObjectValue(command.toString());

@@ -2,6 +2,10 @@
 
 #include "preferences/SoundHistory.h"
 
+#include <QStringView>
+
+#include <initializer_list>
+
 class WebbyComboBox;
 
 /// What the combo boxes in which sounds are chosen have in common.
@@ -9,6 +13,9 @@ namespace SoundCombos
 {
 /// The sounds that the user has added, from the settings.
 [[nodiscard]] SoundHistory storedHistory();
+
+/// What the tool tip of a sound shows for its path: just that, or nothing for none.
+[[nodiscard]] QString toolTip(const QString &path);
 
 /// Empties the box and lists the built-in sound, the user's own, newest first, and the commands.
 /// Nothing is selected afterwards.

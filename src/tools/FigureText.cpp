@@ -14,11 +14,9 @@ constexpr qsizetype kLongestNumber = 100;
 /// Any float can be told from its neighbours by so many significant digits.
 constexpr int kMostDigits = 9;
 
-std::optional<double> numberIn(const QString &text, const QLocale &locale)
+/// The text as a number with the locale's own marks.
+std::optional<double> strictNumberIn(const QString &number, const QLocale &locale)
 {
-    // Some locales do not know the small e.
-    QString number = text;
-    number.replace(QLatin1Char('e'), QLatin1Char('E'));
     bool valid = false;
     const double value = locale.toDouble(number, &valid);
     // "inf" and "nan" are words.
@@ -27,9 +25,34 @@ std::optional<double> numberIn(const QString &text, const QLocale &locale)
     return value;
 }
 
+std::optional<double> numberIn(const QString &text, const QLocale &locale)
+{
+    // Some locales do not know the small e.
+    QString number = text;
+    number.replace(QLatin1Char('e'), QLatin1Char('E'));
+    if (const std::optional<double> value = strictNumberIn(number, locale))
+        return value;
+    // The other decimal mark, as it is on the key pad or in a recipe from elsewhere. To leave it
+    // out would make 125 of 12.5.
+    for (const char mark : {'.', ','}) {
+        if (number.count(QLatin1Char(mark)) == 1) {
+            QString own = number;
+            own.replace(QLatin1Char(mark), locale.decimalPoint());
+            if (own.count(locale.decimalPoint()) == 1)
+                return strictNumberIn(own, locale);
+        }
+    }
+    return std::nullopt;
+}
+
 bool canBecomeNumber(const QString &text, const QLocale &locale)
 {
-    return numberIn(text, locale) || numberIn(text + QLatin1Char('1'), locale);
+    // As many digits as a group has may be missing.
+    for (const char *rest : {"", "1", "11", "111"}) {
+        if (numberIn(text + QLatin1String(rest), locale))
+            return true;
+    }
+    return false;
 }
 
 int digitsThatTell(float number)

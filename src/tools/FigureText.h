@@ -8,7 +8,8 @@ namespace FigureText
 {
 /// The number that the text begins with, after blanks: "12.5 cups" is 12.5. 0 when there is none,
 /// limited to what a float holds. Separators between groups of digits count only where the locale
-/// would put them, and an exponent is written with E.
+/// would put them; a point or comma elsewhere is taken for the decimal mark. An exponent is
+/// written with E.
 [[nodiscard]] float read(const QString &text, const QLocale &locale);
 
 /// As much of the text as is a number or can still become one when somebody types on: all of

@@ -155,6 +155,19 @@ class PreferencesTest(DesktopTest):
         self.assertNotIn("soundHistory", self.settings(program))
         self.quit(program)
 
+    def test_quitting_while_a_file_is_chosen_keeps_the_sound(self):
+        program = self.launch()
+        timer = program.windows()[0]
+        path = self.file(program, "tone.wav", TONE)
+        self.open_sounds(program)
+        self.add_sound(program, "alt+a", path)
+        self.wait_for_setting(program, "alarmPath", path)
+        self.pick("alt+a", "End", "Up")
+        program.wait_for_windows(3)
+        self.display.act("windowactivate", "--sync", timer)
+        self.quit(program)
+        self.assertEqual(self.settings(program)["alarmPath"], path)
+
     def test_a_click_on_the_speaker_silences_a_ringing_alarm(self):
         # One without pauses, so that only the click can silence it.
         tone = os.path.join(self.session.folder, "tone.wav")

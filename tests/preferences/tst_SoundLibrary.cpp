@@ -1,3 +1,4 @@
+#include "preferences/SoundCombos.h"
 #include "support/PreferencesFixture.h"
 #include "support/TestMain.h"
 
@@ -545,8 +546,11 @@ void tst_SoundLibrary::twoFilesOfOneNameAreToldApartByTheirPaths()
     QCOMPARE(p.entries(kAlarm).filter(QStringLiteral("Bell")).size(), 2);
     QCOMPARE(p.selected(kAlarm), other);
     auto &combo = p.part<QComboBox>(kAlarm);
-    QCOMPARE(combo.itemData(1, Qt::ToolTipRole).toString(), other);
-    QCOMPARE(combo.itemData(2, Qt::ToolTipRole).toString(), kBell);
+    QCOMPARE(combo.itemData(1, Qt::ToolTipRole).toString(), SoundCombos::toolTip(other));
+    QCOMPARE(combo.itemData(2, Qt::ToolTipRole).toString(), SoundCombos::toolTip(kBell));
+    QCOMPARE(SoundCombos::toolTip(QStringLiteral("/a & <b>.wav")),
+             QStringLiteral("<p>/a\u00A0&amp;\u00A0&lt;b&gt;.wav</p>"));
+    QCOMPARE(SoundCombos::toolTip(QString()), QString());
     combo.setCurrentIndex(2);
     Q_EMIT combo.activated(2);
     QCOMPARE(p.path("alarmPath"), kBell);

@@ -50,7 +50,7 @@ void tst_FigureText::textReadsAsItsLeadingNumber_data()
     row("a point at the beginning", ".5", 0.5);
     row("a point alone", ".", 0);
     row("two points", "1.5.2", 1.5);
-    row("a comma where it is no point", "12,5", 12);
+    row("a comma where it is no point", "12,5", 12.5);
     row("negative", "-3.25", -3.25);
     row("a plus sign", "+3", 3);
     row("a sign alone", "-", 0);
@@ -90,10 +90,14 @@ void tst_FigureText::textReadsInTheWayOfItsLocale_data()
         QTest::newRow(name) << QString::fromLatin1(locale) << QString::fromUtf8(text) << number;
     };
     row("groups", "en_US", "1,234.5", 1234.5);
-    row("groups of the wrong size", "en_US", "1,23", 1);
+    row("a comma that separates no group", "en_US", "1,25", 1.25);
+    row("a comma and a point", "en_US", "1,5.5", 1.5);
     row("a decimal comma", "de_DE", "12,5", 12.5);
     row("a comma at the end", "de_DE", "12,", 12);
-    row("a point where it is no comma", "de_DE", "12.5", 12);
+    row("a point where it is no comma", "de_DE", "12.5", 12.5);
+    row("a point that separates a group", "de_DE", "12.500", 12500);
+    row("a comma where it is a point", "de_CH", "12,5", 12.5);
+    row("a mark that is on no keyboard", "fa_IR", "12.5", 12.5);
     row("groups with points", "de_DE", "1.234,5", 1234.5);
     row("groups with blanks", "fr_FR", "1 234,5", 1234.5);
     row("a small e where it is unusual", "sv_SE", "1,5e3", 1500);
@@ -127,7 +131,7 @@ void tst_FigureText::theBegunPartOfAText_data()
     row("a letter", "12x", "12");
     row("a unit", "12.5 cups", "12.5 ");
     row("words", "cups", "");
-    row("a comma that is no separator yet", "12,", "12");
+    row("a comma for a point", "12,", "12,");
 }
 
 void tst_FigureText::theBegunPartOfAText()
