@@ -88,6 +88,11 @@ void tst_ConverterWindow::typingFromLeftToRightGivesTheNumberTyped_data()
             QTest::addRow("%s in %s", keys, locale)
                 << QString::fromLatin1(locale) << typed << number;
         }
+        // As the key pad has it, or a recipe from elsewhere.
+        const QChar other = point == QLatin1String(",") ? u'.' : u',';
+        QTest::addRow("the other mark in %s", locale)
+            << QString::fromLatin1(locale) << QStringLiteral("12") + other + QLatin1Char('5')
+            << 12.5F;
     }
 }
 
