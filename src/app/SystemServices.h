@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/FreedesktopNotifications.h"
+#include "platform/FreedesktopStatusItem.h"
 #include "platform/LazySoundSystem.h"
 #include "platform/Service.h"
 #include "platform/SystemClock.h"
@@ -21,10 +22,12 @@ private:
     LazySoundSystem _sounds;
     FreedesktopNotifications _notifications;
     SystemDesktop _desktop;
+    FreedesktopStatusItem _statusItem;
 
     Service<Clock> _clockService{_clock};
     Service<UserDefaults> _defaultsService{_defaults};
     Service<SoundSystem> _soundService{_sounds};
     Service<DesktopNotifications> _notificationService{_notifications};
     Service<Desktop> _desktopService{_desktop};
+    Service<StatusItem> _statusItemService{_statusItem};
 };

@@ -2,11 +2,13 @@
 
 #include "app/AuxiliaryWindow.h"
 #include "app/MainMenu.h"
+#include "app/StatusPresenter.h"
 #include "app/WebPage.h"
 #include "app/WufferApplication.h"
 #include "platform/Desktop.h"
 #include "platform/NotificationCenter.h"
 #include "platform/Service.h"
+#include "platform/StatusItem.h"
 #include "platform/UserDefaults.h"
 #include "settings/WufferWindow.h"
 #include "timer/Wuffer.h"
@@ -19,7 +21,10 @@ constexpr QStringView kLaunchPreset = u"Open Preset ⌘1";
 constexpr QStringView kLaunchAndStartPreset = u"Open and Start Preset ⌘1";
 } // namespace
 
-WufferController::WufferController() : _mainMenu(std::make_unique<MainMenu>(*this)) {}
+WufferController::WufferController() :
+    _mainMenu(std::make_unique<MainMenu>(*this)),
+    _statusItem(std::make_unique<StatusPresenter>(Service<StatusItem>::current()))
+{}
 
 WufferController::~WufferController() = default;
 
@@ -114,7 +119,15 @@ bool WufferController::validateMenuItem(Operation /*action*/) const
 
 void WufferController::populatePresetsMenu() {}
 
-void WufferController::refreshStatusItem() {}
+void WufferController::refreshStatusItem()
+{
+    _statusItem->refreshStatusItem();
+}
+
+void WufferController::removeStatusBar()
+{
+    _statusItem->removeStatusBar();
+}
 
 Wuffer *WufferController::newestWuffer()
 {

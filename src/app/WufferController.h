@@ -6,6 +6,7 @@
 
 class AuxiliaryWindow;
 class MainMenu;
+class StatusPresenter;
 class Wuffer;
 
 /// The one controller of the program: decides what opens at launch, makes timers and places their
@@ -46,8 +47,10 @@ public:
 
     /// Fills the Presets menu; there are no presets yet.
     void populatePresetsMenu();
-    /// Shows the running timers in the status item; there is no status item yet.
+    /// Brings the status item up to date with the timers.
     void refreshStatusItem();
+    /// Empties the status item.
+    void removeStatusBar();
 
 private:
     [[nodiscard]] static Wuffer *newestWuffer();
@@ -56,6 +59,7 @@ private:
     void show(std::unique_ptr<AuxiliaryWindow> &window, const QString &title);
 
     std::unique_ptr<MainMenu> _mainMenu;
+    std::unique_ptr<StatusPresenter> _statusItem;
     std::unique_ptr<AuxiliaryWindow> _preferencesWindow;
     std::unique_ptr<AuxiliaryWindow> _converterWindow;
     std::unique_ptr<AuxiliaryWindow> _measurementsWindow;

@@ -49,6 +49,8 @@ public:
     [[nodiscard]] QString description() const;
     /// What the big display says.
     [[nodiscard]] QString statusString() const;
+    /// The colour in which it says so.
+    [[nodiscard]] QColor currentTextColor() const;
 
     // The run cycle: WufferRunCycle.cpp, WufferAlarmPhase.cpp.
 

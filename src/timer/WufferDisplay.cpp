@@ -62,6 +62,11 @@ void Wuffer::setColorForDisplayText(const QColor &color, bool elapsedToo)
         _ui->_elapsedLabel->setTextColor(color);
 }
 
+QColor Wuffer::currentTextColor() const
+{
+    return _ui->_resultLabel->textColor();
+}
+
 void Wuffer::setDefaultDisplayValues()
 {
     setResultLabelText(BuildInfo::name());

@@ -3,6 +3,7 @@
 #include "platform/Desktop.h"
 #include "platform/DesktopNotifications.h"
 #include "platform/Sound.h"
+#include "platform/StatusItem.h"
 
 #include <QHash>
 #include <QStringList>
@@ -104,4 +105,14 @@ public:
     std::vector<QWidget *> attentionAskedFor;
     std::vector<QUrl> opened;
     int beeps = 0;
+};
+
+/// Shows nothing, and counts how often it would have been shown anew.
+class FakeStatusItem final : public StatusItem
+{
+public:
+    int changes = 0;
+
+protected:
+    void changed() override { ++changes; }
 };

@@ -28,6 +28,7 @@ public:
     FakeSoundSystem sounds;
     FakeNotifications notifications;
     FakeDesktop desktop;
+    FakeStatusItem statusItem;
 
 private:
     Service<Clock> _clockService{clock};
@@ -35,4 +36,5 @@ private:
     Service<SoundSystem> _soundService{sounds};
     Service<DesktopNotifications> _notificationService{notifications};
     Service<Desktop> _desktopService{desktop};
+    Service<StatusItem> _statusItemService{statusItem};
 };
