@@ -93,7 +93,7 @@ void WindowManager::send(QByteArrayView order, xcb_window_t window, uint32_t fir
 static void askWindowManagerFor(const QWidget &window)
 {
     const auto *x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-    if (!x11)
+    if (!x11 || !x11->connection())
         return;
     const WindowManager manager(x11->connection());
     const auto number = static_cast<xcb_window_t>(window.winId());

@@ -112,11 +112,15 @@ void FreedesktopStatusItem::publish()
     if (!_isWatched)
         return;
     const auto icon = StatusIcon::of(image(), attributedTitle(), QApplication::palette());
-    // A menu that is open is there until it closes.
-    _dbusMenu->setMenu(menu());
-    _notifier->show({icon, attributedTitle().text, menu() || _dbusMenu->isOpen()});
-    if (*_isWatched || isEmpty())
+    if (*_isWatched) {
         _tray->hide();
-    else
-        _tray->show(icon, _notifier->title());
+        // A menu that is open is there until it closes.
+        _dbusMenu->setMenu(menu());
+        _notifier->show({icon, attributedTitle().text, menu() || _dbusMenu->isOpen()});
+    } else if (isEmpty()) {
+        _tray->hide();
+    } else if (QGuiApplication::platformName() == QLatin1String("xcb")) {
+        // Where there are no X windows, no tray takes one in.
+        _tray->show(icon, StatusNotifierItem::titleFor(attributedTitle().text));
+    }
 }

@@ -30,11 +30,10 @@ QString StatusNotifierItem::id()
     return QGuiApplication::desktopFileName();
 }
 
-QString StatusNotifierItem::title() const
+QString StatusNotifierItem::titleFor(const QString &label)
 {
     const QString program = QGuiApplication::applicationDisplayName();
-    return _content.label.isEmpty() ? program
-                                    : program + QStringLiteral(": ") + _content.label.trimmed();
+    return label.isEmpty() ? program : program + QStringLiteral(": ") + label.trimmed();
 }
 
 QString StatusNotifierItem::status() const

@@ -59,10 +59,12 @@ public:
     /// Shows this in place of what was shown before.
     void show(const Content &content);
 
+    /// The name of the program with the label.
+    [[nodiscard]] static QString titleFor(const QString &label);
+
     [[nodiscard]] static QString category() { return QStringLiteral("ApplicationStatus"); }
     [[nodiscard]] static QString id();
-    /// The name of the program with the label.
-    [[nodiscard]] QString title() const;
+    [[nodiscard]] QString title() const { return titleFor(_content.label); }
     [[nodiscard]] QString status() const;
     [[nodiscard]] static int windowId() { return 0; }
     [[nodiscard]] StatusNotifier::Pixmaps iconPixmap() const;

@@ -116,3 +116,19 @@ public:
 protected:
     void changed() override { ++changes; }
 };
+
+/// A list with the lines that the test gives it, that keeps which have been chosen.
+class FakeStatusMenu final : public StatusMenu
+{
+public:
+    [[nodiscard]] std::vector<Line> lines() override
+    {
+        ++timesAsked;
+        return current;
+    }
+    void choose(int id) override { chosen.push_back(id); }
+
+    std::vector<Line> current;
+    std::vector<int> chosen;
+    int timesAsked = 0;
+};

@@ -11,7 +11,7 @@ class Test : public QObject
 {
     Q_OBJECT
 
-private Q_SLOTS:
+protected Q_SLOTS:
     void init()
     {
         // The display that is only in memory says so whenever a window wants more of it.
