@@ -11,8 +11,10 @@ StatusNotifierItem::StatusNotifierItem(QString menuPath, Handler activate, Handl
 void StatusNotifierItem::show(const Content &content)
 {
     const Content before = std::exchange(_content, content);
-    if (_content.icon != before.icon)
+    if (_content.icon != before.icon) {
+        _pixmaps = StatusNotifier::pixmapsOf(_content.icon);
         Q_EMIT NewIcon();
+    }
     if (_content.label != before.label) {
         Q_EMIT NewTitle();
         Q_EMIT NewToolTip();
@@ -39,11 +41,6 @@ QString StatusNotifierItem::titleFor(const QString &label)
 QString StatusNotifierItem::status() const
 {
     return _content.isEmpty() ? QStringLiteral("Passive") : QStringLiteral("Active");
-}
-
-StatusNotifier::Pixmaps StatusNotifierItem::iconPixmap() const
-{
-    return StatusNotifier::pixmapsOf(_content.icon);
 }
 
 StatusNotifier::ToolTip StatusNotifierItem::toolTip() const

@@ -67,7 +67,7 @@ public:
     [[nodiscard]] QString title() const { return titleFor(_content.label); }
     [[nodiscard]] QString status() const;
     [[nodiscard]] static int windowId() { return 0; }
-    [[nodiscard]] StatusNotifier::Pixmaps iconPixmap() const;
+    [[nodiscard]] StatusNotifier::Pixmaps iconPixmap() const { return _pixmaps; }
     [[nodiscard]] StatusNotifier::ToolTip toolTip() const;
     [[nodiscard]] bool itemIsMenu() const { return _content.hasMenu; }
     /// The path of the menu, or the one that says that there is none.
@@ -96,6 +96,8 @@ Q_SIGNALS:
 
 private:
     Content _content;
+    /// Kept, because some panels ask for everything whenever anything changes.
+    StatusNotifier::Pixmaps _pixmaps;
     QString _menuPath;
     Handler _activate;
     Handler _showMenu;

@@ -53,7 +53,8 @@ void TrayIcon::makeTray()
     _tray = std::make_unique<QSystemTrayIcon>();
     connect(_tray.get(), &QSystemTrayIcon::activated, this,
             [this](QSystemTrayIcon::ActivationReason reason) {
-                if (reason == QSystemTrayIcon::Trigger)
+                // Two quick presses are two presses.
+                if (reason == QSystemTrayIcon::Trigger || reason == QSystemTrayIcon::DoubleClick)
                     press();
                 else if (reason == QSystemTrayIcon::Context)
                     openMenu();
