@@ -83,10 +83,11 @@ void FreedesktopStatusItem::askForWatcher()
     connect(call, &QDBusPendingCallWatcher::finished, this,
             [this](QDBusPendingCallWatcher *answer) {
                 const QDBusPendingReply<bool> hasOwner = *answer;
-                // It may have come or gone while the question was under way.
-                if (_isWatched)
+                // It may have come or gone while the question was under way. A bus that gives no
+                // answer has no panels either.
+                if (_isWatched || !hasOwner.isValid())
                     return;
-                if (hasOwner.isValid() && hasOwner.value())
+                if (hasOwner.value())
                     watcherAppeared();
                 else
                     watcherVanished();
@@ -104,6 +105,8 @@ void FreedesktopStatusItem::watcherVanished()
 {
     _isWatched = false;
     _dbusMenu->forgetPanel();
+    // The bus has just spoken.
+    _tray->prepare();
     publish();
 }
 
@@ -119,8 +122,7 @@ void FreedesktopStatusItem::publish()
         _notifier->show({icon, attributedTitle().text, menu() || _dbusMenu->isOpen()});
     } else if (isEmpty()) {
         _tray->hide();
-    } else if (QGuiApplication::platformName() == QLatin1String("xcb")) {
-        // Where there are no X windows, no tray takes one in.
+    } else {
         _tray->show(icon, StatusNotifierItem::titleFor(attributedTitle().text));
     }
 }

@@ -3,6 +3,7 @@
 #include "platform/StatusItem.h"
 
 #include <QCursor>
+#include <QGuiApplication>
 #include <QSystemTrayIcon>
 
 TrayIcon::TrayIcon(StatusItem &item) : _item(item) {}
@@ -12,7 +13,7 @@ TrayIcon::~TrayIcon() = default;
 void TrayIcon::show(const StatusIcon &icon, const QString &toolTip)
 {
     if (!_tray)
-        makeTray();
+        return;
     if (icon != _shown) {
         QIcon sizes;
         for (const int size : {16, 22, 24, 32, 44, 48})
@@ -48,8 +49,12 @@ void TrayIcon::press()
         _item.sendAction();
 }
 
-void TrayIcon::makeTray()
+void TrayIcon::prepare()
 {
+    // Where there are no X windows, no tray takes one in.
+    if (_tray || QGuiApplication::platformName() != QLatin1String("xcb"))
+        return;
+    // Qt asks the bus in here, and waits for the answer.
     _tray = std::make_unique<QSystemTrayIcon>();
     connect(_tray.get(), &QSystemTrayIcon::activated, this,
             [this](QSystemTrayIcon::ActivationReason reason) {

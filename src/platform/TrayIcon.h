@@ -11,8 +11,8 @@
 class QSystemTrayIcon;
 class StatusItem;
 
-/// The status item in a tray that takes windows in, or in whatever else Qt finds: the picture with
-/// the title as its tooltip. It is there only while it has been given something to show.
+/// The status item in a tray that takes X windows in: the picture, with the title as its tooltip.
+/// It is there only while it has been given something to show.
 class TrayIcon final : public QObject
 {
     Q_OBJECT
@@ -22,7 +22,11 @@ public:
     explicit TrayIcon(StatusItem &item);
     ~TrayIcon() override;
 
-    /// Shows the item as it is now.
+    /// Makes itself ready to be shown. This may wait for the session bus, so call it when that
+    /// has just shown that it answers, or that it is missing. As often as you like.
+    void prepare();
+
+    /// Shows the item as it is now; does nothing before it is ready.
     void show(const StatusIcon &icon, const QString &toolTip);
     void hide();
 
@@ -32,8 +36,6 @@ public:
     void press();
 
 private:
-    void makeTray();
-
     StatusItem &_item;
     std::unique_ptr<QSystemTrayIcon> _tray;
     std::unique_ptr<StatusPopup> _popup;

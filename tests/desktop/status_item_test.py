@@ -4,8 +4,10 @@
 Usage: status_item_test.py WUFFER FOLDER [unittest arguments]
 """
 
+import signal
 import time
 
+from support import processes
 from support.case import DesktopTest, main
 from support.panel import Tint2, XfcePanel
 from support.waiting import wait_until
@@ -151,6 +153,28 @@ class StatusItemTest(DesktopTest):
         seconds, status = program.wait_for_end(start)
         self.assertEqual(status, 0)
         self.assertLess(seconds, 1.5)
+
+    def check_frozen_bus(self):
+        program = self.launch(settings=MUTED)
+        program.wait_for_focus_in("Minutes")
+        time.sleep(0.5)
+        processes.signal_group(self.session.bus_daemon, signal.SIGSTOP)
+        try:
+            self.start_minutes(program, 5)
+            program.wait_for_button("Stop")
+            program.wait_for_text("Time", "4m 58s")
+            self.assertLess(program.answers(), 0.5)
+            self.quit(program)
+        finally:
+            processes.signal_group(self.session.bus_daemon, signal.SIGCONT)
+
+    def test_a_bus_that_no_longer_answers_stops_nothing(self):
+        self.check_frozen_bus()
+
+    def test_nor_does_it_when_there_is_a_panel(self):
+        panel = XfcePanel(self.session)
+        self.addCleanup(panel.close)
+        self.check_frozen_bus()
 
     def test_the_settings_can_do_without_it(self):
         panel = XfcePanel(self.session)
