@@ -3,7 +3,7 @@
 #include "platform/Date.h"
 
 #include <algorithm>
-#include <ranges>
+#include <iterator>
 #include <vector>
 
 /// Which timers run, and in what order they end. For the timers of the program and for anything
@@ -18,6 +18,12 @@ template<class Timer> struct Running
 
     [[nodiscard]] friend bool operator==(const Running &, const Running &) = default;
 };
+
+template<class Timer>
+[[nodiscard]] bool endsBefore(const Running<Timer> &one, const Running<Timer> &other)
+{
+    return one.end.timeIntervalSinceDate(other.end) < 0;
+}
 
 /// Those of the timers that run, in the same order.
 template<class Timer>
@@ -35,9 +41,8 @@ template<class Timer>
 /// The one that ends first, of several the last in the list; null when there is none.
 template<class Timer> [[nodiscard]] Timer *soonestEnding(const std::vector<Running<Timer>> &running)
 {
-    const auto backwards = running | std::views::reverse;
-    const auto first = std::ranges::min_element(backwards, {}, &Running<Timer>::end);
-    return first == backwards.end() ? nullptr : first->timer;
+    const auto first = std::min_element(running.rbegin(), running.rend(), endsBefore<Timer>);
+    return first == running.rend() ? nullptr : first->timer;
 }
 
 /// From the one that ends first to the one that ends last. Of several that end at the same moment,
@@ -46,7 +51,7 @@ template<class Timer>
 [[nodiscard]] std::vector<Timer *> inOrderOfEnding(std::vector<Running<Timer>> running)
 {
     std::ranges::reverse(running);
-    std::ranges::stable_sort(running, {}, &Running<Timer>::end);
+    std::stable_sort(running.begin(), running.end(), endsBefore<Timer>);
     std::vector<Timer *> ordered;
     ordered.reserve(running.size());
     std::ranges::transform(running, std::back_inserter(ordered), &Running<Timer>::timer);

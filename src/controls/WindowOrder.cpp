@@ -10,6 +10,9 @@
 
 namespace
 {
+/// A truth value of the X protocol.
+constexpr uint8_t kNo = 0;
+
 /// What is said to the window manager, and asked of it, over the program's connection.
 class WindowManager final
 {
@@ -56,7 +59,7 @@ void WindowManager::activate(xcb_window_t window) const
 xcb_atom_t WindowManager::atom(QByteArrayView name) const
 {
     const auto question =
-        xcb_intern_atom(_connection, false, static_cast<uint16_t>(name.size()), name.data());
+        xcb_intern_atom(_connection, kNo, static_cast<uint16_t>(name.size()), name.data());
     const auto answer = owned(xcb_intern_atom_reply(_connection, question, nullptr));
     return answer ? answer->atom : xcb_atom_t(XCB_ATOM_NONE);
 }
@@ -64,7 +67,7 @@ xcb_atom_t WindowManager::atom(QByteArrayView name) const
 std::optional<uint32_t> WindowManager::number(QByteArrayView property, xcb_window_t window) const
 {
     const auto question =
-        xcb_get_property(_connection, false, window, atom(property), XCB_ATOM_CARDINAL, 0, 1);
+        xcb_get_property(_connection, kNo, window, atom(property), XCB_ATOM_CARDINAL, 0, 1);
     const auto answer = owned(xcb_get_property_reply(_connection, question, nullptr));
     if (!answer || answer->format != 32 || answer->value_len != 1)
         return {};
@@ -81,7 +84,7 @@ void WindowManager::send(QByteArrayView order, xcb_window_t window, uint32_t fir
     message.type = atom(order);
     message.data.data32[0] = first;
     message.data.data32[1] = second;
-    xcb_send_event(_connection, false, _root,
+    xcb_send_event(_connection, kNo, _root,
                    XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT | XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY,
                    reinterpret_cast<const char *>(&message));
     xcb_flush(_connection);

@@ -46,8 +46,10 @@ FreedesktopStatusItem::FreedesktopStatusItem() :
             &FreedesktopStatusItem::watcherAppeared);
     connect(_watcher.get(), &QDBusServiceWatcher::serviceUnregistered, this,
             &FreedesktopStatusItem::watcherVanished);
-    // The first window comes first.
-    QTimer::singleShot(0, this, &FreedesktopStatusItem::start);
+    // The first window comes first, the bus when the event loop has come round.
+    connect(&_publishTimer, &QTimer::timeout, this, &FreedesktopStatusItem::start,
+            Qt::SingleShotConnection);
+    _publishTimer.start();
 }
 
 FreedesktopStatusItem::~FreedesktopStatusItem() = default;
@@ -119,7 +121,7 @@ void FreedesktopStatusItem::publish()
         _tray->hide();
         // A menu that is open is there until it closes.
         _dbusMenu->setMenu(menu());
-        _notifier->show({icon, attributedTitle().text, menu() || _dbusMenu->isOpen()});
+        _notifier->show({icon, attributedTitle().text, menu() != nullptr || _dbusMenu->isOpen()});
     } else if (isEmpty()) {
         _tray->hide();
     } else {

@@ -158,7 +158,7 @@ void tst_FreedesktopStatusItem::theIconIsSquareInTheSizesOfPanels()
     QList<int> sizes;
     for (const StatusNotifier::Pixmap &pixmap : pixmaps()) {
         QCOMPARE(pixmap.width, pixmap.height);
-        QCOMPARE(pixmap.pixels.size(), 4 * pixmap.width * pixmap.height);
+        QCOMPARE(pixmap.pixels.size(), qsizetype(4) * pixmap.width * pixmap.height);
         sizes << pixmap.width;
     }
     QCOMPARE(sizes, (QList<int>{16, 22, 24, 32, 44, 48}));
