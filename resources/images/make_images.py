@@ -11,6 +11,7 @@ It writes, next to itself:
     sound_high.png, sound_high@2x.png              a sounding loudspeaker
     sound_mute.png, sound_mute@2x.png              the same one, crossed out
     chain.png, chain@2x.png                        two links, dragged to join timers
+    status_icon-22.png ... status_icon-48.png      the icon in the panel
 
 A picture is a list of shapes whose outlines use the SVG path letters M, L, C
 and Z. The same shapes are painted into the PNG files and written into the SVG
@@ -195,6 +196,19 @@ def small_icon() -> Picture:
     ]
 
 
+def status_icon() -> Picture:
+    """For 22 units: the timer alone, whose ring stands out from any panel."""
+    return [
+        Shape(rectangle(10, 2, 2, 3), TEAL_DARK),
+        Shape(line(8.5, 1.5, 13.5, 1.5), stroke=TEAL, width=2),
+        Shape(circle(11, 13, 9), TEAL),
+        Shape(circle(11, 13, 6.6), CREAM),
+        Shape(quarter(11, 13, 6.6), CARAMEL),
+        Shape(line(11, 13, 11, 8.5), stroke=INK, width=1.6),
+        Shape(line(11, 13, 14, 13), stroke=INK, width=1.6),
+    ]
+
+
 def sound_button(signs: list[str], colour: str) -> Picture:
     """For 24 units; only what comes out of the loudspeaker differs."""
     speaker = Shape(LOUDSPEAKER, SLATE, SLATE, 2)
@@ -318,6 +332,8 @@ def main() -> None:
     paint(medium_icon(), "wuffer-32.png", 32, 32)
     for size in (48, 64, 128, 256):
         paint(large_icon(), f"wuffer-{size}.png", 256, size)
+    for size in (22, 24, 32, 44, 48):
+        paint(status_icon(), f"status_icon-{size}.png", 22, size)
     write_svg(large_icon(), "wuffer.svg", 256)
     for name, picture in ("sound_high", sounding()), ("sound_mute", muted()):
         paint(picture, f"{name}.png", 24, 24)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/FreedesktopNotifications.h"
+#include "platform/FreedesktopStatusItem.h"
 #include "platform/LazySoundSystem.h"
 #include "platform/Service.h"
 #include "platform/SystemClock.h"
@@ -23,6 +24,7 @@ private:
     FreedesktopNotifications _notifications;
     SystemDesktop _desktop;
     SystemOpenPanel _openPanel;
+    FreedesktopStatusItem _statusItem;
 
     Service<Clock> _clockService{_clock};
     Service<UserDefaults> _defaultsService{_defaults};
@@ -30,4 +32,5 @@ private:
     Service<DesktopNotifications> _notificationService{_notifications};
     Service<Desktop> _desktopService{_desktop};
     Service<OpenPanel> _openPanelService{_openPanel};
+    Service<StatusItem> _statusItemService{_statusItem};
 };

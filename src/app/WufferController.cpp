@@ -3,11 +3,13 @@
 #include "app/AuxiliaryWindow.h"
 #include "app/MainMenu.h"
 #include "app/PresetsMenu.h"
+#include "app/StatusPresenter.h"
 #include "app/WebPage.h"
 #include "app/WufferApplication.h"
 #include "platform/Desktop.h"
 #include "platform/NotificationCenter.h"
 #include "platform/Service.h"
+#include "platform/StatusItem.h"
 #include "platform/UserDefaults.h"
 #include "preferences/PreferenceTexts.h"
 #include "preferences/Preferences.h"
@@ -20,7 +22,8 @@
 
 WufferController::WufferController() :
     _presetsMenu(std::make_unique<PresetsMenu>(*this)),
-    _mainMenu(std::make_unique<MainMenu>(*this, *_presetsMenu))
+    _mainMenu(std::make_unique<MainMenu>(*this, *_presetsMenu)),
+    _statusItem(std::make_unique<StatusPresenter>(Service<StatusItem>::current()))
 {}
 
 WufferController::~WufferController() = default;
@@ -170,7 +173,15 @@ void WufferController::setPreset(const QAction &sender)
         timer->setPreset(PresetsMenu::presetNumber(sender));
 }
 
-void WufferController::refreshStatusItem() {}
+void WufferController::refreshStatusItem()
+{
+    _statusItem->refreshStatusItem();
+}
+
+void WufferController::removeStatusBar()
+{
+    _statusItem->removeStatusBar();
+}
 
 Wuffer *WufferController::newestWuffer()
 {

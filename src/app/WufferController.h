@@ -10,6 +10,7 @@ class MainMenu;
 class PresetsMenu;
 class Preferences;
 class QMainWindow;
+class StatusPresenter;
 class Wuffer;
 
 /// The one controller of the program: decides what opens at launch, makes timers and places their
@@ -61,8 +62,10 @@ public:
     /// Saves the timer of the active window into the preset of the menu item. Nothing happens
     /// when the active window is not a timer's.
     void setPreset(const QAction &sender);
-    /// Shows the running timers in the status item; there is no status item yet.
+    /// Brings the status item up to date with the timers.
     void refreshStatusItem();
+    /// Empties the status item.
+    void removeStatusBar();
 
 private:
     [[nodiscard]] static Wuffer *newestWuffer();
@@ -76,6 +79,7 @@ private:
 
     std::unique_ptr<PresetsMenu> _presetsMenu;
     std::unique_ptr<MainMenu> _mainMenu;
+    std::unique_ptr<StatusPresenter> _statusItem;
     std::unique_ptr<AuxiliaryWindow> _preferencesWindow;
     std::unique_ptr<Preferences> _preferences;
     std::unique_ptr<AuxiliaryWindow> _converterWindow;

@@ -54,6 +54,8 @@ public:
     [[nodiscard]] QString description() const;
     /// What the big display says.
     [[nodiscard]] QString statusString() const;
+    /// The colour in which it says so.
+    [[nodiscard]] QColor currentTextColor() const;
 
     // The run cycle: WufferRunCycle.cpp, WufferAlarmPhase.cpp.
 
@@ -92,8 +94,6 @@ public:
     void setResultLabelText(const QString &text);
     /// Colours every text of the display, the elapsed line only if it is asked for.
     void setColorForDisplayText(TextColor color, bool elapsedToo);
-    /// The colour that the big display is in.
-    [[nodiscard]] QColor currentTextColor() const;
     /// The idle display.
     void setDefaultDisplayValues();
 

@@ -4,6 +4,7 @@
 #include "platform/DesktopNotifications.h"
 #include "platform/OpenPanel.h"
 #include "platform/Sound.h"
+#include "platform/StatusItem.h"
 
 #include <QHash>
 #include <QStringList>
@@ -126,4 +127,30 @@ public:
 
 private:
     std::vector<QUrl> _choices;
+};
+
+/// Shows nothing, and counts how often it would have been shown anew.
+class FakeStatusItem final : public StatusItem
+{
+public:
+    int changes = 0;
+
+protected:
+    void changed() override { ++changes; }
+};
+
+/// A list with the lines that the test gives it, that keeps which have been chosen.
+class FakeStatusMenu final : public StatusMenu
+{
+public:
+    [[nodiscard]] std::vector<Line> lines() override
+    {
+        ++timesAsked;
+        return current;
+    }
+    void choose(int id) override { chosen.push_back(id); }
+
+    std::vector<Line> current;
+    std::vector<int> chosen;
+    int timesAsked = 0;
 };

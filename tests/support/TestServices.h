@@ -29,6 +29,7 @@ public:
     FakeNotifications notifications;
     FakeDesktop desktop;
     FakeOpenPanel openPanel;
+    FakeStatusItem statusItem;
 
 private:
     Service<Clock> _clockService{clock};
@@ -37,4 +38,5 @@ private:
     Service<DesktopNotifications> _notificationService{notifications};
     Service<Desktop> _desktopService{desktop};
     Service<OpenPanel> _openPanelService{openPanel};
+    Service<StatusItem> _statusItemService{statusItem};
 };

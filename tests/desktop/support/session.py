@@ -121,6 +121,7 @@ class Session:
         daemon = processes.start(
             ["dbus-daemon", f"--config-file={configuration}", "--nofork",
              f"--print-address={writer}"], self.environment, pass_fds=[writer])
+        self.bus_daemon = daemon
         self.closers.append(lambda: processes.end(daemon))
         os.close(writer)
         with os.fdopen(reader, encoding="ascii") as pipe:

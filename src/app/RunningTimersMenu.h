@@ -1,0 +1,35 @@
+#pragma once
+
+#include "app/RunningTimers.h"
+#include "platform/StatusMenu.h"
+
+#include <QHash>
+
+class Wuffer;
+
+/// The list of all timers that run, in the order in which they end. A timer keeps its number for
+/// as long as it is open.
+class RunningTimersMenu final : public StatusMenu
+{
+    Q_OBJECT
+
+public:
+    RunningTimersMenu() = default;
+
+    /// Lists these timers from now on. What their lines say is asked of them when it is to be
+    /// shown.
+    void setTimers(const std::vector<RunningTimers::Running<Wuffer>> &running);
+
+    [[nodiscard]] std::vector<Line> lines() override;
+    /// Brings the window of the timer to the front.
+    void choose(int id) override;
+
+private:
+    void number(Wuffer &timer);
+    void forget(const QObject *timer);
+
+    std::vector<RunningTimers::Running<Wuffer>> _running;
+    QHash<const QObject *, int> _ids;
+    QHash<int, Wuffer *> _timers;
+    int _lastId = 0;
+};

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "app/RunningTimers.h"
+#include "platform/StatusItem.h"
+
+/// What the status item is to say of the timers that run.
+template<class Timer> struct StatusDescription final
+{
+    /// The one that ends first, whom a press is meant for; null when nothing is to be seen.
+    Timer *target = nullptr;
+    /// Its status in its colour.
+    StatusTitle title;
+    /// Whether a press opens the list of all that run.
+    bool hasMenu = false;
+
+    [[nodiscard]] static StatusDescription
+    of(const std::vector<RunningTimers::Running<Timer>> &running)
+    {
+        Timer *first = RunningTimers::soonestEnding(running);
+        if (!first)
+            return {};
+        const QString text = first->statusString() + QLatin1Char(' ');
+        return {first, {text, first->currentTextColor(), kFontSize}, running.size() >= 2};
+    }
+
+    /// The line for a timer in that list.
+    [[nodiscard]] static QString line(const Timer &timer)
+    {
+        return timer.title() + QStringLiteral(": ") + timer.statusString();
+    }
+
+private:
+    static constexpr double kFontSize = 15;
+};

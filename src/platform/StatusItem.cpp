@@ -1,0 +1,44 @@
+#include "platform/StatusItem.h"
+
+void StatusItem::setImage(const QIcon &image)
+{
+    if (image.cacheKey() == _image.cacheKey())
+        return;
+    _image = image;
+    changed();
+}
+
+void StatusItem::setAttributedTitle(const StatusTitle &title)
+{
+    if (title == _title)
+        return;
+    _title = title;
+    changed();
+}
+
+void StatusItem::setTitle(const QString &text)
+{
+    StatusTitle title = _title;
+    title.text = text;
+    setAttributedTitle(title);
+}
+
+void StatusItem::setTarget(QObject *target, std::function<void()> action)
+{
+    _target = target;
+    _action = std::move(action);
+}
+
+void StatusItem::setMenu(StatusMenu *menu)
+{
+    if (menu == _menu)
+        return;
+    _menu = menu;
+    changed();
+}
+
+void StatusItem::sendAction() const
+{
+    if (_target && _action)
+        _action();
+}

@@ -1,0 +1,61 @@
+#include "platform/StatusNotifierItem.h"
+
+#include <QGuiApplication>
+
+StatusNotifierItem::StatusNotifierItem(QString menuPath, Handler activate, Handler showMenu) :
+    _menuPath(std::move(menuPath)), _activate(std::move(activate)), _showMenu(std::move(showMenu))
+{
+    StatusNotifier::registerTypes();
+}
+
+void StatusNotifierItem::show(const Content &content)
+{
+    const Content before = std::exchange(_content, content);
+    if (_content.icon != before.icon) {
+        _pixmaps = StatusNotifier::pixmapsOf(_content.icon);
+        Q_EMIT NewIcon();
+    }
+    if (_content.label != before.label) {
+        Q_EMIT NewTitle();
+        Q_EMIT NewToolTip();
+        Q_EMIT XAyatanaNewLabel(label(), noName());
+    }
+    if (_content.hasMenu != before.hasMenu)
+        Q_EMIT NewMenu();
+    // Last, so that a panel that shows the item has been told of what it shows.
+    if (_content.isEmpty() != before.isEmpty())
+        Q_EMIT NewStatus(status());
+}
+
+QString StatusNotifierItem::id()
+{
+    return QGuiApplication::desktopFileName();
+}
+
+QString StatusNotifierItem::titleFor(const QString &label)
+{
+    const QString program = QGuiApplication::applicationDisplayName();
+    return label.isEmpty() ? program : program + QStringLiteral(": ") + label.trimmed();
+}
+
+QString StatusNotifierItem::status() const
+{
+    return _content.isEmpty() ? QStringLiteral("Passive") : QStringLiteral("Active");
+}
+
+StatusNotifier::ToolTip StatusNotifierItem::toolTip() const
+{
+    return {{}, {}, title(), {}};
+}
+
+QDBusObjectPath StatusNotifierItem::menu() const
+{
+    return QDBusObjectPath(_content.hasMenu ? _menuPath : QStringLiteral("/NO_DBUSMENU"));
+}
+
+void StatusNotifierItem::ProvideXdgActivationToken(const QString &token)
+{
+    // Qt takes it from there for the next window that it activates.
+    if (QGuiApplication::platformName().startsWith(QLatin1String("wayland")))
+        qputenv("XDG_ACTIVATION_TOKEN", token.toUtf8());
+}

@@ -1,0 +1,67 @@
+#include "platform/TrayIcon.h"
+
+#include "platform/StatusItem.h"
+
+#include <QCursor>
+#include <QGuiApplication>
+#include <QSystemTrayIcon>
+
+TrayIcon::TrayIcon(StatusItem &item) : _item(item) {}
+
+TrayIcon::~TrayIcon() = default;
+
+void TrayIcon::show(const StatusIcon &icon, const QString &toolTip)
+{
+    if (!_tray)
+        return;
+    if (icon != _shown) {
+        QIcon sizes;
+        for (const int size : {16, 22, 24, 32, 44, 48})
+            sizes.addPixmap(QPixmap::fromImage(icon.painted(size)));
+        _tray->setIcon(sizes);
+        _shown = icon;
+    }
+    if (toolTip != _tray->toolTip())
+        _tray->setToolTip(toolTip);
+    _tray->show();
+}
+
+void TrayIcon::hide()
+{
+    if (_tray)
+        _tray->hide();
+}
+
+void TrayIcon::openMenu()
+{
+    if (!_item.menu())
+        return;
+    if (!_popup)
+        _popup = std::make_unique<StatusPopup>();
+    _popup->open(*_item.menu(), QCursor::pos());
+}
+
+void TrayIcon::press()
+{
+    if (_item.menu())
+        openMenu();
+    else
+        _item.sendAction();
+}
+
+void TrayIcon::prepare()
+{
+    // Where there are no X windows, no tray takes one in.
+    if (_tray || QGuiApplication::platformName() != QLatin1String("xcb"))
+        return;
+    // Qt asks the bus in here, and waits for the answer.
+    _tray = std::make_unique<QSystemTrayIcon>();
+    connect(_tray.get(), &QSystemTrayIcon::activated, this,
+            [this](QSystemTrayIcon::ActivationReason reason) {
+                // Two quick presses are two presses.
+                if (reason == QSystemTrayIcon::Trigger || reason == QSystemTrayIcon::DoubleClick)
+                    press();
+                else if (reason == QSystemTrayIcon::Context)
+                    openMenu();
+            });
+}

@@ -1,0 +1,144 @@
+"""Panels in which status items show."""
+
+import glob
+import os
+
+from support import processes
+from support.display import Rect
+from support.picture import Picture
+from support.session import ask
+from support.waiting import wait_until
+
+from gi.repository import GLib
+
+HEIGHT = 30
+
+XFCE_CONFIGURATION = """<?xml version="1.0" encoding="UTF-8"?>
+<channel name="xfce4-panel" version="1.0">
+  <property name="configver" type="int" value="2"/>
+  <property name="panels" type="array">
+    <value type="int" value="1"/>
+    <property name="panel-1" type="empty">
+      <property name="position" type="string" value="p=6;x=0;y=0"/>
+      <property name="position-locked" type="bool" value="true"/>
+      <property name="length" type="uint" value="100"/>
+      <property name="size" type="uint" value="{height}"/>
+      <property name="icon-size" type="uint" value="22"/>
+      <property name="plugin-ids" type="array">
+        <value type="int" value="1"/>
+        <value type="int" value="2"/>
+      </property>
+    </property>
+  </property>
+  <property name="plugins" type="empty">
+    <property name="plugin-1" type="string" value="separator">
+      <property name="expand" type="bool" value="true"/>
+      <property name="style" type="uint" value="0"/>
+    </property>
+    <property name="plugin-2" type="string" value="systray"/>
+  </property>
+</channel>
+"""
+
+TINT2_CONFIGURATION = """rounded = 0
+background_color = #303030 100
+border_width = 0
+
+panel_items = FS
+panel_size = 100% {height}
+panel_position = bottom center horizontal
+panel_background_id = 1
+systray_padding = 2 2 2
+systray_icon_size = 22
+"""
+
+
+class Panel:
+    """What all panels have in common: a strip of the screen, empty until something shows."""
+
+    def __init__(self, display, top):
+        self.display = display
+        self.strip = Rect(0, top, display.width, HEIGHT)
+        self.empty = None
+
+    def look_at_empty(self):
+        """Takes note of what it looks like without an item."""
+        self.empty = Picture(self.display)
+
+    def item(self):
+        """The place of the item in the strip; nothing while there is none."""
+        picture = Picture(self.display)
+        places = [(x, y) for y in range(self.strip.y, self.strip.bottom)
+                  for x in range(self.strip.width) if picture.at(x, y) != self.empty.at(x, y)]
+        if not places:
+            return None
+        left, right = min(x for x, _ in places), max(x for x, _ in places)
+        top, bottom = min(y for _, y in places), max(y for _, y in places)
+        return Rect(left, top, right - left + 1, bottom - top + 1)
+
+    def wait_for_item(self):
+        wait_until(lambda: self.item() is not None, 5, "the item shows in the panel", 0.1)
+        return self.item()
+
+    def wait_for_no_item(self):
+        wait_until(lambda: self.item() is None, 5, "the panel is empty", 0.1)
+
+    def colors(self):
+        return Picture(self.display).colors(self.strip)
+
+    def press(self):
+        item = self.wait_for_item()
+        self.display.click(item.x + item.width // 2, item.y + item.height // 2)
+
+
+class XfcePanel(Panel):
+    """One that watches for items on the session bus."""
+
+    WATCHER = "org.kde.StatusNotifierWatcher"
+
+    def __init__(self, session):
+        super().__init__(session.display, 0)
+        processes.require("xfce4-panel")
+        self.session = session
+        folder = os.path.join(session.folder, ".config/xfce4/xfconf/xfce-perchannel-xml")
+        os.makedirs(folder, exist_ok=True)
+        with open(f"{folder}/xfce4-panel.xml", "w", encoding="utf-8") as file:
+            file.write(XFCE_CONFIGURATION.format(height=HEIGHT))
+        self.settings = processes.start(glob.glob("/usr/lib/*/xfce4/xfconf/xfconfd")[:1],
+                                        session.environment)
+        wait_until(lambda: self.is_there("org.xfce.Xfconf"), 10, "the panel's settings answer")
+        self.start()
+
+    def is_there(self, name):
+        return ask(self.session.bus, "org.freedesktop.DBus", "/", "org.freedesktop.DBus",
+                   "NameHasOwner", GLib.Variant("(s)", (name,)))[0]
+
+    def start(self):
+        self.process = processes.start(["xfce4-panel", "--disable-wm-check"],
+                                       dict(self.session.environment, NO_AT_BRIDGE="1"))
+        wait_until(lambda: self.is_there(self.WATCHER), 15, "the panel watches for items", 0.05)
+
+    def stop(self):
+        processes.end(self.process)
+        wait_until(lambda: not self.is_there(self.WATCHER), 5, "the panel has gone", 0.05)
+
+    def close(self):
+        processes.end(self.process)
+        processes.end(self.settings)
+
+
+class Tint2(Panel):
+    """One that only takes windows in."""
+
+    def __init__(self, session):
+        super().__init__(session.display, session.display.height - HEIGHT)
+        processes.require("tint2")
+        configuration = os.path.join(session.folder, "tint2rc")
+        with open(configuration, "w", encoding="ascii") as file:
+            file.write(TINT2_CONFIGURATION.format(height=HEIGHT))
+        self.process = processes.start(["tint2", "-c", configuration], session.environment)
+        wait_until(lambda: Picture(self.display).at(5, self.strip.bottom - 5) != (0, 0, 0), 10,
+                   "the panel shows", 0.05)
+
+    def close(self):
+        processes.end(self.process)

@@ -1,0 +1,366 @@
+#include "platform/FreedesktopStatusItem.h"
+#include "platform/StatusNotifierTypes.h"
+#include "support/BusPeer.h"
+#include "support/Fakes.h"
+#include "support/SessionBus.h"
+#include "support/StatusWatcher.h"
+#include "support/TestMain.h"
+
+#include <QDBusArgument>
+#include <QDBusObjectPath>
+#include <QElapsedTimer>
+#include <QMenu>
+#include <QTemporaryDir>
+
+#include <optional>
+
+namespace
+{
+const QString kItem = QStringLiteral("org.kde.StatusNotifierItem");
+const QString kPath = QStringLiteral("/StatusNotifierItem");
+
+QIcon image()
+{
+    QPixmap pixmap(22, 22);
+    pixmap.fill(Qt::green);
+    return pixmap;
+}
+
+StatusTitle title(const char *text, const QColor &color = Qt::black)
+{
+    return {QString::fromUtf8(text), color};
+}
+} // namespace
+
+/// Runs on a session bus of its own, where the test is the panel.
+class tst_FreedesktopStatusItem final : public Test
+{
+    Q_OBJECT
+
+public:
+    explicit tst_FreedesktopStatusItem(QString address) : _address(std::move(address)) {}
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void theItemRegistersUnderTheNameThatTheBusHasGiven();
+    void theItemRegistersWithEveryWatcherThatComes();
+    void theItemSaysWhatItIs();
+    void anEmptyItemIsPassive();
+    void theTitleIsLabelTitleAndToolTip();
+    void theIconIsSquareInTheSizesOfPanels();
+    void thePixelsAreAlphaFirst();
+    void thereIsAMenuOnlyWhileOneIsAttached();
+    void aPressSendsTheAction();
+    void aPressWithAMenuShowsItForPanelsThatCannot();
+    void theMiddleButtonAndTheWheelDoNothing();
+    void onlyWhatChangesIsSaid_data();
+    void onlyWhatChangesIsSaid();
+    void manyChangesAtOnceAreSaidOnce();
+    void theNewLabelComesWithItsSignal();
+    void withoutAWatcherNothingIsSaid();
+    void aWatcherThatComesLateGetsWhatIsShown();
+    void aMissingBusIsNoMatter();
+
+private:
+    /// Lets a watcher appear and waits for the item.
+    void watch()
+    {
+        _watcher.emplace(_address);
+        QTRY_COMPARE(_watcher->registered.size(), 1);
+    }
+    [[nodiscard]] BusPeer panel() const { return {_address, kPath, kItem}; }
+
+    const QString _address;
+    std::optional<StatusWatcher> _watcher;
+    std::optional<FreedesktopStatusItem> _item;
+};
+
+void tst_FreedesktopStatusItem::init()
+{
+    Test::init();
+    _item.emplace();
+}
+
+void tst_FreedesktopStatusItem::cleanup()
+{
+    _item.reset();
+    _watcher.reset();
+}
+
+void tst_FreedesktopStatusItem::theItemRegistersUnderTheNameThatTheBusHasGiven()
+{
+    watch();
+    QCOMPARE(_watcher->registered, QStringList{QDBusConnection::sessionBus().baseService()});
+}
+
+void tst_FreedesktopStatusItem::theItemRegistersWithEveryWatcherThatComes()
+{
+    watch();
+    for (int i = 0; i < 3; ++i) {
+        _watcher.reset();
+        QTest::qWait(20);
+        watch();
+    }
+}
+
+void tst_FreedesktopStatusItem::theItemSaysWhatItIs()
+{
+    watch();
+    BusPeer peer = panel();
+    QCOMPARE(peer.property(QStringLiteral("Id")), QStringLiteral("wuffer"));
+    QCOMPARE(peer.property(QStringLiteral("Category")), QStringLiteral("ApplicationStatus"));
+    QCOMPARE(peer.property(QStringLiteral("XAyatanaOrderingIndex")).toUInt(), 0U);
+}
+
+void tst_FreedesktopStatusItem::anEmptyItemIsPassive()
+{
+    watch();
+    BusPeer peer = panel();
+    const auto status = [&] { return peer.property(QStringLiteral("Status")).toString(); };
+    QCOMPARE(status(), QStringLiteral("Passive"));
+    QCOMPARE(peer.property(QStringLiteral("XAyatanaLabel")), QString());
+    _item->setAttributedTitle(title("5s "));
+    QTRY_COMPARE(status(), QStringLiteral("Active"));
+    _item->setImage(image());
+    _item->setTitle({});
+    QTRY_COMPARE(peer.property(QStringLiteral("XAyatanaLabel")), QString());
+    QCOMPARE(status(), QStringLiteral("Active"));
+    _item->setImage({});
+    QTRY_COMPARE(status(), QStringLiteral("Passive"));
+}
+
+void tst_FreedesktopStatusItem::theTitleIsLabelTitleAndToolTip()
+{
+    watch();
+    BusPeer peer = panel();
+    _item->setAttributedTitle(title("5m 3s "));
+    QTRY_COMPARE(peer.property(QStringLiteral("XAyatanaLabel")), QStringLiteral("5m 3s "));
+    const QString program = QGuiApplication::applicationDisplayName();
+    QCOMPARE(peer.property(QStringLiteral("Title")), QString(program + QStringLiteral(": 5m 3s")));
+    const auto toolTip =
+        qdbus_cast<StatusNotifier::ToolTip>(peer.property(QStringLiteral("ToolTip")));
+    QCOMPARE(toolTip.title, QString(program + QStringLiteral(": 5m 3s")));
+    QCOMPARE(toolTip.text, QString());
+}
+
+void tst_FreedesktopStatusItem::theIconIsSquareInTheSizesOfPanels()
+{
+    watch();
+    BusPeer peer = panel();
+    const auto pixmaps = [&] {
+        return qdbus_cast<StatusNotifier::Pixmaps>(peer.property(QStringLiteral("IconPixmap")));
+    };
+    QVERIFY(pixmaps().isEmpty());
+    _item->setImage(image());
+    _item->setAttributedTitle(title("5m 3s "));
+    QTRY_VERIFY(!pixmaps().isEmpty());
+    QList<int> sizes;
+    for (const StatusNotifier::Pixmap &pixmap : pixmaps()) {
+        QCOMPARE(pixmap.width, pixmap.height);
+        QCOMPARE(pixmap.pixels.size(), qsizetype(4) * pixmap.width * pixmap.height);
+        sizes << pixmap.width;
+    }
+    QCOMPARE(sizes, (QList<int>{16, 22, 24, 32, 44, 48}));
+}
+
+void tst_FreedesktopStatusItem::thePixelsAreAlphaFirst()
+{
+    watch();
+    BusPeer peer = panel();
+    QPixmap pixmap(48, 48);
+    pixmap.fill(QColor(0x12, 0x34, 0x56));
+    _item->setImage(pixmap);
+    const auto pixmaps = [&] {
+        return qdbus_cast<StatusNotifier::Pixmaps>(peer.property(QStringLiteral("IconPixmap")));
+    };
+    QTRY_VERIFY(!pixmaps().isEmpty());
+    const QByteArray pixels = pixmaps().last().pixels;
+    QCOMPARE(pixels.mid((48 * 24 + 24) * 4, 4), QByteArray("\xff\x12\x34\x56"));
+}
+
+void tst_FreedesktopStatusItem::thereIsAMenuOnlyWhileOneIsAttached()
+{
+    watch();
+    BusPeer peer = panel();
+    const auto path = [&] {
+        return peer.property(QStringLiteral("Menu")).value<QDBusObjectPath>().path();
+    };
+    _item->setAttributedTitle(title("5s "));
+    QCOMPARE(path(), QStringLiteral("/NO_DBUSMENU"));
+    QCOMPARE(peer.property(QStringLiteral("ItemIsMenu")), QVariant(false));
+    FakeStatusMenu menu;
+    _item->setMenu(&menu);
+    QTRY_COMPARE(path(), QStringLiteral("/StatusNotifierItem/Menu"));
+    QCOMPARE(peer.property(QStringLiteral("ItemIsMenu")), QVariant(true));
+    _item->setMenu(nullptr);
+    QTRY_COMPARE(path(), QStringLiteral("/NO_DBUSMENU"));
+    QCOMPARE(peer.property(QStringLiteral("ItemIsMenu")), QVariant(false));
+}
+
+void tst_FreedesktopStatusItem::aPressSendsTheAction()
+{
+    watch();
+    BusPeer peer = panel();
+    QObject target;
+    int presses = 0;
+    _item->setTarget(&target, [&] { ++presses; });
+    peer.tell(QStringLiteral("Activate"), {100, 20});
+    QCOMPARE(presses, 1);
+    peer.tell(QStringLiteral("ContextMenu"), {100, 20});
+    QCOMPARE(presses, 1);
+}
+
+void tst_FreedesktopStatusItem::aPressWithAMenuShowsItForPanelsThatCannot()
+{
+    watch();
+    BusPeer peer = panel();
+    QObject target;
+    _item->setTarget(&target, [] { qFatal("the action is not for an item with a menu"); });
+    FakeStatusMenu menu;
+    menu.current = {{1, QStringLiteral("a & b")}, {2, QStringLiteral("c")}};
+    _item->setMenu(&menu);
+    for (const char *method : {"Activate", "ContextMenu"}) {
+        peer.tell(QString::fromLatin1(method), {100, 20});
+        auto *popup = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+        QVERIFY(popup);
+        QCOMPARE(popup->actions().constFirst()->text(), QStringLiteral("a && b"));
+        menu.current[1].text = QStringLiteral("d");
+        Q_EMIT menu.textsChanged();
+        QCOMPARE(popup->actions().constLast()->text(), QStringLiteral("d"));
+        popup->actions().constLast()->trigger();
+        popup->close();
+    }
+    QCOMPARE(menu.chosen, (std::vector<int>{2, 2}));
+}
+
+void tst_FreedesktopStatusItem::theMiddleButtonAndTheWheelDoNothing()
+{
+    watch();
+    BusPeer peer = panel();
+    QObject target;
+    _item->setTarget(&target, [] { qFatal("the action is for the left button"); });
+    peer.tell(QStringLiteral("SecondaryActivate"), {1, 2});
+    peer.tell(QStringLiteral("Scroll"), {3, QStringLiteral("vertical")});
+    peer.tell(QStringLiteral("ProvideXdgActivationToken"), {QStringLiteral("token")});
+    QVERIFY(!qEnvironmentVariableIsSet("XDG_ACTIVATION_TOKEN"));
+}
+
+void tst_FreedesktopStatusItem::onlyWhatChangesIsSaid_data()
+{
+    using Change = std::function<void(StatusItem &)>;
+    QTest::addColumn<Change>("change");
+    QTest::addColumn<QStringList>("said");
+    const auto row = [](const char *name, const Change &change, const char *said) {
+        QTest::newRow(name) << change
+                            << QString::fromLatin1(said).split(QLatin1Char(' '),
+                                                               Qt::SkipEmptyParts);
+    };
+    row(
+        "nothing", [](StatusItem &item) { item.setAttributedTitle(title("5m 3s ")); }, "");
+    row(
+        "there and back",
+        [](StatusItem &item) {
+            item.setTitle({});
+            item.setAttributedTitle(title("5m 3s "));
+        },
+        "");
+    row(
+        "a second later", [](StatusItem &item) { item.setAttributedTitle(title("5m 2s ")); },
+        "NewTitle NewToolTip XAyatanaNewLabel");
+    row(
+        "a minute later", [](StatusItem &item) { item.setAttributedTitle(title("4m 2s ")); },
+        "NewIcon NewTitle NewToolTip XAyatanaNewLabel");
+    row(
+        "another colour",
+        [](StatusItem &item) { item.setAttributedTitle(title("5m 3s ", Qt::red)); }, "NewIcon");
+    row(
+        "emptied",
+        [](StatusItem &item) {
+            item.setImage({});
+            item.setTitle({});
+        },
+        "NewIcon NewStatus NewTitle NewToolTip XAyatanaNewLabel");
+    row(
+        "a target", [](StatusItem &item) { item.setTarget(qApp, [] {}); }, "");
+    static FakeStatusMenu menu;
+    row(
+        "a menu", [](StatusItem &item) { item.setMenu(&menu); }, "NewMenu");
+}
+
+void tst_FreedesktopStatusItem::onlyWhatChangesIsSaid()
+{
+    QFETCH(const std::function<void(StatusItem &)>, change);
+    _item->setImage(image());
+    _item->setAttributedTitle(title("5m 3s "));
+    watch();
+    BusPeer peer = panel();
+    static_cast<void>(peer.takeNames());
+    change(*_item);
+    QTEST(peer.takeNames(), "said");
+}
+
+void tst_FreedesktopStatusItem::manyChangesAtOnceAreSaidOnce()
+{
+    watch();
+    BusPeer peer = panel();
+    for (int i = 0; i < 200; ++i) {
+        _item->setImage(image());
+        _item->setAttributedTitle(title(qPrintable(QStringLiteral("%1s ").arg(i))));
+    }
+    QCOMPARE(peer.takeNames().size(), 5);
+}
+
+void tst_FreedesktopStatusItem::theNewLabelComesWithItsSignal()
+{
+    watch();
+    BusPeer peer = panel();
+    _item->setAttributedTitle(title("5m 3s "));
+    QVariantList arguments;
+    for (const QDBusMessage &signal : peer.takeHeard()) {
+        if (signal.member() == QLatin1String("XAyatanaNewLabel"))
+            arguments = signal.arguments();
+    }
+    QCOMPARE(arguments, (QVariantList{QStringLiteral("5m 3s "), QString()}));
+}
+
+void tst_FreedesktopStatusItem::withoutAWatcherNothingIsSaid()
+{
+    BusPeer peer = panel();
+    _item->setAttributedTitle(title("5m 3s "));
+    QCOMPARE(peer.takeNames(), QStringList());
+}
+
+void tst_FreedesktopStatusItem::aWatcherThatComesLateGetsWhatIsShown()
+{
+    _item->setAttributedTitle(title("5m 3s "));
+    QTest::qWait(20);
+    watch();
+    BusPeer peer = panel();
+    QCOMPARE(peer.property(QStringLiteral("XAyatanaLabel")), QStringLiteral("5m 3s "));
+    QCOMPARE(peer.property(QStringLiteral("Status")), QStringLiteral("Active"));
+}
+
+void tst_FreedesktopStatusItem::aMissingBusIsNoMatter()
+{
+    const QTemporaryDir nowhere;
+    _item.reset();
+    qunsetenv("DBUS_SESSION_BUS_ADDRESS");
+    qputenv("XDG_RUNTIME_DIR", nowhere.path().toUtf8());
+    _item.emplace();
+    _item->setAttributedTitle(title("5m 3s "));
+    QTest::qWait(20);
+    _item->setTitle({});
+    QTest::qWait(20);
+    qputenv("DBUS_SESSION_BUS_ADDRESS", _address.toUtf8());
+}
+
+int main(int argc, char *argv[])
+{
+    const SessionBus bus;
+    WufferApplication application(argc, argv);
+    StatusNotifier::registerTypes();
+    tst_FreedesktopStatusItem test(bus.address());
+    return QTest::qExec(&test, argc, argv);
+}
+#include "tst_FreedesktopStatusItem.moc"
