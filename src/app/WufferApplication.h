@@ -43,11 +43,16 @@ public:
     /// Ends full-screen mode of every timer but this one.
     void cancelFullScreenModeForOthers(const Wuffer &timer);
 
+    /// Asks for this page of the help to be shown; an unknown name means the first page.
+    void showHelp(const QString &page);
+
     bool notify(QObject *receiver, QEvent *event) override;
 
 Q_SIGNALS:
     /// A timer was made.
     void wufferOpened(Wuffer *timer);
+    /// Somebody wants to read this page of the help.
+    void helpRequested(const QString &page);
 
 private:
     [[nodiscard]] bool swallows(QEvent &event);

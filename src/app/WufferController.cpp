@@ -14,6 +14,7 @@
 #include "settings/WufferWindow.h"
 #include "timer/Wuffer.h"
 #include "tools/Converter.h"
+#include "tools/HelpPanel.h"
 #include "tools/MeasurementsPanel.h"
 
 #include <QScreen>
@@ -21,7 +22,10 @@
 WufferController::WufferController() :
     _presetsMenu(std::make_unique<PresetsMenu>(*this)),
     _mainMenu(std::make_unique<MainMenu>(*this, *_presetsMenu))
-{}
+{
+    connect(&WufferApplication::instance(), &WufferApplication::helpRequested, this,
+            &WufferController::showHelpPage);
+}
 
 WufferController::~WufferController() = default;
 
@@ -116,6 +120,20 @@ void WufferController::showMeasurements()
         window.centralWidget()->setFocus();
         window.resize(window.sizeHint().boundedTo(window.screen()->availableSize()));
     });
+}
+
+void WufferController::showHelp()
+{
+    showHelpPage(QStringLiteral("index"));
+}
+
+void WufferController::showHelpPage(const QString &page)
+{
+    show(_helpWindow, tr("Wuffer Help"), [](QMainWindow &window) {
+        window.setCentralWidget(new HelpPanel(MainMenu::keys(), &window));
+        window.resize(window.sizeHint().boundedTo(window.screen()->availableSize()));
+    });
+    static_cast<HelpPanel &>(*_helpWindow->centralWidget()).showPage(page);
 }
 
 void WufferController::show(std::unique_ptr<AuxiliaryWindow> &window, const QString &title,
