@@ -44,6 +44,12 @@ QList<QKeySequence> fullScreenKeys()
     return keys;
 }
 
+/// The text of a menu or an item without the mark of its mnemonic.
+QString plainText(QString text)
+{
+    return text.remove(QLatin1Char('&'));
+}
+
 void minimizeWindow(QWidget &window)
 {
     window.showMinimized();
@@ -102,7 +108,10 @@ const std::vector<MainMenu::Menu> &MainMenu::menus()
           {},
           {QT_TR_NOOP("&Converter"), key("Ctrl+Shift+C"), &C::showConverter},
           {QT_TR_NOOP("M&easurements"), key("Ctrl+Shift+E"), &C::showMeasurements}}},
-        {QT_TR_NOOP("&Help"), {{QT_TR_NOOP("Wuffer on the &Web"), {}, &C::donate}}},
+        {QT_TR_NOOP("&Help"),
+         {{QT_TR_NOOP("Wuffer &Help"), key(QKeySequence::HelpContents), &C::showHelp},
+          {},
+          {QT_TR_NOOP("Wuffer on the &Web"), {}, &C::donate}}},
     };
     return menus;
 }
@@ -142,6 +151,18 @@ QAction &MainMenu::itemFor(WufferController::Operation operation) const
     });
     Q_ASSERT(item != _items.end());
     return *item->action;
+}
+
+std::vector<MenuKeys> MainMenu::keys()
+{
+    std::vector<MenuKeys> keys;
+    for (const Menu &menu : menus()) {
+        for (const Row &row : menu.rows) {
+            if (!row.shortcuts.isEmpty())
+                keys.push_back({plainText(tr(menu.title)), plainText(tr(row.text)), row.shortcuts});
+        }
+    }
+    return keys;
 }
 
 void MainMenu::validate()

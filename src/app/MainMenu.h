@@ -1,5 +1,7 @@
 #pragma once
 
+#include "tools/HelpPages.h"
+
 #include <QObject>
 
 #include <memory>
@@ -31,6 +33,9 @@ public:
 
     /// The item that does this, which there must be.
     [[nodiscard]] QAction &itemFor(void (WufferController::*operation)()) const;
+
+    /// The keys of every item that has some, but for those of the presets.
+    [[nodiscard]] static std::vector<MenuKeys> keys();
 
     /// Asks for every item anew whether it is enabled.
     void validate();

@@ -114,6 +114,11 @@ void WufferApplication::cancelFullScreenModeForOthers(const Wuffer &timer)
     }
 }
 
+void WufferApplication::showHelp(const QString &page)
+{
+    Q_EMIT helpRequested(page);
+}
+
 /// Whether this is Return on its way to the open list of a combo box.
 static bool belongsToOpenList(const QObject &receiver, const QEvent &event)
 {

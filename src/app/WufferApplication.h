@@ -46,11 +46,16 @@ public:
     /// Whether the program is about to end.
     [[nodiscard]] static bool isQuitting() { return instance()._quitting; }
 
+    /// Asks for this page of the help to be shown; an unknown name means the first page.
+    void showHelp(const QString &page);
+
     bool notify(QObject *receiver, QEvent *event) override;
 
 Q_SIGNALS:
     /// A timer was made.
     void wufferOpened(Wuffer *timer);
+    /// Somebody wants to read this page of the help.
+    void helpRequested(const QString &page);
 
 private:
     [[nodiscard]] bool swallows(QEvent &event);

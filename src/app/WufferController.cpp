@@ -16,6 +16,7 @@
 #include "settings/WufferWindow.h"
 #include "timer/Wuffer.h"
 #include "tools/Converter.h"
+#include "tools/HelpPanel.h"
 #include "tools/MeasurementsPanel.h"
 
 #include <QScreen>
@@ -24,7 +25,10 @@ WufferController::WufferController() :
     _presetsMenu(std::make_unique<PresetsMenu>(*this)),
     _mainMenu(std::make_unique<MainMenu>(*this, *_presetsMenu)),
     _statusItem(std::make_unique<StatusPresenter>(Service<StatusItem>::current()))
-{}
+{
+    connect(&WufferApplication::instance(), &WufferApplication::helpRequested, this,
+            &WufferController::showHelpPage);
+}
 
 WufferController::~WufferController() = default;
 
@@ -119,6 +123,20 @@ void WufferController::showMeasurements()
         window.centralWidget()->setFocus();
         window.resize(window.sizeHint().boundedTo(window.screen()->availableSize()));
     });
+}
+
+void WufferController::showHelp()
+{
+    showHelpPage(QStringLiteral("index"));
+}
+
+void WufferController::showHelpPage(const QString &page)
+{
+    show(_helpWindow, tr("Wuffer Help"), [](QMainWindow &window) {
+        window.setCentralWidget(new HelpPanel(MainMenu::keys(), &window));
+        window.resize(window.sizeHint().boundedTo(window.screen()->availableSize()));
+    });
+    static_cast<HelpPanel &>(*_helpWindow->centralWidget()).showPage(page);
 }
 
 void WufferController::show(std::unique_ptr<AuxiliaryWindow> &window, const QString &title,

@@ -41,6 +41,8 @@ public:
     void showPreferences();
     void showConverter();
     void showMeasurements();
+    /// Opens the help at its first page.
+    void showHelp();
     /// Opens the web page of the program.
     void donate();
     /// Closes every window and ends the program.
@@ -72,6 +74,7 @@ private:
     void openAtLaunch();
     /// Makes the preferences, not shown, and loads them, unless that is done.
     void makePreferences();
+    void showHelpPage(const QString &page);
     /// Shows one of the windows beside the timers, which is made and filled when it is first asked
     /// for.
     void show(std::unique_ptr<AuxiliaryWindow> &window, const QString &title,
@@ -84,4 +87,5 @@ private:
     std::unique_ptr<Preferences> _preferences;
     std::unique_ptr<AuxiliaryWindow> _converterWindow;
     std::unique_ptr<AuxiliaryWindow> _measurementsWindow;
+    std::unique_ptr<AuxiliaryWindow> _helpWindow;
 };

@@ -1,10 +1,9 @@
+#include "app/WufferApplication.h"
 #include "platform/Log.h"
 #include "settings/Preset.h"
 #include "timer/TimerTexts.h"
 #include "timer/Wuffer.h"
 #include "ui_Wuffer.h"
-
-#include <QWhatsThis>
 
 #include <array>
 
@@ -116,6 +115,5 @@ void Wuffer::startTargetWuffer()
 
 void Wuffer::getFinishingHelp()
 {
-    const QWidget *about = _ui->_finishedCombo;
-    QWhatsThis::showText(about->mapToGlobal(about->rect().bottomLeft()), about->whatsThis());
+    WufferApplication::instance().showHelp(QStringLiteral("finish-actions"));
 }

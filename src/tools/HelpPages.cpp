@@ -1,0 +1,72 @@
+#include "tools/HelpPages.h"
+
+#include <QCoreApplication>
+#include <QFile>
+
+#include <array>
+
+namespace
+{
+constexpr std::array kNames{"index",          "first-timer", "stopwatch-and-date",
+                            "several-timers", "presets",     "finish-actions",
+                            "full-screen",    "sounds",      "preferences",
+                            "kitchen",        "keyboard"};
+
+QString contentsOf(const QString &name)
+{
+    QFile file(QStringLiteral(":/help/%1.html").arg(name));
+    const bool opened = file.open(QIODevice::ReadOnly);
+    Q_ASSERT(opened);
+    return opened ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+/// What stands between the first pair of these tags.
+QString firstElement(const QString &html, const QString &tag)
+{
+    return html.section(QStringLiteral("<%1>").arg(tag), 1, 1)
+        .section(QStringLiteral("</%1>").arg(tag), 0, 0);
+}
+
+QString rowOf(const MenuKeys &item)
+{
+    QStringList keys;
+    for (const QKeySequence &each : item.keys) {
+        const QString text = each.toString(QKeySequence::NativeText);
+        keys << QStringLiteral("<kbd>%1</kbd>").arg(text.toHtmlEscaped());
+    }
+    return QStringLiteral("<tr><td width=\"55%\">%1</td><td>%2</td></tr>")
+        .arg(item.item.toHtmlEscaped(), keys.join(QStringLiteral(", ")));
+}
+
+/// A table for each menu, under its name.
+QString tablesOf(const std::vector<MenuKeys> &menuKeys)
+{
+    const QString end = QStringLiteral("</table>");
+    QString html;
+    QString menu;
+    for (const MenuKeys &item : menuKeys) {
+        if (item.menu != menu) {
+            menu = item.menu;
+            const QString title = QCoreApplication::translate("HelpPages", "%1 menu").arg(menu);
+            html += (html.isEmpty() ? QString() : end) +
+                    QStringLiteral("<h2>%1</h2><table width=\"100%\" cellspacing=\"0\">")
+                        .arg(title.toHtmlEscaped());
+        }
+        html += rowOf(item);
+    }
+    return html.isEmpty() ? html : html + end;
+}
+} // namespace
+
+std::vector<HelpPage> helpPages(const std::vector<MenuKeys> &menuKeys)
+{
+    const QString tables = tablesOf(menuKeys);
+    std::vector<HelpPage> pages;
+    for (const char *each : kNames) {
+        const QString name = QString::fromLatin1(each);
+        QString html = contentsOf(name);
+        html.replace(QStringLiteral("<!-- menus -->"), tables);
+        pages.push_back({name, firstElement(html, QStringLiteral("h1")), html});
+    }
+    return pages;
+}
