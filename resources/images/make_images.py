@@ -8,6 +8,7 @@ Run it from anywhere, without arguments; it needs python3-cairo:
 It writes, next to itself:
 
     wuffer.svg, wuffer-16.png ... wuffer-256.png   the application icon
+    wuffer-symbolic.svg                            the same in one colour, the desktop's
     sound_high.png, sound_high@2x.png              a sounding loudspeaker
     sound_mute.png, sound_mute@2x.png              the same one, crossed out
     chain.png, chain@2x.png                        two links, dragged to join timers
@@ -41,6 +42,7 @@ CARAMEL = "#f0a858"
 BROWN = "#b5703a"
 INK = "#3a2a22"
 PINK = "#ee6f6a"
+SYMBOLIC = "#2e3436"
 
 UNIT_CIRCLE = (
     "M 1 0 C 1 0.5523 0.5523 1 0 1 C -0.5523 1 -1 0.5523 -1 0 "
@@ -56,6 +58,7 @@ TONGUE = (
     "C 143 224 113 224 113 198 Z"
 )
 SMALL_EAR = "M 5 3 C 3 2 0 3 0 6 L 0 9 C 0 11.5 3 11.5 3 9 C 3 7 4 5 5 3 Z"
+PANEL_EAR = "M 7 4 C 4 2.5 0 4 0 9 L 0 12.5 C 0 15.8 4 15.8 4 12.5 C 4 9.5 5.5 7 7 4 Z"
 SMALL_NOSE = "M 6 10 L 10 10 L 10 11 L 9 11 L 9 12 L 7 12 L 7 11 L 6 11 Z"
 LOUDSPEAKER = "M 4 9 L 7 9 L 11 6 L 11 18 L 7 15 L 4 15 Z"
 
@@ -181,6 +184,23 @@ def medium_icon() -> Picture:
     ]
 
 
+def panel_icon() -> Picture:
+    """For 22 units: the small one with a mouth, on a grid of its own."""
+    return [
+        Shape(rectangle(10, 2, 2, 2), TEAL_DARK),
+        Shape(rectangle(7, 0, 8, 2), TEAL),
+        Shape(circle(11, 12.5, 9.5), TEAL),
+        Shape(circle(11, 12.5, 7.6), CREAM),
+        Shape(quarter(11, 12.5, 7.6), CARAMEL),
+        *ears(PANEL_EAR, 11),
+        Shape(rectangle(7, 10, 2, 2), INK),
+        Shape(rectangle(13, 10, 2, 2), INK),
+        Shape(arc(9.5, 15.5, 1.5, 90, 75), stroke=INK, width=1),
+        Shape(arc(12.5, 15.5, 1.5, 90, 75), stroke=INK, width=1),
+        Shape(ellipse(11, 14.2, 2.2, 1.4), INK),
+    ]
+
+
 def small_icon() -> Picture:
     """For 16 units: what is left when every part must be a whole pixel."""
     return [
@@ -194,6 +214,18 @@ def small_icon() -> Picture:
         Shape(rectangle(10, 7, 1, 2), INK),
         Shape(SMALL_NOSE, INK),
     ]
+
+
+def symbolic_icon() -> Picture:
+    """For 16 units. Desktops put their own colour into outlines that are filled, and only there.
+
+    Whatever runs the other way round than the outline that it lies in is a hole.
+    """
+    dial = circle(8, 9, 6.5) + " " + transformed(UNIT_CIRCLE, -5, 5, 8, 9)
+    features = [rectangle(5, 0, 6, 1), rectangle(7, 1, 2, 2), dial, SMALL_EAR]
+    features += [transformed(SMALL_EAR, -1, 1, 16, 0), SMALL_NOSE]
+    features += [rectangle(5, 7, 1, 2), rectangle(10, 7, 1, 2)]
+    return [Shape(feature, SYMBOLIC) for feature in features]
 
 
 def status_icon() -> Picture:
@@ -292,10 +324,11 @@ def trace(context: cairo.Context, outline: str) -> None:
         draw[letter](*map(float, numbers.split()))
 
 
-def paint(picture: Picture, file: str, units: int, pixels: int) -> None:
+def paint(picture: Picture, file: str, units: int, pixels: int, margin: int = 0) -> None:
     surface = cairo.ImageSurface(cairo.FORMAT_ARGB32, pixels, pixels)
     context = cairo.Context(surface)
-    context.scale(pixels / units, pixels / units)
+    context.translate(margin, margin)
+    context.scale(*[(pixels - 2 * margin) / units] * 2)
     context.set_line_cap(cairo.LINE_CAP_ROUND)
     context.set_line_join(cairo.LINE_JOIN_ROUND)
     for shape in picture:
@@ -329,12 +362,15 @@ def write_svg(picture: Picture, file: str, units: int) -> None:
 def main() -> None:
     check_contrast()
     paint(small_icon(), "wuffer-16.png", 16, 16)
+    paint(panel_icon(), "wuffer-22.png", 22, 22)
+    paint(panel_icon(), "wuffer-24.png", 22, 24, 1)
     paint(medium_icon(), "wuffer-32.png", 32, 32)
     for size in (48, 64, 128, 256):
         paint(large_icon(), f"wuffer-{size}.png", 256, size)
     for size in (22, 24, 32, 44, 48):
         paint(status_icon(), f"status_icon-{size}.png", 22, size)
     write_svg(large_icon(), "wuffer.svg", 256)
+    write_svg(symbolic_icon(), "wuffer-symbolic.svg", 16)
     for name, picture in ("sound_high", sounding()), ("sound_mute", muted()):
         paint(picture, f"{name}.png", 24, 24)
         paint(picture, f"{name}@2x.png", 24, 48)
