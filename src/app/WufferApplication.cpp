@@ -49,7 +49,7 @@ WufferApplication::WufferApplication(int &argc, char **argv) : QApplication(argc
     setApplicationName(QStringLiteral("wuffer"));
     setApplicationDisplayName(BuildInfo::name());
     setApplicationVersion(BuildInfo::version());
-    setDesktopFileName(QStringLiteral("wuffer"));
+    setDesktopFileName(BuildInfo::applicationId());
     setWindowIcon(applicationIcon());
     // A caret that blinks would wake an idle program twice a second for ever.
     setCursorFlashTime(0);

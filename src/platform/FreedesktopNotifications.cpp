@@ -33,6 +33,12 @@ QDBusMessage serverCall(const QString &method)
                                           QStringLiteral("org.freedesktop.Notifications"), method);
 }
 
+/// The icon is installed under the name of the program.
+QString iconName()
+{
+    return QGuiApplication::applicationName();
+}
+
 /// The arguments of Notify, in the order of the protocol.
 QVariantList notifyArguments(const DesktopNotification &notification, uint replacedId, bool markup)
 {
@@ -46,7 +52,7 @@ QVariantList notifyArguments(const DesktopNotification &notification, uint repla
     constexpr int serversOwnTimeout = -1;
     return {QGuiApplication::applicationDisplayName(),
             replacedId,
-            QGuiApplication::desktopFileName(),
+            iconName(),
             notification.title,
             text,
             QStringList(),

@@ -29,7 +29,7 @@ void StatusNotifierItem::show(const Content &content)
 
 QString StatusNotifierItem::id()
 {
-    return QGuiApplication::desktopFileName();
+    return QGuiApplication::applicationName();
 }
 
 QString StatusNotifierItem::titleFor(const QString &label)

@@ -82,9 +82,10 @@ void tst_FreedesktopNotifications::theHintsSayWhoAndWhat()
     notifications.notify(sender, saying(QStringLiteral("done")));
     QTRY_COMPARE(server.shown.size(), 1U);
 
-    const QVariantMap expected{{QStringLiteral("desktop-entry"), QStringLiteral("wuffer")},
-                               {QStringLiteral("category"), QStringLiteral("x-wuffer.wuff")},
-                               {QStringLiteral("suppress-sound"), true}};
+    const QVariantMap expected{
+        {QStringLiteral("desktop-entry"), QStringLiteral("org.wuffer.Wuffer")},
+        {QStringLiteral("category"), QStringLiteral("x-wuffer.wuff")},
+        {QStringLiteral("suppress-sound"), true}};
     QCOMPARE(server.shown.front().hints, expected);
 }
 
