@@ -28,6 +28,19 @@ if(WUFFER_WARNINGS_AS_ERRORS AND NOT MSVC)
     target_compile_options(wuffer_build_options INTERFACE -Werror)
 endif()
 
+# A mistake with memory ends the program rather than let a sound file, say, run code. The
+# sanitizers, which find such mistakes, want to see to all of that themselves.
+if(CMAKE_SYSTEM_NAME STREQUAL "Linux" AND NOT WUFFER_SANITIZE)
+    include(CheckPIESupported)
+    check_pie_supported(LANGUAGES CXX)
+    set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+    target_compile_options(wuffer_build_options INTERFACE
+        -fstack-protector-strong
+        # Works on what the optimiser knows.
+        $<$<NOT:$<CONFIG:Debug>>:-U_FORTIFY_SOURCE> $<$<NOT:$<CONFIG:Debug>>:-D_FORTIFY_SOURCE=2>)
+    target_link_options(wuffer_build_options INTERFACE -Wl,-z,relro -Wl,-z,now)
+endif()
+
 if(WUFFER_SANITIZE)
     set(sanitizers -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
     target_compile_options(wuffer_build_options INTERFACE ${sanitizers})
