@@ -1,0 +1,55 @@
+"""Installs a build into a folder of the test's own."""
+
+import os
+import shutil
+import subprocess
+import sys
+import tempfile
+
+
+class Installation:
+    """What "cmake --install" makes of a build; it goes with the test."""
+
+    def __init__(self, build, prefix=None, staged=False):
+        """Installs to the prefix, below the folder if staged as packagers do."""
+        self.folder = tempfile.mkdtemp(prefix="installation-")
+        self.prefix = prefix or self.folder
+        environment = {name: value for name, value in os.environ.items() if name != "DESTDIR"}
+        if staged:
+            environment["DESTDIR"] = self.folder
+        try:
+            run("cmake", "--install", build, "--prefix", self.prefix, environment=environment)
+        except BaseException:
+            self.remove()
+            raise
+        self.root = self.folder + self.prefix if staged else self.prefix
+
+    def remove(self):
+        shutil.rmtree(self.folder)
+
+    def path(self, *parts):
+        return os.path.join(self.root, *parts)
+
+    def read(self, *parts):
+        with open(self.path(*parts), encoding="utf-8") as file:
+            return file.read()
+
+    def files(self):
+        """All files, by their places below the prefix."""
+        return {os.path.relpath(os.path.join(folder, name), self.root)
+                for folder, _, names in os.walk(self.folder) for name in names}
+
+
+def run(*command, environment=None):
+    """Runs a tool; what it writes is shown when it fails."""
+    result = subprocess.run(command, env=environment, check=False, text=True, timeout=60,
+                            stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
+                            stderr=subprocess.STDOUT)
+    if result.returncode != 0:
+        raise AssertionError(f"{' '.join(command)} failed:\n{result.stdout}")
+    return result.stdout
+
+
+def take_argument():
+    """The next argument of the command line."""
+    return sys.argv.pop(1)
