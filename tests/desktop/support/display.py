@@ -108,6 +108,10 @@ class Display:
         """Asks the window manager to, as a task bar does."""
         processes.run(["wmctrl", "-i", "-c", hex(window)], self.environment)
 
+    def activate(self, window):
+        """Turns to a window, as a task bar does."""
+        processes.run(["wmctrl", "-i", "-a", hex(window)], self.environment)
+
     def property(self, name, window=None):
         """The text after the sign of equality, or of what xprop has to say instead."""
         where = ["-id", str(window)] if window else ["-root"]
