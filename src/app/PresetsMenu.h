@@ -20,6 +20,9 @@ public:
     /// Brings the texts up to date. A preset that was never saved is made first.
     void populate();
 
+    /// The items that open a preset, in the order of the list.
+    [[nodiscard]] const std::vector<QAction *> &openItems() const { return _open; }
+
     /// Enables the items that save while there is a timer to save.
     void validate();
 

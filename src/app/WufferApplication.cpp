@@ -137,11 +137,23 @@ bool WufferApplication::notify(QObject *receiver, QEvent *event)
         _quitting = true;
     const bool forList = belongsToOpenList(*receiver, *event);
     const bool handled = QApplication::notify(receiver, event);
+    if (event->type() == QEvent::Show || event->type() == QEvent::Hide)
+        tellOfWindow(*receiver, *event);
     // The list has picked an entry and closed, but says nothing. Without a word the press would be
     // a shortcut of the window below, too, and start its timer.
     if (forList)
         event->accept();
     return handled;
+}
+
+void WufferApplication::tellOfWindow(QObject &receiver, const QEvent &event)
+{
+    if (!receiver.isWidgetType() || !static_cast<QWidget &>(receiver).isWindow())
+        return;
+    if (event.type() == QEvent::Show)
+        Q_EMIT windowShown(&static_cast<QWidget &>(receiver));
+    else
+        Q_EMIT windowHidden();
 }
 
 bool WufferApplication::swallows(QEvent &event)

@@ -52,12 +52,17 @@ public:
     bool notify(QObject *receiver, QEvent *event) override;
 
 Q_SIGNALS:
+    /// One of the windows of the program, of whatever kind, has come up.
+    void windowShown(QWidget *window);
+    /// One has gone, or is being closed.
+    void windowHidden();
     /// A timer was made.
     void wufferOpened(Wuffer *timer);
     /// Somebody wants to read this page of the help.
     void helpRequested(const QString &page);
 
 private:
+    void tellOfWindow(QObject &receiver, const QEvent &event);
     [[nodiscard]] bool swallows(QEvent &event);
     [[nodiscard]] bool swallowsKey(QEvent &event);
     void forget(Wuffer &timer);

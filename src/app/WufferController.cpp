@@ -1,11 +1,14 @@
 #include "app/WufferController.h"
 
 #include "app/AuxiliaryWindow.h"
+#include "app/HomeKeeper.h"
+#include "app/HomeWindow.h"
 #include "app/MainMenu.h"
 #include "app/PresetsMenu.h"
 #include "app/StatusPresenter.h"
 #include "app/WebPage.h"
 #include "app/WufferApplication.h"
+#include "controls/WindowOrder.h"
 #include "platform/Desktop.h"
 #include "platform/NotificationCenter.h"
 #include "platform/Service.h"
@@ -20,37 +23,61 @@
 #include "tools/MeasurementsPanel.h"
 
 #include <QScreen>
+#include <QWindow>
 
 WufferController::WufferController() :
     _presetsMenu(std::make_unique<PresetsMenu>(*this)),
     _mainMenu(std::make_unique<MainMenu>(*this, *_presetsMenu)),
-    _statusItem(std::make_unique<StatusPresenter>(Service<StatusItem>::current()))
+    _statusItem(std::make_unique<StatusPresenter>(Service<StatusItem>::current())),
+    _home(std::make_unique<HomeKeeper>([this] { return makeHome(); }))
 {
     connect(&WufferApplication::instance(), &WufferApplication::helpRequested, this,
             &WufferController::showHelpPage);
+    connect(qApp, &QGuiApplication::focusWindowChanged, this, [this] {
+        if (QWidget *active = QApplication::activeWindow())
+            _lastActive = active;
+    });
 }
 
 WufferController::~WufferController() = default;
 
-void WufferController::awakeFromNib()
+void WufferController::awakeFromNib(LaunchOrder order)
 {
     NotificationCenter &center = NotificationCenter::defaultCenter();
     populatePresetsMenu();
     center.addObserver(*this, QStringLiteral("presetsChangedNotification"),
                        [this](QObject *) { populatePresetsMenu(); });
-    openAtLaunch();
+    openAtLaunch(order);
     // While the window of the timer is still on its way to the screen, this costs no time.
     makePreferences();
     // Last, so that what started at launch shows at its first tick and not before.
     center.addObserver(*this, QStringLiteral("statusChanged"),
                        [this](QObject *) { refreshStatusItem(); });
+    // What opens for the other two is open, and on its way to the front.
+    if (order != LaunchOrder::Activate && order != LaunchOrder::NewTimer)
+        carryOut(order);
+    _home->look();
 }
 
-void WufferController::openAtLaunch()
+/// What opens at this launch.
+static QString launchChoice(LaunchOrder order)
 {
-    const QString choice = UserDefaults::standardUserDefaults()
-                               .stringForKey(QStringLiteral("launchBehavior"))
-                               .value_or(QString());
+    switch (order) {
+    case LaunchOrder::NewTimer:
+        return kLaunchTimer.toString();
+    case LaunchOrder::Preferences:
+    case LaunchOrder::Converter:
+        return kLaunchNothing.toString();
+    default:
+        return UserDefaults::standardUserDefaults()
+            .stringForKey(QStringLiteral("launchBehavior"))
+            .value_or(QString());
+    }
+}
+
+void WufferController::openAtLaunch(LaunchOrder order)
+{
+    const QString choice = launchChoice(order);
     if (choice == kLaunchNothing)
         return;
     const bool preset = choice == kLaunchPreset || choice == kLaunchAndStartPreset;
@@ -59,6 +86,38 @@ void WufferController::openAtLaunch()
         preset ? Wuffer::keyForPreset(1) : QStringLiteral("defaultWufferSettings"), true);
     if (choice == kLaunchAndStartPreset)
         newestWuffer()->goPressed();
+}
+
+void WufferController::carryOut(LaunchOrder order)
+{
+    switch (order) {
+    case LaunchOrder::Activate:
+        return orderFront();
+    case LaunchOrder::NewTimer:
+        return newWuffer();
+    case LaunchOrder::StartAll:
+        startAllWuffers();
+        return orderFront();
+    case LaunchOrder::Preferences:
+        return showPreferences();
+    case LaunchOrder::Converter:
+        return showConverter();
+    }
+}
+
+void WufferController::orderFront()
+{
+    QWidget *front = _lastActive;
+    if (!front || !front->isVisible())
+        front = newestWuffer() ? newestWuffer()->window() : HomeKeeper::openWindow();
+    if (front)
+        bringToFront(*front);
+}
+
+std::unique_ptr<HomeWindow> WufferController::makeHome()
+{
+    return std::make_unique<HomeWindow>(
+        *_mainMenu, _mainMenu->itemFor(&WufferController::newWuffer), _presetsMenu->openItems());
 }
 
 void WufferController::createNewWuffer()

@@ -1,15 +1,21 @@
 #pragma once
 
+#include "app/LaunchOrder.h"
+
 #include <QObject>
+#include <QPointer>
 
 #include <memory>
 
 class QAction;
 class AuxiliaryWindow;
+class HomeKeeper;
+class HomeWindow;
 class MainMenu;
 class PresetsMenu;
 class Preferences;
 class QMainWindow;
+class QWidget;
 class StatusPresenter;
 class Wuffer;
 
@@ -24,8 +30,14 @@ public:
     WufferController();
     ~WufferController() override;
 
-    /// The work of the start, once: opens what the user has chosen for it.
-    void awakeFromNib();
+    /// The work of the start, once: opens what the user has chosen for it, or what this launch is
+    /// for. Preferences and converter are then all that opens, and a new timer is like the one that
+    /// opens without a choice.
+    void awakeFromNib(LaunchOrder order = LaunchOrder::Activate);
+
+    /// Does what somebody who launches the running program once more wants of it, and brings the
+    /// program to the front.
+    void carryOut(LaunchOrder order);
 
     /// Makes a timer, its window one step right of and below that of the newest timer. The window
     /// is not shown yet.
@@ -71,7 +83,10 @@ public:
 
 private:
     [[nodiscard]] static Wuffer *newestWuffer();
-    void openAtLaunch();
+    void openAtLaunch(LaunchOrder order);
+    /// Brings the window to the front that was active last, or else one that is open.
+    void orderFront();
+    [[nodiscard]] std::unique_ptr<HomeWindow> makeHome();
     /// Makes the preferences, not shown, and loads them, unless that is done.
     void makePreferences();
     void showHelpPage(const QString &page);
@@ -88,4 +103,6 @@ private:
     std::unique_ptr<AuxiliaryWindow> _converterWindow;
     std::unique_ptr<AuxiliaryWindow> _measurementsWindow;
     std::unique_ptr<AuxiliaryWindow> _helpWindow;
+    std::unique_ptr<HomeKeeper> _home;
+    QPointer<QWidget> _lastActive;
 };

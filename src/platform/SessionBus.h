@@ -6,7 +6,7 @@ namespace SessionBus
 {
 [[nodiscard]] bool isPresent();
 
-/// Keeps everybody in this process from starting a bus where there is none. Comes before all that
-/// might ask for it, the application object included.
-void startNone();
+/// Keeps everybody in this process from starting a bus where there is none, and from waiting for
+/// one that hangs. Comes before all that might ask for it, the application object included.
+void doWithoutUnlessItAnswers();
 } // namespace SessionBus

@@ -25,6 +25,7 @@ public:
     Q_DISABLE_COPY_MOVE(SessionBus)
 
     [[nodiscard]] QString address() const { return _address; }
+    [[nodiscard]] pid_t processId() const { return static_cast<pid_t>(_daemon.processId()); }
 
 private:
     QProcess _daemon;

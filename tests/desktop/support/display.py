@@ -108,6 +108,10 @@ class Display:
         """Asks the window manager to, as a task bar does."""
         processes.run(["wmctrl", "-i", "-c", hex(window)], self.environment)
 
+    def activate(self, window):
+        """Turns to a window, as a task bar does."""
+        processes.run(["wmctrl", "-i", "-a", hex(window)], self.environment)
+
     def property(self, name, window=None):
         """The text after the sign of equality, or of what xprop has to say instead."""
         where = ["-id", str(window)] if window else ["-root"]
@@ -127,7 +131,10 @@ class Display:
         return int(numbers[0], 16) if numbers else 0
 
     def focused_window(self):
-        return int(processes.run(["xdotool", "getwindowfocus"], self.environment))
+        """The window with the focus; 0 in the moment in which none has it."""
+        result = subprocess.run(["xdotool", "getwindowfocus"], env=self.environment, check=False,
+                                timeout=10, capture_output=True, text=True)
+        return int(result.stdout) if result.returncode == 0 else 0
 
     def title(self, window):
         return self.property("_NET_WM_NAME", window).strip('"')

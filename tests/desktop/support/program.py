@@ -33,8 +33,10 @@ class Program:
 
     executable = ""
 
-    def __init__(self, session, display=None, environment=None, settings=None, accessible=True):
+    def __init__(self, session, display=None, environment=None, settings=None, accessible=True,
+                 arguments=()):
         self.session = session
+        self.arguments = arguments
         self.display = display or session.display
         self.home = tempfile.mkdtemp(prefix="home-", dir=session.folder)
         self.settings_path = os.path.join(self.home, "config", "wuffer", "wuffer.json")
@@ -67,7 +69,7 @@ class Program:
     def spawn(self):
         with open(self.log, "a", encoding="utf-8") as log:
             # Not through another program: its process must be the program's own.
-            self.process = subprocess.Popen([self.executable], env=self.environment,
+            self.process = subprocess.Popen([self.executable, *self.arguments], env=self.environment,
                                             stdin=subprocess.DEVNULL, stdout=log, stderr=log)
 
     def find_application(self):

@@ -153,6 +153,11 @@ class Session:
         os.environ["AT_SPI_BUS_ADDRESS"] = address
         os.environ["DBUS_SESSION_BUS_ADDRESS"] = self.environment["DBUS_SESSION_BUS_ADDRESS"]
 
+    def owns(self, name):
+        """Whether somebody owns the name on the session bus."""
+        return ask(self.bus, "org.freedesktop.DBus", "/", "org.freedesktop.DBus", "NameHasOwner",
+                   GLib.Variant("(s)", (name,)))[0]
+
     def start_notifications(self):
         self.notifications = Notifications(self.bus, self.folder, self.environment)
 

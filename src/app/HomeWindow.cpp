@@ -1,0 +1,64 @@
+#include "app/HomeWindow.h"
+
+#include "app/MainMenu.h"
+#include "ui_Home.h"
+
+#include <QAction>
+#include <QCloseEvent>
+
+namespace
+{
+constexpr int kRows = 5;
+/// Longer names of presets are cut off, in the width of so many digits.
+constexpr int kLongestText = 32;
+
+/// The text of the item on the button, with what there is no room for left out.
+void showText(QPushButton &button, const QAction &item)
+{
+    const QFontMetrics metrics(button.font());
+    const int room = kLongestText * metrics.horizontalAdvance(QLatin1Char('0'));
+    // Mnemonics are marked alike in both; a name holds none, but perhaps the character.
+    const QString text = item.text().simplified();
+    button.setText(metrics.elidedText(text, Qt::ElideRight, room, Qt::TextShowMnemonic));
+    button.setAccessibleName(QString(text).replace(QLatin1String("&&"), QLatin1String("&")));
+    button.setToolTip(button.text() == text ? QString() : button.accessibleName().toHtmlEscaped());
+}
+} // namespace
+
+HomeWindow::HomeWindow(MainMenu &menu, QAction &newTimer, const std::vector<QAction *> &presets) :
+    _ui(std::make_unique<Ui::Home>())
+{
+    auto *contents = new QWidget(this);
+    _ui->setupUi(contents);
+    setCentralWidget(contents);
+    menu.addTo(*this);
+    connect(_ui->_newTimerButton, &QPushButton::clicked, &newTimer, &QAction::trigger);
+    for (QAction *preset : presets)
+        addPreset(*preset);
+    _ui->_newTimerButton->setFocus();
+}
+
+HomeWindow::~HomeWindow() = default;
+
+void HomeWindow::addPreset(QAction &preset)
+{
+    constexpr int cellsOfAPreset = 2;
+    const int number = _ui->_presetsLayout->count() / cellsOfAPreset;
+    const int row = number % kRows;
+    const int column = number / kRows * cellsOfAPreset;
+    auto *key = new QLabel(preset.shortcut().toString(QKeySequence::NativeText), this);
+    auto *button = new QPushButton(this);
+    button->setStyleSheet(QStringLiteral("text-align: left; padding: 4px 10px"));
+    button->setAutoDefault(true);
+    _ui->_presetsLayout->addWidget(key, row, column, Qt::AlignRight | Qt::AlignVCenter);
+    _ui->_presetsLayout->addWidget(button, row, column + 1);
+    connect(button, &QPushButton::clicked, &preset, &QAction::trigger);
+    connect(&preset, &QAction::changed, button, [button, &preset] { showText(*button, preset); });
+    showText(*button, preset);
+}
+
+void HomeWindow::closeEvent(QCloseEvent *event)
+{
+    event->accept();
+    Q_EMIT closed();
+}

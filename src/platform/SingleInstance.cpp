@@ -1,0 +1,109 @@
+#include "platform/SingleInstance.h"
+
+#include "platform/SessionBus.h"
+#include "platform/StartupNotification.h"
+
+#include <QDBusAbstractAdaptor>
+#include <QDBusConnection>
+#include <QDBusConnectionInterface>
+#include <QDBusMessage>
+#include <QGuiApplication>
+
+namespace
+{
+constexpr int kPatienceMs = 2000;
+const QString kInterface = QStringLiteral("org.freedesktop.Application");
+/// By these names a desktop says which start this is: on X and on Wayland.
+const QString kStartupId = QStringLiteral("desktop-startup-id");
+const QString kActivationToken = QStringLiteral("activation-token");
+constexpr auto kStartupIdVariable = "DESKTOP_STARTUP_ID";
+constexpr auto kActivationTokenVariable = "XDG_ACTIVATION_TOKEN";
+} // namespace
+
+/// What is seen of the program on the bus.
+class SingleInstance::Interface final : public QDBusAbstractAdaptor
+{
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Application")
+
+public:
+    explicit Interface(SingleInstance &instance) :
+        QDBusAbstractAdaptor(&instance), _instance(instance)
+    {}
+
+public Q_SLOTS:
+    void Activate(const QVariantMap &platform_data) { _instance.handle({}, platform_data); }
+
+    /// Timers have no files; whoever brings some means the program.
+    void Open(const QStringList & /*uris*/, const QVariantMap &platform_data)
+    {
+        _instance.handle({}, platform_data);
+    }
+
+    void ActivateAction(const QString &action_name, const QVariantList & /*parameter*/,
+                        const QVariantMap &platform_data)
+    {
+        _instance.handle(action_name, platform_data);
+    }
+
+private:
+    SingleInstance &_instance;
+};
+
+QVariantMap SingleInstance::thisLaunch()
+{
+    QVariantMap data;
+    if (qEnvironmentVariableIsSet(kStartupIdVariable))
+        data.insert(kStartupId, qEnvironmentVariable(kStartupIdVariable));
+    if (qEnvironmentVariableIsSet(kActivationTokenVariable))
+        data.insert(kActivationToken, qEnvironmentVariable(kActivationTokenVariable));
+    return data;
+}
+
+SingleInstance::SingleInstance() :
+    _name(QGuiApplication::desktopFileName()),
+    _path(QLatin1Char('/') + QString(_name).replace(QLatin1Char('.'), QLatin1Char('/')))
+{
+    new Interface(*this);
+}
+
+SingleInstance::~SingleInstance() = default;
+
+bool SingleInstance::claim()
+{
+    if (!SessionBus::isPresent() || !QDBusConnection::sessionBus().isConnected())
+        return true;
+    QDBusConnection bus = QDBusConnection::sessionBus();
+    // Before the name: whoever waits for the name asks at once.
+    bus.registerObject(_path, this);
+    const QDBusReply<QDBusConnectionInterface::RegisterServiceReply> owner =
+        bus.interface()->registerService(_name);
+    // A bus that forbids names forbids them to everybody.
+    return !owner.isValid() || owner.value() == QDBusConnectionInterface::ServiceRegistered;
+}
+
+bool SingleInstance::forward(const QString &action, const QVariantMap &launch) const
+{
+    QDBusMessage call = QDBusMessage::createMethodCall(
+        _name, _path, kInterface,
+        action.isEmpty() ? QStringLiteral("Activate") : QStringLiteral("ActivateAction"));
+    if (action.isEmpty())
+        call.setArguments({launch});
+    else
+        call.setArguments({action, QVariantList(), launch});
+    call.setAutoStartService(false);
+    const QDBusMessage answer = QDBusConnection::sessionBus().call(call, QDBus::Block, kPatienceMs);
+    return answer.type() == QDBusMessage::ReplyMessage;
+}
+
+void SingleInstance::handle(const QString &action, const QVariantMap &platformData)
+{
+    const QByteArray token = platformData.value(kActivationToken).toString().toUtf8();
+    // Qt takes it from there when a window asks to be the active one.
+    if (!token.isEmpty())
+        qputenv(kActivationTokenVariable, token);
+    Q_EMIT asked(action);
+    endStartupNotification(platformData.value(kStartupId).toString());
+}
+
+#include "SingleInstance.moc"

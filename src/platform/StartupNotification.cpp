@@ -1,0 +1,67 @@
+#include "platform/StartupNotification.h"
+
+#include <QGuiApplication>
+
+#ifdef WUFFER_XCB
+#include <algorithm>
+#include <memory>
+#include <xcb/xcb.h>
+
+namespace
+{
+constexpr uint8_t kNo = 0;
+
+xcb_atom_t atom(xcb_connection_t *connection, QByteArrayView name)
+{
+    const auto question =
+        xcb_intern_atom(connection, kNo, static_cast<uint16_t>(name.size()), name.data());
+    const std::unique_ptr<xcb_intern_atom_reply_t, decltype(&free)> answer(
+        xcb_intern_atom_reply(connection, question, nullptr), &free);
+    return answer ? answer->atom : xcb_atom_t(XCB_ATOM_NONE);
+}
+
+/// The text as the protocol has it: within quotes, with a backslash before what would end them.
+QByteArray removal(const QString &id)
+{
+    QByteArray quoted = id.toUtf8();
+    quoted.replace('\\', R"(\\)").replace('"', R"(\")");
+    return "remove: ID=\"" + quoted + '"';
+}
+
+/// Sends the text to everybody who listens, in pieces of the size of an event, the last of which
+/// holds the zero at the end.
+void broadcast(xcb_connection_t *connection, const QByteArray &text)
+{
+    const xcb_screen_t &screen = *xcb_setup_roots_iterator(xcb_get_setup(connection)).data;
+    const xcb_window_t sender = xcb_generate_id(connection);
+    xcb_create_window(connection, XCB_COPY_FROM_PARENT, sender, screen.root, -1, -1, 1, 1, 0,
+                      XCB_WINDOW_CLASS_INPUT_ONLY, XCB_COPY_FROM_PARENT, 0, nullptr);
+    xcb_client_message_event_t message{};
+    message.response_type = XCB_CLIENT_MESSAGE;
+    message.format = 8;
+    message.window = sender;
+    message.type = atom(connection, "_NET_STARTUP_INFO_BEGIN");
+    const xcb_atom_t more = atom(connection, "_NET_STARTUP_INFO");
+    constexpr qsizetype piece = sizeof message.data.data8;
+    for (qsizetype sent = 0; sent <= text.size(); sent += piece) {
+        std::ranges::fill(message.data.data8, uint8_t(0));
+        const QByteArray next = text.mid(sent, piece);
+        std::ranges::copy(next, message.data.data8);
+        xcb_send_event(connection, kNo, screen.root, XCB_EVENT_MASK_PROPERTY_CHANGE,
+                       reinterpret_cast<const char *>(&message));
+        message.type = more;
+    }
+    xcb_destroy_window(connection, sender);
+    xcb_flush(connection);
+}
+} // namespace
+
+void endStartupNotification(const QString &id)
+{
+    const auto *x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
+    if (!id.isEmpty() && x11 && x11->connection())
+        broadcast(x11->connection(), removal(id));
+}
+#else
+void endStartupNotification(const QString & /*id*/) {}
+#endif

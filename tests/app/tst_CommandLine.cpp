@@ -1,0 +1,104 @@
+#include "app/CommandLine.h"
+#include "support/TestMain.h"
+
+/// What the arguments of the program mean.
+class tst_CommandLine final : public Test
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void withoutArgumentsNothingInParticularIsWanted();
+    void everyOrderHasAnOption();
+    void ofSeveralOrdersTheLastHolds();
+    void theBusAsksForAService();
+    void questionsAreAnswered_data();
+    void questionsAreAnswered();
+    void whatNobodyKnowsIsExplained_data();
+    void whatNobodyKnowsIsExplained();
+    void ordersHaveNamesAndBack();
+};
+
+static CommandLine read(const QStringList &arguments)
+{
+    return readCommandLine(QStringList(QStringLiteral("wuffer")) + arguments);
+}
+
+void tst_CommandLine::withoutArgumentsNothingInParticularIsWanted()
+{
+    const CommandLine line = read({});
+    QVERIFY(line.order == LaunchOrder::Activate);
+    QVERIFY(!line.service);
+    QVERIFY(!line.answer);
+}
+
+void tst_CommandLine::everyOrderHasAnOption()
+{
+    QVERIFY(read({QStringLiteral("--new-timer")}).order == LaunchOrder::NewTimer);
+    QVERIFY(read({QStringLiteral("--start-all")}).order == LaunchOrder::StartAll);
+    QVERIFY(read({QStringLiteral("--preferences")}).order == LaunchOrder::Preferences);
+    QVERIFY(read({QStringLiteral("--converter")}).order == LaunchOrder::Converter);
+}
+
+void tst_CommandLine::ofSeveralOrdersTheLastHolds()
+{
+    const CommandLine line = read({QStringLiteral("--converter"), QStringLiteral("--new-timer")});
+    QVERIFY(line.order == LaunchOrder::NewTimer);
+}
+
+void tst_CommandLine::theBusAsksForAService()
+{
+    const CommandLine line = read({QStringLiteral("--service")});
+    QVERIFY(line.service);
+    QVERIFY(line.order == LaunchOrder::Activate);
+}
+
+void tst_CommandLine::questionsAreAnswered_data()
+{
+    QTest::addColumn<QString>("option");
+    QTest::addColumn<QString>("part");
+    QTest::newRow("help") << QStringLiteral("--help") << QStringLiteral("--start-all");
+    QTest::newRow("help, short") << QStringLiteral("-h") << QStringLiteral("--preferences");
+    QTest::newRow("version") << QStringLiteral("--version")
+                             << QCoreApplication::applicationVersion();
+    QTest::newRow("version, short") << QStringLiteral("-v") << QStringLiteral("Wuffer ");
+}
+
+void tst_CommandLine::questionsAreAnswered()
+{
+    QFETCH(const QString, option);
+    QFETCH(const QString, part);
+    const CommandLine line = read({option});
+    QVERIFY(line.answer);
+    QVERIFY2(line.answer->contains(part), qPrintable(*line.answer));
+    QVERIFY(line.answer->endsWith(QLatin1Char('\n')));
+    QCOMPARE(line.exitStatus, 0);
+}
+
+void tst_CommandLine::whatNobodyKnowsIsExplained_data()
+{
+    QTest::addColumn<QString>("argument");
+    QTest::newRow("option") << QStringLiteral("--sing");
+    QTest::newRow("file") << QStringLiteral("tea.txt");
+    QTest::newRow("value for an option without one") << QStringLiteral("--converter=2");
+}
+
+void tst_CommandLine::whatNobodyKnowsIsExplained()
+{
+    QFETCH(const QString, argument);
+    const CommandLine line = read({argument});
+    QVERIFY(line.answer);
+    QVERIFY(line.answer->size() > 5);
+    QCOMPARE(line.exitStatus, 2);
+}
+
+void tst_CommandLine::ordersHaveNamesAndBack()
+{
+    for (const NamedLaunchOrder &each : kNamedLaunchOrders)
+        QVERIFY(launchOrderNamed(nameOf(each.order)) == each.order);
+    QCOMPARE(nameOf(LaunchOrder::Activate), QString());
+    QVERIFY(launchOrderNamed({}) == LaunchOrder::Activate);
+    QVERIFY(!launchOrderNamed(QStringLiteral("New-Timer")));
+}
+
+WUFFER_TEST_MAIN(tst_CommandLine)
+#include "tst_CommandLine.moc"

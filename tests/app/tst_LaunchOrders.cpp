@@ -1,0 +1,226 @@
+#include "app/HomeWindow.h"
+#include "app/LaunchOrders.h"
+#include "app/WufferController.h"
+#include "platform/SingleInstance.h"
+#include "support/TestMain.h"
+#include "support/TimerFixture.h"
+
+#include <QTimer>
+
+/// What opens at the first launch, and what later ones do to the program that runs.
+class tst_LaunchOrders final : public Test
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void theFirstLaunchOpensWhatItIsFor_data();
+    void theFirstLaunchOpensWhatItIsFor();
+    void aNewTimerIsLikeTheOneOfTheLastTime();
+    void startingAllStartsWhatOpens();
+    void aLaterLaunchOpensANewTimer();
+    void aLaterLaunchStartsEveryTimer();
+    void aLaterLaunchShowsTheOtherWindows();
+    void aLaterLaunchBringsTheLastActiveWindowForward();
+    void aLaterLaunchBringsBackAMinimizedTimer();
+    void anActionThatNobodyKnowsOpensNothing();
+    void aServiceOpensNothingUntilItIsTold();
+    void whatAServiceIsToldFirstDecidesWhatOpens();
+    void aServiceThatIsToldInTimeStays();
+    void whatAServiceIsToldNextIsDoneByTheRunningProgram();
+    // Last: a program that has ended opens no windows again.
+    void aServiceThatIsToldNothingEnds();
+};
+
+namespace
+{
+/// The program as main puts it together.
+struct Program : TestServices
+{
+    WufferController controller;
+    SingleInstance instance;
+    LaunchOrders orders{controller, instance};
+
+    void launch(LaunchOrder order) { orders.begin({.order = order, .answer = {}}); }
+    void ask(const char *action) { Q_EMIT instance.asked(QString::fromLatin1(action)); }
+};
+
+std::size_t timers()
+{
+    return WufferApplication::getWuffers().size();
+}
+
+/// The titles of all windows that are open, sorted.
+QStringList openWindows()
+{
+    QStringList titles;
+    for (const QWidget *window : QApplication::topLevelWidgets()) {
+        if (window->isVisible() && window->isWindow())
+            titles << (qobject_cast<const HomeWindow *>(window) ? QStringLiteral("home")
+                                                                : window->windowTitle());
+    }
+    titles.sort();
+    return titles;
+}
+} // namespace
+
+void tst_LaunchOrders::theFirstLaunchOpensWhatItIsFor_data()
+{
+    QTest::addColumn<int>("order");
+    QTest::addColumn<QString>("choice");
+    QTest::addColumn<QStringList>("windows");
+    const QString nothing = QStringLiteral("Do Nothing");
+    const QString preset = QStringLiteral("Open Preset ⌘1");
+    const QStringList timer{QStringLiteral("Wuffer")};
+    const QStringList home{QStringLiteral("home")};
+    QTest::newRow("a launch") << int(LaunchOrder::Activate) << QString() << timer;
+    QTest::newRow("a launch that opens nothing") << int(LaunchOrder::Activate) << nothing << home;
+    QTest::newRow("a new timer") << int(LaunchOrder::NewTimer) << QString() << timer;
+    QTest::newRow("a new timer in spite of the choice")
+        << int(LaunchOrder::NewTimer) << nothing << timer;
+    QTest::newRow("a new timer and no preset") << int(LaunchOrder::NewTimer) << preset << timer;
+    QTest::newRow("all started, of none") << int(LaunchOrder::StartAll) << nothing << home;
+    QTest::newRow("preferences") << int(LaunchOrder::Preferences) << QString()
+                                 << QStringList{QStringLiteral("Preferences")};
+    QTest::newRow("converter") << int(LaunchOrder::Converter) << preset
+                               << QStringList{QStringLiteral("Converter")};
+}
+
+void tst_LaunchOrders::theFirstLaunchOpensWhatItIsFor()
+{
+    QFETCH(const int, order);
+    QFETCH(const QString, choice);
+    Program program;
+    if (!choice.isEmpty())
+        program.defaults.setObject(choice, QStringLiteral("launchBehavior"));
+    program.launch(LaunchOrder(order));
+    QTEST(openWindows(), "windows");
+}
+
+void tst_LaunchOrders::aNewTimerIsLikeTheOneOfTheLastTime()
+{
+    Program program;
+    program.defaults.setObject(QVariantMap{{QStringLiteral("title"), QStringLiteral("Eggs")}},
+                               QStringLiteral("defaultWufferSettings"));
+    program.launch(LaunchOrder::NewTimer);
+    QCOMPARE(openWindows(), QStringList{QStringLiteral("Eggs")});
+}
+
+void tst_LaunchOrders::startingAllStartsWhatOpens()
+{
+    Program program;
+    program.launch(LaunchOrder::StartAll);
+    QCOMPARE(timers(), std::size_t(1));
+    QVERIFY(WufferApplication::getWuffers().front()->isRunning());
+}
+
+void tst_LaunchOrders::aLaterLaunchOpensANewTimer()
+{
+    Program program;
+    program.launch(LaunchOrder::Activate);
+    program.ask("new-timer");
+    QCOMPARE(timers(), std::size_t(2));
+    QVERIFY(QTest::qWaitForWindowActive(WufferApplication::getWuffers().back()->window()));
+}
+
+void tst_LaunchOrders::aLaterLaunchStartsEveryTimer()
+{
+    Program program;
+    program.launch(LaunchOrder::Activate);
+    program.ask("new-timer");
+    program.ask("start-all");
+    for (const Wuffer *timer : WufferApplication::getWuffers())
+        QVERIFY(timer->isRunning());
+}
+
+void tst_LaunchOrders::aLaterLaunchShowsTheOtherWindows()
+{
+    Program program;
+    program.launch(LaunchOrder::Activate);
+    program.ask("preferences");
+    program.ask("converter");
+    QCOMPARE(openWindows(), (QStringList{QStringLiteral("Converter"), QStringLiteral("Preferences"),
+                                         QStringLiteral("Wuffer")}));
+}
+
+void tst_LaunchOrders::aLaterLaunchBringsTheLastActiveWindowForward()
+{
+    Program program;
+    program.launch(LaunchOrder::Activate);
+    QWidget &first = *WufferApplication::getWuffers().front()->window();
+    program.ask("new-timer");
+    first.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&first));
+    first.showMinimized();
+    program.ask("");
+    QVERIFY(!first.isMinimized());
+    QVERIFY(QTest::qWaitForWindowActive(&first));
+    QCOMPARE(timers(), std::size_t(2));
+}
+
+void tst_LaunchOrders::aLaterLaunchBringsBackAMinimizedTimer()
+{
+    Program program;
+    program.launch(LaunchOrder::Activate);
+    QWidget &window = *WufferApplication::getWuffers().front()->window();
+    window.showMinimized();
+    program.ask("");
+    QVERIFY(!window.isMinimized());
+}
+
+void tst_LaunchOrders::anActionThatNobodyKnowsOpensNothing()
+{
+    Program program;
+    program.launch(LaunchOrder::Activate);
+    program.ask("dance");
+    QCOMPARE(openWindows(), QStringList{QStringLiteral("Wuffer")});
+}
+
+void tst_LaunchOrders::aServiceOpensNothingUntilItIsTold()
+{
+    Program program;
+    program.orders.begin({.service = true, .answer = {}});
+    QCOMPARE(openWindows(), QStringList());
+    program.ask("");
+    QCOMPARE(openWindows(), QStringList{QStringLiteral("Wuffer")});
+}
+
+void tst_LaunchOrders::whatAServiceIsToldFirstDecidesWhatOpens()
+{
+    Program program;
+    program.orders.begin({.service = true, .answer = {}});
+    program.ask("new-timer");
+    QCOMPARE(openWindows(), QStringList{QStringLiteral("Wuffer")});
+}
+
+void tst_LaunchOrders::aServiceThatIsToldInTimeStays()
+{
+    Program program;
+    program.orders.begin({.service = true, .answer = {}});
+    program.clock.advance(9.9);
+    program.ask("");
+    program.clock.advance(60);
+    QVERIFY(!WufferApplication::isQuitting());
+    QCoreApplication::processEvents();
+    QCOMPARE(timers(), std::size_t(1));
+}
+
+void tst_LaunchOrders::aServiceThatIsToldNothingEnds()
+{
+    Program program;
+    program.orders.begin({.service = true, .answer = {}});
+    QTimer::singleShot(0, &program.controller, [&] { program.clock.advance(10); });
+    // Comes back only when the program is to end.
+    QCOMPARE(QCoreApplication::exec(), 0);
+}
+
+void tst_LaunchOrders::whatAServiceIsToldNextIsDoneByTheRunningProgram()
+{
+    Program program;
+    program.orders.begin({.service = true, .answer = {}});
+    program.ask("preferences");
+    program.ask("new-timer");
+    QCOMPARE(openWindows(), (QStringList{QStringLiteral("Preferences"), QStringLiteral("Wuffer")}));
+}
+
+WUFFER_TEST_MAIN(tst_LaunchOrders)
+#include "tst_LaunchOrders.moc"

@@ -1,0 +1,154 @@
+#!/usr/bin/python3
+"""Launches the program again while it runs, and closes all of its windows.
+
+Usage: home_test.py WUFFER FOLDER [unittest arguments]
+"""
+
+import os
+import signal
+import subprocess
+import time
+
+from gi.repository import Gio, GLib
+
+from support.case import DesktopTest, main
+from support.program import Program
+from support.root_messages import RootMessages
+from support.waiting import wait_until
+
+NAME = "org.wuffer.Wuffer"
+PATH = "/org/wuffer/Wuffer"
+
+
+class HomeTest(DesktopTest):
+    def launch_again(self, program, *arguments, environment=None):
+        """A launch while the program runs; gives how many seconds it took."""
+        start = time.monotonic()
+        result = subprocess.run([program.executable, *arguments], timeout=10, check=False,
+                                env=dict(program.environment, **(environment or {})),
+                                capture_output=True, text=True)
+        self.assertEqual((result.returncode, result.stdout, result.stderr), (0, "", ""))
+        return time.monotonic() - start
+
+    def wait_until_active(self, title):
+        wait_until(lambda: title in self.display.title(self.display.active_window()), 5,
+                   f"{title} is active")
+
+    def test_the_home_window_takes_the_place_of_the_last_one(self):
+        program = self.launch()
+        timer, = program.windows()
+        self.display.key("ctrl+w")
+        program.wait_for_button("New Timer")
+        home, = program.wait_for_windows(1)
+        self.assertNotEqual(home, timer)
+        wait_until(lambda: self.display.active_window() == home, 3, "it is active")
+        self.display.key("Return")
+        wait_until(lambda: program.has("field", "Minutes"), 5, "a timer is there")
+        program.wait_for_windows(1)
+        self.display.key("ctrl+w")
+        program.wait_for_button("New Timer")
+        start = time.monotonic()
+        self.display.key("alt+F4")
+        seconds, status = program.wait_for_end(start)
+        self.assertEqual(status, 0)
+        self.assertLess(seconds, 1.5)
+
+    def test_presets_open_from_the_home_window_by_mouse_and_by_key(self):
+        program = self.launch(settings='{"launchBehavior": "Do Nothing",'
+                                       ' "Preset 4": {"title": "Eggs", "minutes": 6}}')
+        button = program.place(program.find("button", "Eggs - 0h 6m 0s"))
+        self.display.click(button.x + 10, button.y + 10)
+        self.wait_until_active("Eggs")
+        self.display.key("ctrl+w")
+        program.wait_for_button("New Timer")
+        self.display.key("alt+4")
+        self.wait_until_active("Eggs")
+        self.assertEqual(len(program.windows()), 1)
+        self.quit(program)
+
+    def test_a_launch_while_it_runs_reaches_the_program(self):
+        program = self.launch()
+        timer, = program.windows()
+        self.display.type("5")
+        self.report(f"{self.launch_again(program, '--new-timer'):.3f} s")
+        second = program.wait_for_windows(2)[1]
+        wait_until(lambda: self.display.active_window() == second, 5, "it is active")
+        self.display.type("5")
+        self.launch_again(program, "--start-all")
+        wait_until(lambda: len(program.all("button", "Stop")) == 2, 5, "two timers run")
+        self.launch_again(program, "--converter")
+        self.wait_until_active("Converter")
+        self.launch_again(program, "--preferences")
+        self.wait_until_active("Preferences")
+        self.assertEqual(len(program.windows()), 4)
+        self.assertIn(timer, program.windows())
+        self.quit(program)
+
+    def test_a_launch_brings_a_minimized_timer_back(self):
+        program = self.launch()
+        timer, = program.windows()
+        self.display.key("ctrl+m")
+        wait_until(lambda: self.display.active_window() != timer, 5, "it is minimized")
+        self.launch_again(program)
+        wait_until(lambda: self.display.active_window() == timer, 5, "it is back")
+        self.quit(program)
+
+    def test_the_desktop_is_told_that_the_launch_is_over(self):
+        program = self.launch()
+        messages = RootMessages(self.display)
+        self.addCleanup(messages.close)
+        self.launch_again(program, environment={"DESKTOP_STARTUP_ID": 'a "launch"_TIME0'})
+        self.assertEqual(messages.startup_text(5), b'remove: ID="a \\"launch\\"_TIME0"\0')
+        self.quit(program)
+
+    def call(self, method, arguments):
+        self.session.bus.call_sync(NAME, PATH, "org.freedesktop.Application", method, arguments,
+                                   None, Gio.DBusCallFlags.NO_AUTO_START, 5000, None)
+
+    def test_started_as_a_service_it_waits_for_its_orders(self):
+        program = self.launch_service()
+        self.assertEqual(program.windows(), [])
+        self.call("ActivateAction", GLib.Variant("(sava{sv})", ("converter", [], {})))
+        self.assertIn("Converter", self.display.title(program.wait_for_windows(1)[0]))
+        self.call("Activate", GLib.Variant("(a{sv})", ({},)))
+        self.wait_until_active("Converter")
+        program.kill()
+
+    def launch_service(self):
+        program = Program(self.session, accessible=False, arguments=["--service"])
+        self.programs.append(program)
+        program.spawn()
+        wait_until(lambda: self.session.owns(NAME), 5, "the program owns its name")
+        return program
+
+    def test_a_program_that_hangs_is_done_without(self):
+        program = self.launch()
+        os.kill(program.process.pid, signal.SIGSTOP)
+        try:
+            second = self.launch(accessible=False)
+            self.assertEqual(len(second.windows()), 1)
+            self.quit(second)
+        finally:
+            os.kill(program.process.pid, signal.SIGCONT)
+        self.quit_when_active(program)
+
+    def quit_when_active(self, program):
+        window, = program.windows()
+        self.display.activate(window)
+        wait_until(lambda: self.display.active_window() == window, 5, "it is active")
+        self.quit(program)
+
+    def test_a_bus_that_hangs_is_done_without(self):
+        self.session.bus_daemon.send_signal(signal.SIGSTOP)
+        try:
+            start = time.monotonic()
+            program = self.launch(accessible=False)
+            self.report(f"a window after {time.monotonic() - start:.1f} s")
+            program.start_countdown(60)
+            self.quit(program)
+        finally:
+            self.session.bus_daemon.send_signal(signal.SIGCONT)
+
+
+if __name__ == "__main__":
+    main()

@@ -1,0 +1,195 @@
+#include "platform/BusProbe.h"
+#include "platform/SingleInstance.h"
+#include "support/BusPeer.h"
+#include "support/SessionBus.h"
+#include "support/TestMain.h"
+
+#include <QDBusConnectionInterface>
+#include <QSignalSpy>
+
+#include <csignal>
+
+/// The program is one in its session, and hears what others want of it.
+class tst_SingleInstance final : public Test
+{
+    Q_OBJECT
+
+public:
+    explicit tst_SingleInstance(SessionBus &bus) : _bus(bus) {}
+
+private Q_SLOTS:
+    void theFirstOwnsTheName();
+    void whoComesLaterDoesNot();
+    void activationIsPassedOn();
+    void actionsArePassedOn();
+    void filesAreAnActivation();
+    void theTokenOfAnActivationIsKeptForTheWindow();
+    void nobodyAnswersWhenThereIsNoFirst();
+    void aFirstThatHangsIsGivenUp();
+    void aBusThatIsAliveDoesNotHang();
+    void aBusThatIsStoppedHangs();
+    void whereNobodyListensNothingHangs_data();
+    void whereNobodyListensNothingHangs();
+
+private:
+    SessionBus &_bus;
+};
+
+namespace
+{
+const QString kName = QStringLiteral("org.wuffer.Wuffer");
+const QString kPath = QStringLiteral("/org/wuffer/Wuffer");
+const QString kInterface = QStringLiteral("org.freedesktop.Application");
+
+/// Another program that was started earlier: it owns the name, and hears nothing.
+class OtherInstance final
+{
+public:
+    explicit OtherInstance(const QString &address) :
+        _bus(QDBusConnection::connectToBus(address, QStringLiteral("other")))
+    {
+        if (!_bus.registerService(kName))
+            qFatal("the name is taken");
+    }
+    ~OtherInstance()
+    {
+        _bus.unregisterService(kName);
+        QDBusConnection::disconnectFromBus(QStringLiteral("other"));
+    }
+    Q_DISABLE_COPY_MOVE(OtherInstance)
+
+    /// Lets it take calls, which are answered when the event loop comes round.
+    void listen() { _bus.registerObject(kPath, &_object, QDBusConnection::ExportAllSlots); }
+
+private:
+    QDBusConnection _bus;
+    QObject _object;
+};
+
+QString ownerOfTheName()
+{
+    return QDBusConnection::sessionBus().interface()->serviceOwner(kName).value();
+}
+} // namespace
+
+void tst_SingleInstance::theFirstOwnsTheName()
+{
+    SingleInstance instance;
+    QVERIFY(instance.claim());
+    QCOMPARE(ownerOfTheName(), QDBusConnection::sessionBus().baseService());
+}
+
+void tst_SingleInstance::whoComesLaterDoesNot()
+{
+    QVERIFY(QDBusConnection::sessionBus().unregisterService(kName));
+    const OtherInstance other(_bus.address());
+    SingleInstance instance;
+    QVERIFY(!instance.claim());
+    QVERIFY(ownerOfTheName() != QDBusConnection::sessionBus().baseService());
+}
+
+void tst_SingleInstance::activationIsPassedOn()
+{
+    SingleInstance instance;
+    QVERIFY(instance.claim());
+    const QSignalSpy asked(&instance, &SingleInstance::asked);
+    BusPeer desktop(_bus.address(), kPath, kInterface);
+    desktop.tell(QStringLiteral("Activate"), {QVariantMap()});
+    QCOMPARE(asked.count(), 1);
+    QCOMPARE(asked.first().first().toString(), QString());
+}
+
+void tst_SingleInstance::actionsArePassedOn()
+{
+    SingleInstance instance;
+    QVERIFY(instance.claim());
+    const QSignalSpy asked(&instance, &SingleInstance::asked);
+    BusPeer desktop(_bus.address(), kPath, kInterface);
+    desktop.tell(QStringLiteral("ActivateAction"),
+                 {QStringLiteral("start-all"), QVariantList(), QVariantMap()});
+    QCOMPARE(asked.count(), 1);
+    QCOMPARE(asked.first().first().toString(), QStringLiteral("start-all"));
+}
+
+void tst_SingleInstance::filesAreAnActivation()
+{
+    SingleInstance instance;
+    QVERIFY(instance.claim());
+    const QSignalSpy asked(&instance, &SingleInstance::asked);
+    BusPeer desktop(_bus.address(), kPath, kInterface);
+    desktop.tell(QStringLiteral("Open"),
+                 {QStringList{QStringLiteral("file:///tea")}, QVariantMap()});
+    QCOMPARE(asked.count(), 1);
+    QCOMPARE(asked.first().first().toString(), QString());
+}
+
+void tst_SingleInstance::theTokenOfAnActivationIsKeptForTheWindow()
+{
+    SingleInstance instance;
+    QVERIFY(instance.claim());
+    BusPeer desktop(_bus.address(), kPath, kInterface);
+    desktop.tell(QStringLiteral("Activate"),
+                 {QVariantMap{{QStringLiteral("activation-token"), QStringLiteral("abc")}}});
+    QCOMPARE(qgetenv("XDG_ACTIVATION_TOKEN"), QByteArray("abc"));
+    qunsetenv("XDG_ACTIVATION_TOKEN");
+}
+
+void tst_SingleInstance::nobodyAnswersWhenThereIsNoFirst()
+{
+    QDBusConnection::sessionBus().unregisterService(kName);
+    const SingleInstance instance;
+    QVERIFY(!instance.forward({}, {}));
+    QVERIFY(!instance.forward(QStringLiteral("new-timer"), {}));
+}
+
+void tst_SingleInstance::aFirstThatHangsIsGivenUp()
+{
+    QDBusConnection::sessionBus().unregisterService(kName);
+    OtherInstance other(_bus.address());
+    // It lives in this thread, which waits.
+    other.listen();
+    const SingleInstance instance;
+    QVERIFY(!instance.forward(QStringLiteral("new-timer"), {}));
+}
+
+void tst_SingleInstance::aBusThatIsAliveDoesNotHang()
+{
+    QVERIFY(!BusProbe::hangs(_bus.address().toUtf8()));
+}
+
+void tst_SingleInstance::aBusThatIsStoppedHangs()
+{
+    ::kill(_bus.processId(), SIGSTOP);
+    const bool hangs = BusProbe::hangs(_bus.address().toUtf8());
+    ::kill(_bus.processId(), SIGCONT);
+    QVERIFY(hangs);
+}
+
+void tst_SingleInstance::whereNobodyListensNothingHangs_data()
+{
+    QTest::addColumn<QByteArray>("address");
+    QTest::newRow("no address") << QByteArray();
+    QTest::newRow("no such socket") << QByteArray("unix:path=/nowhere/at%20all");
+    QTest::newRow("no such abstract socket") << QByteArray("unix:abstract=wuffer-nowhere");
+    QTest::newRow("a name that is too long") << "unix:path=/" + QByteArray(200, 'a');
+    QTest::newRow("no name") << QByteArray("unix:path=");
+    QTest::newRow("another kind of address") << QByteArray("tcp:host=localhost,port=1");
+    QTest::newRow("disabled") << QByteArray("disabled:");
+}
+
+void tst_SingleInstance::whereNobodyListensNothingHangs()
+{
+    QFETCH(const QByteArray, address);
+    QVERIFY(!BusProbe::hangs(address));
+}
+
+int main(int argc, char *argv[])
+{
+    SessionBus bus;
+    QStandardPaths::setTestModeEnabled(true);
+    WufferApplication application(argc, argv);
+    tst_SingleInstance test(bus);
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_SingleInstance.moc"
