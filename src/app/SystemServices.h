@@ -8,6 +8,7 @@
 #include "platform/SystemDesktop.h"
 #include "platform/SystemOpenPanel.h"
 #include "platform/UserDefaults.h"
+#include "timer/GatheredNotifications.h"
 
 /// The services of the platform that the running program uses, installed for as long as this
 /// object lives.
@@ -19,17 +20,19 @@ public:
 
 private:
     SystemClock _clock;
+    /// Before the services that wait for moments.
+    Service<Clock> _clockService{_clock};
     UserDefaults _defaults{UserDefaults::standardPath()};
     LazySoundSystem _sounds;
     FreedesktopNotifications _notifications;
+    GatheredNotifications _gatheredNotifications{_notifications};
     SystemDesktop _desktop;
     SystemOpenPanel _openPanel;
     FreedesktopStatusItem _statusItem;
 
-    Service<Clock> _clockService{_clock};
     Service<UserDefaults> _defaultsService{_defaults};
     Service<SoundSystem> _soundService{_sounds};
-    Service<DesktopNotifications> _notificationService{_notifications};
+    Service<DesktopNotifications> _notificationService{_gatheredNotifications};
     Service<Desktop> _desktopService{_desktop};
     Service<OpenPanel> _openPanelService{_openPanel};
     Service<StatusItem> _statusItemService{_statusItem};

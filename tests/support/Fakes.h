@@ -79,7 +79,7 @@ private:
     QStringList _diary;
 };
 
-/// Keeps what would have been shown.
+/// Keeps what would have been shown, and what of it would still be there.
 class FakeNotifications final : public DesktopNotifications
 {
 public:
@@ -93,6 +93,13 @@ public:
     {
         shown.push_back({&sender, notification});
     }
+        withdraw(sender);
+        standing.push_back({&sender, notification});
+    }
+
+    void withdraw(const QObject &sender) override
+    {
+        std::erase_if(standing, [&](const Shown &each) { return each.sender == &sender; });
 
     std::vector<Shown> shown;
 };
