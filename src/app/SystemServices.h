@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/FreedesktopNotifications.h"
+#include "platform/FreedesktopScreenBlanking.h"
 #include "platform/FreedesktopStatusItem.h"
 #include "platform/LazySoundSystem.h"
 #include "platform/Service.h"
@@ -26,6 +27,7 @@ private:
     LazySoundSystem _sounds;
     FreedesktopNotifications _notifications;
     GatheredNotifications _gatheredNotifications{_notifications};
+    FreedesktopScreenBlanking _screenBlanking;
     SystemDesktop _desktop;
     SystemOpenPanel _openPanel;
     FreedesktopStatusItem _statusItem;
@@ -33,6 +35,7 @@ private:
     Service<UserDefaults> _defaultsService{_defaults};
     Service<SoundSystem> _soundService{_sounds};
     Service<DesktopNotifications> _notificationService{_gatheredNotifications};
+    Service<ScreenBlanking> _screenBlankingService{_screenBlanking};
     Service<Desktop> _desktopService{_desktop};
     Service<OpenPanel> _openPanelService{_openPanel};
     Service<StatusItem> _statusItemService{_statusItem};
