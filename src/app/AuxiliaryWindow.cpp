@@ -1,7 +1,7 @@
 #include "app/AuxiliaryWindow.h"
 
 #include "app/MainMenu.h"
-#include "controls/WindowOrder.h"
+#include "platform/WindowOrder.h"
 
 #include <QKeyEvent>
 

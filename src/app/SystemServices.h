@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/FreedesktopNotifications.h"
+#include "platform/FreedesktopScreenBlanking.h"
 #include "platform/FreedesktopStatusItem.h"
 #include "platform/LazySoundSystem.h"
 #include "platform/Service.h"
@@ -8,6 +9,7 @@
 #include "platform/SystemDesktop.h"
 #include "platform/SystemOpenPanel.h"
 #include "platform/UserDefaults.h"
+#include "timer/GatheredNotifications.h"
 
 /// The services of the platform that the running program uses, installed for as long as this
 /// object lives.
@@ -19,17 +21,21 @@ public:
 
 private:
     SystemClock _clock;
+    /// Before the services that wait for moments.
+    Service<Clock> _clockService{_clock};
     UserDefaults _defaults{UserDefaults::standardPath()};
     LazySoundSystem _sounds;
     FreedesktopNotifications _notifications;
+    GatheredNotifications _gatheredNotifications{_notifications};
+    FreedesktopScreenBlanking _screenBlanking;
     SystemDesktop _desktop;
     SystemOpenPanel _openPanel;
     FreedesktopStatusItem _statusItem;
 
-    Service<Clock> _clockService{_clock};
     Service<UserDefaults> _defaultsService{_defaults};
     Service<SoundSystem> _soundService{_sounds};
-    Service<DesktopNotifications> _notificationService{_notifications};
+    Service<DesktopNotifications> _notificationService{_gatheredNotifications};
+    Service<ScreenBlanking> _screenBlankingService{_screenBlanking};
     Service<Desktop> _desktopService{_desktop};
     Service<OpenPanel> _openPanelService{_openPanel};
     Service<StatusItem> _statusItemService{_statusItem};

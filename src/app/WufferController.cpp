@@ -8,7 +8,7 @@
 #include "app/StatusPresenter.h"
 #include "app/WebPage.h"
 #include "app/WufferApplication.h"
-#include "controls/WindowOrder.h"
+#include "platform/WindowOrder.h"
 #include "platform/Desktop.h"
 #include "platform/NotificationCenter.h"
 #include "platform/Service.h"

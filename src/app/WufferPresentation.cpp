@@ -1,4 +1,6 @@
-#include "controls/WindowOrder.h"
+#include "platform/WindowOrder.h"
+#include "platform/ScreenBlanking.h"
+#include "platform/Service.h"
 #include "settings/WufferWindow.h"
 #include "timer/DisplayFont.h"
 #include "timer/TimerTexts.h"
@@ -39,6 +41,7 @@ void Wuffer::setFullScreenMode(bool fullScreen)
         setFullScreenFontSizes(true);
         _ui->_fullTitleField->setVisible(true);
         QGuiApplication::setOverrideCursor(Qt::BlankCursor);
+        Service<ScreenBlanking>::current().inhibit(*this, tr("A timer fills the screen"));
     } else {
         // It comes back with its large fonts, by which the window must not be stretched.
         _window->layout()->setEnabled(false);
@@ -46,6 +49,7 @@ void Wuffer::setFullScreenMode(bool fullScreen)
         setFullScreenFontSizes(false);
         _window->layout()->setEnabled(true);
         QGuiApplication::restoreOverrideCursor();
+        Service<ScreenBlanking>::current().release(*this);
     }
 }
 

@@ -9,6 +9,8 @@
 #include <QGuiApplication>
 #include <QVariantMap>
 
+#include <algorithm>
+#include <limits>
 #include <optional>
 
 /// What has been said to the server, and is still to say, on behalf of one sender.
@@ -22,15 +24,50 @@ struct FreedesktopNotifications::Conversation
     bool underWay = false;
     /// The latest that has not been sent. Whatever came before it would only be replaced.
     std::optional<DesktopNotification> next;
+    /// The latest that has been sent; nothing when that has been withdrawn or is gone.
+    std::optional<DesktopNotification> shown;
 };
 
 namespace
 {
-QDBusMessage serverCall(const QString &method)
+const QString kInterface = QStringLiteral("org.freedesktop.Notifications");
+const QString kPath = QStringLiteral("/org/freedesktop/Notifications");
+
+using Action = std::function<void()> DesktopNotification::*;
+
+/// A button; the default one is a click on the notification itself.
+struct Button
 {
-    return QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.Notifications"),
-                                          QStringLiteral("/org/freedesktop/Notifications"),
-                                          QStringLiteral("org.freedesktop.Notifications"), method);
+    QLatin1String key;
+    const char *label;
+    Action action;
+};
+
+constexpr Button kButtons[]{
+    {QLatin1String("default"), QT_TRANSLATE_NOOP("FreedesktopNotifications", "Show"),
+     &DesktopNotification::show},
+    {QLatin1String("show"), QT_TRANSLATE_NOOP("FreedesktopNotifications", "Show"),
+     &DesktopNotification::show},
+    {QLatin1String("stop"), QT_TRANSLATE_NOOP("FreedesktopNotifications", "Stop"),
+     &DesktopNotification::stop},
+};
+
+QDBusMessage call(const QString &server, const QString &method, const QVariantList &arguments = {})
+{
+    QDBusMessage message = QDBusMessage::createMethodCall(server, kPath, kInterface, method);
+    message.setArguments(arguments);
+    return message;
+}
+
+/// The keys and labels of the buttons, in turn.
+QStringList buttons(const DesktopNotification &notification)
+{
+    QStringList keysAndLabels;
+    for (const Button &button : kButtons) {
+        if (notification.*button.action)
+            keysAndLabels << button.key << FreedesktopNotifications::tr(button.label);
+    }
+    return keysAndLabels;
 }
 
 /// The icon is installed under the name of the program.
@@ -40,7 +77,8 @@ QString iconName()
 }
 
 /// The arguments of Notify, in the order of the protocol.
-QVariantList notifyArguments(const DesktopNotification &notification, uint replacedId, bool markup)
+QVariantList notifyArguments(const DesktopNotification &notification, uint replacedId,
+                             const QStringList &capabilities)
 {
     const QVariantMap hints{
         {QStringLiteral("desktop-entry"), QGuiApplication::desktopFileName()},
@@ -48,23 +86,27 @@ QVariantList notifyArguments(const DesktopNotification &notification, uint repla
         // The program plays its own alarm.
         {QStringLiteral("suppress-sound"), true},
     };
-    const QString text = markup ? notification.text.toHtmlEscaped() : notification.text;
+    const bool markup = capabilities.contains(QStringLiteral("body-markup"));
+    const bool actions = capabilities.contains(QStringLiteral("actions"));
     constexpr int serversOwnTimeout = -1;
     return {QGuiApplication::applicationDisplayName(),
             replacedId,
             iconName(),
             notification.title,
-            text,
-            QStringList(),
+            markup ? notification.text.toHtmlEscaped() : notification.text,
+            actions ? buttons(notification) : QStringList(),
             hints,
             serversOwnTimeout};
 }
 
 template<class Function>
-void whenAnswered(const QDBusMessage &call, QObject &context, Function &&function)
+void whenAnswered(const QDBusMessage &question, QObject &context, Function &&function)
 {
-    auto *watcher =
-        new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(call), &context);
+    // A server that was frozen shows late what it has been told, and must then still be asked for
+    // its number, by which to withdraw it.
+    constexpr int howeverLong = std::numeric_limits<int>::max();
+    auto *watcher = new QDBusPendingCallWatcher(
+        QDBusConnection::sessionBus().asyncCall(question, howeverLong), &context);
     QObject::connect(watcher, &QDBusPendingCallWatcher::finished, watcher, &QObject::deleteLater);
     QObject::connect(watcher, &QDBusPendingCallWatcher::finished, &context,
                      std::forward<Function>(function));
@@ -76,43 +118,127 @@ void FreedesktopNotifications::notify(const QObject &sender,
 {
     if (!SessionBus::isPresent() || !QDBusConnection::sessionBus().isConnected())
         return;
-    std::shared_ptr<Conversation> &conversation = _conversations[&sender];
-    if (!conversation) {
-        conversation = std::make_shared<Conversation>();
-        connect(&sender, &QObject::destroyed, this,
-                [this](QObject *gone) { _conversations.remove(gone); });
-    }
+    listen();
+    const std::shared_ptr<Conversation> conversation = conversationWith(sender);
     conversation->next = notification;
     if (!conversation->underWay)
         askCapabilities(conversation);
 }
 
+void FreedesktopNotifications::withdraw(const QObject &sender)
+{
+    const std::shared_ptr<Conversation> conversation = _conversations.value(&sender);
+    if (!conversation)
+        return;
+    conversation->next.reset();
+    conversation->shown.reset();
+    const uint id = std::exchange(conversation->id, 0);
+    if (id != 0) {
+        QDBusConnection::sessionBus().asyncCall(
+            call(conversation->server, QStringLiteral("CloseNotification"), {id}));
+    }
+}
+
+std::shared_ptr<FreedesktopNotifications::Conversation>
+FreedesktopNotifications::conversationWith(const QObject &sender)
+{
+    std::shared_ptr<Conversation> &conversation = _conversations[&sender];
+    if (!conversation) {
+        conversation = std::make_shared<Conversation>();
+        connect(&sender, &QObject::destroyed, this, &FreedesktopNotifications::forget);
+    }
+    return conversation;
+}
+
+void FreedesktopNotifications::forget(const QObject *sender)
+{
+    withdraw(*sender);
+    _conversations.remove(sender);
+}
+
+void FreedesktopNotifications::listen()
+{
+    if (_listening)
+        return;
+    // To anybody: for the signals of one name, Qt would ask the bus who has it, and wait.
+    _listening = QDBusConnection::sessionBus().connect({}, kPath, kInterface, {}, this,
+                                                       SLOT(hear(QDBusMessage)));
+}
+
+void FreedesktopNotifications::hear(const QDBusMessage &signal)
+{
+    const QVariantList arguments = signal.arguments();
+    if (arguments.size() != 2 || arguments.front().typeId() != QMetaType::UInt)
+        return;
+    const auto conversation = conversationAbout(arguments.front().toUInt(), signal.service());
+    if (!conversation)
+        return;
+    std::function<void()> action;
+    if (signal.member() == QLatin1String("ActionInvoked")) {
+        const auto *button = std::ranges::find(kButtons, arguments.back().toString(), &Button::key);
+        if (button != std::end(kButtons))
+            action = (*conversation->shown).*(button->action);
+    } else if (signal.member() == QLatin1String("NotificationClosed")) {
+        conversation->id = 0;
+        action = std::exchange(conversation->shown, {})->closed;
+    }
+    if (action)
+        action();
+}
+
+std::shared_ptr<FreedesktopNotifications::Conversation>
+FreedesktopNotifications::conversationAbout(uint id, const QString &server) const
+{
+    const auto found =
+        std::find_if(_conversations.begin(), _conversations.end(), [&](const auto &each) {
+            return each->id != 0 && each->id == id && each->server == server && !each->underWay &&
+                   each->shown;
+        });
+    return found == _conversations.end() ? nullptr : *found;
+}
+
 void FreedesktopNotifications::askCapabilities(const std::shared_ptr<Conversation> &conversation)
 {
     conversation->underWay = true;
-    whenAnswered(serverCall(QStringLiteral("GetCapabilities")), *this,
-                 [this, conversation](QDBusPendingCallWatcher *call) {
-                     const QDBusPendingReply<QStringList> capabilities = *call;
+    whenAnswered(call(kInterface, QStringLiteral("GetCapabilities")), *this,
+                 [this, conversation](QDBusPendingCallWatcher *answer) {
+                     const QDBusPendingReply<QStringList> capabilities = *answer;
                      // A server that was restarted counts anew: its number for ours is another's.
-                     if (call->reply().service() != conversation->server)
+                     if (answer->reply().service() != conversation->server)
                          conversation->id = 0;
-                     send(conversation,
-                          capabilities.isValid() &&
-                              capabilities.value().contains(QStringLiteral("body-markup")));
+                     if (conversation->next)
+                         send(conversation,
+                              capabilities.isValid() ? capabilities.value() : QStringList());
+                     else
+                         conversation->underWay = false;
                  });
 }
 
-void FreedesktopNotifications::send(const std::shared_ptr<Conversation> &conversation, bool markup)
+void FreedesktopNotifications::send(const std::shared_ptr<Conversation> &conversation,
+                                    const QStringList &capabilities)
 {
-    QDBusMessage call = serverCall(QStringLiteral("Notify"));
-    call.setArguments(notifyArguments(*conversation->next, conversation->id, markup));
-    conversation->next.reset();
-    whenAnswered(call, *this, [this, conversation](QDBusPendingCallWatcher *answer) {
-        const QDBusPendingReply<uint> id = *answer;
-        conversation->id = id.isValid() ? id.value() : 0;
-        conversation->server = answer->reply().service();
-        conversation->underWay = false;
-        if (conversation->next)
-            askCapabilities(conversation);
-    });
+    const uint replacedId = std::exchange(conversation->id, 0);
+    conversation->shown = std::exchange(conversation->next, {});
+    whenAnswered(call(kInterface, QStringLiteral("Notify"),
+                      notifyArguments(*conversation->shown, replacedId, capabilities)),
+                 *this, [this, conversation](QDBusPendingCallWatcher *answer) {
+                     sent(conversation, answer->reply());
+                 });
+}
+
+void FreedesktopNotifications::sent(const std::shared_ptr<Conversation> &conversation,
+                                    const QDBusMessage &answer)
+{
+    conversation->underWay = false;
+    conversation->server = answer.service();
+    const bool numbered =
+        answer.type() == QDBusMessage::ReplyMessage && answer.signature() == QLatin1String("u");
+    const uint id = numbered ? answer.arguments().constFirst().toUInt() : 0;
+    if (conversation->next || conversation->shown)
+        conversation->id = id;
+    else if (id != 0)
+        QDBusConnection::sessionBus().asyncCall(
+            call(conversation->server, QStringLiteral("CloseNotification"), {id}));
+    if (conversation->next)
+        askCapabilities(conversation);
 }

@@ -7,6 +7,8 @@
 
 #include <memory>
 
+class QDBusMessage;
+
 /// Notifications by the Desktop Notifications Specification 1.2 of freedesktop.org, over the
 /// session bus. A server that is missing, slow or restarted changes nothing else: calls are sent
 /// and never waited for.
@@ -18,12 +20,23 @@ public:
     FreedesktopNotifications() = default;
 
     void notify(const QObject &sender, const DesktopNotification &notification) override;
+    void withdraw(const QObject &sender) override;
+
+private Q_SLOTS:
+    void hear(const QDBusMessage &signal);
 
 private:
     struct Conversation;
 
+    [[nodiscard]] std::shared_ptr<Conversation> conversationWith(const QObject &sender);
+    [[nodiscard]] std::shared_ptr<Conversation> conversationAbout(uint id,
+                                                                  const QString &server) const;
+    void forget(const QObject *sender);
+    void listen();
     void askCapabilities(const std::shared_ptr<Conversation> &conversation);
-    void send(const std::shared_ptr<Conversation> &conversation, bool markup);
+    void send(const std::shared_ptr<Conversation> &conversation, const QStringList &capabilities);
+    void sent(const std::shared_ptr<Conversation> &conversation, const QDBusMessage &answer);
 
     QHash<const QObject *, std::shared_ptr<Conversation>> _conversations;
+    bool _listening = false;
 };

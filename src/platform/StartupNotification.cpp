@@ -1,25 +1,14 @@
 #include "platform/StartupNotification.h"
 
-#include <QGuiApplication>
+#include <QString>
 
 #ifdef WUFFER_XCB
+#include "platform/X11.h"
+
 #include <algorithm>
-#include <memory>
-#include <xcb/xcb.h>
 
 namespace
 {
-constexpr uint8_t kNo = 0;
-
-xcb_atom_t atom(xcb_connection_t *connection, QByteArrayView name)
-{
-    const auto question =
-        xcb_intern_atom(connection, kNo, static_cast<uint16_t>(name.size()), name.data());
-    const std::unique_ptr<xcb_intern_atom_reply_t, decltype(&free)> answer(
-        xcb_intern_atom_reply(connection, question, nullptr), &free);
-    return answer ? answer->atom : xcb_atom_t(XCB_ATOM_NONE);
-}
-
 /// The text as the protocol has it: within quotes, with a backslash before what would end them.
 QByteArray removal(const QString &id)
 {
@@ -32,22 +21,22 @@ QByteArray removal(const QString &id)
 /// holds the zero at the end.
 void broadcast(xcb_connection_t *connection, const QByteArray &text)
 {
-    const xcb_screen_t &screen = *xcb_setup_roots_iterator(xcb_get_setup(connection)).data;
+    const xcb_window_t root = X11::rootOf(connection);
     const xcb_window_t sender = xcb_generate_id(connection);
-    xcb_create_window(connection, XCB_COPY_FROM_PARENT, sender, screen.root, -1, -1, 1, 1, 0,
+    xcb_create_window(connection, XCB_COPY_FROM_PARENT, sender, root, -1, -1, 1, 1, 0,
                       XCB_WINDOW_CLASS_INPUT_ONLY, XCB_COPY_FROM_PARENT, 0, nullptr);
     xcb_client_message_event_t message{};
     message.response_type = XCB_CLIENT_MESSAGE;
     message.format = 8;
     message.window = sender;
-    message.type = atom(connection, "_NET_STARTUP_INFO_BEGIN");
-    const xcb_atom_t more = atom(connection, "_NET_STARTUP_INFO");
+    message.type = X11::atom(connection, "_NET_STARTUP_INFO_BEGIN");
+    const xcb_atom_t more = X11::atom(connection, "_NET_STARTUP_INFO");
     constexpr qsizetype piece = sizeof message.data.data8;
     for (qsizetype sent = 0; sent <= text.size(); sent += piece) {
         std::ranges::fill(message.data.data8, uint8_t(0));
         const QByteArray next = text.mid(sent, piece);
         std::ranges::copy(next, message.data.data8);
-        xcb_send_event(connection, kNo, screen.root, XCB_EVENT_MASK_PROPERTY_CHANGE,
+        xcb_send_event(connection, X11::kNo, root, XCB_EVENT_MASK_PROPERTY_CHANGE,
                        reinterpret_cast<const char *>(&message));
         message.type = more;
     }
@@ -58,9 +47,9 @@ void broadcast(xcb_connection_t *connection, const QByteArray &text)
 
 void endStartupNotification(const QString &id)
 {
-    const auto *x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-    if (!id.isEmpty() && x11 && x11->connection())
-        broadcast(x11->connection(), removal(id));
+    xcb_connection_t *connection = X11::connection();
+    if (!id.isEmpty() && connection)
+        broadcast(connection, removal(id));
 }
 #else
 void endStartupNotification(const QString & /*id*/) {}

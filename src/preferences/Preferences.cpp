@@ -1,7 +1,7 @@
 #include "preferences/Preferences.h"
 
 #include "controls/PickFromList.h"
-#include "controls/WindowOrder.h"
+#include "platform/WindowOrder.h"
 #include "platform/NotificationCenter.h"
 #include "platform/UserDefaults.h"
 #include "preferences/PreferenceTexts.h"

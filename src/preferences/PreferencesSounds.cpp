@@ -1,5 +1,5 @@
 #include "app/WufferApplication.h"
-#include "controls/WindowOrder.h"
+#include "platform/WindowOrder.h"
 #include "platform/Desktop.h"
 #include "platform/OpenPanel.h"
 #include "platform/Service.h"

@@ -1,4 +1,4 @@
-#include "controls/WindowOrder.h"
+#include "platform/WindowOrder.h"
 #include "platform/Keyboard.h"
 #include "settings/WufferWindow.h"
 #include "timer/Wuffer.h"

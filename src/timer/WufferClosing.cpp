@@ -1,3 +1,5 @@
+#include "platform/DesktopNotifications.h"
+#include "platform/Service.h"
 #include "platform/UserDefaults.h"
 #include "timer/Wuffer.h"
 
@@ -14,6 +16,7 @@ void Wuffer::windowWillClose()
     // A running timer closes without a trace.
     if (_timerStarted) {
         _checkTimer.invalidate();
+        Service<DesktopNotifications>::current().withdraw(*this);
         _timerStarted = false;
     } else {
         saveSettingsToDefaultKey();

@@ -1,4 +1,6 @@
+#include "platform/DesktopNotifications.h"
 #include "platform/NotificationCenter.h"
+#include "platform/Service.h"
 #include "settings/WufferWindow.h"
 #include "timer/BeepSchedule.h"
 #include "timer/NumberText.h"
@@ -77,6 +79,7 @@ void Wuffer::startRun()
 void Wuffer::stopRun()
 {
     _wuffTimer.invalidate();
+    Service<DesktopNotifications>::current().withdraw(*this);
     setColorForDisplayText(TextColor::Black, false);
     _timerStarted = false;
 

@@ -1,4 +1,5 @@
 #include "platform/DesktopNotifications.h"
+#include "platform/NotificationText.h"
 #include "platform/Service.h"
 #include "timer/SoundChoice.h"
 #include "timer/Wuffer.h"
@@ -76,7 +77,17 @@ void Wuffer::prepareSounds()
 
 void Wuffer::showGrowlNotification()
 {
-    const QString text = title() + QStringLiteral(": ") + _ui->_elapsedLabel->text();
-    Service<DesktopNotifications>::current().notify(*this,
-                                                    {_finishedText, text, QStringLiteral("wuff")});
+    const QString name = NotificationText::line(title());
+    Service<DesktopNotifications>::current().notify(
+        *this, {.title = NotificationText::line(_finishedText),
+                .text = name + QStringLiteral(": ") + _ui->_elapsedLabel->text(),
+                .name = QStringLiteral("wuff"),
+                .subject = name,
+                .show = [this] { showWufferWindow(); },
+                .stop =
+                    [this] {
+                        // Nothing to stop once the alarm is over.
+                        if (_wuffTimer.isValid())
+                            goPressed();
+                    }});
 }

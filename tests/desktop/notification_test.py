@@ -32,11 +32,12 @@ class NotificationTest(DesktopTest):
         self.display.key("Return")
         program.wait_for_button("Start")
 
-    def test_the_second_alarm_of_a_timer_replaces_the_notification_of_its_first(self):
+    def test_each_alarm_of_a_timer_shows_the_only_notification(self):
         program = self.launch(settings=MUTED)
         self.ring(program)
         self.wait_for_notifications(1)
         self.stop(program)
+        self.wait_for_notifications(0)
         # Where the time was typed before.
         program.wait_for_focus_in("Seconds")
         self.display.type("2")
@@ -46,7 +47,7 @@ class NotificationTest(DesktopTest):
         time.sleep(0.3)
         self.assertEqual(self.session.notifications.shown(), 1)
         self.assertEqual([shown["body"] for shown in self.session.notifications.take_all()],
-                         ["Wuffer: 2s"])
+                         ["Wuffer: 2s", "Wuffer: 1s"])
         self.quit(program)
 
     def test_two_timers_show_two_notifications_with_their_names(self):

@@ -197,8 +197,9 @@ void tst_FreedesktopNotifications::aSenderMayBeDestroyedBeforeTheAnswer()
     }
     server.answerAgain();
 
-    QTRY_COMPARE(server.shown.size(), 1U);
-    QCOMPARE(server.shown.front().text, QStringLiteral("last words"));
+    // It leaves nothing behind.
+    QTest::qWait(20);
+    QCOMPARE(server.shown.size(), 0U);
 }
 
 void tst_FreedesktopNotifications::theServiceMayBeDestroyedBeforeTheAnswer()

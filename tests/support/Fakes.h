@@ -3,6 +3,7 @@
 #include "platform/Desktop.h"
 #include "platform/DesktopNotifications.h"
 #include "platform/OpenPanel.h"
+#include "platform/ScreenBlanking.h"
 #include "platform/Sound.h"
 #include "platform/StatusItem.h"
 
@@ -79,7 +80,7 @@ private:
     QStringList _diary;
 };
 
-/// Keeps what would have been shown.
+/// Keeps what would have been shown, and what of it would still be there.
 class FakeNotifications final : public DesktopNotifications
 {
 public:
@@ -92,9 +93,28 @@ public:
     void notify(const QObject &sender, const DesktopNotification &notification) override
     {
         shown.push_back({&sender, notification});
+        withdraw(sender);
+        standing.push_back({&sender, notification});
+    }
+
+    void withdraw(const QObject &sender) override
+    {
+        std::erase_if(standing, [&](const Shown &each) { return each.sender == &sender; });
     }
 
     std::vector<Shown> shown;
+    std::vector<Shown> standing;
+};
+
+/// Knows whether the screen may go blank.
+class FakeScreenBlanking final : public ScreenBlanking
+{
+public:
+    bool isInhibited = false;
+
+protected:
+    void begin(const QString & /*reason*/) override { isInhibited = true; }
+    void end() override { isInhibited = false; }
 };
 
 /// Counts what the desktop was asked for.

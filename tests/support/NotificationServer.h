@@ -55,7 +55,30 @@ public:
     /// How many answers it holds back.
     [[nodiscard]] std::size_t heldBack() const { return _heldBack.size(); }
 
+    /// Says that a button of the notification was pressed, or, by the key "default", that it was
+    /// clicked on.
+    void press(uint id, const QString &key) { say(QStringLiteral("ActionInvoked"), {id, key}); }
+
+    /// Says that the notification is gone: it has timed out, or the user has closed it.
+    void dismiss(uint id)
+    {
+        constexpr uint byTheUser = 2;
+        say(QStringLiteral("NotificationClosed"), {id, byTheUser});
+    }
+
+    void say(const QString &signal, const QVariantList &arguments)
+    {
+        QDBusMessage message =
+            QDBusMessage::createSignal(QStringLiteral("/org/freedesktop/Notifications"),
+                                       QStringLiteral("org.freedesktop.Notifications"), signal);
+        message.setArguments(arguments);
+        _bus.send(message);
+    }
+
     std::vector<Shown> shown;
+
+    /// The numbers that it was asked to close, in turn.
+    std::vector<uint> closed;
 
     /// The number of the notification shown last. Unlike those of other servers it begins at 100.
     uint lastId = 99;
@@ -75,6 +98,12 @@ public Q_SLOTS:
         const uint id = replacedId != 0 ? replacedId : ++lastId;
         holdBackIfAsked({QVariant(id)});
         return id;
+    }
+
+    void CloseNotification(uint id)
+    {
+        closed.push_back(id);
+        holdBackIfAsked({});
     }
 
 private:

@@ -27,6 +27,7 @@ public:
     UserDefaults defaults;
     FakeSoundSystem sounds;
     FakeNotifications notifications;
+    FakeScreenBlanking screenBlanking;
     FakeDesktop desktop;
     FakeOpenPanel openPanel;
     FakeStatusItem statusItem;
@@ -36,6 +37,7 @@ private:
     Service<UserDefaults> _defaultsService{defaults};
     Service<SoundSystem> _soundService{sounds};
     Service<DesktopNotifications> _notificationService{notifications};
+    Service<ScreenBlanking> _screenBlankingService{screenBlanking};
     Service<Desktop> _desktopService{desktop};
     Service<OpenPanel> _openPanelService{openPanel};
     Service<StatusItem> _statusItemService{statusItem};

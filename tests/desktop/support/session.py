@@ -30,12 +30,19 @@ NOTIFICATION_CONFIGURATION = """[global]
     stack_duplicates = false
     history_length = 50
     notification_limit = 20
+    dmenu = {chooser}
 [urgency_low]
     timeout = 0
 [urgency_normal]
     timeout = 0
 [urgency_critical]
     timeout = 0
+"""
+
+
+# Stands for the menu from which the user picks a button: takes the one that the test has named.
+CHOOSER = """#!/bin/sh
+exec grep --max-count=1 --fixed-strings "#$(cat {wanted}) ("
 """
 
 
@@ -54,13 +61,32 @@ class Notifications:
         processes.require("dunst")
         self.bus = bus
         self.taken = set()
+        self.wanted = None
         configuration = os.path.join(folder, "dunstrc")
         with open(configuration, "w", encoding="ascii") as file:
-            file.write(NOTIFICATION_CONFIGURATION)
+            file.write(NOTIFICATION_CONFIGURATION.format(chooser=self.add_chooser(folder)))
         self.process = processes.start(["dunst", "-conf", configuration], environment)
         wait_until(lambda: ask(bus, "org.freedesktop.DBus", "/", "org.freedesktop.DBus",
                                "NameHasOwner", GLib.Variant("(s)", (self.NAME,)))[0],
                    10, "the notification daemon answers")
+
+    def add_chooser(self, folder):
+        self.wanted = os.path.join(folder, "wanted-button")
+        path = os.path.join(folder, "choose-button")
+        with open(path, "w", encoding="ascii") as file:
+            file.write(CHOOSER.format(wanted=self.wanted))
+        os.chmod(path, 0o700)
+        return path
+
+    def click(self):
+        """Clicks on the latest."""
+        self.ask_for("NotificationAction", GLib.Variant("(u)", (0,)))
+
+    def press(self, button):
+        """Presses a button of one that is shown."""
+        with open(self.wanted, "w", encoding="ascii") as file:
+            file.write(button)
+        self.ask_for("ContextMenuCall")
 
     def shown(self):
         return ask(self.bus, self.NAME, self.PATH, "org.freedesktop.DBus.Properties", "Get",
@@ -74,8 +100,8 @@ class Notifications:
         self.taken.update(item["id"] for item in taken)
         return taken
 
-    def ask_for(self, what):
-        return ask(self.bus, self.NAME, self.PATH, "org.dunstproject.cmd0", what)
+    def ask_for(self, what, arguments=None):
+        return ask(self.bus, self.NAME, self.PATH, "org.dunstproject.cmd0", what, arguments)
 
     def close(self):
         processes.end(self.process)

@@ -1,25 +1,20 @@
-#include "controls/WindowOrder.h"
+#include "platform/WindowOrder.h"
 
-#include <QGuiApplication>
 #include <QWidget>
 
 #ifdef WUFFER_XCB
-#include <memory>
+#include "platform/X11.h"
+
 #include <optional>
-#include <xcb/xcb.h>
 
 namespace
 {
-/// A truth value of the X protocol.
-constexpr uint8_t kNo = 0;
-
 /// What is said to the window manager, and asked of it, over the program's connection.
 class WindowManager final
 {
 public:
     explicit WindowManager(xcb_connection_t *connection) :
-        _connection(connection),
-        _root(xcb_setup_roots_iterator(xcb_get_setup(connection)).data->root)
+        _connection(connection), _root(X11::rootOf(connection))
     {}
 
     /// Turns to the workspace of the window.
@@ -28,7 +23,6 @@ public:
     void activate(xcb_window_t window) const;
 
 private:
-    [[nodiscard]] xcb_atom_t atom(QByteArrayView name) const;
     [[nodiscard]] std::optional<uint32_t> number(QByteArrayView property,
                                                  xcb_window_t window) const;
     void send(QByteArrayView order, xcb_window_t window, uint32_t first, uint32_t second) const;
@@ -36,11 +30,6 @@ private:
     xcb_connection_t *_connection;
     xcb_window_t _root;
 };
-
-template<class Reply> std::unique_ptr<Reply, decltype(&free)> owned(Reply *reply)
-{
-    return {reply, &free};
-}
 
 void WindowManager::goToWorkspaceOf(xcb_window_t window) const
 {
@@ -56,19 +45,11 @@ void WindowManager::activate(xcb_window_t window) const
     send("_NET_ACTIVE_WINDOW", window, onBehalfOfTheUser, XCB_CURRENT_TIME);
 }
 
-xcb_atom_t WindowManager::atom(QByteArrayView name) const
-{
-    const auto question =
-        xcb_intern_atom(_connection, kNo, static_cast<uint16_t>(name.size()), name.data());
-    const auto answer = owned(xcb_intern_atom_reply(_connection, question, nullptr));
-    return answer ? answer->atom : xcb_atom_t(XCB_ATOM_NONE);
-}
-
 std::optional<uint32_t> WindowManager::number(QByteArrayView property, xcb_window_t window) const
 {
-    const auto question =
-        xcb_get_property(_connection, kNo, window, atom(property), XCB_ATOM_CARDINAL, 0, 1);
-    const auto answer = owned(xcb_get_property_reply(_connection, question, nullptr));
+    const auto question = xcb_get_property(
+        _connection, X11::kNo, window, X11::atom(_connection, property), XCB_ATOM_CARDINAL, 0, 1);
+    const auto answer = X11::owned(xcb_get_property_reply(_connection, question, nullptr));
     if (!answer || answer->format != 32 || answer->value_len != 1)
         return {};
     return *static_cast<const uint32_t *>(xcb_get_property_value(answer.get()));
@@ -81,10 +62,10 @@ void WindowManager::send(QByteArrayView order, xcb_window_t window, uint32_t fir
     message.response_type = XCB_CLIENT_MESSAGE;
     message.format = 32;
     message.window = window;
-    message.type = atom(order);
+    message.type = X11::atom(_connection, order);
     message.data.data32[0] = first;
     message.data.data32[1] = second;
-    xcb_send_event(_connection, kNo, _root,
+    xcb_send_event(_connection, X11::kNo, _root,
                    XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT | XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY,
                    reinterpret_cast<const char *>(&message));
     xcb_flush(_connection);
@@ -95,10 +76,10 @@ void WindowManager::send(QByteArrayView order, xcb_window_t window, uint32_t fir
 /// the user is at something else: of a press in the panel it knows nothing.
 static void askWindowManagerFor(const QWidget &window)
 {
-    const auto *x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-    if (!x11 || !x11->connection())
+    xcb_connection_t *connection = X11::connection();
+    if (!connection)
         return;
-    const WindowManager manager(x11->connection());
+    const WindowManager manager(connection);
     const auto number = static_cast<xcb_window_t>(window.winId());
     manager.goToWorkspaceOf(number);
     manager.activate(number);

@@ -1,0 +1,112 @@
+#!/usr/bin/python3
+"""What can be done with the notification of an alarm, when it goes, and what many come to.
+
+Usage: notification_actions_test.py WUFFER FOLDER [unittest arguments]
+"""
+
+import time
+
+from support.case import DesktopTest, main
+from support.waiting import wait_until
+
+MUTED = '{"soundOff": 1}'
+
+
+class NotificationActionsTest(DesktopTest):
+    """The sound is off, so that an alarm lasts until somebody ends it."""
+
+    def wait_for_notifications(self, count):
+        wait_until(lambda: self.session.notifications.shown() == count, 3,
+                   f"{count} notifications are shown", 0.02)
+
+    def ring(self):
+        program = self.launch(settings=MUTED)
+        program.start_countdown(1)
+        program.wait_for_button("Reset")
+        self.wait_for_notifications(1)
+        return program
+
+    def test_a_click_brings_the_timer_forward(self):
+        program = self.ring()
+        first, = program.windows()
+        self.display.key("ctrl+n")
+        second = program.wait_for_windows(2)[1]
+        wait_until(lambda: self.display.active_window() == second, 5, "the new timer is active")
+        self.session.notifications.click()
+        wait_until(lambda: self.display.active_window() == first, 5, "the first timer is active")
+        self.assertTrue(program.has("button", "Reset"))
+        self.quit(program)
+
+    def test_show_brings_back_a_minimized_timer(self):
+        program = self.ring()
+        window, = program.windows()
+        self.display.key("ctrl+m")
+        wait_until(lambda: "_NET_WM_STATE_HIDDEN" in self.display.state(window), 5,
+                   "the timer is minimized")
+        self.session.notifications.press("Show")
+        wait_until(lambda: self.display.active_window() == window, 5, "the timer is active")
+        self.assertNotIn("_NET_WM_STATE_HIDDEN", self.display.state(window))
+        self.quit(program)
+
+    def test_stop_ends_the_alarm(self):
+        program = self.ring()
+        self.session.notifications.press("Stop")
+        program.wait_for_button("Start")
+        self.assertEqual(program.shown("Time"), "Wuffer")
+        self.wait_for_notifications(0)
+        self.quit(program)
+
+    def test_reset_takes_it_away(self):
+        program = self.ring()
+        self.display.key("Return")
+        program.wait_for_button("Start")
+        self.wait_for_notifications(0)
+        self.quit(program)
+
+    def test_closing_the_window_takes_it_away(self):
+        program = self.ring()
+        self.display.key("ctrl+n")
+        first, _ = program.wait_for_windows(2)
+        self.display.close_window(first)
+        program.wait_for_windows(1)
+        self.wait_for_notifications(0)
+        self.quit(program)
+
+    def test_quitting_takes_it_away(self):
+        program = self.ring()
+        self.quit(program)
+        self.wait_for_notifications(0)
+
+    def test_the_end_of_the_sound_takes_it_away(self):
+        self.session.start_sound()
+        program = self.launch()
+        program.start_countdown(1)
+        self.wait_for_notifications(1)
+        program.wait_for_button("Start", 10)
+        self.wait_for_notifications(0)
+        self.quit(program)
+
+    def test_thirty_timers_that_end_at_once_are_one_notification(self):
+        program = self.launch(settings=MUTED)
+        for count in range(2, 31):
+            self.display.key("ctrl+n")
+            program.wait_for_windows(count)
+        most = 0
+        self.display.key("ctrl+shift+s")
+        end = time.monotonic() + 3
+        while time.monotonic() < end:
+            most = max(most, self.session.notifications.shown())
+            time.sleep(0.01)
+        self.assertLessEqual(most, 4)
+        self.wait_for_notifications(1)
+        self.session.notifications.press("Stop")
+        wait_until(lambda: not program.all("button", "Reset"), 10, "no timer rings")
+        self.wait_for_notifications(0)
+        last = self.session.notifications.take_all()[0]
+        self.assertEqual(last["summary"], "30 timers have ended")
+        self.assertEqual(last["body"].split("\n"), ["Wuffer"] * 8 + ["and 22 more"])
+        self.quit(program)
+
+
+if __name__ == "__main__":
+    main()

@@ -1,0 +1,130 @@
+#!/usr/bin/python3
+"""Keeps the screen from going blank while a timer fills it, and at no other time.
+
+Usage: screen_blanking_test.py WUFFER FOLDER [unittest arguments]
+"""
+
+import time
+
+from gi.repository import Gio, GLib
+
+from support.blanking import Blanking
+from support.case import DesktopTest, main
+from support.session import ask
+from support.waiting import wait_until
+
+NAME = "org.freedesktop.ScreenSaver"
+INTERFACE = Gio.DBusNodeInfo.new_for_xml(f"""<node><interface name="{NAME}">
+  <method name="Inhibit"><arg direction="in" type="s"/><arg direction="in" type="s"/>
+    <arg direction="out" type="u"/></method>
+  <method name="UnInhibit"><arg direction="in" type="u"/></method>
+</interface></node>""").interfaces[0]
+
+
+class ScreenSaver:
+    """The screen saver of a desktop, and who keeps it from coming up."""
+
+    def __init__(self, bus):
+        self.bus = bus
+        self.holders = {}
+        self.asked = 0
+        self.registration = bus.register_object("/org/freedesktop/ScreenSaver", INTERFACE,
+                                                self.called, None, None)
+        self.tell_bus("RequestName", "(su)", NAME, 0)
+
+    def tell_bus(self, method, signature, *arguments):
+        ask(self.bus, "org.freedesktop.DBus", "/", "org.freedesktop.DBus", method,
+            GLib.Variant(signature, arguments))
+
+    def called(self, _bus, sender, _path, _interface, method, arguments, answer):
+        if method == "Inhibit":
+            self.asked += 1
+            self.holders[self.asked] = sender
+            answer.return_value(GLib.Variant("(u)", (self.asked,)))
+        else:
+            self.holders.pop(arguments[0])
+            answer.return_value(None)
+
+    def held(self):
+        """How many hold it off now."""
+        while GLib.MainContext.default().iteration(False):
+            pass
+        return len(self.holders)
+
+    def close(self):
+        self.tell_bus("ReleaseName", "(s)", NAME)
+        self.bus.unregister_object(self.registration)
+
+
+class ScreenBlankingTest(DesktopTest):
+    def start(self):
+        program = self.launch()
+        self.display.type("60")
+        self.display.key("Return")
+        program.wait_for_button("Stop")
+        return program
+
+    def enter(self, program):
+        before = len(program.windows())
+        self.display.key("F11")
+        program.wait_for_windows(before + 1)
+
+    def leave(self, program):
+        before = len(program.windows())
+        self.display.key("Escape")
+        program.wait_for_windows(before - 1)
+
+    def wait_for_blank(self, blanking):
+        wait_until(blanking.is_blank, 4, "the screen is blank", 0.05)
+
+    def test_the_x_server_blanks_the_screen_except_during_the_full_screen(self):
+        program = self.start()
+        blanking = Blanking(self.display)
+        self.addCleanup(blanking.close)
+        blanking.set_timeout(1)
+        self.wait_for_blank(blanking)
+        self.enter(program)
+        end = time.monotonic() + 3
+        while time.monotonic() < end:
+            self.assertFalse(blanking.is_blank())
+            time.sleep(0.05)
+        self.leave(program)
+        self.wait_for_blank(blanking)
+        self.quit(program)
+
+    def test_a_program_that_is_killed_lets_the_screen_go_blank(self):
+        program = self.start()
+        self.enter(program)
+        blanking = Blanking(self.display)
+        self.addCleanup(blanking.close)
+        blanking.set_timeout(1)
+        program.kill()
+        self.wait_for_blank(blanking)
+
+    def test_the_screen_saver_is_held_off_during_the_full_screen_only(self):
+        saver = ScreenSaver(self.session.bus)
+        self.addCleanup(saver.close)
+        program = self.start()
+        time.sleep(0.3)
+        self.assertEqual((saver.held(), saver.asked), (0, 0))
+        for count in (1, 2):
+            self.enter(program)
+            wait_until(lambda: saver.held() == 1, 3, "the screen saver is held off", 0.01)
+            self.leave(program)
+            wait_until(lambda: saver.held() == 0, 3, "the screen saver is let go", 0.01)
+            self.assertEqual(saver.asked, count)
+        self.quit(program)
+
+    def test_a_timer_that_is_closed_lets_the_screen_saver_go(self):
+        saver = ScreenSaver(self.session.bus)
+        self.addCleanup(saver.close)
+        program = self.start()
+        window, = program.windows()
+        self.enter(program)
+        wait_until(lambda: saver.held() == 1, 3, "the screen saver is held off", 0.01)
+        self.display.close_window(window)
+        wait_until(lambda: saver.held() == 0, 3, "the screen saver is let go", 0.01)
+
+
+if __name__ == "__main__":
+    main()

@@ -1,0 +1,387 @@
+#include "platform/FreedesktopNotifications.h"
+#include "support/NotificationServer.h"
+#include "support/SessionBus.h"
+#include "support/TestMain.h"
+
+#include <optional>
+
+namespace
+{
+const QString kActions = QStringLiteral("actions");
+const QString kShow = QStringLiteral("show");
+const QString kStop = QStringLiteral("stop");
+} // namespace
+
+/// What a notification offers, and how it goes. Runs on a session bus of its own, where the test
+/// is the notification server.
+class tst_NotificationActions final : public Test
+{
+    Q_OBJECT
+
+public:
+    explicit tst_NotificationActions(QString address) : _address(std::move(address)) {}
+
+private Q_SLOTS:
+    void init()
+    {
+        Test::init();
+        _diary.clear();
+    }
+
+    void buttonsAreOfferedWhereThereAreSome();
+    void noButtonsAreOfferedWhereThereAreNone();
+    void aNotificationWithoutActionsOffersNone();
+    void aPressDoesWhatTheButtonSays_data();
+    void aPressDoesWhatTheButtonSays();
+    void aPressOnAnotherNotificationDoesNothing();
+    void aPressThatSomebodyElseTellsOfDoesNothing();
+    void aPressOnAWithdrawnNotificationDoesNothing();
+    void aPressOnADestroyedSendersNotificationDoesNothing();
+    void nonsenseDoesNothing();
+    void anActionMayDestroyTheSender();
+    void itIsWithdrawn();
+    void itGoesWithItsSender();
+    void itIsNotWithdrawnTwice();
+    void whatHasNotBeenSentIsNeverShown();
+    void whatHasNoNumberYetIsWithdrawnWhenItHas();
+    void whatIsShownAgainBeforeItHasANumberStays();
+    void aRestartedServerIsNotToldToCloseTheOldOnes();
+    void aDismissedOneIsReportedAndForgotten();
+    void theNextAfterADismissedOneReplacesNothing();
+    void anotherServersAnswerThatIsNoNumberIsDoneWithout();
+
+private:
+    [[nodiscard]] NotificationServer &serve(const QStringList &capabilities = {kActions})
+    {
+        return _server.emplace(_address, capabilities);
+    }
+    [[nodiscard]] DesktopNotification withActions()
+    {
+        return {.title = QStringLiteral("Tea"),
+                .text = QStringLiteral("done"),
+                .name = QStringLiteral("wuff"),
+                .show = [this] { _diary << QStringLiteral("shown"); },
+                .stop = [this] { _diary << QStringLiteral("stopped"); },
+                .closed = [this] { _diary << QStringLiteral("closed"); }};
+    }
+    /// Shows one and waits until its number, 100, is known.
+    void show(FreedesktopNotifications &notifications, const QObject &sender)
+    {
+        notifications.notify(sender, withActions());
+        QTRY_VERIFY(!_server->shown.empty());
+        settle();
+    }
+    /// Lets pass what is on its way.
+    static void settle() { QTest::qWait(30); }
+
+    const QString _address;
+    std::optional<NotificationServer> _server;
+    QStringList _diary;
+};
+
+void tst_NotificationActions::buttonsAreOfferedWhereThereAreSome()
+{
+    const NotificationServer &server = serve();
+    FreedesktopNotifications notifications;
+    const QObject sender;
+    notifications.notify(sender, withActions());
+    QTRY_COMPARE(server.shown.size(), 1U);
+    const QStringList expected{
+        QStringLiteral("default"), QStringLiteral("Show"), kShow, QStringLiteral("Show"), kStop,
+        QStringLiteral("Stop")};
+    QCOMPARE(server.shown.front().actions, expected);
+}
+
+void tst_NotificationActions::noButtonsAreOfferedWhereThereAreNone()
+{
+    const NotificationServer &server = serve({QStringLiteral("body")});
+    FreedesktopNotifications notifications;
+    const QObject sender;
+    notifications.notify(sender, withActions());
+    QTRY_COMPARE(server.shown.size(), 1U);
+    QCOMPARE(server.shown.front().actions, QStringList());
+}
+
+void tst_NotificationActions::aNotificationWithoutActionsOffersNone()
+{
+    const NotificationServer &server = serve();
+    FreedesktopNotifications notifications;
+    const QObject sender;
+    notifications.notify(sender, {QStringLiteral("Tea"), {}, QStringLiteral("wuff")});
+    QTRY_COMPARE(server.shown.size(), 1U);
+    QCOMPARE(server.shown.front().actions, QStringList());
+}
+
+void tst_NotificationActions::aPressDoesWhatTheButtonSays_data()
+{
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<QStringList>("diary");
+    QTest::newRow("a click") << QStringLiteral("default") << QStringList{QStringLiteral("shown")};
+    QTest::newRow("show") << kShow << QStringList{QStringLiteral("shown")};
+    QTest::newRow("stop") << kStop << QStringList{QStringLiteral("stopped")};
+    QTest::newRow("unknown") << QStringLiteral("explode") << QStringList();
+    QTest::newRow("nothing") << QString() << QStringList();
+}
+
+void tst_NotificationActions::aPressDoesWhatTheButtonSays()
+{
+    QFETCH(const QString, key);
+    NotificationServer &server = serve();
+    FreedesktopNotifications notifications;
+    const QObject sender;
+    show(notifications, sender);
+    server.press(100, key);
+    settle();
+    QTEST(_diary, "diary");
+}
+
+void tst_NotificationActions::aPressOnAnotherNotificationDoesNothing()
+{
+    NotificationServer &server = serve();
+    FreedesktopNotifications notifications;
+    const QObject sender;
+    show(notifications, sender);
+    for (const uint id : {0U, 1U, 99U, 101U, 4'294'967'295U}) {
+        server.press(id, kStop);
+        server.dismiss(id);
+    }
+    settle();
+    QCOMPARE(_diary, QStringList());
+}
+
+void tst_NotificationActions::aPressThatSomebodyElseTellsOfDoesNothing()
+{
+    const NotificationServer &server = serve();
+    FreedesktopNotifications notifications;
+    const QObject sender;
+    show(notifications, sender);
+    QDBusConnection other = QDBusConnection::connectToBus(_address, QStringLiteral("other"));
+    QDBusMessage signal = QDBusMessage::createSignal(
+        QStringLiteral("/org/freedesktop/Notifications"),
+        QStringLiteral("org.freedesktop.Notifications"), QStringLiteral("ActionInvoked"));
+    signal.setArguments({100U, kStop});
+    QVERIFY(other.send(signal));
+    settle();
+    QDBusConnection::disconnectFromBus(QStringLiteral("other"));
+    QCOMPARE(_diary, QStringList());
+    QVERIFY(server.closed.empty());
+}
+
+void tst_NotificationActions::aPressOnAWithdrawnNotificationDoesNothing()
+{
+    NotificationServer &server = serve();
+    FreedesktopNotifications notifications;
+    const QObject sender;
+    show(notifications, sender);
+    notifications.withdraw(sender);
+    server.press(100, kStop);
+    server.dismiss(100);
+    settle();
+    QCOMPARE(_diary, QStringList());
+}
+
+void tst_NotificationActions::aPressOnADestroyedSendersNotificationDoesNothing()
+{
+    NotificationServer &server = serve();
+    FreedesktopNotifications notifications;
+    {
+        const QObject sender;
+        show(notifications, sender);
+    }
+    server.press(100, kStop);
+    settle();
+    QCOMPARE(_diary, QStringList());
+}
+
+void tst_NotificationActions::nonsenseDoesNothing()
+{
+    NotificationServer &server = serve();
+    FreedesktopNotifications notifications;
+    const QObject sender;
+    show(notifications, sender);
+    const QString invoked = QStringLiteral("ActionInvoked");
+    server.say(invoked, {});
+    server.say(invoked, {100U});
+    server.say(invoked, {kStop, 100U});
+    server.say(invoked, {100, kStop});
+    server.say(invoked, {100U, 7});
+    server.say(invoked, {100U, kStop, kStop});
+    server.say(QStringLiteral("NotificationClosed"), {100U});
+    server.say(QStringLiteral("SomethingElse"), {100U, kStop});
+    settle();
+    QCOMPARE(_diary, QStringList());
+}
+
+void tst_NotificationActions::anActionMayDestroyTheSender()
+{
+    NotificationServer &server = serve();
+    FreedesktopNotifications notifications;
+    std::optional<QObject> sender;
+    sender.emplace();
+    DesktopNotification notification = withActions();
+    notification.stop = [&] { sender.reset(); };
+    notifications.notify(*sender, notification);
+    QTRY_COMPARE(server.shown.size(), 1U);
+    settle();
+    server.press(100, kStop);
+    QTRY_VERIFY(!sender);
+    QTRY_COMPARE(server.closed, std::vector<uint>{100});
+}
+
+void tst_NotificationActions::itIsWithdrawn()
+{
+    const NotificationServer &server = serve();
+    FreedesktopNotifications notifications;
+    const QObject sender;
+    show(notifications, sender);
+    notifications.withdraw(sender);
+    QTRY_COMPARE(server.closed, std::vector<uint>{100});
+}
+
+void tst_NotificationActions::itGoesWithItsSender()
+{
+    const NotificationServer &server = serve();
+    FreedesktopNotifications notifications;
+    {
+        const QObject sender;
+        show(notifications, sender);
+    }
+    QTRY_COMPARE(server.closed, std::vector<uint>{100});
+}
+
+void tst_NotificationActions::itIsNotWithdrawnTwice()
+{
+    const NotificationServer &server = serve();
+    FreedesktopNotifications notifications;
+    const QObject sender;
+    const QObject stranger;
+    notifications.withdraw(stranger);
+    show(notifications, sender);
+    notifications.withdraw(sender);
+    notifications.withdraw(sender);
+    settle();
+    QCOMPARE(server.closed, std::vector<uint>{100});
+}
+
+void tst_NotificationActions::whatHasNotBeenSentIsNeverShown()
+{
+    NotificationServer &server = serve();
+    FreedesktopNotifications notifications;
+    const QObject sender;
+    server.stopAnswering();
+    notifications.notify(sender, withActions());
+    QTRY_COMPARE(server.heldBack(), 1U);
+    notifications.withdraw(sender);
+    server.answerAgain();
+    settle();
+    QCOMPARE(server.shown.size(), 0U);
+
+    notifications.notify(sender, withActions());
+    QTRY_COMPARE(server.shown.size(), 1U);
+}
+
+void tst_NotificationActions::whatHasNoNumberYetIsWithdrawnWhenItHas()
+{
+    NotificationServer &server = serve();
+    FreedesktopNotifications notifications;
+    const QObject sender;
+    server.stopAnswering();
+    notifications.notify(sender, withActions());
+    QTRY_COMPARE(server.heldBack(), 1U);
+    server.answerAgain();
+    server.stopAnswering();
+    QTRY_COMPARE(server.shown.size(), 1U);
+    notifications.withdraw(sender);
+    settle();
+    QVERIFY(server.closed.empty());
+    server.answerAgain();
+    QTRY_COMPARE(server.closed, std::vector<uint>{100});
+}
+
+void tst_NotificationActions::whatIsShownAgainBeforeItHasANumberStays()
+{
+    NotificationServer &server = serve();
+    FreedesktopNotifications notifications;
+    const QObject sender;
+    server.stopAnswering();
+    notifications.notify(sender, withActions());
+    QTRY_COMPARE(server.heldBack(), 1U);
+    server.answerAgain();
+    server.stopAnswering();
+    QTRY_COMPARE(server.shown.size(), 1U);
+    notifications.withdraw(sender);
+    notifications.notify(sender, withActions());
+    server.answerAgain();
+    QTRY_COMPARE(server.shown.size(), 2U);
+    settle();
+    QCOMPARE(server.shown.back().replacedId, 100U);
+    QVERIFY(server.closed.empty());
+}
+
+void tst_NotificationActions::aRestartedServerIsNotToldToCloseTheOldOnes()
+{
+    static_cast<void>(serve());
+    FreedesktopNotifications notifications;
+    const QObject sender;
+    show(notifications, sender);
+    _server.reset();
+    NotificationServer &after = serve();
+    after.press(100, kStop);
+    settle();
+    notifications.withdraw(sender);
+    settle();
+    QCOMPARE(_diary, QStringList());
+    QVERIFY(after.closed.empty());
+}
+
+void tst_NotificationActions::aDismissedOneIsReportedAndForgotten()
+{
+    NotificationServer &server = serve();
+    FreedesktopNotifications notifications;
+    const QObject sender;
+    show(notifications, sender);
+    server.dismiss(100);
+    server.dismiss(100);
+    server.press(100, kShow);
+    settle();
+    QCOMPARE(_diary, QStringList{QStringLiteral("closed")});
+    notifications.withdraw(sender);
+    settle();
+    QVERIFY(server.closed.empty());
+}
+
+void tst_NotificationActions::theNextAfterADismissedOneReplacesNothing()
+{
+    NotificationServer &server = serve();
+    FreedesktopNotifications notifications;
+    const QObject sender;
+    show(notifications, sender);
+    server.dismiss(100);
+    settle();
+    notifications.notify(sender, withActions());
+    QTRY_COMPARE(server.shown.size(), 2U);
+    QCOMPARE(server.shown.back().replacedId, 0U);
+}
+
+void tst_NotificationActions::anotherServersAnswerThatIsNoNumberIsDoneWithout()
+{
+    NotificationServer &server = serve();
+    server.lastId = 4'294'967'295U; // The next number is 0, which is none.
+    FreedesktopNotifications notifications;
+    const QObject sender;
+    show(notifications, sender);
+    notifications.withdraw(sender);
+    server.press(0, kStop);
+    settle();
+    QVERIFY(server.closed.empty());
+    QCOMPARE(_diary, QStringList());
+}
+
+int main(int argc, char *argv[])
+{
+    const SessionBus bus;
+    WufferApplication application(argc, argv);
+    tst_NotificationActions test(bus.address());
+    return QTest::qExec(&test, argc, argv);
+}
+#include "tst_NotificationActions.moc"

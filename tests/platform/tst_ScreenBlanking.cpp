@@ -1,0 +1,265 @@
+#include "platform/FreedesktopScreenBlanking.h"
+#include "support/ScreenSaverService.h"
+#include "support/SessionBus.h"
+#include "support/TestMain.h"
+
+#include <QElapsedTimer>
+#include <QTemporaryDir>
+
+#include <optional>
+
+namespace
+{
+const QString kReason = QStringLiteral("to be read from afar");
+const QString kAsked = QStringLiteral("inhibit Wuffer: to be read from afar");
+} // namespace
+
+/// Runs on a session bus of its own, where the test is the desktop.
+class tst_ScreenBlanking final : public Test
+{
+    Q_OBJECT
+
+public:
+    explicit tst_ScreenBlanking(QString address) : _address(std::move(address)) {}
+
+private Q_SLOTS:
+    void cleanup() { _screenSaver.reset(); }
+
+    void theScreenSaverIsAskedAndReleased();
+    void nothingIsAskedBefore();
+    void twoAskersAreOneQuestionAndTheLastReleases();
+    void askingTwiceIsReleasedOnce();
+    void aScreenSaverAtItsOldPathIsFound();
+    void withoutAScreenSaverThePortalIsAskedAndReleased();
+    void aReleaseBeforeTheAnswerReleasesWhenItComes();
+    void anAnswerThatIsWantedAgainIsKept();
+    void aFrozenScreenSaverBlocksNothing();
+    void aScreenSaverThatIsRestartedIsAskedAgain();
+    void aScreenSaverThatIsRestartedIsNotToldTheNumbersOfTheOldOne();
+    void withoutAnybodyNothingHappens();
+    void withoutABusNothingIsAskedFor();
+
+private:
+    [[nodiscard]] ScreenSaverService &serve() { return _screenSaver.emplace(_address); }
+
+    const QString _address;
+    std::optional<ScreenSaverService> _screenSaver;
+};
+
+void tst_ScreenBlanking::theScreenSaverIsAskedAndReleased()
+{
+    const ScreenSaverService &server = serve();
+    FreedesktopScreenBlanking blanking;
+    const QObject asker;
+
+    blanking.inhibit(asker, kReason);
+    QTRY_COMPARE(server.diary, QStringList({kAsked}));
+    // The answer is on its way back.
+    QTest::qWait(20);
+    blanking.release(asker);
+
+    QTRY_COMPARE(server.diary, QStringList({kAsked, QStringLiteral("release 7")}));
+}
+
+void tst_ScreenBlanking::nothingIsAskedBefore()
+{
+    const ScreenSaverService &server = serve();
+    FreedesktopScreenBlanking blanking;
+    const QObject asker;
+    blanking.release(asker);
+    QTest::qWait(30);
+    QCOMPARE(server.diary, QStringList());
+}
+
+void tst_ScreenBlanking::twoAskersAreOneQuestionAndTheLastReleases()
+{
+    const ScreenSaverService &server = serve();
+    FreedesktopScreenBlanking blanking;
+    const QObject one;
+    const QObject other;
+
+    blanking.inhibit(one, kReason);
+    blanking.inhibit(other, kReason);
+    QTRY_COMPARE(server.diary, QStringList({kAsked}));
+    blanking.release(one);
+    QTest::qWait(30);
+    QCOMPARE(server.diary, QStringList({kAsked}));
+    blanking.release(other);
+
+    QTRY_COMPARE(server.diary, QStringList({kAsked, QStringLiteral("release 7")}));
+}
+
+void tst_ScreenBlanking::askingTwiceIsReleasedOnce()
+{
+    const ScreenSaverService &server = serve();
+    FreedesktopScreenBlanking blanking;
+    const QObject asker;
+
+    blanking.inhibit(asker, kReason);
+    blanking.inhibit(asker, kReason);
+    QTRY_COMPARE(server.diary.size(), 1);
+    blanking.release(asker);
+    blanking.release(asker);
+
+    QTRY_COMPARE(server.diary.size(), 2);
+    QTest::qWait(20);
+    QCOMPARE(server.diary.size(), 2);
+}
+
+void tst_ScreenBlanking::aScreenSaverAtItsOldPathIsFound()
+{
+    const ScreenSaverService server(_address, QStringLiteral("/ScreenSaver"));
+    FreedesktopScreenBlanking blanking;
+    const QObject asker;
+
+    blanking.inhibit(asker, kReason);
+    QTRY_COMPARE(server.diary, QStringList({kAsked}));
+    blanking.release(asker);
+
+    QTRY_COMPARE(server.diary, QStringList({kAsked, QStringLiteral("release 7")}));
+}
+
+void tst_ScreenBlanking::withoutAScreenSaverThePortalIsAskedAndReleased()
+{
+    const InhibitPortal portal(_address);
+    const QString asked = QStringLiteral("inhibit 8: ") + kReason;
+    FreedesktopScreenBlanking blanking;
+    const QObject asker;
+
+    blanking.inhibit(asker, kReason);
+    QTRY_COMPARE(portal.diary, QStringList({asked}));
+    blanking.release(asker);
+
+    QTRY_COMPARE(portal.diary, QStringList({asked, QStringLiteral("release")}));
+}
+
+void tst_ScreenBlanking::aReleaseBeforeTheAnswerReleasesWhenItComes()
+{
+    ScreenSaverService &server = serve();
+    FreedesktopScreenBlanking blanking;
+    const QObject asker;
+    server.stopAnswering();
+
+    blanking.inhibit(asker, kReason);
+    QTRY_COMPARE(server.heldBack(), 1U);
+    blanking.release(asker);
+    QTest::qWait(20);
+    QCOMPARE(server.diary, QStringList({kAsked}));
+    server.answerAgain();
+
+    QTRY_COMPARE(server.diary, QStringList({kAsked, QStringLiteral("release 7")}));
+}
+
+void tst_ScreenBlanking::anAnswerThatIsWantedAgainIsKept()
+{
+    ScreenSaverService &server = serve();
+    FreedesktopScreenBlanking blanking;
+    const QObject asker;
+    server.stopAnswering();
+
+    blanking.inhibit(asker, kReason);
+    blanking.release(asker);
+    blanking.inhibit(asker, kReason);
+    QTRY_COMPARE(server.heldBack(), 1U);
+    server.answerAgain();
+    QTest::qWait(30);
+    QCOMPARE(server.diary, QStringList({kAsked}));
+    blanking.release(asker);
+
+    QTRY_COMPARE(server.diary, QStringList({kAsked, QStringLiteral("release 7")}));
+}
+
+void tst_ScreenBlanking::aFrozenScreenSaverBlocksNothing()
+{
+    ScreenSaverService &server = serve();
+    FreedesktopScreenBlanking blanking;
+    const QObject asker;
+    server.stopAnswering();
+    QElapsedTimer elapsed;
+    elapsed.start();
+
+    for (int i = 0; i < 100; ++i) {
+        blanking.inhibit(asker, kReason);
+        blanking.release(asker);
+    }
+
+    QVERIFY(elapsed.elapsed() < 500);
+    QTRY_COMPARE(server.heldBack(), 1U);
+    QTest::qWait(20);
+    QCOMPARE(server.heldBack(), 1U);
+}
+
+void tst_ScreenBlanking::aScreenSaverThatIsRestartedIsAskedAgain()
+{
+    const ScreenSaverService &before = serve();
+    FreedesktopScreenBlanking blanking;
+    const QObject asker;
+    blanking.inhibit(asker, kReason);
+    QTRY_COMPARE(before.diary.size(), 1);
+    QTest::qWait(20);
+
+    _screenSaver.reset();
+    const ScreenSaverService &after = serve();
+
+    QTRY_COMPARE(after.diary, QStringList({kAsked}));
+    QTest::qWait(20);
+    blanking.release(asker);
+    QTRY_COMPARE(after.diary, QStringList({kAsked, QStringLiteral("release 7")}));
+}
+
+void tst_ScreenBlanking::aScreenSaverThatIsRestartedIsNotToldTheNumbersOfTheOldOne()
+{
+    const ScreenSaverService &before = serve();
+    FreedesktopScreenBlanking blanking;
+    const QObject asker;
+    blanking.inhibit(asker, kReason);
+    QTRY_COMPARE(before.diary.size(), 1);
+    QTest::qWait(20);
+
+    _screenSaver.reset();
+    ScreenSaverService &after = serve();
+    after.stopAnswering();
+    blanking.release(asker);
+
+    // It may have been asked when it came, but what it has not granted it is not given back.
+    QTest::qWait(50);
+    QVERIFY(!after.diary.contains(QStringLiteral("release 7")));
+}
+
+void tst_ScreenBlanking::withoutAnybodyNothingHappens()
+{
+    FreedesktopScreenBlanking blanking;
+    const QObject asker;
+    blanking.inhibit(asker, kReason);
+    QTest::qWait(50);
+    blanking.release(asker);
+    const ScreenSaverService &server = serve();
+    QTest::qWait(30);
+    QCOMPARE(server.diary, QStringList());
+}
+
+void tst_ScreenBlanking::withoutABusNothingIsAskedFor()
+{
+    const ScreenSaverService &server = serve();
+    FreedesktopScreenBlanking blanking;
+    const QObject asker;
+    const QTemporaryDir runtimeDir;
+    qunsetenv("DBUS_SESSION_BUS_ADDRESS");
+    qputenv("XDG_RUNTIME_DIR", runtimeDir.path().toUtf8());
+
+    blanking.inhibit(asker, kReason);
+    blanking.release(asker);
+    QTest::qWait(30);
+
+    qputenv("DBUS_SESSION_BUS_ADDRESS", _address.toUtf8());
+    QCOMPARE(server.diary, QStringList());
+}
+
+int main(int argc, char *argv[])
+{
+    const SessionBus bus;
+    WufferApplication application(argc, argv);
+    tst_ScreenBlanking test(bus.address());
+    return QTest::qExec(&test, argc, argv);
+}
+#include "tst_ScreenBlanking.moc"

@@ -1,0 +1,136 @@
+#pragma once
+
+#include <QDBusConnection>
+#include <QDBusContext>
+#include <QDBusMessage>
+#include <QDBusObjectPath>
+#include <QObject>
+#include <QStringList>
+#include <QVariantMap>
+
+#include <utility>
+#include <vector>
+
+/// A service on the session bus that is asked to keep the screen from going blank: the screen
+/// saver, or the portal, whichever name and path it is given. It is there while this object lives
+/// and keeps what it is told.
+class InhibitService : public QObject, protected QDBusContext
+{
+    Q_OBJECT
+
+public:
+    InhibitService(const QString &busAddress, QString name, const QString &path) :
+        _name(std::move(name)), _bus(QDBusConnection::connectToBus(busAddress, _name))
+    {
+        if (!_bus.registerObject(path, this, QDBusConnection::ExportAllSlots) ||
+            !_bus.registerService(_name))
+            qFatal("%s could not be registered", qPrintable(_name));
+    }
+    ~InhibitService() override { QDBusConnection::disconnectFromBus(_name); }
+    Q_DISABLE_COPY_MOVE(InhibitService)
+
+    /// Lets it hear everything and answer nothing.
+    void stopAnswering() { _answers = false; }
+    /// Answers everything that was left without an answer, and all that follows.
+    void answerAgain()
+    {
+        _answers = true;
+        for (const QDBusMessage &answer : std::exchange(_heldBack, {}))
+            _bus.send(answer);
+    }
+    [[nodiscard]] std::size_t heldBack() const { return _heldBack.size(); }
+
+    /// What it was asked for and has been given back, in turn: "inhibit Wuffer: reason", "release
+    /// 7".
+    QStringList diary;
+
+protected:
+    void holdBackIfAsked(const QVariant &answer)
+    {
+        if (_answers)
+            return;
+        setDelayedReply(true);
+        _heldBack.push_back(message().createReply(answer));
+    }
+    [[nodiscard]] QDBusConnection &bus() { return _bus; }
+
+private:
+    const QString _name;
+    QDBusConnection _bus;
+    bool _answers = true;
+    std::vector<QDBusMessage> _heldBack;
+};
+
+/// The screen saver of a desktop. Its slots are those of the protocol.
+class ScreenSaverService final : public InhibitService
+{
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.ScreenSaver")
+
+public:
+    explicit ScreenSaverService(const QString &busAddress, const QString &path = QStringLiteral(
+                                                               "/org/freedesktop/ScreenSaver")) :
+        InhibitService(busAddress, QStringLiteral("org.freedesktop.ScreenSaver"), path)
+    {}
+
+public Q_SLOTS:
+    uint Inhibit(const QString &application, const QString &reason)
+    {
+        diary << QStringLiteral("inhibit %1: %2").arg(application, reason);
+        holdBackIfAsked(++_cookie);
+        return _cookie;
+    }
+    void UnInhibit(uint cookie) { diary << QStringLiteral("release %1").arg(cookie); }
+
+private:
+    uint _cookie = 6;
+};
+
+/// What the portal has granted, until it is closed.
+class PortalRequest final : public QObject
+{
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.portal.Request")
+
+public:
+    explicit PortalRequest(QStringList &diary) : _diary(diary) {}
+
+public Q_SLOTS:
+    void Close() { _diary << QStringLiteral("release"); }
+
+private:
+    QStringList &_diary;
+};
+
+/// The portal of a desktop. Its slots are those of the protocol.
+class InhibitPortal final : public InhibitService
+{
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.portal.Inhibit")
+
+public:
+    explicit InhibitPortal(const QString &busAddress) :
+        InhibitService(busAddress, QStringLiteral("org.freedesktop.portal.Desktop"),
+                       QStringLiteral("/org/freedesktop/portal/desktop"))
+    {
+        if (!bus().registerObject(requestPath(), &_request, QDBusConnection::ExportAllSlots))
+            qFatal("the request could not be registered");
+    }
+
+public Q_SLOTS:
+    QDBusObjectPath Inhibit(const QString &window, uint flags, const QVariantMap &options)
+    {
+        diary << QStringLiteral("inhibit %1%2: %3")
+                     .arg(window, QString::number(flags),
+                          options.value(QStringLiteral("reason")).toString());
+        return QDBusObjectPath(requestPath());
+    }
+
+private:
+    [[nodiscard]] static QString requestPath()
+    {
+        return QStringLiteral("/org/freedesktop/portal/desktop/request/1_2/x");
+    }
+
+    PortalRequest _request{diary};
+};
