@@ -1,6 +1,6 @@
-#include "platform/WindowOrder.h"
 #include "platform/ScreenBlanking.h"
 #include "platform/Service.h"
+#include "platform/WindowOrder.h"
 #include "settings/WufferWindow.h"
 #include "timer/DisplayFont.h"
 #include "timer/TimerTexts.h"

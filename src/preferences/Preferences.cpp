@@ -1,9 +1,9 @@
 #include "preferences/Preferences.h"
 
 #include "controls/PickFromList.h"
-#include "platform/WindowOrder.h"
 #include "platform/NotificationCenter.h"
 #include "platform/UserDefaults.h"
+#include "platform/WindowOrder.h"
 #include "preferences/PreferenceTexts.h"
 #include "preferences/SoundPreview.h"
 #include "ui_Preferences.h"

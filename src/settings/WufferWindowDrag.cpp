@@ -1,5 +1,5 @@
-#include "platform/WindowOrder.h"
 #include "platform/Keyboard.h"
+#include "platform/WindowOrder.h"
 #include "settings/WufferWindow.h"
 #include "timer/Wuffer.h"
 

@@ -77,8 +77,7 @@ class PresetsTest(DesktopTest):
         # Return ends the name, and is no press of the button.
         self.display.key("Return")
         place = self.display.move_window(program.windows()[0], 200, 100)
-        self.display.key("ctrl+w")
-        program.wait_for_end(time.monotonic())
+        program.close_all()
         for _ in range(3):
             program.start()
             wait_until(lambda: program.text("Name") == "Tea", 3, "it has its name")
@@ -86,8 +85,7 @@ class PresetsTest(DesktopTest):
             window = program.windows()[0]
             self.assertEqual(self.display.frame(window)[:2], place[:2])
             self.assertIn("Tea", self.display.title(window))
-            self.display.key("ctrl+w")
-            program.wait_for_end(time.monotonic())
+            program.close_all()
 
 
 if __name__ == "__main__":

@@ -148,9 +148,7 @@ class StatusItemTest(DesktopTest):
         program = self.start(panel)
         self.start_minutes(program, 5)
         panel.wait_for_item()
-        start = time.monotonic()
-        self.display.key("ctrl+w")
-        seconds, status = program.wait_for_end(start)
+        seconds, status = program.close_all()
         self.assertEqual(status, 0)
         self.assertLess(seconds, 1.5)
 

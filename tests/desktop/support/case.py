@@ -14,11 +14,12 @@ class DesktopTest(unittest.TestCase):
 
     size = (1280, 800)
     sound = False
+    service_folder = None
     output = "."
 
     @classmethod
     def setUpClass(cls):
-        cls.session = Session(cls.size)
+        cls.session = Session(cls.size, cls.service_folder)
         cls.addClassCleanup(cls.session.close)
         cls.display = cls.session.display
         if cls.sound:

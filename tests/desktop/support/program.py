@@ -184,6 +184,16 @@ class Program:
         self.display.key("ctrl+q")
         return self.wait_for_end(start)
 
+    def close_all(self):
+        """Closes its only timer, and the home window that takes its place; gives the same."""
+        self.display.key("ctrl+w")
+        self.wait_for_button("New Timer")
+        home, = self.wait_for_windows(1)
+        wait_until(lambda: self.display.active_window() == home, 5, "the home window is active")
+        start = time.monotonic()
+        self.display.key("ctrl+w")
+        return self.wait_for_end(start)
+
     def wait_for_end(self, start):
         status = self.process.wait(timeout=10)
         return time.monotonic() - start, status

@@ -11,11 +11,12 @@ from support.display import Display
 from support.sound_server import Server
 from support.waiting import wait_until
 
-# Nothing is started on demand here: what is not there must be missed.
+# But for what a test asks for, nothing is started on demand: what is not there must be missed.
 BUS_CONFIGURATION = """<busconfig>
   <type>session</type>
   <listen>unix:path={folder}/session-bus</listen>
   <auth>EXTERNAL</auth>
+  {services}
   <policy context="default">
     <allow send_destination="*" eavesdrop="true"/>
     <allow eavesdrop="true"/>
@@ -110,11 +111,13 @@ class Notifications:
 class Session:
     """Everything that a desktop has; the program under test runs in it."""
 
-    def __init__(self, size=(1280, 800)):
+    def __init__(self, size=(1280, 800), service_folder=None):
+        """With a folder of service files, its bus starts what they describe."""
         processes.require("dbus-daemon", "setpriv", "pulseaudio", "pactl", "parec",
                           "/usr/libexec/at-spi-bus-launcher")
         self.folder = tempfile.mkdtemp(prefix="desktop-")
         os.chmod(self.folder, 0o700)
+        self.service_folder = service_folder
         self.sound = None
         self.closers = []
         try:
@@ -140,9 +143,10 @@ class Session:
         self.start_notifications()
 
     def start_bus(self):
+        services = f"<servicedir>{self.service_folder}</servicedir>" if self.service_folder else ""
         configuration = os.path.join(self.folder, "session.conf")
         with open(configuration, "w", encoding="ascii") as file:
-            file.write(BUS_CONFIGURATION.format(folder=self.folder))
+            file.write(BUS_CONFIGURATION.format(folder=self.folder, services=services))
         reader, writer = os.pipe()
         daemon = processes.start(
             ["dbus-daemon", f"--config-file={configuration}", "--nofork",
