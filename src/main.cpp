@@ -24,9 +24,12 @@ int main(int argc, char *argv[])
     if (writeAnswer(commandLine))
         return commandLine.exitStatus;
     SingleInstance instance;
-    // One that owns the name but does not answer is no help; then there are two.
-    if (!instance.claim() && instance.forward(nameOf(commandLine.order), launch))
-        return 0;
+    if (!instance.claim()) {
+        if (instance.forward(nameOf(commandLine.order), launch))
+            return 0;
+        // It hangs, or is just about to end.
+        instance.inherit();
+    }
 
     const SystemServices services;
     WufferController controller;

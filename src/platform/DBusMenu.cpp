@@ -1,5 +1,7 @@
 #include "platform/DBusMenu.h"
 
+#include <QDBusConnection>
+#include <QDBusMessage>
 #include <QGuiApplication>
 #include <QHash>
 
@@ -59,6 +61,11 @@ DBusMenu::DBusMenu(std::function<void()> whenClosed) : _whenClosed(std::move(whe
     _linesTimer.setSingleShot(true);
     _linesTimer.setInterval(0);
     connect(&_linesTimer, &QTimer::timeout, this, &DBusMenu::updateLines);
+    _panelWatcher.setWatchMode(QDBusServiceWatcher::WatchForUnregistration);
+    connect(&_panelWatcher, &QDBusServiceWatcher::serviceUnregistered, this, [this] {
+        if (_open)
+            close();
+    });
 }
 
 QString DBusMenu::textDirection()
@@ -88,6 +95,7 @@ void DBusMenu::forgetPanel()
 {
     _open = false;
     _textTimer.stop();
+    _panelWatcher.setWatchedServices({});
 }
 
 uint DBusMenu::GetLayout(int parentId, int recursionDepth, const QStringList &propertyNames,
@@ -186,11 +194,20 @@ void DBusMenu::handle(int id, const QString &eventId)
         if (_open)
             close();
     } else if (id == kRoot && eventId == QLatin1String("opened")) {
-        _open = true;
-        _textTimer.start();
+        open();
     } else if (id == kRoot && eventId == QLatin1String("closed") && _open) {
         close();
     }
+}
+
+void DBusMenu::open()
+{
+    _open = true;
+    _textTimer.start();
+    if (!calledFromDBus())
+        return;
+    _panelWatcher.setConnection(connection());
+    _panelWatcher.setWatchedServices({message().service()});
 }
 
 void DBusMenu::close()

@@ -3,6 +3,8 @@
 #include "platform/DBusMenuTypes.h"
 #include "platform/StatusMenu.h"
 
+#include <QDBusContext>
+#include <QDBusServiceWatcher>
 #include <QObject>
 #include <QPointer>
 #include <QTimer>
@@ -17,7 +19,7 @@
 /// go out when a panel is about to show them. While it is open, texts follow a few times a second,
 /// and the lines stay as they are so that nothing moves under the pointer. Properties, slots and
 /// signals that begin with a capital are the protocol's.
-class DBusMenu final : public QObject
+class DBusMenu final : public QObject, protected QDBusContext
 {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "com.canonical.dbusmenu")
@@ -65,6 +67,7 @@ private:
     [[nodiscard]] std::vector<StatusMenu::Line> currentLines() const;
     [[nodiscard]] bool hasLine(int id) const;
     void handle(int id, const QString &eventId);
+    void open();
     void close();
     void updateWhileOpen();
     void updateLines();
@@ -79,6 +82,8 @@ private:
     std::vector<StatusMenu::Line> _told;
     uint _revision = 1;
     bool _open = false;
+    /// Tells when the panel that has it open has gone.
+    QDBusServiceWatcher _panelWatcher;
     QTimer _textTimer;
     QTimer _linesTimer;
 };

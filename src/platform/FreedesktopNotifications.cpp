@@ -1,5 +1,6 @@
 #include "platform/FreedesktopNotifications.h"
 
+#include "platform/ActivationToken.h"
 #include "platform/SessionBus.h"
 
 #include <QDBusConnection>
@@ -178,6 +179,9 @@ void FreedesktopNotifications::hear(const QDBusMessage &signal)
         const auto *button = std::ranges::find(kButtons, arguments.back().toString(), &Button::key);
         if (button != std::end(kButtons))
             action = (*conversation->shown).*(button->action);
+    } else if (signal.member() == QLatin1String("ActivationToken")) {
+        // It comes right before the button that it is for.
+        useActivationToken(arguments.back().toString());
     } else if (signal.member() == QLatin1String("NotificationClosed")) {
         conversation->id = 0;
         action = std::exchange(conversation->shown, {})->closed;

@@ -103,9 +103,12 @@ void FreedesktopScreenBlanking::watch()
     if (_watcher)
         return;
     _watcher = std::make_unique<QDBusServiceWatcher>(kScreenSaver, QDBusConnection::sessionBus(),
-                                                     QDBusServiceWatcher::WatchForRegistration);
-    connect(_watcher.get(), &QDBusServiceWatcher::serviceRegistered, this,
-            &FreedesktopScreenBlanking::screenSaverAppeared);
+                                                     QDBusServiceWatcher::WatchForOwnerChange);
+    connect(_watcher.get(), &QDBusServiceWatcher::serviceOwnerChanged, this,
+            [this](const QString &, const QString &, const QString &newOwner) {
+                if (!newOwner.isEmpty())
+                    screenSaverAppeared();
+            });
 }
 
 void FreedesktopScreenBlanking::ask(std::size_t way, Start start)

@@ -42,10 +42,8 @@ FreedesktopStatusItem::FreedesktopStatusItem() :
     _publishTimer.setSingleShot(true);
     _publishTimer.setInterval(0);
     connect(&_publishTimer, &QTimer::timeout, this, &FreedesktopStatusItem::publish);
-    connect(_watcher.get(), &QDBusServiceWatcher::serviceRegistered, this,
-            &FreedesktopStatusItem::watcherAppeared);
-    connect(_watcher.get(), &QDBusServiceWatcher::serviceUnregistered, this,
-            &FreedesktopStatusItem::watcherVanished);
+    connect(_watcher.get(), &QDBusServiceWatcher::serviceOwnerChanged, this,
+            &FreedesktopStatusItem::watcherChanged);
     // The first window comes first, the bus when the event loop has come round.
     connect(&_publishTimer, &QTimer::timeout, this, &FreedesktopStatusItem::start,
             Qt::SingleShotConnection);
@@ -94,6 +92,19 @@ void FreedesktopStatusItem::askForWatcher()
                 else
                     watcherVanished();
             });
+}
+
+void FreedesktopStatusItem::watcherChanged(const QString & /*name*/, const QString &oldOwner,
+                                           const QString &newOwner)
+{
+    if (newOwner.isEmpty()) {
+        watcherVanished();
+        return;
+    }
+    // One that has waited for the other to go takes its place without a moment between them.
+    if (!oldOwner.isEmpty())
+        _dbusMenu->forgetPanel();
+    watcherAppeared();
 }
 
 void FreedesktopStatusItem::watcherAppeared()

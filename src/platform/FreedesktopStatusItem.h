@@ -33,6 +33,7 @@ protected:
 private:
     void start();
     void askForWatcher();
+    void watcherChanged(const QString &name, const QString &oldOwner, const QString &newOwner);
     void watcherAppeared();
     void watcherVanished();
     void publish();

@@ -1,5 +1,6 @@
 #include "platform/SingleInstance.h"
 
+#include "platform/ActivationToken.h"
 #include "platform/SessionBus.h"
 #include "platform/StartupNotification.h"
 
@@ -96,12 +97,15 @@ bool SingleInstance::forward(const QString &action, const QVariantMap &launch) c
     return answer.type() == QDBusMessage::ReplyMessage;
 }
 
+void SingleInstance::inherit()
+{
+    QDBusConnection::sessionBus().interface()->registerService(
+        _name, QDBusConnectionInterface::QueueService);
+}
+
 void SingleInstance::handle(const QString &action, const QVariantMap &platformData)
 {
-    const QByteArray token = platformData.value(kActivationToken).toString().toUtf8();
-    // Qt takes it from there when a window asks to be the active one.
-    if (!token.isEmpty())
-        qputenv(kActivationTokenVariable, token);
+    useActivationToken(platformData.value(kActivationToken).toString());
     Q_EMIT asked(action);
     endStartupNotification(platformData.value(kStartupId).toString());
 }

@@ -29,6 +29,9 @@ public:
     /// brings it to the front. Whether it answered: one that hangs is given up after two seconds.
     [[nodiscard]] bool forward(const QString &action, const QVariantMap &launch) const;
 
+    /// Has the name come to this one when its owner has gone, for one that runs on beside it.
+    void inherit();
+
 Q_SIGNALS:
     /// Somebody wants the program to do this; an empty action only brings it to the front. An
     /// action may be one that nobody knows.

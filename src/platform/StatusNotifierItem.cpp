@@ -1,5 +1,7 @@
 #include "platform/StatusNotifierItem.h"
 
+#include "platform/ActivationToken.h"
+
 #include <QGuiApplication>
 
 StatusNotifierItem::StatusNotifierItem(QString menuPath, Handler activate, Handler showMenu) :
@@ -55,7 +57,5 @@ QDBusObjectPath StatusNotifierItem::menu() const
 
 void StatusNotifierItem::ProvideXdgActivationToken(const QString &token)
 {
-    // Qt takes it from there for the next window that it activates.
-    if (QGuiApplication::platformName().startsWith(QLatin1String("wayland")))
-        qputenv("XDG_ACTIVATION_TOKEN", token.toUtf8());
+    useActivationToken(token);
 }

@@ -2,8 +2,6 @@
 
 #include "platform/StatusMenu.h"
 
-#include <QPointer>
-
 /// A name may hold the sign that marks the letter to press.
 static QString literal(QString text)
 {
@@ -12,6 +10,8 @@ static QString literal(QString text)
 
 void StatusPopup::open(StatusMenu &menu, const QPoint &place)
 {
+    if (isVisible())
+        return;
     fill(menu);
     connect(&menu, &StatusMenu::textsChanged, this, [this, &menu] { updateTexts(menu); });
     connect(

@@ -18,6 +18,7 @@ private Q_SLOTS:
     void itIsThereWhenNothingOpensAtLaunch();
     void itIsNotThereBesideATimer();
     void itComesWhenTheLastWindowCloses();
+    void itStaysAwayWhileAnotherTimerOfAChainRuns();
     void itStaysAwayWhileAMinimizedTimerIsOpen();
     void itGoesWhenAnotherWindowComes();
     void itComesAgain();
@@ -102,6 +103,24 @@ void tst_HomeWindow::itComesWhenTheLastWindowCloses()
         timer->window()->close();
     QVERIFY(!home());
     converter->close();
+    QTRY_VERIFY(home());
+}
+
+void tst_HomeWindow::itStaysAwayWhileAnotherTimerOfAChainRuns()
+{
+    Program program;
+    program.controller.awakeFromNib();
+    program.controller.newWuffer();
+    Wuffer &first = *WufferApplication::getWuffers().front();
+    Wuffer &second = *WufferApplication::getWuffers().back();
+    first.setTargetWuffer(&second);
+    second.goPressed();
+    first.window()->close();
+    QCoreApplication::processEvents();
+    QVERIFY(!home());
+    QVERIFY(second.isRunning());
+    QVERIFY(!second.isChained());
+    second.window()->close();
     QTRY_VERIFY(home());
 }
 

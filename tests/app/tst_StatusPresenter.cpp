@@ -62,6 +62,7 @@ private Q_SLOTS:
     void aStartedTimerShowsAndAStoppedOneDoesNot();
     void theTitleFollowsTheDisplay();
     void theTitleHasTheColorOfTheDisplay();
+    void aTimerFromAPresetIsBlackThenRed();
     void theAlarmShowsUntilItIsReset();
     void aTimerStartedAtLaunchShowsAtItsFirstNotice();
     void aPressBringsTheOneTimerToTheFront();
@@ -129,6 +130,16 @@ void tst_StatusPresenter::theTitleHasTheColorOfTheDisplay()
     t.pass(4);
     QCOMPARE(t.statusItem.attributedTitle().color, kRed);
     QCOMPARE(t.timer.currentTextColor(), kRed);
+}
+
+void tst_StatusPresenter::aTimerFromAPresetIsBlackThenRed()
+{
+    StatusFixture t;
+    t.timer.setPreset(3);
+    t.startCountdown(14);
+    QCOMPARE(t.statusItem.attributedTitle().color, QColor(Qt::black));
+    t.pass(4);
+    QCOMPARE(t.statusItem.attributedTitle().color, kRed);
 }
 
 void tst_StatusPresenter::theAlarmShowsUntilItIsReset()

@@ -4,6 +4,7 @@
 Usage: windows_test.py WUFFER FOLDER [unittest arguments]
 """
 
+import json
 import time
 
 from support.case import DesktopTest, main
@@ -80,11 +81,16 @@ class WindowsTest(DesktopTest):
         program.wait_for_windows(1)
         self.quit(program)
 
-    def test_the_program_is_quit_while_a_timer_runs(self):
+    def test_the_program_is_quit_while_a_timer_runs_which_is_not_saved(self):
         program = self.launch()
         program.start_countdown(60)
         program.wait_for_button("Stop")
+        # What is changed now is remembered at the next stop, to which it does not come.
+        self.display.key("ctrl+k")
         self.quit(program)
+        with open(program.settings_path, encoding="utf-8") as file:
+            remembered = json.load(file)["defaultWufferSettings"]
+        self.assertEqual((remembered["seconds"], remembered["keepWuffing"]), (60, 0))
 
     def test_all_timers_start_at_once(self):
         program = self.launch()

@@ -63,6 +63,7 @@ private Q_SLOTS:
     void anOpenMenuThatLosesItsListStillChooses();
     void aClickClosesTheMenu();
     void closingIsToldOnce();
+    void aPanelThatIsGoneHasItOpenNoLonger();
     void aListThatIsGoneLeavesAnEmptyMenu();
     void twoHundredLinesCostOneSignal();
 
@@ -345,6 +346,19 @@ void tst_DBusMenu::closingIsToldOnce()
     event(0, kOpened);
     event(0, kClosed);
     event(0, kClosed);
+    QCOMPARE(_closings, 1);
+}
+
+void tst_DBusMenu::aPanelThatIsGoneHasItOpenNoLonger()
+{
+    std::optional<BusPeer> other(std::in_place, _address, kPath + QStringLiteral("/Other"),
+                                 kInterface);
+    event(0, kOpened);
+    other.reset();
+    QCoreApplication::processEvents();
+    QVERIFY(_menu->isOpen());
+    _peer.reset();
+    QTRY_VERIFY(!_menu->isOpen());
     QCOMPARE(_closings, 1);
 }
 

@@ -8,6 +8,7 @@
 
 #include <QDBusArgument>
 #include <QDBusObjectPath>
+#include <QDir>
 #include <QElapsedTimer>
 #include <QMenu>
 #include <QTemporaryDir>
@@ -45,6 +46,7 @@ private Q_SLOTS:
     void cleanup();
     void theItemRegistersUnderTheNameThatTheBusHasGiven();
     void theItemRegistersWithEveryWatcherThatComes();
+    void theItemRegistersWithAWatcherThatTakesTheNameOver();
     void theItemSaysWhatItIs();
     void anEmptyItemIsPassive();
     void theTitleIsLabelTitleAndToolTip();
@@ -102,6 +104,14 @@ void tst_FreedesktopStatusItem::theItemRegistersWithEveryWatcherThatComes()
         QTest::qWait(20);
         watch();
     }
+}
+
+void tst_FreedesktopStatusItem::theItemRegistersWithAWatcherThatTakesTheNameOver()
+{
+    watch();
+    const StatusWatcher next(_address, StatusWatcher::Next);
+    _watcher.reset();
+    QTRY_COMPARE(next.registered, QStringList{QDBusConnection::sessionBus().baseService()});
 }
 
 void tst_FreedesktopStatusItem::theItemSaysWhatItIs()
@@ -352,6 +362,8 @@ void tst_FreedesktopStatusItem::aMissingBusIsNoMatter()
     QTest::qWait(20);
     _item->setTitle({});
     QTest::qWait(20);
+    QCOMPARE(QDir(nowhere.path()).entryList(QDir::NoDotAndDotDot | QDir::AllEntries),
+             QStringList());
     qputenv("DBUS_SESSION_BUS_ADDRESS", _address.toUtf8());
 }
 

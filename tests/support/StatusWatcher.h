@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QDBusConnection>
+#include <QDBusConnectionInterface>
 #include <QObject>
 #include <QStringList>
 
@@ -12,15 +13,28 @@ class StatusWatcher final : public QObject
     Q_CLASSINFO("D-Bus Interface", "org.kde.StatusNotifierWatcher")
 
 public:
-    explicit StatusWatcher(const QString &busAddress) :
-        _bus(QDBusConnection::connectToBus(busAddress, QStringLiteral("watcher")))
+    enum Place {
+        /// It has the name at once.
+        First,
+        /// It gets the name when its owner goes.
+        Next,
+    };
+
+    explicit StatusWatcher(const QString &busAddress, Place place = First) :
+        _bus(QDBusConnection::connectToBus(
+            busAddress, QStringLiteral("watcher %1").arg(static_cast<int>(place))))
     {
+        const auto queueing = place == First ? QDBusConnectionInterface::DontQueueService
+                                             : QDBusConnectionInterface::QueueService;
+        const auto wanted = place == First ? QDBusConnectionInterface::ServiceRegistered
+                                           : QDBusConnectionInterface::ServiceQueued;
         if (!_bus.registerObject(QStringLiteral("/StatusNotifierWatcher"), this,
                                  QDBusConnection::ExportAllSlots) ||
-            !_bus.registerService(QStringLiteral("org.kde.StatusNotifierWatcher")))
+            _bus.interface()->registerService(QStringLiteral("org.kde.StatusNotifierWatcher"),
+                                              queueing) != wanted)
             qFatal("the watcher could not be registered");
     }
-    ~StatusWatcher() override { QDBusConnection::disconnectFromBus(QStringLiteral("watcher")); }
+    ~StatusWatcher() override { QDBusConnection::disconnectFromBus(_bus.name()); }
     Q_DISABLE_COPY_MOVE(StatusWatcher)
 
     QStringList registered;
