@@ -46,7 +46,8 @@ if(WUFFER_SANITIZE)
     target_compile_options(wuffer_build_options INTERFACE ${sanitizers})
     target_link_options(wuffer_build_options INTERFACE ${sanitizers})
     # The instrumentation hides from GCC what it has already proved about pointers.
-    target_compile_options(wuffer_build_options INTERFACE -Wno-null-dereference)
+    target_compile_options(wuffer_build_options INTERFACE
+        $<$<CXX_COMPILER_ID:GNU>:-Wno-null-dereference>)
 endif()
 
 if(WUFFER_COVERAGE)

@@ -1,6 +1,8 @@
 #include "platform/JsonSettingsFormat.h"
 
-#include <QFile>
+#include "platform/SettingsPath.h"
+
+#include <QFileDevice>
 #include <QJsonDocument>
 #include <QJsonObject>
 
@@ -8,40 +10,44 @@
 
 namespace
 {
-std::optional<QJsonObject> objectFrom(QIODevice &device)
+std::optional<QJsonObject> objectFrom(const std::optional<QByteArray> &text)
 {
-    const QByteArray text = device.readAll();
-    if (text.trimmed().isEmpty())
+    if (!text)
+        return std::nullopt;
+    if (text->trimmed().isEmpty())
         return QJsonObject();
-    const QJsonDocument document = QJsonDocument::fromJson(text);
+    const QJsonDocument document = QJsonDocument::fromJson(*text);
     if (!document.isObject())
         return std::nullopt;
     return document.object();
 }
 
-QString freeNameBeside(const QString &path)
-{
-    const QString name = path + QStringLiteral(".unreadable");
-    QString candidate = name;
-    for (int number = 2; QFile::exists(candidate); ++number)
-        candidate = name + QStringLiteral(".%1").arg(number);
-    return candidate;
-}
-
 bool read(QIODevice &device, QSettings::SettingsMap &map)
 {
-    const std::optional<QJsonObject> object = objectFrom(device);
+    const std::optional<QJsonObject> object = objectFrom(SettingsPath::textOf(device));
     if (object) {
         map = object->toVariantMap();
         return true;
     }
     // Done here, because the file is read again whenever somebody else has changed it.
-    const auto *file = qobject_cast<const QFile *>(&device);
-    return file && QFile::rename(file->fileName(), freeNameBeside(file->fileName()));
+    const auto *file = qobject_cast<const QFileDevice *>(&device);
+    return file && SettingsPath::setAside(file->fileName());
+}
+
+/// Whether nothing is lost when the file of this name is replaced.
+bool mayReplace(const QString &path)
+{
+    return SettingsPath::isFree(path) || objectFrom(SettingsPath::textAt(path)) ||
+           SettingsPath::setAside(path);
 }
 
 bool write(QIODevice &device, const QSettings::SettingsMap &map)
 {
+    auto *file = qobject_cast<QFileDevice *>(&device);
+    if (!file || !mayReplace(file->fileName()))
+        return false;
+    // Names of timers and paths of sounds are nobody else's business.
+    file->setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner);
     const QByteArray text = QJsonDocument(QJsonObject::fromVariantMap(map)).toJson();
     return device.write(text) == text.size();
 }

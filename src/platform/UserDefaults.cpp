@@ -3,7 +3,9 @@
 #include "platform/JsonSettingsFormat.h"
 #include "platform/PropertyList.h"
 #include "platform/Service.h"
+#include "platform/SettingsPath.h"
 
+#include <QFileInfo>
 #include <QJsonValue>
 #include <QStandardPaths>
 
@@ -13,11 +15,11 @@
 UserDefaults::UserDefaults(const QString &path)
 {
 #ifdef Q_OS_MACOS
-    const QSettings::Format format = QSettings::NativeFormat;
+    _settings = std::make_unique<QSettings>(path, QSettings::NativeFormat);
 #else
-    const QSettings::Format format = JsonSettingsFormat::format();
+    _settings =
+        std::make_unique<QSettings>(SettingsPath::cleared(path), JsonSettingsFormat::format());
 #endif
-    _settings = std::make_unique<QSettings>(path, format);
 }
 
 QString UserDefaults::standardPath()
@@ -78,6 +80,8 @@ QStringList UserDefaults::stringArrayForKey(const QString &key) const
 
 void UserDefaults::setObject(const QVariant &value, const QString &key)
 {
+    // Left to itself, QSettings lets everybody look into a folder that it makes.
+    SettingsPath::makePrivateFolder(QFileInfo(_settings->fileName()).path());
     // So that it reads now as it will read from the file.
     _settings->setValue(key, QJsonValue::fromVariant(value).toVariant());
 }

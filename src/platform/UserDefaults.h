@@ -12,8 +12,9 @@
 ///
 /// On Linux they live in one readable JSON file, written as a whole or not at all, within a
 /// second of a change. A value of another type than the one asked for reads as missing, and keys
-/// that nobody asks for are kept. A file that cannot be understood is set aside beside the new
-/// one, never overwritten. Main thread.
+/// that nobody asks for are kept. What cannot be read or understood is set aside beside the new
+/// file, never overwritten; where nothing can be written the settings last as long as the program.
+/// Only its owner may read the file. Main thread.
 class UserDefaults final
 {
 public:

@@ -86,6 +86,24 @@ class NotificationTest(DesktopTest):
         self.wait_for_notifications(1)
         self.quit(program)
 
+    def test_the_daemon_dies_and_comes_back_while_a_timer_rings(self):
+        program = self.launch(settings=MUTED)
+        self.ring(program)
+        self.wait_for_notifications(1)
+        daemon = self.session.notifications.process
+        processes.signal_group(daemon, signal.SIGKILL)
+        daemon.wait()
+        self.session.start_notifications()
+        self.assertEqual(program.shown("Time"), "Wuff!")
+        self.assertLess(program.answers(), 0.5)
+        self.stop(program)
+        # The new one has not been told of the first alarm, which the next would replace.
+        self.display.key("Return")
+        program.wait_for_button("Reset")
+        self.wait_for_notifications(1)
+        self.stop(program)
+        self.quit(program)
+
     def test_the_notification_daemon_is_frozen(self):
         daemon = self.session.notifications.process
         processes.signal_group(daemon, signal.SIGSTOP)

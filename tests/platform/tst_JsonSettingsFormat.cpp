@@ -34,8 +34,11 @@ private Q_SLOTS:
     void aMissingFolderIsMade();
     void aDeeplyNestedFileDoesNoHarm_data();
     void aDeeplyNestedFileDoesNoHarm();
-    void aFolderInItsPlaceDoesNoHarm();
-    void aFileThatMayNotBeReadIsLeftAlone();
+    void aFolderInItsPlaceIsSetAside();
+    void aFileThatMayNotBeReadIsSetAside();
+    void aFileThatMayNotBeReadAnyMoreIsNotOverwritten();
+    void aFileThatMayNotBeWrittenIsLeftAlone();
+    void whatCannotBeSetAsideIsNotOverwritten();
     void aFolderThatMayNotBeWrittenKeepsTheValuesInMemory();
     void aChangeByAnotherProgramIsKept();
     void aLinkedFileStaysLinked();
@@ -182,34 +185,81 @@ void tst_JsonSettingsFormat::aDeeplyNestedFileDoesNoHarm()
     QCOMPARE(file.folder().contains(kSetAside), !understood);
 }
 
-void tst_JsonSettingsFormat::aFolderInItsPlaceDoesNoHarm()
+void tst_JsonSettingsFormat::aFolderInItsPlaceIsSetAside()
 {
     const SettingsFile file;
     QVERIFY(QDir().mkpath(file.path() + QStringLiteral("/inside")));
-    UserDefaults defaults(file.path());
 
-    defaults.setObject(2, kKey);
-    defaults.synchronize();
+    changeASetting(file.path(), 2);
 
-    QCOMPARE(defaults.integerForKey(kKey), 2);
-    QVERIFY(QFile::exists(file.path() + QStringLiteral("/inside")));
+    QCOMPARE(file.object(), (QJsonObject{{kKey, 2}}));
+    QVERIFY(QFile::exists(file.path() + QStringLiteral(".unreadable/inside")));
 }
 
-void tst_JsonSettingsFormat::aFileThatMayNotBeReadIsLeftAlone()
+void tst_JsonSettingsFormat::aFileThatMayNotBeReadIsSetAside()
 {
     const OrdinaryUser user;
     const SettingsFile file;
     file.write("{\"key\": 1}");
     QVERIFY(QFile::setPermissions(file.path(), {}));
+
+    changeASetting(file.path(), 2);
+
+    QCOMPARE(file.object(), (QJsonObject{{kKey, 2}}));
+    const QString aside = file.path() + QStringLiteral(".unreadable");
+    QVERIFY(QFile::setPermissions(aside, QFile::ReadOwner | QFile::WriteOwner));
+    QCOMPARE(file.textBeside(kSetAside), QByteArray("{\"key\": 1}"));
+}
+
+void tst_JsonSettingsFormat::aFileThatMayNotBeReadAnyMoreIsNotOverwritten()
+{
+    const OrdinaryUser user;
+    const SettingsFile file;
+    UserDefaults defaults(file.path());
+    file.write("{\"key\": 1}");
+    QVERIFY(QFile::setPermissions(file.path(), {}));
+
+    defaults.setObject(2, kKey);
+    defaults.synchronize();
+
+    QCOMPARE(defaults.integerForKey(kKey), 2);
+    QVERIFY(QFile::setPermissions(file.path(), QFile::ReadOwner | QFile::WriteOwner));
+    QCOMPARE(file.text(), QByteArray("{\"key\": 1}"));
+}
+
+void tst_JsonSettingsFormat::aFileThatMayNotBeWrittenIsLeftAlone()
+{
+    const OrdinaryUser user;
+    const SettingsFile file;
+    file.write("{\"key\": 1}");
+    QVERIFY(QFile::setPermissions(file.path(), QFile::ReadOwner));
+    UserDefaults defaults(file.path());
+
+    QCOMPARE(defaults.integerForKey(kKey), 1);
+    defaults.setObject(2, kKey);
+    defaults.synchronize();
+
+    QCOMPARE(defaults.integerForKey(kKey), 2);
+    QCOMPARE(file.text(), QByteArray("{\"key\": 1}"));
+    QCOMPARE(file.folder(), QStringList{kFileName});
+}
+
+void tst_JsonSettingsFormat::whatCannotBeSetAsideIsNotOverwritten()
+{
+    const QTemporaryDir folder;
+    // With anything more behind it the name would be too long.
+    QFile file(folder.filePath(QString(245, QLatin1Char('s'))));
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write("no settings") > 0);
+    file.close();
     {
-        UserDefaults defaults(file.path());
+        UserDefaults defaults(file.fileName());
         defaults.setObject(2, kKey);
         defaults.synchronize();
         QCOMPARE(defaults.integerForKey(kKey), 2);
     }
 
-    QVERIFY(QFile::setPermissions(file.path(), QFile::ReadOwner | QFile::WriteOwner));
-    QCOMPARE(file.text(), QByteArray("{\"key\": 1}"));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(file.readAll(), QByteArray("no settings"));
 }
 
 void tst_JsonSettingsFormat::aFolderThatMayNotBeWrittenKeepsTheValuesInMemory()

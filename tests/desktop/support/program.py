@@ -34,9 +34,11 @@ class Program:
     executable = ""
 
     def __init__(self, session, display=None, environment=None, settings=None, accessible=True,
-                 arguments=()):
+                 arguments=(), through=(), limits=None):
+        """Through is a command that becomes the program; limits is called in its process."""
         self.session = session
-        self.arguments = arguments
+        self.command = [*through, self.executable, *arguments]
+        self.limits = limits
         self.display = display or session.display
         self.home = tempfile.mkdtemp(prefix="home-", dir=session.folder)
         self.settings_path = os.path.join(self.home, "config", "wuffer", "wuffer.json")
@@ -68,8 +70,9 @@ class Program:
 
     def spawn(self):
         with open(self.log, "a", encoding="utf-8") as log:
-            # Not through another program: its process must be the program's own.
-            self.process = subprocess.Popen([self.executable, *self.arguments], env=self.environment,
+            # Not below another program: its process must be the program's own.
+            self.process = subprocess.Popen(self.command, env=self.environment,
+                                            preexec_fn=self.limits, restore_signals=False,
                                             stdin=subprocess.DEVNULL, stdout=log, stderr=log)
 
     def find_application(self):

@@ -1,0 +1,244 @@
+#!/usr/bin/python3
+"""Starts, uses and ends the program where its settings cannot be read, or cannot be written.
+
+Usage: settings_place_test.py WUFFER FOLDER [unittest arguments]
+"""
+
+import json
+import os
+import resource
+import shutil
+import stat
+import subprocess
+import tempfile
+
+from support.case import DesktopTest, main
+from support.program import Program
+from support.waiting import wait_until
+
+KEPT = {"finishedText": "Tea!", "soundOff": 1, "from another version": {"kept": [1, 2]}}
+
+# The superuser without powers is bound by permissions like anybody else.
+POWERLESS = ("setpriv", "--bounding-set", "-all")
+
+
+def powers_can_be_given_up():
+    """Whether a program can be run that permissions bind, which not every container allows."""
+    if os.geteuid() != 0:
+        return True
+    with tempfile.NamedTemporaryFile() as file:
+        os.chmod(file.name, 0)
+        return subprocess.run([*POWERLESS, "sh", "-c", '! cat "$0"', file.name], check=False,
+                              stderr=subprocess.DEVNULL).returncode == 0
+
+
+def no_file_may_grow():
+    """As on a full disk: what is written to files does not get there."""
+    resource.setrlimit(resource.RLIMIT_FSIZE, (0, resource.RLIM_INFINITY))
+
+
+class SettingsPlaceTest(DesktopTest):
+    def prepare(self, text=None, **options):
+        """A run of the program that has not started, whose settings are this text."""
+        program = Program(self.session, settings=text, **options)
+        self.programs.append(program)
+        self.folder = os.path.dirname(program.settings_path)
+        os.makedirs(self.folder, exist_ok=True)
+        return program
+
+    def check_works(self, program, name="Eggs"):
+        """It starts, takes a name, counts down to its alarm, and ends."""
+        program.start()
+        program.type_seconds(0)
+        field = program.place(program.find("field", "Name"))
+        self.display.click(field.x + 10, field.y + 10)
+        self.display.type(name)
+        self.display.key("Return")
+        wait_until(lambda: name in self.display.title(program.windows()[0]), 5, "it has a name")
+        minutes = program.place(program.find("field", "Minutes"))
+        self.display.click(minutes.x + 10, minutes.y + 10)
+        self.display.key("Return")
+        program.wait_for_button("Reset")
+        self.display.key("Return")
+        program.wait_for_button("Start")
+        self.assertLess(program.answers(), 0.5)
+        self.quit(program)
+
+    def read(self, path):
+        with open(path, encoding="utf-8") as file:
+            return file.read()
+
+    def check_kept(self, path, kept):
+        """The name has been kept beside what was there."""
+        settings = json.loads(self.read(path))
+        self.assertEqual(settings["defaultWufferSettings"]["title"], "Eggs")
+        self.assertEqual({key: settings.get(key) for key in kept}, kept)
+        self.assertEqual(stat.S_IMODE(os.stat(path).st_mode), 0o600)
+
+    # What lies in its place
+
+    def test_missing(self):
+        program = self.prepare()
+        shutil.rmtree(program.home + "/config")
+        self.check_works(program)
+        self.check_kept(program.settings_path, {})
+        for made in (program.home + "/config", self.folder):
+            self.assertEqual(stat.S_IMODE(os.stat(made).st_mode), 0o700)
+
+    def test_empty(self):
+        program = self.prepare("")
+        self.check_works(program)
+        self.check_kept(program.settings_path, {})
+        self.assertEqual(os.listdir(self.folder), ["wuffer.json"])
+
+    def check_set_aside(self, text):
+        program = self.prepare(text)
+        self.check_works(program)
+        self.check_kept(program.settings_path, {})
+        self.assertEqual(self.read(program.settings_path + ".unreadable"), text)
+
+    def test_a_list(self):
+        self.check_set_aside(json.dumps([KEPT]))
+
+    def test_deeply_nested(self):
+        self.check_set_aside('{"a":' * 100_000 + "1" + "}" * 100_000)
+
+    def test_a_hundred_megabytes(self):
+        self.check_set_aside('{"finishedText": "' + "x" * 100_000_000 + '"}')
+
+    def test_as_deeply_nested_as_can_be_read(self):
+        nested = {}
+        for _ in range(200):
+            nested = {"deeper": [nested]}
+        program = self.prepare(json.dumps({"nested": nested}))
+        self.check_works(program)
+        self.check_kept(program.settings_path, {"nested": nested})
+
+    def test_a_folder(self):
+        program = self.prepare()
+        os.makedirs(program.settings_path + "/inside")
+        self.check_works(program)
+        self.check_kept(program.settings_path, {})
+        self.assertTrue(os.path.isdir(program.settings_path + ".unreadable/inside"))
+
+    def test_a_pipe(self):
+        program = self.prepare()
+        os.mkfifo(program.settings_path)
+        self.check_works(program)
+        self.check_kept(program.settings_path, {})
+
+    def test_a_link_to_a_file(self):
+        program = self.prepare()
+        target = program.home + "/elsewhere.json"
+        with open(target, "w", encoding="utf-8") as file:
+            json.dump(KEPT, file)
+        os.symlink(target, program.settings_path)
+        self.check_works(program)
+        self.check_kept(target, KEPT)
+        self.assertTrue(os.path.islink(program.settings_path))
+
+    def test_a_link_to_a_device_that_takes_nothing(self):
+        program = self.prepare()
+        os.symlink("/dev/full", program.settings_path)
+        self.check_works(program)
+        self.check_kept(program.settings_path, {})
+        self.assertTrue(stat.S_ISCHR(os.stat("/dev/full").st_mode))
+
+    def test_another_program_changes_it_meanwhile(self):
+        program = self.prepare(json.dumps({"soundOff": 1}))
+        program.start()
+        with open(program.settings_path, "w", encoding="utf-8") as file:
+            json.dump(dict(KEPT, soundOff=0), file)
+        self.display.key("ctrl+n")
+        program.wait_for_windows(2)
+        self.display.key("ctrl+w")
+        program.wait_for_windows(1)
+        self.quit(program)
+        settings = json.loads(self.read(program.settings_path))
+        self.assertEqual({key: settings.get(key) for key in KEPT}, dict(KEPT, soundOff=0))
+
+    # What is permitted
+
+    def prepare_powerless(self, text=None):
+        if not powers_can_be_given_up():
+            self.skipTest("permissions bind nobody here: setpriv cannot give up the powers")
+        return self.prepare(text, through=POWERLESS if os.geteuid() == 0 else ())
+
+    def test_unreadable(self):
+        program = self.prepare_powerless(json.dumps(KEPT))
+        os.chmod(program.settings_path, 0)
+        self.check_works(program)
+        self.check_kept(program.settings_path, {})
+        aside = program.settings_path + ".unreadable"
+        self.assertEqual(stat.S_IMODE(os.stat(aside).st_mode), 0)
+        os.chmod(aside, 0o600)
+        self.assertEqual(json.loads(self.read(aside)), KEPT)
+
+    def check_untouched(self, program, *locked):
+        """Nothing in the folder is changed; then again when it may be."""
+        for path, mode in locked:
+            os.chmod(path, mode)
+        before = self.listing()
+        self.check_works(program)
+        self.assertEqual(self.listing(), before)
+        for path, _ in locked:
+            os.chmod(path, 0o700)
+        self.check_works(program)
+        self.check_kept(program.settings_path, KEPT)
+
+    def listing(self):
+        return {name: self.read(os.path.join(self.folder, name))
+                for name in os.listdir(self.folder)}
+
+    def test_read_only(self):
+        program = self.prepare_powerless(json.dumps(KEPT))
+        self.check_untouched(program, (program.settings_path, 0o400))
+
+    def test_in_a_read_only_folder(self):
+        program = self.prepare_powerless(json.dumps(KEPT))
+        self.check_untouched(program, (program.settings_path, 0o400), (self.folder, 0o500))
+
+    def test_unreadable_in_a_read_only_folder(self):
+        program = self.prepare_powerless(json.dumps(KEPT))
+        os.chmod(program.settings_path, 0)
+        os.chmod(self.folder, 0o500)
+        self.check_works(program)
+        self.assertEqual(os.listdir(self.folder), ["wuffer.json"])
+        os.chmod(program.settings_path, 0o600)
+        self.assertEqual(json.loads(self.read(program.settings_path)), KEPT)
+
+    def test_broken_in_a_read_only_folder(self):
+        program = self.prepare_powerless('{"finishedText": "Te')
+        os.chmod(self.folder, 0o500)
+        self.check_works(program)
+        self.assertEqual(self.listing(), {"wuffer.json": '{"finishedText": "Te'})
+
+    def test_a_home_without_write_permission(self):
+        program = self.prepare_powerless()
+        shutil.rmtree(program.home + "/config")
+        os.chmod(program.home, 0o500)
+        before = os.listdir(program.home)
+        program.log = os.path.join(self.session.make_folder("home-log"), "log")
+        self.check_works(program)
+        self.assertEqual(set(os.listdir(program.home)) - set(before), set())
+
+    def test_a_full_disk(self):
+        program = self.prepare(json.dumps(KEPT), limits=no_file_may_grow)
+        self.check_works(program)
+        self.assertEqual(self.listing(), {"wuffer.json": json.dumps(KEPT)})
+
+    def test_a_disk_that_is_full_until_later(self):
+        program = self.prepare(json.dumps(KEPT), limits=no_file_may_grow)
+        program.start()
+        self.display.key("ctrl+n")
+        program.wait_for_windows(2)
+        resource.prlimit(program.process.pid, resource.RLIMIT_FSIZE,
+                         (resource.RLIM_INFINITY, resource.RLIM_INFINITY))
+        self.quit(program)
+        settings = json.loads(self.read(program.settings_path))
+        self.assertEqual({key: settings.get(key) for key in KEPT}, KEPT)
+        self.assertIn("defaultWufferSettings", settings)
+
+
+if __name__ == "__main__":
+    main()

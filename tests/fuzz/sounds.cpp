@@ -1,0 +1,49 @@
+#include "platform/sound/AudioFile.h"
+#include "tests/fuzz/Check.h"
+
+#include <QBuffer>
+
+#include <algorithm>
+#include <cmath>
+#include <vector>
+
+namespace
+{
+constexpr int kFrames = 1024;
+/// Enough to be in the middle of it; a file may say that it is a month long.
+constexpr int kBlocks = 40;
+
+/// Reads some blocks; gives how many frames there were.
+int readSome(AudioFile &file)
+{
+    std::vector<float> samples(2 * kFrames);
+    int total = 0;
+    for (int block = 0; block < kBlocks; ++block) {
+        const int frames = file.readStereo(samples.data(), kFrames);
+        check(frames >= 0 && frames <= kFrames, "no more is read than was asked for");
+        check(std::all_of(samples.begin(), samples.begin() + 2 * frames,
+                          [](float sample) { return std::isfinite(sample); }),
+              "samples are numbers");
+        total += frames;
+        if (frames < kFrames)
+            break;
+    }
+    return total;
+}
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const quint8 *data, std::size_t size)
+{
+    auto bytes = std::make_unique<QBuffer>();
+    bytes->setData(reinterpret_cast<const char *>(data), int(size));
+    bytes->open(QIODevice::ReadOnly);
+    const std::unique_ptr<AudioFile> file = AudioFile::open(std::move(bytes));
+    if (!file)
+        return 0;
+    check(file->sampleRate() > 0, "there is a rate");
+    check(file->duration() > 0 && std::isfinite(file->duration()), "there is a length");
+    readSome(*file);
+    if (file->rewind())
+        readSome(*file);
+    return 0;
+}

@@ -1,0 +1,92 @@
+#include "app/MenuText.h"
+#include "preferences/SoundHistory.h"
+#include "settings/Preset.h"
+#include "settings/TimerSettings.h"
+#include "tests/fuzz/Check.h"
+#include "timer/NumberText.h"
+#include "timer/TimeFields.h"
+#include "timer/TimeFormat.h"
+#include "tools/FigureText.h"
+
+#include <array>
+#include <cmath>
+#include <cstring>
+
+namespace
+{
+/// Locales that differ in their marks and digits.
+constexpr std::array kLocales{"C", "de_CH", "fr_FR", "ar_EG", "sv_SE", "en_IN"};
+
+void checkFigure(const QString &text, const QLocale &locale)
+{
+    const QString begun = FigureText::begun(text, locale);
+    check(text.startsWith(begun), "what is begun is the beginning");
+    check(FigureText::begun(begun, locale) == begun, "all of what is begun is begun");
+    const float number = FigureText::read(text, locale);
+    check(std::isfinite(number), "a figure is a number");
+    const QString written = FigureText::write(number, locale);
+    check(FigureText::read(written, locale) == number, "what is written reads as the number");
+}
+
+void checkMenuText(const QString &text)
+{
+    constexpr qsizetype longest = 2 * 81;
+    const QString shown = menuText(text);
+    check(shown.size() <= longest, "a menu item is short");
+    check(!shown.contains(QLatin1Char('\n')) && !shown.contains(QLatin1Char('\t')),
+          "a menu item is one line without a shortcut");
+    QString rest = shown;
+    rest.remove(QStringLiteral("&&"));
+    check(!rest.contains(QLatin1Char('&')), "a menu item has no mnemonic");
+}
+
+void checkTitle(const QString &text)
+{
+    checkMenuText(text);
+    const QString title = SoundHistory::displayTitle(text);
+    check(title == QLatin1String("/") || !title.contains(QLatin1Char('/')), "a title is no path");
+    TimerSettings settings;
+    settings.title = text;
+    check(text.isEmpty() || Preset::text(settings).startsWith(text),
+          "a preset begins with its name");
+}
+
+void checkTime(double seconds)
+{
+    check(TimeFormat::stringForTime(seconds).size() < 64, "a time is short");
+    check(TimeFormat::msStringForTime(seconds).size() <= 4, "so are milliseconds");
+    const TimeFields fields = TimeFields::fromSeconds(seconds);
+    check(std::abs(fields.minutes) < 60 && std::abs(fields.seconds) < 60.001F,
+          "fields hold less than the next unit");
+    const QString shown = NumberText::fromSeconds(fields.seconds);
+    check(NumberText::integerFrom(shown) == qint32(fields.seconds), "seconds are not rounded up");
+    check(!TimeFormat::hmsString(fields.hours, fields.minutes, qint32(fields.seconds)).isEmpty(),
+          "a duration has a text");
+}
+
+void checkText(const QString &text)
+{
+    const qint32 number = NumberText::integerFrom(text);
+    check(NumberText::integerFrom(QString::number(number)) == number, "a number reads as itself");
+    for (const char *locale : kLocales)
+        checkFigure(text, QLocale(QString::fromLatin1(locale)));
+    checkTitle(text);
+    checkTime(TimeFields::total(number, number, number));
+}
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const quint8 *data, std::size_t size)
+{
+    double seconds = 0;
+    if (size >= sizeof seconds) {
+        std::memcpy(&seconds, data, sizeof seconds);
+        checkTime(seconds);
+    }
+    const QByteArray bytes(reinterpret_cast<const char *>(data), qsizetype(size));
+    checkText(QString::fromUtf8(bytes));
+    // Also what is no text at all, such as half of a pair.
+    QString units(bytes.size() / 2, Qt::Uninitialized);
+    std::memcpy(units.data(), bytes.constData(), std::size_t(units.size()) * sizeof(QChar));
+    checkText(units);
+    return 0;
+}

@@ -1,0 +1,111 @@
+#!/usr/bin/python3
+"""Kills a program at random moments while it changes settings, and looks at what it leaves.
+
+Usage: settings_kills.py SETTINGSWRITER [KILLS]
+
+Fails when a file cannot be read, or when a change is missing that was older than a second.
+"""
+
+import json
+import os
+import random
+import subprocess
+import sys
+import tempfile
+import time
+from concurrent.futures import ThreadPoolExecutor
+
+KEPT_AFTER = 1.0
+LONGEST_LIFE = 2.0
+LANES = 10
+
+
+class Lane:
+    """One settings file, and those who change it, one after the other."""
+
+    def __init__(self, writer, folder, seed):
+        self.command = [writer, os.path.join(folder, f"{seed}", "settings.json")]
+        self.folder = os.path.join(folder, f"{seed}")
+        self.moments = random.Random(seed)
+        self.failures = []
+        self.changes = 0
+        self.lost_young = 0
+        self.oldest_lost = 0.0
+        self.kept = 0
+
+    def kill_some(self, kills):
+        for _ in range(kills):
+            # The half of them early, where a start and its first writing are.
+            life = self.moments.uniform(0, self.moments.choice((0.1, LONGEST_LIFE)))
+            killed, changes = self.run(life)
+            self.judge(killed, changes)
+
+    def run(self, life):
+        with subprocess.Popen(self.command, stdout=subprocess.PIPE, text=True) as process:
+            time.sleep(life)
+            killed = time.monotonic()
+            process.kill()
+            lines = process.stdout.read().split("\n")[:-1]
+        return killed, [(int(number), float(moment))
+                        for number, moment in (line.split() for line in lines)]
+
+    def judge(self, killed, changes):
+        self.changes += len(changes)
+        found = self.read()
+        if found is None:
+            return
+        due = max([self.kept] + [number for number, moment in changes
+                                 if moment <= killed - KEPT_AFTER])
+        if found < due:
+            self.failures.append(f"{found} is kept, and {due} was more than a second old")
+        lost = [killed - moment for number, moment in changes if number > found]
+        self.lost_young += len(lost)
+        self.oldest_lost = max([self.oldest_lost, *lost])
+        self.kept = found
+
+    def read(self):
+        """The number of the change that the file shows; nothing when it cannot be read."""
+        if not os.path.exists(self.command[1]):
+            return 0
+        with open(self.command[1], encoding="utf-8") as file:
+            text = file.read()
+        try:
+            settings = json.loads(text)
+        except ValueError as error:
+            self.failures.append(f"unreadable: {error}")
+            return None
+        if settings["count"] != settings["same"]:
+            self.failures.append("half of a change is kept")
+        return settings["count"]
+
+    def left_over(self):
+        """What lies in the folder beside the settings and their lock."""
+        return [name for name in os.listdir(self.folder)
+                if name not in ("settings.json", "settings.json.lock")]
+
+
+def main():
+    writer = os.path.abspath(sys.argv[1])
+    kills = int(sys.argv[2]) if len(sys.argv) > 2 else 1000
+    with tempfile.TemporaryDirectory(prefix="kills-") as folder:
+        lanes = [Lane(writer, folder, seed) for seed in range(LANES)]
+        with ThreadPoolExecutor(LANES) as threads:
+            for end in [threads.submit(lane.kill_some, -(-kills // LANES)) for lane in lanes]:
+                end.result()
+        failures = [failure for lane in lanes for failure in lane.failures]
+        left_over = [name for lane in lanes for name in lane.left_over()]
+    changes = sum(lane.changes for lane in lanes)
+    failures += [f"set aside: {name}" for name in left_over if "unreadable" in name]
+    print(f"{-(-kills // LANES) * LANES} kills, {changes} changes, "
+          f"{sum(lane.lost_young for lane in lanes)} lost, the oldest of them "
+          f"{max(lane.oldest_lost for lane in lanes) * 1000:.0f} ms old, "
+          f"{len(left_over)} files left over, {len(failures)} failures")
+    if not all(lane.kept for lane in lanes):
+        failures.append("in one lane nothing was ever kept")
+    for failure in failures:
+        print(failure)
+    sys.exit(1 if failures else 0)
+
+
+if __name__ == "__main__":
+    main()
