@@ -4,6 +4,7 @@
 #include "platform/ClockTimer.h"
 
 #include <QCoreApplication>
+#include <QList>
 #include <QObject>
 
 class SingleInstance;
@@ -25,9 +26,13 @@ public:
 
 private:
     void asked(const QString &action);
+    void carryOutPending();
     void carryOut(LaunchOrder order);
 
     WufferController &_controller;
     bool _hasBegun = false;
+    /// What was asked for in the last moment, each but new timers once.
+    QList<LaunchOrder> _pending;
+    ClockTimer _soon{[this] { carryOutPending(); }};
     ClockTimer _patience{[] { QCoreApplication::quit(); }};
 };

@@ -19,6 +19,15 @@ const QString kStartupId = QStringLiteral("desktop-startup-id");
 const QString kActivationToken = QStringLiteral("activation-token");
 constexpr auto kStartupIdVariable = "DESKTOP_STARTUP_ID";
 constexpr auto kActivationTokenVariable = "XDG_ACTIVATION_TOKEN";
+
+/// The text of this name, which goes on to the environment or the X server; one that is longer
+/// than any desktop makes it is none.
+QString shortText(const QVariantMap &platformData, const QString &name)
+{
+    constexpr qsizetype longest = 1024;
+    const QString text = platformData.value(name).toString();
+    return text.length() <= longest ? text : QString();
+}
 } // namespace
 
 /// What is seen of the program on the bus.
@@ -105,9 +114,9 @@ void SingleInstance::inherit()
 
 void SingleInstance::handle(const QString &action, const QVariantMap &platformData)
 {
-    useActivationToken(platformData.value(kActivationToken).toString());
+    useActivationToken(shortText(platformData, kActivationToken));
     Q_EMIT asked(action);
-    endStartupNotification(platformData.value(kStartupId).toString());
+    endStartupNotification(shortText(platformData, kStartupId));
 }
 
 #include "SingleInstance.moc"

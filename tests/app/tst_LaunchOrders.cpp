@@ -22,6 +22,7 @@ private Q_SLOTS:
     void aLaterLaunchShowsTheOtherWindows();
     void aLaterLaunchBringsTheLastActiveWindowForward();
     void aLaterLaunchBringsBackAMinimizedTimer();
+    void whoAsksOftenIsAnsweredOnce();
     void anActionThatNobodyKnowsOpensNothing();
     void aServiceOpensNothingUntilItIsTold();
     void whatAServiceIsToldFirstDecidesWhatOpens();
@@ -41,7 +42,11 @@ struct Program : TestServices
     LaunchOrders orders{controller, instance};
 
     void launch(LaunchOrder order) { orders.begin({.order = order, .answer = {}}); }
-    void ask(const char *action) { Q_EMIT instance.asked(QString::fromLatin1(action)); }
+    void ask(const char *action)
+    {
+        Q_EMIT instance.asked(QString::fromLatin1(action));
+        clock.advance(0.02);
+    }
 };
 
 std::size_t timers()
@@ -165,6 +170,31 @@ void tst_LaunchOrders::aLaterLaunchBringsBackAMinimizedTimer()
     window.showMinimized();
     program.ask("");
     QVERIFY(!window.isMinimized());
+}
+
+void tst_LaunchOrders::whoAsksOftenIsAnsweredOnce()
+{
+    Program program;
+    program.launch(LaunchOrder::Activate);
+    int raised = 0;
+    struct Counter final : QObject
+    {
+        explicit Counter(int &count) : _count(count) { qApp->installEventFilter(this); }
+        bool eventFilter(QObject * /*object*/, QEvent *event) override
+        {
+            _count += int(event->type() == QEvent::ZOrderChange);
+            return false;
+        }
+        int &_count;
+    } counter(raised);
+
+    for (int i = 0; i < 10'000; ++i)
+        Q_EMIT program.instance.asked(QString());
+    QCOMPARE(raised, 0);
+    program.clock.advance(0.02);
+
+    QVERIFY2(raised >= 1 && raised < 10, qPrintable(QString::number(raised)));
+    QCOMPARE(timers(), std::size_t(1));
 }
 
 void tst_LaunchOrders::anActionThatNobodyKnowsOpensNothing()
