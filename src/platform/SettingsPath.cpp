@@ -13,7 +13,7 @@ namespace
 {
 namespace fs = std::filesystem;
 
-/// A thousand times as much as anybody has.
+/// A thousand times as much as anybody has, in bytes.
 constexpr qint64 kLargest = 16 * 1024 * 1024;
 /// A path at which nothing can be.
 const QString kNowhere = QStringLiteral("/dev/null/settings");

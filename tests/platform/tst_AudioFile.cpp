@@ -2,14 +2,17 @@
 #include "platform/sound/SoundBytes.h"
 #include "support/SoundFiles.h"
 
+#include <QBuffer>
 #include <QDir>
 #include <QFile>
 #include <QRandomGenerator>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QtEndian>
 
 #include <cmath>
+#include <limits>
 #include <sys/stat.h>
 
 namespace
@@ -110,6 +113,7 @@ private Q_SLOTS:
     void aFileThatWasCut();
     void aFileWithAnAbsurdHeaderCannotBeOpened_data();
     void aFileWithAnAbsurdHeaderCannotBeOpened();
+    void aPlaceThatNoFileHasIsNotGoneTo();
 
 private:
     [[nodiscard]] QString path(const QString &name) const { return _folder.filePath(name); }
@@ -450,6 +454,24 @@ void tst_AudioFile::aFileWithAnAbsurdHeaderCannotBeOpened()
     qToLittleEndian(value, bytes.data() + offset);
 
     QCOMPARE(durationOf(written(QStringLiteral("absurd"), bytes)), 0.0);
+}
+
+void tst_AudioFile::aPlaceThatNoFileHasIsNotGoneTo()
+{
+    constexpr qint64 farthest = std::numeric_limits<qint64>::max();
+    // One that warns where it cannot go.
+    QTest::failOnWarning(QRegularExpression(QStringLiteral(".")));
+    QBuffer bytes;
+    bytes.setData("sound");
+    QVERIFY(bytes.open(QIODevice::ReadOnly));
+
+    QCOMPARE(seekFrom(bytes, 2, SEEK_SET), 2);
+    QCOMPARE(seekFrom(bytes, -3, SEEK_SET), -1);
+    QCOMPARE(seekFrom(bytes, farthest, SEEK_CUR), -1);
+    QCOMPARE(seekFrom(bytes, farthest, SEEK_END), -1);
+    QCOMPARE(seekFrom(bytes, -6, SEEK_END), -1);
+    QCOMPARE(seekFrom(bytes, -1, SEEK_CUR), 1);
+    QCOMPARE(seekFrom(bytes, -5, SEEK_END), 0);
 }
 
 QTEST_GUILESS_MAIN(tst_AudioFile)

@@ -1,5 +1,7 @@
 #include "platform/sound/Mp3Decoder.h"
 
+#include "platform/sound/SoundBytes.h"
+
 namespace
 {
 ssize_t readBytes(void *user, void *target, size_t count)
@@ -10,9 +12,7 @@ ssize_t readBytes(void *user, void *target, size_t count)
 
 off_t seek(void *user, off_t offset, int whence)
 {
-    QIODevice &bytes = *static_cast<QIODevice *>(user);
-    const qint64 base = whence == SEEK_CUR ? bytes.pos() : whence == SEEK_END ? bytes.size() : 0;
-    return bytes.seek(base + offset) ? bytes.pos() : -1;
+    return seekFrom(*static_cast<QIODevice *>(user), offset, whence);
 }
 } // namespace
 

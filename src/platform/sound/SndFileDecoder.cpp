@@ -20,9 +20,7 @@ sf_count_t length(void *user)
 
 sf_count_t seek(sf_count_t offset, int whence, void *user)
 {
-    QIODevice &bytes = device(user);
-    const qint64 base = whence == SEEK_CUR ? bytes.pos() : whence == SEEK_END ? bytes.size() : 0;
-    return bytes.seek(base + offset) ? bytes.pos() : -1;
+    return seekFrom(device(user), offset, whence);
 }
 
 sf_count_t readBytes(void *target, sf_count_t count, void *user)

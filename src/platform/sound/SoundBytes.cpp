@@ -2,7 +2,9 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QtNumeric>
 
+#include <cstdio>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -61,6 +63,16 @@ std::unique_ptr<QIODevice> openSoundResource(const QString &fileName)
 QByteArray bytesAt(QIODevice &bytes, qint64 offset, qint64 count)
 {
     return bytes.seek(offset) ? bytes.read(count) : QByteArray();
+}
+
+qint64 seekFrom(QIODevice &bytes, qint64 offset, int whence)
+{
+    const qint64 base = whence == SEEK_CUR ? bytes.pos() : whence == SEEK_END ? bytes.size() : 0;
+    qint64 target = 0;
+    // A broken file sends its reader anywhere.
+    if (qAddOverflow(base, offset, &target) || target < 0)
+        return -1;
+    return bytes.seek(target) ? bytes.pos() : -1;
 }
 
 qint64 offsetBehindId3Tags(QIODevice &bytes)

@@ -19,6 +19,10 @@ using OpenSoundBytes = std::function<std::unique_ptr<QIODevice>()>;
 /// Up to so many bytes from this offset on; fewer where the file ends.
 [[nodiscard]] QByteArray bytesAt(QIODevice &bytes, qint64 offset, qint64 count);
 
+/// Goes to an offset from the place that SEEK_SET, SEEK_CUR or SEEK_END means; gives where that is,
+/// or -1 when there is no such place. Any offset will do.
+[[nodiscard]] qint64 seekFrom(QIODevice &bytes, qint64 offset, int whence);
+
 /// Where the contents begin: behind all ID3 tags at the head of the file, which may stand before
 /// any format.
 [[nodiscard]] qint64 offsetBehindId3Tags(QIODevice &bytes);
