@@ -5,6 +5,7 @@
 
 #include <QAction>
 #include <QCloseEvent>
+#include <QTextDocument>
 
 namespace
 {
@@ -21,7 +22,8 @@ void showText(QPushButton &button, const QAction &item)
     const QString text = item.text().simplified();
     button.setText(metrics.elidedText(text, Qt::ElideRight, room, Qt::TextShowMnemonic));
     button.setAccessibleName(QString(text).replace(QLatin1String("&&"), QLatin1String("&")));
-    button.setToolTip(button.text() == text ? QString() : button.accessibleName().toHtmlEscaped());
+    button.setToolTip(button.text() == text ? QString()
+                                            : Qt::convertFromPlainText(button.accessibleName()));
 }
 } // namespace
 

@@ -2,6 +2,7 @@
 
 #include "app/RunningTimers.h"
 #include "platform/StatusItem.h"
+#include "timer/NameText.h"
 
 /// What the status item is to say of the timers that run.
 template<class Timer> struct StatusDescription final
@@ -19,14 +20,15 @@ template<class Timer> struct StatusDescription final
         Timer *first = RunningTimers::soonestEnding(running);
         if (!first)
             return {};
-        const QString text = first->statusString() + QLatin1Char(' ');
+        const QString text = NameText::inOneLine(first->statusString()) + QLatin1Char(' ');
         return {first, {text, first->currentTextColor(), kFontSize}, running.size() >= 2};
     }
 
     /// The line for a timer in that list.
     [[nodiscard]] static QString line(const Timer &timer)
     {
-        return timer.title() + QStringLiteral(": ") + timer.statusString();
+        return NameText::inOneLine(timer.title()) + QStringLiteral(": ") +
+               NameText::inOneLine(timer.statusString());
     }
 
 private:

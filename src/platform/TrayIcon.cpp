@@ -5,6 +5,7 @@
 #include <QCursor>
 #include <QGuiApplication>
 #include <QSystemTrayIcon>
+#include <QTextDocument>
 
 TrayIcon::TrayIcon(StatusItem &item) : _item(item) {}
 
@@ -21,8 +22,10 @@ void TrayIcon::show(const StatusIcon &icon, const QString &toolTip)
         _tray->setIcon(sizes);
         _shown = icon;
     }
-    if (toolTip != _tray->toolTip())
-        _tray->setToolTip(toolTip);
+    // What looks like markup in it is none.
+    const QString markup = Qt::convertFromPlainText(toolTip);
+    if (markup != _tray->toolTip())
+        _tray->setToolTip(markup);
     _tray->show();
 }
 

@@ -1,6 +1,7 @@
 #include "app/WufferApplication.h"
 #include "platform/Log.h"
 #include "settings/Preset.h"
+#include "timer/NameText.h"
 #include "timer/TimerTexts.h"
 #include "timer/Wuffer.h"
 #include "ui_Wuffer.h"
@@ -57,7 +58,7 @@ void Wuffer::populateFinishedPickerComboWithPresets()
     const int selected = picker.currentIndex();
     picker.clear();
     for (const int number : Preset::kNumbers)
-        picker.addItem(stringForPreset(number));
+        picker.addItem(NameText::inOneLine(stringForPreset(number)));
     if (selected >= 0)
         picker.setCurrentIndex(selected);
     picker.setEnabled(true);
@@ -68,7 +69,7 @@ void Wuffer::populateFinishedPickerComboWithChosenTargetWuffer()
 {
     PopUpComboBox &picker = *_ui->_finishedPicker;
     picker.clear();
-    picker.addItem(_targetWuffer ? _targetWuffer->description()
+    picker.addItem(_targetWuffer ? NameText::inOneLine(_targetWuffer->description())
                                  : QStringLiteral("Control-Drag a Wuffer"));
     picker.setCurrentIndex(0);
     // It only shows the link, which is made elsewhere.

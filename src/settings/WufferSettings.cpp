@@ -2,6 +2,7 @@
 #include "platform/UserDefaults.h"
 #include "settings/TimerSettings.h"
 #include "settings/WufferWindow.h"
+#include "timer/NameText.h"
 #include "timer/TimerTexts.h"
 #include "timer/Wuffer.h"
 #include "ui_Wuffer.h"
@@ -75,7 +76,7 @@ void Wuffer::takeOver(const TimerSettings &settings)
 {
     _ui->_titleField->setText(settings.title);
     if (!settings.title.isEmpty())
-        _window->setWindowTitle(settings.title);
+        _window->setWindowTitle(NameText::asWindowTitle(settings.title));
     _ui->_hoursField->setText(QString::number(settings.hours));
     _ui->_minutesField->setText(QString::number(settings.minutes));
     _ui->_secondsField->setText(QString::number(settings.seconds));

@@ -1,4 +1,5 @@
 #include "settings/WufferWindow.h"
+#include "timer/NameText.h"
 #include "timer/NumberText.h"
 #include "timer/TimeFields.h"
 #include "timer/Wuffer.h"
@@ -35,7 +36,7 @@ void Wuffer::setFieldsWithTimeLeft(double timeLeft)
 void Wuffer::controlTextDidChange(const QLineEdit &field)
 {
     if (&field == _ui->_titleField) {
-        _window->setWindowTitle(field.text());
+        _window->setWindowTitle(NameText::asWindowTitle(field.text()));
         // Return ends the name now instead of starting the timer.
         disableReturnShortcut();
     }

@@ -228,7 +228,7 @@ void tst_HomeWindow::longNamesAreCutOffAndToldInFull()
     const QPushButton &button = *presets().at(1);
     QVERIFY(home()->width() < 900);
     QVERIFY(button.text().contains(QStringLiteral("…")));
-    QVERIFY(button.toolTip().startsWith(QStringLiteral("&lt;i&gt;&amp;soup")));
+    QVERIFY(button.toolTip().contains(QStringLiteral("&lt;i&gt;&amp;soup")));
     QVERIFY(button.accessibleName().startsWith(QStringLiteral("<i>&soup</i> <i>")));
 }
 
