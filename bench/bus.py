@@ -1,12 +1,10 @@
 """How many messages the program sends over the session bus while a panel shows its status item."""
 
+import subprocess
 import tempfile
 import threading
 import time
 
-import subprocess
-
-import gi
 from gi.repository import Gio, GLib
 
 from stage import Stage
@@ -78,7 +76,7 @@ def bus():
         yield "messages a second, nothing runs", 0, messages_a_second(panel, monitor, ["open 9"])
         for count in 1, 10, 100:
             opened = [f"open {count - 1}", "start"]
-            # Icon, title, tooltip and label change once a second.
+            # Title, tooltip and label change once a second, the icon now and then.
             for how, orders, settings in (("", opened, {}),
                                           (", minimised", [*opened, "minimise"], {}),
                                           (", energy saver", opened, {"energySaverMode": 1})):

@@ -7,7 +7,14 @@ import subprocess
 import tempfile
 
 # Thousands of instructions. A tenth over what was counted when the bar was set.
-BARS = {}
+BARS = {
+    "tick, visible": 54.5,
+    "display that stays the same": 11,
+    "tick, hidden": 4.7,
+    "tick in the energy saver": 6.6,
+    "status refresh, 1 timer": 2.9,
+    "status refresh, 100 timers": 10.8,
+}
 
 
 def counted(folder):

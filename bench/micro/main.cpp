@@ -1,5 +1,7 @@
 #include "app/SystemServices.h"
 #include "app/WufferApplication.h"
+#include "settings/WufferWindow.h"
+#include "timer/Wuffer.h"
 
 #include <benchmark/benchmark.h>
 
@@ -13,5 +15,9 @@ int main(int argc, char *argv[])
     if (benchmark::ReportUnrecognizedArguments(argc, argv))
         return EXIT_FAILURE;
     benchmark::RunSpecifiedBenchmarks();
+    // What the benchmarks have left must not outlive the services.
+    for (const Wuffer *timer : WufferApplication::getWuffers())
+        timer->window()->close();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     return EXIT_SUCCESS;
 }

@@ -227,7 +227,6 @@ private:
     void wuffLoop();
     void beepIfDue(double remaining);
     void letOffIdleTicks();
-    [[nodiscard]] bool isDisplayHidden() const;
     void setRunningControls(bool running, const QString &goTitle);
     void postStatusChanged();
     void windowWillClose();
@@ -272,6 +271,8 @@ private:
     bool _timerStarted = false;
     std::optional<Date> _targetDate;
     std::optional<Date> _startDate;
+    /// Whether the window system has said that nothing is seen of the display.
+    bool _displayHidden = false;
     /// Whether the display is unseen and ticks are left out for that.
     bool _displayRests = false;
     /// Seconds that were left at the last countdown beep.

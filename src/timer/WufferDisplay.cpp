@@ -76,16 +76,12 @@ QColor Wuffer::currentTextColor() const
     return _ui->_resultLabel->textColor();
 }
 
-bool Wuffer::isDisplayHidden() const
+void Wuffer::windowExposed()
 {
     // Minimised, on another workspace, or out of sight for any other reason.
     const QWindow *place = _ui->_displayBox->window()->windowHandle();
-    return place && !place->isExposed();
-}
-
-void Wuffer::windowExposed()
-{
-    if (!_displayRests || isDisplayHidden())
+    _displayHidden = place && !place->isExposed();
+    if (_displayHidden || !_displayRests)
         return;
     _checkTimer.letOff(0);
     const Date now = Date::now();

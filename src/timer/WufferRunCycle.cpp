@@ -123,7 +123,7 @@ void Wuffer::timerLoop()
 
 void Wuffer::letOffIdleTicks()
 {
-    const bool rests = isDisplayHidden() && _targetDate->timeIntervalSinceNow() > kLastSeconds;
+    const bool rests = _displayHidden && _targetDate->timeIntervalSinceNow() > kLastSeconds;
     _displayRests = rests && !_energySaverActive;
     const quint32 others = kTicksPerStatus - 1 - _refreshCount % kTicksPerStatus;
     _checkTimer.letOff(rests || _energySaverActive ? static_cast<int>(others) : 0);
