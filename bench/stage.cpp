@@ -20,6 +20,7 @@
 //
 //     open N      opens N timer windows            start       starts all timers
 //     close       closes all windows               minimise    minimises them
+//     start N S   starts N new timers of S seconds; the seconds until the first of them ends
 //     cycle N     opens and closes N windows in turn
 //     change N    shows N different times on the newest timer; CPU microseconds for each
 //     ring N S    starts N timers of S seconds at moments spread over a second, and waits for
@@ -55,7 +56,7 @@ public:
 private:
     void open(int count);
     static void close();
-    static void start();
+    void start(int count, int seconds);
     static void minimise();
     void cycle(int count);
     static void change(int count);
@@ -75,7 +76,7 @@ void Stage::carryOut(std::istringstream &order)
     else if (verb == "close")
         close();
     else if (verb == "start")
-        start();
+        start(count, seconds);
     else if (verb == "minimise")
         minimise();
     else if (verb == "cycle")
@@ -104,12 +105,19 @@ void Stage::close()
     pass(100);
 }
 
-void Stage::start()
+void Stage::start(int count, int seconds)
 {
+    if (count > 0) {
+        close();
+        open(count);
+    }
+    const Date begin = Date::now();
     for (Wuffer *timer : WufferApplication::getWuffers()) {
-        timer->setFieldsWithTimeLeft(kLongRun);
+        timer->setFieldsWithTimeLeft(count > 0 ? seconds : kLongRun);
         timer->goPressed();
     }
+    if (count > 0)
+        std::cout << seconds + begin.timeIntervalSinceNow();
 }
 
 void Stage::minimise()

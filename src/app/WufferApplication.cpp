@@ -94,6 +94,7 @@ Wuffer &WufferApplication::openWuffer()
 {
     Wuffer &timer = *_wuffers.emplace_back(std::make_unique<Wuffer>());
     connect(&timer, &Wuffer::closed, this, [this, &timer] { forget(timer); });
+    connect(this, &WufferApplication::windowExposed, &timer, &Wuffer::windowExposed);
     Q_EMIT wufferOpened(&timer);
     return timer;
 }
@@ -135,6 +136,9 @@ bool WufferApplication::notify(QObject *receiver, QEvent *event)
         return true;
     if (event->type() == QEvent::Quit)
         _quitting = true;
+    // First, so that what comes into view is up to date.
+    if (event->type() == QEvent::Expose)
+        Q_EMIT windowExposed();
     const bool forList = belongsToOpenList(*receiver, *event);
     const bool handled = QApplication::notify(receiver, event);
     if (event->type() == QEvent::Show || event->type() == QEvent::Hide)

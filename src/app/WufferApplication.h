@@ -56,6 +56,8 @@ Q_SIGNALS:
     void windowShown(QWidget *window);
     /// One has gone, or is being closed.
     void windowHidden();
+    /// The window system has begun to show some window, or another part of it, or has ended it.
+    void windowExposed();
     /// A timer was made.
     void wufferOpened(Wuffer *timer);
     /// Somebody wants to read this page of the help.

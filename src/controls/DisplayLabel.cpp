@@ -175,10 +175,13 @@ QRect DisplayLabel::changedPart(QStringView newText) const
         glyphs().width(newText) != glyphs().width(_text))
         return rect();
     const qsizetype kept = commonLength(newText, _text);
-    const int left = static_cast<int>(origin->x() + glyphs().width(newText.first(kept)));
-    // Strokes may stand out of their places a little.
+    const QRectF ink = glyphs().inkFrom(kept, _text) | glyphs().inkFrom(kept, newText);
+    // Smoothed strokes stand out of their outlines a little.
     constexpr int overhang = 2;
-    return rect().adjusted(left - overhang, 0, 0, 0);
+    return ink.translated(*origin)
+        .toAlignedRect()
+        .adjusted(-overhang, -overhang, overhang, overhang)
+        .intersected(rect());
 }
 
 void DisplayLabel::changeEvent(QEvent *event)

@@ -50,3 +50,22 @@ qreal GlyphLine::width(QStringView text) const
         width += _advances[character.unicode()];
     return width;
 }
+
+QRectF GlyphLine::inkFrom(qsizetype first, QStringView text) const
+{
+    QRectF ink;
+    qreal x = width(text.first(first));
+    for (const QChar character : text.sliced(first)) {
+        ink |= inkOf(character).translated(x, 0);
+        x += _advances[character.unicode()];
+    }
+    return ink;
+}
+
+const QRectF &GlyphLine::inkOf(QChar character) const
+{
+    std::optional<QRectF> &ink = _ink[character.unicode()];
+    if (!ink)
+        ink = _font.boundingRect(_glyphs[character.unicode()]);
+    return *ink;
+}

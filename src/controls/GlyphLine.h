@@ -5,6 +5,9 @@
 #include <QRawFont>
 #include <QStringView>
 
+#include <array>
+#include <optional>
+
 /// Sets plain texts, those of ASCII characters, without the shaping that others need: half of the
 /// time of a repaint at every change of the milliseconds. Kept by a label for its font.
 class GlyphLine final
@@ -21,11 +24,16 @@ public:
     /// The distance from the beginning of the text to its end.
     [[nodiscard]] qreal width(QStringView text) const;
 
+    /// What the characters from this one on cover, seen from the origin of the text's baseline.
+    [[nodiscard]] QRectF inkFrom(qsizetype first, QStringView text) const;
+
     // Of the font.
     [[nodiscard]] qreal ascent() const { return _ascent; }
     [[nodiscard]] qreal height() const { return _height; }
 
 private:
+    [[nodiscard]] const QRectF &inkOf(QChar character) const;
+
     static constexpr int kCharacters = 128;
 
     QRawFont _font;
@@ -33,4 +41,6 @@ private:
     qreal _height;
     QList<quint32> _glyphs;
     QList<qreal> _advances;
+    /// What each character covers, found when it is first needed.
+    mutable std::array<std::optional<QRectF>, kCharacters> _ink;
 };

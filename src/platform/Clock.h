@@ -48,15 +48,25 @@ private:
     /// that whatever a timer does to the others leaves the walk over them intact.
     struct Group
     {
-        double due;
+        /// The next tick of the beat, which all members may have let off.
+        double tick;
         double interval;
         std::vector<ClockTimer *> members;
+
+        /// How many ticks pass until the first at which a member is to fire.
+        [[nodiscard]] int ticksLetOff() const;
+        [[nodiscard]] double due() const { return tick + ticksLetOff() * interval; }
+        /// Counts so many ticks for every member.
+        void count(int ticks);
     };
 
     void addRepeating(ClockTimer &timer, double interval);
     void addOneShot(ClockTimer &timer, double delay);
     void remove(ClockTimer &timer);
-    [[nodiscard]] static double dueAfter(const Group &group, double moment);
+    void letOff(ClockTimer &timer, int ticks);
+    [[nodiscard]] Group *groupOf(const ClockTimer &timer);
+    [[nodiscard]] static double tickAfter(const Group &group, double moment);
+    void countTicksSlept(Group &group) const;
     void fire(Group &group);
     void tidy();
 

@@ -3,6 +3,8 @@
 #include "platform/Clock.h"
 #include "platform/Service.h"
 
+#include <algorithm>
+
 void ClockTimer::startRepeating(double interval)
 {
     invalidate();
@@ -14,6 +16,12 @@ void ClockTimer::startOnce(double delay)
 {
     invalidate();
     Service<Clock>::current().addOneShot(*this, delay > 0 ? delay : 0);
+}
+
+void ClockTimer::letOff(int ticks)
+{
+    if (_active)
+        Service<Clock>::current().letOff(*this, std::max(0, ticks));
 }
 
 void ClockTimer::invalidate()

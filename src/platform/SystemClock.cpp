@@ -51,6 +51,10 @@ void SystemClock::nextDueChanged()
         _alarm.stop();
         return;
     }
+    // Asked at every tick, mostly in vain; setting an alarm anew is not for nothing.
+    if (_alarm.isActive() && due == _alarmMoment)
+        return;
+    _alarmMoment = due;
     // Rounded up, because a wake-up before the moment would only have to wait again.
     const double milliseconds = std::ceil((due - now()) * 1000.0);
     _alarm.start(static_cast<int>(std::clamp(milliseconds, 0.0, kLongestWait)));

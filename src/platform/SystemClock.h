@@ -20,5 +20,7 @@ private:
     void wake();
 
     double _bootMoment;
+    /// What the alarm is set to.
+    double _alarmMoment = 0;
     QTimer _alarm;
 };

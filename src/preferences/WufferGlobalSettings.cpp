@@ -33,6 +33,8 @@ void Wuffer::loadGlobalSettings()
     _autoStartPresets = defaults.boolForKey(QStringLiteral("autoStartPresets"));
     _disableGrowl = defaults.boolForKey(QStringLiteral("growlDisabled"));
     _energySaverActive = defaults.boolForKey(QStringLiteral("energySaverMode"));
+    // It may have been let off ticks that it would work at now.
+    _checkTimer.letOff(0);
 
     const QString text = defaults.stringForKey(QStringLiteral("finishedText")).value_or(QString());
     _finishedText = text.isEmpty() ? kFinishedTextDefault.toString() : text;

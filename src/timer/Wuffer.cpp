@@ -115,5 +115,10 @@ QString Wuffer::description() const
 
 QString Wuffer::statusString() const
 {
+    if (_displayRests) {
+        const Date shown = Date::now().addingTimeInterval(-kRunTick);
+        return TimeFormat::stringForTime(_stopwatch ? shown.timeIntervalSinceDate(*_startDate)
+                                                    : _targetDate->timeIntervalSinceDate(shown));
+    }
     return _ui->_resultLabel->text();
 }

@@ -52,7 +52,7 @@ public:
     [[nodiscard]] QString title() const;
     /// The name with the duration set: "Tea - 0h 5m 0s".
     [[nodiscard]] QString description() const;
-    /// What the big display says.
+    /// What the big display says; what it would say, while nobody can see it.
     [[nodiscard]] QString statusString() const;
     /// The colour in which it says so.
     [[nodiscard]] QColor currentTextColor() const;
@@ -96,6 +96,9 @@ public:
     void setColorForDisplayText(TextColor color, bool elapsedToo);
     /// The idle display.
     void setDefaultDisplayValues();
+    /// A window of the program has come into view or gone from it: a display that has rested
+    /// unseen and is seen now catches up.
+    void windowExposed();
 
     // Sounds and notifications: WufferSounds.cpp.
 
@@ -211,6 +214,9 @@ Q_SIGNALS:
     void closed();
 
 private:
+    /// Seconds between run ticks: often enough for the milliseconds to move smoothly.
+    static constexpr double kRunTick = 0.037;
+
     void fitControls();
     void awakeFromNib();
     void connectControls();
@@ -220,6 +226,7 @@ private:
     void timerDone();
     void wuffLoop();
     void beepIfDue(double remaining);
+    void letOffIdleTicks();
     void setRunningControls(bool running, const QString &goTitle);
     void postStatusChanged();
     void windowWillClose();
@@ -264,6 +271,10 @@ private:
     bool _timerStarted = false;
     std::optional<Date> _targetDate;
     std::optional<Date> _startDate;
+    /// Whether the window system has said that nothing is seen of the display.
+    bool _displayHidden = false;
+    /// Whether the display is unseen and ticks are left out for that.
+    bool _displayRests = false;
     /// Seconds that were left at the last countdown beep.
     double _lastBeep = 0;
     ClockTimer _checkTimer{[this] { timerLoop(); }};

@@ -5,6 +5,8 @@
 #include "timer/Wuffer.h"
 #include "ui_Wuffer.h"
 
+#include <QWindow>
+
 namespace
 {
 /// A countdown is red with so many seconds left.
@@ -22,6 +24,7 @@ void setTextColor(QLineEdit &field, const QColor &color)
 
 void Wuffer::refreshDisplay(double remaining, double timeElapsed)
 {
+    _displayRests = false;
     if (remaining <= 0) {
         setDefaultDisplayValues();
         return;
@@ -71,6 +74,18 @@ void Wuffer::setElapsedColor(TextColor color)
 QColor Wuffer::currentTextColor() const
 {
     return _ui->_resultLabel->textColor();
+}
+
+void Wuffer::windowExposed()
+{
+    // Minimised, on another workspace, or out of sight for any other reason.
+    const QWindow *place = _ui->_displayBox->window()->windowHandle();
+    _displayHidden = place && !place->isExposed();
+    if (_displayHidden || !_displayRests)
+        return;
+    _checkTimer.letOff(0);
+    const Date now = Date::now();
+    refreshDisplay(_targetDate->timeIntervalSinceDate(now), now.timeIntervalSinceDate(*_startDate));
 }
 
 void Wuffer::setDefaultDisplayValues()

@@ -15,10 +15,10 @@
 
 namespace
 {
-/// Seconds between run ticks: often enough for the milliseconds to move smoothly.
-constexpr double kRunTick = 0.037;
 /// Every so many run ticks the rest of the program is told, and an energy-saving timer works.
 constexpr quint32 kTicksPerStatus = 5;
+/// With fewer seconds left than this, every tick counts: for the beeps, and for the end.
+constexpr double kLastSeconds = 13.0;
 
 /// When a stopwatch that goes on from so many milliseconds must have begun.
 Date beginningOf(qint64 milliseconds, Date now)
@@ -67,6 +67,7 @@ void Wuffer::startRun()
         _initialTimeLeft = total;
     }
 
+    _displayRests = false;
     setRunningControls(true, kGoButtonStop.toString());
     _checkTimer.startRepeating(kRunTick);
     _lastBeep = BeepSchedule::kNoBeepYet;
@@ -96,11 +97,13 @@ void Wuffer::stopRun()
 
 void Wuffer::timerLoop()
 {
-    ++_refreshCount;
-    if (_refreshCount % kTicksPerStatus == 0)
+    _refreshCount += static_cast<quint32>(_checkTimer.ticks());
+    if (_refreshCount % kTicksPerStatus == 0) {
         postStatusChanged();
-    else if (_energySaverActive)
+    } else if (_energySaverActive) {
+        letOffIdleTicks();
         return;
+    }
     // Whoever was told may have stopped the timer.
     if (!_checkTimer.isValid())
         return;
@@ -115,6 +118,15 @@ void Wuffer::timerLoop()
     }
     beepIfDue(remaining);
     refreshDisplay(remaining, now.timeIntervalSinceDate(*_startDate));
+    letOffIdleTicks();
+}
+
+void Wuffer::letOffIdleTicks()
+{
+    const bool rests = _displayHidden && _targetDate->timeIntervalSinceNow() > kLastSeconds;
+    _displayRests = rests && !_energySaverActive;
+    const quint32 others = kTicksPerStatus - 1 - _refreshCount % kTicksPerStatus;
+    _checkTimer.letOff(rests || _energySaverActive ? static_cast<int>(others) : 0);
 }
 
 void Wuffer::beepIfDue(double remaining)

@@ -2,6 +2,8 @@
 #include "support/TestMain.h"
 
 #include <QAccessible>
+#include <QPaintEvent>
+#include <QScreen>
 #include <QVBoxLayout>
 
 namespace
@@ -25,6 +27,35 @@ public:
 
     int count = 0;
 };
+/// Keeps what is painted of a widget.
+class Paintings final : public QObject
+{
+public:
+    explicit Paintings(QWidget &widget) { widget.installEventFilter(this); }
+
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        if (event->type() == QEvent::Paint)
+            rects.append(static_cast<QPaintEvent *>(event)->rect());
+        return false;
+    }
+
+    QList<QRect> rects;
+};
+
+/// A label on the screen.
+class ShownLabel : public PaintedLabel
+{
+public:
+    explicit ShownLabel(const QString &text) : PaintedLabel(text)
+    {
+        label.setReservedCharacters(10);
+        label.setAlignment(Qt::AlignLeft);
+        label.resize(300, 100);
+        label.show();
+        QCoreApplication::processEvents();
+    }
+};
 } // namespace
 
 class tst_DisplayLabel final : public Test
@@ -40,6 +71,9 @@ private Q_SLOTS:
     void anEmptyLabelWithoutReservationTakesNoRoom();
     void aNewTextCostsNoLayout();
     void assistiveProgramsSeeAText();
+    void aTextThatStaysTheSameIsNotPainted();
+    void aNewDigitPaintsItsPlaceOnly();
+    void whatIsLeftAloneIsWhatAWholePaintWouldShow();
 };
 
 void tst_DisplayLabel::theLabelPaintsAllOfItself()
@@ -164,6 +198,46 @@ void tst_DisplayLabel::assistiveProgramsSeeAText()
     QCOMPARE(seen->role(), QAccessible::StaticText);
     QCOMPARE(seen->text(QAccessible::Name), words("12:34"));
     QCOMPARE(seen->text(QAccessible::Description), words("Remaining time"));
+}
+
+void tst_DisplayLabel::aTextThatStaysTheSameIsNotPainted()
+{
+    ShownLabel f(words("12:34"));
+    const Paintings paintings(f.label);
+
+    f.label.setText(words("12:34"));
+    f.label.setTextColor(f.label.textColor());
+    QCoreApplication::processEvents();
+
+    QCOMPARE(paintings.rects.size(), 0);
+}
+
+void tst_DisplayLabel::aNewDigitPaintsItsPlaceOnly()
+{
+    ShownLabel f(words("123"));
+    const Paintings paintings(f.label);
+
+    f.label.setText(words("128"));
+
+    QCOMPARE(paintings.rects.size(), 1);
+    QVERIFY(paintings.rects.first().width() < f.label.fontMetrics().horizontalAdvance(words("00")));
+    QVERIFY(paintings.rects.first().height() < f.label.fontMetrics().height());
+}
+
+void tst_DisplayLabel::whatIsLeftAloneIsWhatAWholePaintWouldShow()
+{
+    ShownLabel f(words("1h 2m 59s"));
+    for (const char *text :
+         {"1h 2m 58s", "1h 3m 50s", "1h 3m 5s", "9h 9m 9s", "8j_8gQ 8", "8j_8|@ W"}) {
+        f.label.setText(words(text));
+        const QImage painted = f.label.screen()
+                                   ->grabWindow(f.label.winId())
+                                   .toImage()
+                                   .convertToFormat(QImage::Format_RGB32);
+        QImage whole(f.label.size(), QImage::Format_RGB32);
+        f.label.render(&whole);
+        QCOMPARE(painted, whole);
+    }
 }
 
 WUFFER_TEST_MAIN(tst_DisplayLabel)

@@ -19,6 +19,14 @@ private Q_SLOTS:
     void aTimerThatJoinsWhileTheOthersFireWaitsForTheNextTick();
     void aOneShotStartedInAnActionWaitsForTheNextOpportunity();
     void othersGoOnWhileAnActionWaits();
+    void ticksThatAllAreLetOffWakeNobody();
+    void aTimerThatIsLetOffFiresAtItsTickWhateverTheOthersNeed();
+    void aTimerThatIsCalledBackFiresAtTheNextTick();
+    void aTimerThatJoinsSleepersTakesUpTheirBeat();
+    void aFiringStandsForTheTicksBeforeIt();
+    void aLateFiringStandsForTheTicksThatItWasLetOff();
+    void aTimerThatStartsAgainIsLetOffNothing();
+    void aOneShotIsNotLetOff();
 };
 
 void tst_ClockTimer::aOneShotCanStartItselfInItsAction()
@@ -160,6 +168,134 @@ void tst_ClockTimer::othersGoOnWhileAnActionWaits()
     f.clock.advance(1.5);
 
     QCOMPARE(f.entries(), QStringLiteral("begin once tick tick tick end"));
+}
+
+void tst_ClockTimer::ticksThatAllAreLetOffWakeNobody()
+{
+    ClockFixture f;
+    ClockTimer first([&] {
+        f.diary << QStringLiteral("first");
+        first.letOff(4);
+    });
+    ClockTimer second([&] {
+        f.diary << QStringLiteral("second");
+        second.letOff(9);
+    });
+    first.startRepeating(0.1);
+    second.startRepeating(0.1);
+
+    f.clock.advance(1.15);
+
+    QCOMPARE(f.entries(), QStringLiteral("first second first first second"));
+    QCOMPARE(f.clock.wakeUps(), 3);
+}
+
+void tst_ClockTimer::aTimerThatIsLetOffFiresAtItsTickWhateverTheOthersNeed()
+{
+    ClockFixture f;
+    ClockTimer rare([&] {
+        f.diary << QStringLiteral("rare");
+        rare.letOff(2);
+    });
+    ClockTimer steady(f.writes("steady"));
+    rare.startRepeating(0.1);
+    steady.startRepeating(0.1);
+
+    f.clock.advance(0.45);
+
+    QCOMPARE(f.entries(), QStringLiteral("rare steady steady steady rare steady"));
+    QCOMPARE(f.clock.wakeUps(), 4);
+}
+
+void tst_ClockTimer::aTimerThatIsCalledBackFiresAtTheNextTick()
+{
+    ClockFixture f;
+    ClockTimer timer(f.writes("fired"));
+    timer.startRepeating(0.1);
+    timer.letOff(8);
+    f.clock.advance(0.35);
+    QVERIFY(f.diary.isEmpty());
+
+    timer.letOff(0);
+
+    f.clock.advance(0.04);
+    QVERIFY(f.diary.isEmpty());
+    f.clock.advance(0.02);
+    QCOMPARE(f.diary.size(), 1);
+    QCOMPARE(timer.ticks(), 4);
+}
+
+void tst_ClockTimer::aTimerThatJoinsSleepersTakesUpTheirBeat()
+{
+    ClockFixture f;
+    ClockTimer sleeper(f.writes("sleeper"));
+    ClockTimer joiner(f.writes("joiner"));
+    sleeper.startRepeating(0.1);
+    sleeper.letOff(3);
+    f.clock.advance(0.25);
+
+    joiner.startRepeating(0.1);
+
+    f.clock.advance(0.04);
+    QVERIFY(f.diary.isEmpty());
+    f.clock.advance(0.12);
+    QCOMPARE(f.entries(), QStringLiteral("joiner sleeper joiner"));
+    QCOMPARE(sleeper.ticks(), 4);
+    QCOMPARE(joiner.ticks(), 1);
+}
+
+void tst_ClockTimer::aFiringStandsForTheTicksBeforeIt()
+{
+    ClockFixture f;
+    ClockTimer rare([&] {
+        f.diary << QString::number(rare.ticks());
+        rare.letOff(static_cast<int>(f.diary.size()));
+    });
+    rare.startRepeating(0.1);
+
+    f.clock.advance(1.05);
+
+    QCOMPARE(f.entries(), QStringLiteral("1 2 3 4"));
+}
+
+void tst_ClockTimer::aLateFiringStandsForTheTicksThatItWasLetOff()
+{
+    ClockFixture f;
+    ClockTimer timer(f.writes("fired"));
+    timer.startRepeating(0.1);
+    timer.letOff(2);
+
+    f.clock.sleep(10);
+
+    QCOMPARE(f.diary.size(), 1);
+    QCOMPARE(timer.ticks(), 3);
+}
+
+void tst_ClockTimer::aTimerThatStartsAgainIsLetOffNothing()
+{
+    ClockFixture f;
+    ClockTimer timer(f.writes("fired"));
+    timer.startRepeating(0.1);
+    timer.letOff(100);
+    f.clock.advance(1);
+
+    timer.startRepeating(0.1);
+
+    f.clock.advance(0.11);
+    QCOMPARE(f.diary.size(), 1);
+    QCOMPARE(timer.ticks(), 1);
+}
+
+void tst_ClockTimer::aOneShotIsNotLetOff()
+{
+    ClockFixture f;
+    ClockTimer timer(f.writes("fired"));
+    timer.startOnce(0.1);
+
+    timer.letOff(5);
+
+    f.clock.advance(0.11);
+    QCOMPARE(f.diary.size(), 1);
 }
 
 QTEST_GUILESS_MAIN(tst_ClockTimer)
