@@ -105,6 +105,8 @@ int Resident::livingTimers() const
 
 void Resident::adopt()
 {
+    // One that started on the full screen leaves it, so that its parts are found in the window.
+    WufferApplication::instance().cancelFullScreenMode();
     Wuffer &timer = *WufferApplication::getWuffers().back();
     _users.push_back(std::make_unique<TimerUser>(timer));
     _everOpened.emplace_back(&timer);
