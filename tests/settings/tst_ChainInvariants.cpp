@@ -1,3 +1,4 @@
+#include "support/ChainRules.h"
 #include "support/TestMain.h"
 #include "support/TimerFixture.h"
 
@@ -121,22 +122,6 @@ private:
     QRandomGenerator _random;
     std::vector<std::unique_ptr<TimerUser>> _users;
 };
-
-bool linksAreSymmetric(const Wuffer &timer)
-{
-    const Wuffer *next = timer.getTargetWuffer();
-    const Wuffer *previous = timer.getTargetingWuffer();
-    return (!next || next->getTargetingWuffer() == &timer) &&
-           (!previous || previous->getTargetWuffer() == &timer) && next != &timer;
-}
-
-bool walkEndsAtNobody(const Wuffer &timer, int longest)
-{
-    const Wuffer *next = &timer;
-    for (int steps = 0; next && steps <= longest; ++steps)
-        next = next->getTargetWuffer();
-    return next == nullptr;
-}
 
 bool showsItsState(const TimerUser &user)
 {

@@ -18,6 +18,11 @@
 class TimerUser
 {
 public:
+    /// Opens a timer.
+    TimerUser() = default;
+    /// Takes to one that is open.
+    explicit TimerUser(Wuffer &open) : timer(open) {}
+
     Wuffer &timer = WufferApplication::instance().openWuffer();
 
     // What a user does.

@@ -1,0 +1,128 @@
+#include "app/HomeKeeper.h"
+#include "settings/TimerSettings.h"
+#include "support/ChainRules.h"
+#include "support/Resident.h"
+#include "support/TestMain.h"
+
+#include <QFile>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QLoggingCategory>
+
+#include <algorithm>
+
+/// A year with the program, in which it is never ended: whatever is done in whatever order, timers
+/// ring as they should, and nothing of what has been closed is left.
+class tst_YearOfUse final : public Test
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void itIsSoundOnEveryDay_data();
+    void itIsSoundOnEveryDay();
+};
+
+namespace
+{
+constexpr int kDays = 365;
+constexpr int kActsADay = 6;
+
+/// What is wrong at the moment; empty when nothing is.
+QStringList faults(Resident &resident)
+{
+    QStringList faults = std::exchange(resident.witness().complaints, {});
+    const auto require = [&](bool condition, const char *what) {
+        if (!condition)
+            faults << QString::fromLatin1(what);
+    };
+    const auto &users = resident.users();
+    const auto is = [&](auto test) { return std::ranges::any_of(users, test); };
+    const int open = int(users.size());
+    require(int(WufferApplication::getWuffers().size()) == open, "closed windows leave the list");
+    require(resident.livingTimers() == open, "closed timers are destroyed");
+    require(HomeKeeper::openWindow() != nullptr, "there is a way in");
+    require(is([](const auto &user) { return user->timer.isRunning(); }) || resident.clock.isIdle(),
+            "nothing waits for the clock unless a timer runs");
+    require(is([](const auto &user) { return user->isFullScreen(); }) ==
+                resident.screenBlanking.isInhibited,
+            "the screen stays on while a timer fills it");
+    for (const auto &user : users) {
+        require(linksAreSymmetric(user->timer), "links are symmetric");
+        require(walkEndsAtNobody(user->timer, open), "there is no circle");
+    }
+    for (const FakeNotifications::Shown &shown : resident.notifications.standing) {
+        require(is([&](const auto &user) {
+                    return &user->timer == shown.sender && user->go() == QStringLiteral("Reset");
+                }),
+                "a notification stands for a timer that rings");
+    }
+    return faults;
+}
+
+/// The settings as another program would read them.
+QJsonObject settingsOnDisk(Resident &resident)
+{
+    resident.defaults.synchronize();
+    QFile file(resident.settingsPath());
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    return QJsonDocument::fromJson(file.readAll()).object();
+}
+
+/// Whether all that is kept of timers reads as what it was written as.
+bool recordsAreReadable(const QJsonObject &settings)
+{
+    QStringList keys = settings.keys();
+    keys.removeIf([](const QString &key) {
+        return key != QStringLiteral("defaultWufferSettings") &&
+               !key.startsWith(QStringLiteral("Preset "));
+    });
+    return !keys.isEmpty() && std::ranges::all_of(keys, [&](const QString &key) {
+        const QJsonObject written = settings.value(key).toObject();
+        const QJsonObject read =
+            QJsonObject::fromVariantMap(TimerSettings::fromRecord(written.toVariantMap()).record());
+        return !written.isEmpty() && std::ranges::all_of(written.keys(), [&](const QString &part) {
+            return read.value(part) == written.value(part);
+        });
+    });
+}
+} // namespace
+
+void tst_YearOfUse::itIsSoundOnEveryDay_data()
+{
+    QTest::addColumn<quint32>("seed");
+    for (const quint32 seed : {2023U, 2024U, 2025U})
+        QTest::addRow("seed %u", seed) << seed;
+}
+
+void tst_YearOfUse::itIsSoundOnEveryDay()
+{
+    QFETCH(const quint32, seed);
+    // A chain that finds its next timer running says so, which happens all the time here.
+    QLoggingCategory::setFilterRules(QStringLiteral("wuffer.warning=false"));
+    Resident resident(seed);
+    for (int day = 0; day < kDays; ++day) {
+        for (int number = 0; number < kActsADay; ++number) {
+            const char *what = resident.act();
+            const QStringList wrong = faults(resident);
+            QVERIFY2(wrong.isEmpty(), qPrintable(QStringLiteral("day %1, act %2, %3: %4")
+                                                     .arg(day)
+                                                     .arg(number)
+                                                     .arg(QString::fromLatin1(what),
+                                                          wrong.join(QStringLiteral("; ")))));
+        }
+        resident.night();
+        QVERIFY2(recordsAreReadable(settingsOnDisk(resident)), qPrintable(QString::number(day)));
+    }
+    // It was a busy year.
+    const RunWitness &witness = resident.witness();
+    qInfo("%d timers, %d runs, %d rings, %d beeps", resident.everOpened(), witness.runs,
+          witness.rings, witness.beeps);
+    QVERIFY(resident.everOpened() > kDays / 2);
+    QVERIFY(witness.runs > kDays / 2);
+    QVERIFY(witness.rings > kDays / 4);
+    QVERIFY(witness.beeps > kDays / 8);
+}
+
+WUFFER_TEST_MAIN(tst_YearOfUse)
+#include "tst_YearOfUse.moc"
