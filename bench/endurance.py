@@ -2,6 +2,7 @@
 """Lets Wuffer work for long and watches its memory. Started by bench/endurance.
 
 Usage: endurance.py looping WUFFER MINUTES
+       endurance.py sanitized WUFFER MINUTES
        endurance.py windows BENCH_STAGE COUNT
 """
 
@@ -88,7 +89,8 @@ def watch(program, session, minutes):
     return samples
 
 
-def looping(executable, minutes):
+def loop(executable, minutes):
+    """Lets the timers loop; gives the memory at each minute, and whether all ended well."""
     Program.executable = executable
     session = Session((1600, 1000))
     try:
@@ -106,7 +108,18 @@ def looping(executable, minutes):
         session.close()
     print(written, end="")
     print(f"ended with status {status}, and wrote {len(written)} characters")
-    return status == 0 and not written and is_flat(samples[WARM_UP:])
+    return samples[WARM_UP:], status == 0 and not written
+
+
+def looping(executable, minutes):
+    samples, ended_well = loop(executable, minutes)
+    return is_flat(samples) and ended_well
+
+
+def sanitized(executable, minutes):
+    samples, ended_well = loop(executable, minutes)
+    is_flat(samples)
+    return ended_well
 
 
 def windows(executable, count):
@@ -148,7 +161,7 @@ def is_flat(samples):
 
 def main():
     what, executable, amount = sys.argv[1:]
-    work = {"looping": looping, "windows": windows}[what]
+    work = {"looping": looping, "sanitized": sanitized, "windows": windows}[what]
     sys.exit(0 if work(executable, int(amount)) else 1)
 
 

@@ -118,10 +118,10 @@ void tst_YearOfUse::itIsSoundOnEveryDay()
     const RunWitness &witness = resident.witness();
     qInfo("%d timers, %d runs, %d rings, %d beeps", resident.everOpened(), witness.runs,
           witness.rings, witness.beeps);
-    QVERIFY(resident.everOpened() > kDays / 2);
-    QVERIFY(witness.runs > kDays / 2);
-    QVERIFY(witness.rings > kDays / 4);
-    QVERIFY(witness.beeps > kDays / 8);
+    QVERIFY(resident.everOpened() > 150);
+    QVERIFY(witness.runs > 300);
+    QVERIFY(witness.rings > 300);
+    QVERIFY(witness.beeps > 0);
 }
 
 WUFFER_TEST_MAIN(tst_YearOfUse)
