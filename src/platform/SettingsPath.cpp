@@ -23,11 +23,28 @@ fs::path native(const QString &path)
     return fs::path(QFile::encodeName(path).toStdString());
 }
 
-/// A descriptor of a regular file, or why there is none.
-struct Opened
+/// A descriptor of a regular file, which is closed with its scope, or why there is none.
+class Opened final
 {
-    int descriptor = -1;
-    bool isMissing = false;
+public:
+    static Opened file(int descriptor) { return {descriptor, false}; }
+    static Opened nothing(bool isMissing) { return {-1, isMissing}; }
+    ~Opened()
+    {
+        if (_descriptor >= 0)
+            ::close(_descriptor);
+    }
+    Q_DISABLE_COPY_MOVE(Opened)
+
+    [[nodiscard]] bool isOpen() const { return _descriptor >= 0; }
+    [[nodiscard]] bool isMissing() const { return _isMissing; }
+    [[nodiscard]] int descriptor() const { return _descriptor; }
+
+private:
+    Opened(int descriptor, bool isMissing) : _descriptor(descriptor), _isMissing(isMissing) {}
+
+    int _descriptor;
+    bool _isMissing;
 };
 
 Opened openRegularFile(const QString &path, int access)
@@ -36,21 +53,19 @@ Opened openRegularFile(const QString &path, int access)
     const int flags = access | O_NONBLOCK | O_NOCTTY | O_CLOEXEC;
     const int descriptor = ::open(QFile::encodeName(path).constData(), flags);
     if (descriptor < 0)
-        return {-1, errno == ENOENT};
+        return Opened::nothing(errno == ENOENT);
     struct stat status = {};
     if (::fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode))
-        return {descriptor, false};
+        return Opened::file(descriptor);
     ::close(descriptor);
-    return {};
+    return Opened::nothing(false);
 }
 
 /// Whether a regular file lies there that may be opened so, or nothing.
 bool isUsable(const QString &path, int access)
 {
     const Opened opened = openRegularFile(path, access);
-    if (opened.descriptor >= 0)
-        ::close(opened.descriptor);
-    return opened.descriptor >= 0 || opened.isMissing;
+    return opened.isOpen() || opened.isMissing();
 }
 
 QString freeNameBeside(const QString &path)
@@ -95,7 +110,7 @@ bool SettingsPath::setAside(const QString &path)
 
 bool SettingsPath::isFree(const QString &path)
 {
-    return openRegularFile(path, O_RDONLY).isMissing;
+    return openRegularFile(path, O_RDONLY).isMissing();
 }
 
 std::optional<QByteArray> SettingsPath::textOf(QIODevice &file)
@@ -112,13 +127,10 @@ std::optional<QByteArray> SettingsPath::textOf(QIODevice &file)
 std::optional<QByteArray> SettingsPath::textAt(const QString &path)
 {
     const Opened opened = openRegularFile(path, O_RDONLY);
-    if (opened.descriptor < 0)
-        return {};
     QFile file;
-    if (!file.open(opened.descriptor, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle)) {
-        ::close(opened.descriptor);
+    if (!opened.isOpen() ||
+        !file.open(opened.descriptor(), QIODevice::ReadOnly, QFileDevice::DontCloseHandle))
         return {};
-    }
     return textOf(file);
 }
 
