@@ -2,6 +2,7 @@
 
 import os
 import sys
+import time
 import unittest
 
 from support.picture import Picture
@@ -59,6 +60,15 @@ class DesktopTest(unittest.TestCase):
         self.assertEqual(status, 0)
         self.assertLess(seconds, 1.5)
         return seconds
+
+    def close_home(self, program):
+        """Waits for the home window and closes it as the button in the title bar does."""
+        program.wait_for_button("New Timer")
+        start = time.monotonic()
+        self.display.key("alt+F4")
+        seconds, status = program.wait_for_end(start)
+        self.assertEqual(status, 0)
+        self.assertLess(seconds, 1.5)
 
     def heard(self):
         return self.session.sound.recorder
