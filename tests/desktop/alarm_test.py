@@ -8,6 +8,7 @@ import threading
 import time
 
 from support.case import DesktopTest, main
+from support.moments import measures_moments
 from support.samples import AUDIBLE, loudest
 from support.waiting import wait_until
 
@@ -46,6 +47,7 @@ class AlarmTest(DesktopTest):
         self.report(f"silent {delay * 1000:.0f} ms after the key")
         self.assertLess(delay, 0.1)
 
+    @measures_moments
     def test_keep_wuffing_goes_on_until_reset_for_each_timer_by_itself(self):
         zero = self.start_two(keep_wuffing=True)
         self.wait_for_buttons("Reset", 2)
@@ -95,6 +97,7 @@ class AlarmTest(DesktopTest):
         self.assertLess(self.program.answers(), 0.5)
         self.assertIsNone(self.program.process.poll())
 
+    @measures_moments
     def test_the_sound_server_dies_and_comes_back(self):
         # It comes back while the timers ring, in its own time.
         start = threading.Thread(target=self.session.sound.start)
@@ -109,18 +112,21 @@ class AlarmTest(DesktopTest):
         finally:
             start.join()
 
+    @measures_moments
     def test_the_sink_goes_away(self):
         try:
             self.strike(self.session.sound.remove_sink)
         finally:
             self.session.sound.add_sink()
 
+    @measures_moments
     def test_the_sound_server_freezes(self):
         try:
             self.strike(self.session.sound.freeze)
         finally:
             self.session.sound.thaw()
 
+    @measures_moments
     def test_there_is_no_sound_server(self):
         nowhere = self.session.make_folder("no-sound")
         self.check_end(self.start_two(environment={"XDG_RUNTIME_DIR": nowhere}))

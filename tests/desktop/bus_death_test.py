@@ -8,6 +8,7 @@ import os
 import time
 
 from support.case import DesktopTest, main
+from support.moments import measures_moments
 from support.picture import Picture
 from support.session import Session
 from support.waiting import wait_until
@@ -63,6 +64,7 @@ class BusDeathTest(DesktopTest):
             fields = file.read().rsplit(")", 1)[1].split()
         return int(fields[11]) + int(fields[12])
 
+    @measures_moments
     def test_a_muted_alarm_lasts_until_it_is_reset(self):
         program = self.launch(settings=MUTED, accessible=False)
         self.ring(program)
@@ -80,6 +82,7 @@ class BusDeathTest(DesktopTest):
         self.wait_until_quiet(program)
         self.quit(program)
 
+    @measures_moments
     def test_an_alarm_is_heard_to_its_end(self):
         program = self.launch(accessible=False)
         self.ring(program)
@@ -91,6 +94,7 @@ class BusDeathTest(DesktopTest):
         self.check_calm(program)
         self.quit(program)
 
+    @measures_moments
     def test_a_running_timer_ends_on_time(self):
         program = self.launch(settings=MUTED, accessible=False)
         timer, = program.windows()
@@ -104,6 +108,7 @@ class BusDeathTest(DesktopTest):
         self.assertAlmostEqual(time.monotonic() - pressed, 3, delta=0.3)
         self.quit(program)
 
+    @measures_moments
     def test_an_accessible_program_goes_on_too(self):
         program = self.launch(settings=MUTED)
         self.ring(program)

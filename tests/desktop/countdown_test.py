@@ -7,6 +7,7 @@ Usage: countdown_test.py WUFFER FOLDER [unittest arguments]
 import time
 
 from support.case import DesktopTest, main
+from support.moments import measures_moments
 from support.picture import Picture
 from support.samples import loudest, rms
 from support.waiting import wait_until
@@ -21,6 +22,7 @@ class CountdownTest(DesktopTest):
         area = program.place(program.find("display", description="Time"))
         return RED in Picture(self.display).colors(area)
 
+    @measures_moments
     def test_a_countdown_typed_and_started_with_the_keyboard_ends_with_an_alarm(self):
         program = self.launch()
         self.assertEqual(program.focused_field(), "Minutes")
@@ -57,6 +59,7 @@ class CountdownTest(DesktopTest):
         self.assertAlmostEqual(end - alarm, 2.24, delta=0.5)
         self.quit(program)
 
+    @measures_moments
     def test_the_last_twelve_seconds_beep_ever_louder(self):
         program = self.launch()
         before, after = program.start_countdown(13)

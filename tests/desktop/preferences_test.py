@@ -9,6 +9,7 @@ import os
 import time
 
 from support.case import DesktopTest, main
+from support.moments import measures_moments
 from support.samples import AUDIBLE, frequency, longest_silence, loudest, strength, write_tone
 from support.waiting import wait_until
 
@@ -65,26 +66,27 @@ class PreferencesTest(DesktopTest):
         self.display.key("ctrl+w")
         wait_until(lambda: window not in program.windows(), 5, "the preferences are closed")
 
-    def hear_alarm(self, program):
-        """Lets a countdown end and gives what is heard of its alarm."""
+    def ring(self, program):
         program.start_countdown(1)
         program.wait_for_text("Time", "Wuff!", 3)
-        time.sleep(0.2)
-        # Long enough for the pauses of the built-in alarm.
-        samples = self.heard().hear(1.2)
+
+    def reset(self, program):
         self.display.key("Return")
         program.wait_for_button("Start")
-        return samples
 
     def file(self, program, name, tone):
         path = os.path.join(program.home, name)
         write_tone(path, tone, 3)
         return path
 
-    def check_tone(self, samples, tone):
+    def check_tone(self, tone):
+        moment = time.monotonic()
+        wait_until(lambda: self.heard().first_sound_after(moment), 1, "it is heard")
+        samples = self.heard().hear_undisturbed(0.5)
         self.report(f"heard at {frequency(samples):.1f} Hz")
         self.assertAlmostEqual(frequency(samples), tone, delta=10)
 
+    @measures_moments
     def test_a_sound_of_the_users_rings_outlives_a_restart_and_is_cleared(self):
         program = self.launch()
         path = self.file(program, "my  chime.wav", TONE)
@@ -97,7 +99,9 @@ class PreferencesTest(DesktopTest):
         self.quit(program)
 
         program.start()
-        self.check_tone(self.hear_alarm(program), TONE)
+        self.ring(program)
+        self.check_tone(TONE)
+        self.reset(program)
         window = self.open_sounds(program)
         self.assertEqual(self.sound_in_use(program), "my  chime")
         self.pick("alt+a", "End")
@@ -106,11 +110,15 @@ class PreferencesTest(DesktopTest):
         self.wait_for_setting(program, "alarmPath", None)
         self.assertNotIn("soundHistory", self.settings(program))
         self.close(program, window)
-        samples = self.hear_alarm(program)
+        self.ring(program)
+        # Long enough for the pauses of the built-in alarm.
+        samples = self.heard().hear(1.2)
+        self.reset(program)
         self.assertGreater(loudest(samples), AUDIBLE)
         self.assertLess(strength(samples, TONE), 0.1 * loudest(samples))
         self.quit(program)
 
+    @measures_moments
     def test_a_new_timer_rings_with_the_sound_that_was_added(self):
         program = self.launch()
         self.open_sounds(program)
@@ -120,10 +128,12 @@ class PreferencesTest(DesktopTest):
         window = program.wait_for_windows(3)[-1]
         wait_until(lambda: self.display.active_window() == window, 5, "the timer is active")
         _, pressed = program.start_countdown(1)
-        time.sleep(pressed + 1.5 - time.monotonic())
-        self.check_tone(self.heard().hear(0.5), OTHER_TONE)
+        # It beeps before.
+        time.sleep(pressed + 1.2 - time.monotonic())
+        self.check_tone(OTHER_TONE)
         self.quit(program)
 
+    @measures_moments
     def test_a_chosen_sound_is_heard_and_stopped_by_its_button(self):
         program = self.launch()
         self.open_sounds(program)
@@ -131,8 +141,7 @@ class PreferencesTest(DesktopTest):
         wait_until(lambda: self.sound_in_use(program, "Countdown") == "tone", 5, "it is in use")
         self.display.key("Tab", "space")
         program.wait_for_button("Stop the countdown sound")
-        time.sleep(0.3)
-        self.check_tone(self.heard().hear(0.5), TONE)
+        self.check_tone(TONE)
         self.display.key("space")
         program.wait_for_button("Play the countdown sound")
         wait_until(lambda: self.session.sound.streams() == 0, 3, "the stream is closed", 0.05)
@@ -168,6 +177,7 @@ class PreferencesTest(DesktopTest):
         self.quit(program)
         self.assertEqual(self.settings(program)["alarmPath"], path)
 
+    @measures_moments
     def test_a_click_on_the_speaker_silences_a_ringing_alarm(self):
         # One without pauses, so that only the click can silence it.
         tone = os.path.join(self.session.folder, "tone.wav")

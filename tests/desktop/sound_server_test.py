@@ -15,6 +15,7 @@ import time
 import unittest
 import wave
 
+from support.moments import measures_moments
 from support.samples import (RATE, frequency, largest_step, longest_silence, loudest, rms,
                              strength)
 from support.sound_server import Server
@@ -132,6 +133,7 @@ class SoundServerTest(unittest.TestCase):
 
     # What is heard
 
+    @measures_moments
     def test_a_sound_is_heard_as_recorded_and_then_its_stream_is_closed(self):
         self.load("tone", seconds=2)
         self.player.play("tone")
@@ -144,12 +146,14 @@ class SoundServerTest(unittest.TestCase):
         self.wait_for_silence()
         wait_until(lambda: self.player.status("Threads") == "1", 1, "no thread is left")
 
+    @measures_moments
     def test_a_sound_of_another_rate_is_heard_as_recorded(self):
         self.start_loop("tone", tone=700, rate=44100)
         heard = self.recorder.hear_undisturbed(0.5)
         self.assertAlmostEqual(frequency(heard), 700, delta=3)
         self.assertLess(longest_silence(heard), 0.5)
 
+    @measures_moments
     def test_a_sound_begins_at_once(self):
         self.load("tone", seconds=0.2)
         onsets = []
@@ -162,6 +166,7 @@ class SoundServerTest(unittest.TestCase):
         self.report("onset after " + ", ".join(f"{onset:.0f}" for onset in onsets) + " ms")
         self.assertLess(max(onsets), 100)
 
+    @measures_moments
     def test_a_sound_plays_until_its_end_has_been_heard(self):
         self.load("tone", seconds=0.5)
         moment = self.player.play("tone")
@@ -174,6 +179,7 @@ class SoundServerTest(unittest.TestCase):
         self.assertAlmostEqual(length, 0.5, delta=0.03)
         self.assertLess(abs(end - last), 0.06)
 
+    @measures_moments
     def test_a_stop_is_heard_at_once(self):
         self.start_loop("tone")
         time.sleep(0.2)
@@ -186,6 +192,7 @@ class SoundServerTest(unittest.TestCase):
         self.assertLess(delay, 0.05)
         self.wait_for_silence()
 
+    @measures_moments
     def test_a_destroyed_sound_falls_silent(self):
         self.start_loop("tone")
         moment = time.monotonic()
@@ -194,6 +201,7 @@ class SoundServerTest(unittest.TestCase):
         self.assertLess(self.recorder.last_sound() - moment, 0.05)
         self.wait_for_silence()
 
+    @measures_moments
     def test_a_stop_before_the_sound_began_keeps_it_silent(self):
         self.load("tone")
         time.sleep(0.1)
@@ -205,6 +213,7 @@ class SoundServerTest(unittest.TestCase):
 
     # Loops
 
+    @measures_moments
     def test_a_loop_has_no_gap(self):
         self.start_loop("tone", seconds=0.1)
         heard = self.recorder.hear_undisturbed(1)
@@ -214,6 +223,7 @@ class SoundServerTest(unittest.TestCase):
         self.assertLess(largest_step(heard), steepest * 1.05)
         self.assertAlmostEqual(frequency(heard), 1000, delta=2)
 
+    @measures_moments
     def test_a_loop_told_to_end_ends_with_its_pass(self):
         self.load("tone", seconds=0.5)
         self.player.order("loops", "tone", 1)
@@ -225,6 +235,7 @@ class SoundServerTest(unittest.TestCase):
         length = self.recorder.last_sound() - self.recorder.first_sound_after(moment)
         self.assertAlmostEqual(length, 1.0, delta=0.03)
 
+    @measures_moments
     def test_a_sound_told_to_loop_in_its_last_moments_goes_on(self):
         self.load("tone", seconds=0.5)
         moment = self.player.play("tone")
@@ -239,6 +250,7 @@ class SoundServerTest(unittest.TestCase):
 
     # Volume
 
+    @measures_moments
     def test_the_volume_changes_while_the_sound_plays(self):
         self.start_loop("tone")
         time.sleep(0.1)
@@ -255,6 +267,7 @@ class SoundServerTest(unittest.TestCase):
 
     # Many
 
+    @measures_moments
     def test_forty_sounds_are_heard_at_once_and_stop_one_by_one(self):
         tones = {f"tone{i}": 300 + 50 * i for i in range(40)}
         for name, tone in tones.items():
@@ -286,6 +299,7 @@ class SoundServerTest(unittest.TestCase):
 
     # Hard times
 
+    @measures_moments
     def test_a_server_that_dies_and_comes_back(self):
         self.load("short", seconds=1.0)
         self.start_loop("loop")
@@ -302,6 +316,7 @@ class SoundServerTest(unittest.TestCase):
         moment = time.monotonic()
         wait_until(lambda: self.recorder.first_sound_after(moment), 4, "heard again")
 
+    @measures_moments
     def test_a_sink_that_goes_away_and_comes_back(self):
         self.load("short", seconds=1.0)
         self.start_loop("loop")
@@ -315,6 +330,7 @@ class SoundServerTest(unittest.TestCase):
         moment = time.monotonic()
         wait_until(lambda: self.recorder.first_sound_after(moment), 4, "heard again")
 
+    @measures_moments
     def test_a_server_that_freezes_and_thaws(self):
         self.load("short", seconds=1.0)
         self.load("late", seconds=0.5)
@@ -334,6 +350,7 @@ class SoundServerTest(unittest.TestCase):
         moment = time.monotonic() + 0.5
         wait_until(lambda: self.recorder.first_sound_after(moment), 4, "heard again")
 
+    @measures_moments
     def test_the_program_ends_while_the_server_is_frozen(self):
         self.start_loop("loop")
         self.server.freeze()
@@ -343,6 +360,7 @@ class SoundServerTest(unittest.TestCase):
         finally:
             self.server.thaw()
 
+    @measures_moments
     def test_a_sound_begins_and_ends_at_a_frozen_server(self):
         self.load("tone", seconds=0.5)
         self.server.freeze()

@@ -7,6 +7,7 @@ Usage: wakeups_test.py WUFFER FOLDER [unittest arguments]
 import time
 
 from support.case import DesktopTest, main
+from support.moments import measures_moments
 from support.waiting import wait_until
 
 TICKS = 1 / 0.037
@@ -32,6 +33,7 @@ class WakeupsTest(DesktopTest):
         self.assertEqual(self.wakeups(program, 3), 0)
         self.quit(program)
 
+    @measures_moments
     def test_an_idle_program_sleeps_after_a_run_with_sound(self):
         self.session.start_sound()
         program = self.launch(accessible=False)
@@ -50,6 +52,7 @@ class WakeupsTest(DesktopTest):
         self.display.key("ctrl+t")
         self.display.key("Return")
 
+    @measures_moments
     def test_ten_running_timers_wake_the_program_no_more_often_than_one(self):
         program = self.launch(accessible=False)
         self.start_stopwatch()

@@ -24,6 +24,9 @@ ROLES = {
     "choice": Atspi.Role.COMBO_BOX,
 }
 
+# What holds many objects and none of these. A look must not take longer than what it looks at.
+WITHOUT_CONTROLS = (Atspi.Role.MENU_BAR, Atspi.Role.LIST)
+
 # Between two looks at the program, each of which makes it work.
 PAUSE = 0.02
 
@@ -105,10 +108,12 @@ class Program:
         """All controls that a person could see, by role, name and description."""
         found = []
         for child in children(within or self.application):
-            if (child.get_role() == ROLES[role] and name in (None, child.get_name())
+            its_role = child.get_role()
+            if (its_role == ROLES[role] and name in (None, child.get_name())
                     and description in (None, child.get_description())):
                 found.append(child)
-            found.extend(self.all(role, name, description, child))
+            if its_role not in WITHOUT_CONTROLS:
+                found.extend(self.all(role, name, description, child))
         return found
 
     def find(self, role, name=None, description=None, within=None):
