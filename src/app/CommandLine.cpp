@@ -38,12 +38,10 @@ void describe(QCommandLineParser &parser)
 
 LaunchOrder orderIn(const QStringList &options)
 {
-    for (auto option = options.crbegin(); option != options.crend(); ++option) {
-        const auto order = launchOrderNamed(*option);
-        if (order)
-            return *order;
-    }
-    return LaunchOrder::Activate;
+    LaunchOrder last = LaunchOrder::Activate;
+    for (const QString &option : options)
+        last = launchOrderNamed(option).value_or(last);
+    return last;
 }
 } // namespace
 

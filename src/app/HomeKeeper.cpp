@@ -10,15 +10,15 @@ namespace
 /// Whether it is a window in its own right, and not something that another has brought up.
 bool isOfItsOwn(const QWidget &window)
 {
-    return window.windowType() == Qt::Window && !window.parentWidget();
+    return window.windowType() == Qt::Window && window.parentWidget() == nullptr;
 }
 } // namespace
 
 HomeKeeper::HomeKeeper(std::function<std::unique_ptr<HomeWindow>()> make) : _make(std::move(make))
 {
-    WufferApplication &application = WufferApplication::instance();
     // The last window that closes makes room for the home window.
-    application.setQuitOnLastWindowClosed(false);
+    QApplication::setQuitOnLastWindowClosed(false);
+    const WufferApplication &application = WufferApplication::instance();
     // Later, because one may only make room for another.
     connect(&application, &WufferApplication::windowHidden, this, &HomeKeeper::look,
             Qt::QueuedConnection);

@@ -11,6 +11,7 @@
 #include <QVariantMap>
 
 #include <algorithm>
+#include <array>
 #include <limits>
 #include <optional>
 
@@ -44,13 +45,13 @@ struct Button
     Action action;
 };
 
-constexpr Button kButtons[]{
-    {QLatin1String("default"), QT_TRANSLATE_NOOP("FreedesktopNotifications", "Show"),
-     &DesktopNotification::show},
-    {QLatin1String("show"), QT_TRANSLATE_NOOP("FreedesktopNotifications", "Show"),
-     &DesktopNotification::show},
-    {QLatin1String("stop"), QT_TRANSLATE_NOOP("FreedesktopNotifications", "Stop"),
-     &DesktopNotification::stop},
+constexpr std::array kButtons{
+    Button{QLatin1String("default"), QT_TRANSLATE_NOOP("FreedesktopNotifications", "Show"),
+           &DesktopNotification::show},
+    Button{QLatin1String("show"), QT_TRANSLATE_NOOP("FreedesktopNotifications", "Show"),
+           &DesktopNotification::show},
+    Button{QLatin1String("stop"), QT_TRANSLATE_NOOP("FreedesktopNotifications", "Stop"),
+           &DesktopNotification::stop},
 };
 
 QDBusMessage call(const QString &server, const QString &method, const QVariantList &arguments = {})

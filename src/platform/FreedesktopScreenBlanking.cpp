@@ -11,6 +11,7 @@
 #include <QGuiApplication>
 #include <QVariantMap>
 
+#include <array>
 #include <limits>
 #include <utility>
 
@@ -63,14 +64,14 @@ QDBusMessage closeRequest(const Way & /*way*/, const QDBusMessage &answer)
 }
 
 /// In the order in which they are tried.
-const Way kWays[]{
-    {kScreenSaver, QStringLiteral("/org/freedesktop/ScreenSaver"), kScreenSaver, nameAndReason,
-     QStringLiteral("u"), uninhibit},
-    {kScreenSaver, QStringLiteral("/ScreenSaver"), kScreenSaver, nameAndReason, QStringLiteral("u"),
-     uninhibit},
-    {kPortal, QStringLiteral("/org/freedesktop/portal/desktop"),
-     QStringLiteral("org.freedesktop.portal.Inhibit"), portalArguments, QStringLiteral("o"),
-     closeRequest},
+const std::array kWays{
+    Way{kScreenSaver, QStringLiteral("/org/freedesktop/ScreenSaver"), kScreenSaver, nameAndReason,
+        QStringLiteral("u"), uninhibit},
+    Way{kScreenSaver, QStringLiteral("/ScreenSaver"), kScreenSaver, nameAndReason,
+        QStringLiteral("u"), uninhibit},
+    Way{kPortal, QStringLiteral("/org/freedesktop/portal/desktop"),
+        QStringLiteral("org.freedesktop.portal.Inhibit"), portalArguments, QStringLiteral("o"),
+        closeRequest},
 };
 } // namespace
 

@@ -31,7 +31,7 @@ bool read(QIODevice &device, QSettings::SettingsMap &map)
     }
     // Done here, because the file is read again whenever somebody else has changed it.
     const auto *file = qobject_cast<const QFileDevice *>(&device);
-    return file && SettingsPath::setAside(file->fileName());
+    return file != nullptr && SettingsPath::setAside(file->fileName());
 }
 
 /// Whether nothing is lost when the file of this name is replaced.

@@ -14,13 +14,13 @@ namespace
 namespace fs = std::filesystem;
 
 /// A thousand times as much as anybody has, in bytes.
-constexpr qint64 kLargest = 16 * 1024 * 1024;
+constexpr qint64 kLargest = 16LL * 1024 * 1024;
 /// A path at which nothing can be.
 const QString kNowhere = QStringLiteral("/dev/null/settings");
 
 fs::path native(const QString &path)
 {
-    return fs::path(QFile::encodeName(path).toStdString());
+    return {QFile::encodeName(path).toStdString()};
 }
 
 /// A descriptor of a regular file, which is closed with its scope, or why there is none.

@@ -10,15 +10,16 @@ namespace
 /// the connection.
 bool canSuspend(xcb_connection_t *connection)
 {
-    const auto *extension = xcb_get_extension_data(connection, &xcb_screensaver_id);
-    if (!extension || !extension->present)
+    const xcb_query_extension_reply_t *extension =
+        xcb_get_extension_data(connection, &xcb_screensaver_id);
+    if (!extension || extension->present == 0)
         return false;
     constexpr uint8_t major = 1;
     constexpr uint8_t minor = 1;
     const auto question = xcb_screensaver_query_version(connection, major, minor);
     const auto version =
         X11::owned(xcb_screensaver_query_version_reply(connection, question, nullptr));
-    return version &&
+    return version != nullptr &&
            (version->server_major_version > major ||
             (version->server_major_version == major && version->server_minor_version >= minor));
 }

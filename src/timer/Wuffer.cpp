@@ -3,6 +3,7 @@
 #include "controls/PickFromList.h"
 #include "platform/NotificationCenter.h"
 #include "settings/WufferWindow.h"
+#include "timer/RunTimes.h"
 #include "timer/TargetTimeSheet.h"
 #include "timer/TimeFormat.h"
 #include "timer/TimerTexts.h"
@@ -115,10 +116,8 @@ QString Wuffer::description() const
 
 QString Wuffer::statusString() const
 {
-    if (_displayRests) {
-        const Date shown = Date::now().addingTimeInterval(-kRunTick);
-        return TimeFormat::stringForTime(_stopwatch ? shown.timeIntervalSinceDate(*_startDate)
-                                                    : _targetDate->timeIntervalSinceDate(shown));
-    }
-    return _ui->_resultLabel->text();
+    if (!_displayRest.isResting())
+        return _ui->_resultLabel->text();
+    const RunTimes times = timesAt(Date::now().addingTimeInterval(-kRunTick));
+    return TimeFormat::stringForTime(_stopwatch ? times.elapsed : times.remaining);
 }

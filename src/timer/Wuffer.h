@@ -3,6 +3,7 @@
 #include "platform/ClockTimer.h"
 #include "platform/Date.h"
 #include "platform/Sound.h"
+#include "timer/DisplayRest.h"
 #include "timer/TimerColors.h"
 
 #include <QObject>
@@ -15,6 +16,7 @@
 class QAction;
 class QComboBox;
 class QLineEdit;
+struct RunTimes;
 class TargetTimeSheet;
 struct TimerSettings;
 class WebbyComboBox;
@@ -214,9 +216,6 @@ Q_SIGNALS:
     void closed();
 
 private:
-    /// Seconds between run ticks: often enough for the milliseconds to move smoothly.
-    static constexpr double kRunTick = 0.037;
-
     void fitControls();
     void awakeFromNib();
     void connectControls();
@@ -227,6 +226,7 @@ private:
     void wuffLoop();
     void beepIfDue(double remaining);
     void letOffIdleTicks();
+    [[nodiscard]] RunTimes timesAt(Date moment) const;
     void setRunningControls(bool running, const QString &goTitle);
     void postStatusChanged();
     void windowWillClose();
@@ -237,12 +237,10 @@ private:
     [[nodiscard]] qint32 seconds() const;
     void controlTextDidChange(const QLineEdit &field);
     void controlTextDidEndEditing(const QLineEdit &field);
-    void comboBoxSelectionDidChange(QComboBox &combo);
     void enableReturnShortcut();
     void disableReturnShortcut();
-
-    /// Where the combo offers to manage the sounds and that was chosen, goes back to its built-in
-    /// sound and asks for the preferences.
+    void comboBoxSelectionDidChange(QComboBox &combo);
+    /// Where managing the sounds was chosen, selects the built-in one and asks for the preferences.
     void handleManageSounds(WebbyComboBox &combo);
 
     [[nodiscard]] QString repeatSuffix() const;
@@ -271,10 +269,7 @@ private:
     bool _timerStarted = false;
     std::optional<Date> _targetDate;
     std::optional<Date> _startDate;
-    /// Whether the window system has said that nothing is seen of the display.
-    bool _displayHidden = false;
-    /// Whether the display is unseen and ticks are left out for that.
-    bool _displayRests = false;
+    DisplayRest _displayRest;
     /// Seconds that were left at the last countdown beep.
     double _lastBeep = 0;
     ClockTimer _checkTimer{[this] { timerLoop(); }};

@@ -20,7 +20,7 @@ void Wuffer::timerDone()
     WufferApplication::instance().cancelFullScreenModeForOthers(*this);
     playDone();
     _checkTimer.invalidate();
-    _displayRests = false;
+    _displayRest.setResting(false);
     setColorForDisplayText(TextColor::Red, true);
     setResultLabelText(_finishedText);
     _ui->_msLabel->setText({});

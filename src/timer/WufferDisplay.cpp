@@ -1,5 +1,6 @@
 #include "BuildInfo.h"
 #include "timer/DisplayFont.h"
+#include "timer/RunTimes.h"
 #include "timer/TimeFormat.h"
 #include "timer/TimerTexts.h"
 #include "timer/Wuffer.h"
@@ -24,7 +25,7 @@ void setTextColor(QLineEdit &field, const QColor &color)
 
 void Wuffer::refreshDisplay(double remaining, double timeElapsed)
 {
-    _displayRests = false;
+    _displayRest.setResting(false);
     if (remaining <= 0) {
         setDefaultDisplayValues();
         return;
@@ -80,12 +81,12 @@ void Wuffer::windowExposed()
 {
     // Minimised, on another workspace, or out of sight for any other reason.
     const QWindow *place = _ui->_displayBox->window()->windowHandle();
-    _displayHidden = place && !place->isExposed();
-    if (_displayHidden || !_displayRests)
+    const bool unseen = place != nullptr && !place->isExposed();
+    if (!_displayRest.setUnseen(unseen))
         return;
     _checkTimer.letOff(0);
-    const Date now = Date::now();
-    refreshDisplay(_targetDate->timeIntervalSinceDate(now), now.timeIntervalSinceDate(*_startDate));
+    const RunTimes times = timesAt(Date::now());
+    refreshDisplay(times.remaining, times.elapsed);
 }
 
 void Wuffer::setDefaultDisplayValues()

@@ -4,6 +4,7 @@
 #include "settings/WufferWindow.h"
 #include "timer/BeepSchedule.h"
 #include "timer/NumberText.h"
+#include "timer/RunTimes.h"
 #include "timer/TimeFields.h"
 #include "timer/TimerTexts.h"
 #include "timer/Wuffer.h"
@@ -67,11 +68,11 @@ void Wuffer::startRun()
         _initialTimeLeft = total;
     }
 
-    _displayRests = false;
     setRunningControls(true, kGoButtonStop.toString());
     _checkTimer.startRepeating(kRunTick);
     _lastBeep = BeepSchedule::kNoBeepYet;
-    refreshDisplay(_targetDate->timeIntervalSinceDate(now), now.timeIntervalSinceDate(*_startDate));
+    const RunTimes times = timesAt(now);
+    refreshDisplay(times.remaining, times.elapsed);
     // A looping timer fills the screen on its first pass only.
     if (_ui->_fullScreenBox->isChecked() && _repeatCount < 2)
         setFullScreenMode(true);
@@ -84,10 +85,9 @@ void Wuffer::stopRun()
     setColorForDisplayText(TextColor::Black, false);
     _timerStarted = false;
 
-    const Date now = Date::now();
-    const double elapsed = now.timeIntervalSinceDate(*_startDate);
-    const double value = _stopwatch ? elapsed : _targetDate->timeIntervalSinceDate(now);
-    refreshDisplay(value, elapsed);
+    const RunTimes times = timesAt(Date::now());
+    const double value = _stopwatch ? times.elapsed : times.remaining;
+    refreshDisplay(value, times.elapsed);
     _checkTimer.invalidate();
     // What is left stays in the fields, so that the next start goes on from here.
     if (value > 0)
@@ -108,23 +108,27 @@ void Wuffer::timerLoop()
     if (!_checkTimer.isValid())
         return;
 
-    const Date now = Date::now();
-    const double remaining = _targetDate->timeIntervalSinceDate(now);
+    const RunTimes times = timesAt(Date::now());
     if (_doneSound)
         _doneSound->setLoops(_ui->_keepWuffingBox->isChecked() && shouldKeepWuffing());
-    if (remaining <= 0) {
+    if (times.remaining <= 0) {
         timerDone();
         return;
     }
-    beepIfDue(remaining);
-    refreshDisplay(remaining, now.timeIntervalSinceDate(*_startDate));
+    beepIfDue(times.remaining);
+    refreshDisplay(times.remaining, times.elapsed);
     letOffIdleTicks();
+}
+
+RunTimes Wuffer::timesAt(Date moment) const
+{
+    return {_targetDate->timeIntervalSinceDate(moment), moment.timeIntervalSinceDate(*_startDate)};
 }
 
 void Wuffer::letOffIdleTicks()
 {
-    const bool rests = _displayHidden && _targetDate->timeIntervalSinceNow() > kLastSeconds;
-    _displayRests = rests && !_energySaverActive;
+    const bool rests = _displayRest.isUnseen() && timesAt(Date::now()).remaining > kLastSeconds;
+    _displayRest.setResting(rests && !_energySaverActive);
     const quint32 others = kTicksPerStatus - 1 - _refreshCount % kTicksPerStatus;
     _checkTimer.letOff(rests || _energySaverActive ? static_cast<int>(others) : 0);
 }

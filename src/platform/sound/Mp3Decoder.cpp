@@ -30,7 +30,7 @@ bool Mp3Decoder::openStream()
 {
     constexpr long flags = MPG123_QUIET | MPG123_GAPLESS | MPG123_FORCE_FLOAT;
     mpg123_handle *handle = _handle.get();
-    return handle && mpg123_param(handle, MPG123_ADD_FLAGS, flags, 0) == MPG123_OK &&
+    return handle != nullptr && mpg123_param(handle, MPG123_ADD_FLAGS, flags, 0) == MPG123_OK &&
            mpg123_replace_reader_handle(handle, readBytes, seek, nullptr) == MPG123_OK &&
            mpg123_open_handle(handle, _bytes.get()) == MPG123_OK;
 }

@@ -1,0 +1,12 @@
+#pragma once
+
+/// Seconds between run ticks: often enough for the milliseconds to move smoothly.
+constexpr double kRunTick = 0.037;
+
+/// How far a run has come, in seconds.
+struct RunTimes
+{
+    /// Nothing is left at zero or less.
+    double remaining = 0;
+    double elapsed = 0;
+};
