@@ -306,13 +306,15 @@ class SoundServerTest(unittest.TestCase):
         moment = self.player.play("short")
         time.sleep(0.2)
         self.server.kill()
-        self.player.wait_for_end("short", 2)
-        self.assertAlmostEqual(time.monotonic() - moment, 1.0, delta=0.2)
-        self.assertTrue(self.player.is_playing("loop"))
-        moment = self.player.play("short")
-        self.player.wait_for_end("short", 2)
-        self.assertAlmostEqual(time.monotonic() - moment, 1.0, delta=0.2)
-        self.server.start()
+        try:
+            self.player.wait_for_end("short", 2)
+            self.assertAlmostEqual(time.monotonic() - moment, 1.0, delta=0.2)
+            self.assertTrue(self.player.is_playing("loop"))
+            moment = self.player.play("short")
+            self.player.wait_for_end("short", 2)
+            self.assertAlmostEqual(time.monotonic() - moment, 1.0, delta=0.2)
+        finally:
+            self.server.start()
         moment = time.monotonic()
         wait_until(lambda: self.recorder.first_sound_after(moment), 4, "heard again")
 
@@ -323,10 +325,12 @@ class SoundServerTest(unittest.TestCase):
         moment = self.player.play("short")
         time.sleep(0.2)
         self.server.remove_sink()
-        self.player.wait_for_end("short", 2)
-        self.assertAlmostEqual(time.monotonic() - moment, 1.0, delta=0.2)
-        self.assertTrue(self.player.is_playing("loop"))
-        self.server.add_sink()
+        try:
+            self.player.wait_for_end("short", 2)
+            self.assertAlmostEqual(time.monotonic() - moment, 1.0, delta=0.2)
+            self.assertTrue(self.player.is_playing("loop"))
+        finally:
+            self.server.add_sink()
         moment = time.monotonic()
         wait_until(lambda: self.recorder.first_sound_after(moment), 4, "heard again")
 
