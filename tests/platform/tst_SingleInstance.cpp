@@ -204,6 +204,8 @@ void tst_SingleInstance::whereNobodyListensNothingHangs()
 
 void tst_SingleInstance::whatTheDesktopSaysOfALaunchIsHandedOn()
 {
+    qunsetenv("DESKTOP_STARTUP_ID");
+    qunsetenv("XDG_ACTIVATION_TOKEN");
     QVERIFY(SingleInstance::thisLaunch().isEmpty());
     qputenv("DESKTOP_STARTUP_ID", "start-7");
     qputenv("XDG_ACTIVATION_TOKEN", "token-8");
