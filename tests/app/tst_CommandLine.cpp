@@ -1,6 +1,13 @@
 #include "app/CommandLine.h"
 #include "support/TestMain.h"
 
+#include <QTemporaryFile>
+
+#include <array>
+#include <cstdio>
+#include <functional>
+#include <unistd.h>
+
 /// What the arguments of the program mean.
 class tst_CommandLine final : public Test
 {
@@ -15,8 +22,27 @@ private Q_SLOTS:
     void questionsAreAnswered();
     void whatNobodyKnowsIsExplained_data();
     void whatNobodyKnowsIsExplained();
+    void answersGoWhereTheyBelong();
+    void whatIsNoQuestionNeedsADisplay();
     void ordersHaveNamesAndBack();
 };
+
+/// What is written to this stream while the function runs.
+static QByteArray written(FILE *stream, const std::function<void()> &function)
+{
+    QTemporaryFile file;
+    if (!file.open())
+        qFatal("there is no room for a file");
+    std::fflush(stream);
+    const int before = ::dup(::fileno(stream));
+    ::dup2(file.handle(), ::fileno(stream));
+    function();
+    std::fflush(stream);
+    ::dup2(before, ::fileno(stream));
+    ::close(before);
+    file.seek(0);
+    return file.readAll();
+}
 
 static CommandLine read(const QStringList &arguments)
 {
@@ -98,6 +124,32 @@ void tst_CommandLine::ordersHaveNamesAndBack()
     QCOMPARE(nameOf(LaunchOrder::Activate), QString());
     QVERIFY(launchOrderNamed({}) == LaunchOrder::Activate);
     QVERIFY(!launchOrderNamed(QStringLiteral("New-Timer")));
+}
+
+void tst_CommandLine::answersGoWhereTheyBelong()
+{
+    const CommandLine answer{.answer = QStringLiteral("Wuffer 1\n")};
+    const CommandLine complaint{.answer = QStringLiteral("no such option\n"), .exitStatus = 2};
+    bool answered = false;
+    const auto write = [&](const CommandLine &line) {
+        return [&] { answered = writeAnswer(line); };
+    };
+    QCOMPARE(written(stdout, write(answer)), QByteArray("Wuffer 1\n"));
+    QVERIFY(answered);
+    QCOMPARE(written(stderr, write(complaint)), QByteArray("no such option\n"));
+    QVERIFY(answered);
+    QCOMPARE(written(stdout, write({})), QByteArray());
+    QVERIFY(!answered);
+}
+
+void tst_CommandLine::whatIsNoQuestionNeedsADisplay()
+{
+    for (const char *option : {"--new-timer", "--versions", "-help", "tea.txt"}) {
+        QByteArray program("wuffer");
+        QByteArray argument(option);
+        std::array arguments{program.data(), argument.data()};
+        QVERIFY2(!answeredWithoutDisplay(int(arguments.size()), arguments.data()), option);
+    }
 }
 
 WUFFER_TEST_MAIN(tst_CommandLine)

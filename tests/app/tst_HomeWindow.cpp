@@ -175,6 +175,8 @@ void tst_HomeWindow::quittingShowsNone()
             [&] { shown = true; });
     QTimer::singleShot(0, &program.controller, &WufferController::quit);
     QCOMPARE(QCoreApplication::exec(), 0);
+    // What was put off until the windows had closed.
+    QCoreApplication::processEvents();
     QVERIFY(!shown);
     QVERIFY(!home());
 }

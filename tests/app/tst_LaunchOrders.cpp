@@ -18,17 +18,19 @@ private Q_SLOTS:
     void aNewTimerIsLikeTheOneOfTheLastTime();
     void startingAllStartsWhatOpens();
     void aLaterLaunchOpensANewTimer();
+    void everyLaunchForANewTimerOpensOne();
     void aLaterLaunchStartsEveryTimer();
     void aLaterLaunchShowsTheOtherWindows();
     void aLaterLaunchBringsTheLastActiveWindowForward();
     void aLaterLaunchBringsBackAMinimizedTimer();
+    void aLaterLaunchLeavesClosedWindowsClosed();
     void whoAsksOftenIsAnsweredOnce();
     void anActionThatNobodyKnowsOpensNothing();
     void aServiceOpensNothingUntilItIsTold();
     void whatAServiceIsToldFirstDecidesWhatOpens();
-    void aServiceThatIsToldInTimeStays();
     void whatAServiceIsToldNextIsDoneByTheRunningProgram();
     // Last: a program that has ended opens no windows again.
+    void aServiceThatIsToldInTimeStays();
     void aServiceThatIsToldNothingEnds();
 };
 
@@ -132,9 +134,13 @@ void tst_LaunchOrders::aLaterLaunchStartsEveryTimer()
     Program program;
     program.launch(LaunchOrder::Activate);
     program.ask("new-timer");
+    QWidget &newest = *WufferApplication::getWuffers().back()->window();
+    QVERIFY(QTest::qWaitForWindowActive(&newest));
+    newest.showMinimized();
     program.ask("start-all");
     for (const Wuffer *timer : WufferApplication::getWuffers())
         QVERIFY(timer->isRunning());
+    QVERIFY(!newest.isMinimized());
 }
 
 void tst_LaunchOrders::aLaterLaunchShowsTheOtherWindows()
@@ -153,13 +159,18 @@ void tst_LaunchOrders::aLaterLaunchBringsTheLastActiveWindowForward()
     program.launch(LaunchOrder::Activate);
     QWidget &first = *WufferApplication::getWuffers().front()->window();
     program.ask("new-timer");
-    first.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&first));
-    first.showMinimized();
+    program.ask("new-timer");
+    // Neither the one that was active first nor the newest.
+    QWidget &second = *WufferApplication::getWuffers().at(1)->window();
+    for (QWidget *window : {&first, &second}) {
+        window->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(window));
+    }
+    second.showMinimized();
     program.ask("");
-    QVERIFY(!first.isMinimized());
-    QVERIFY(QTest::qWaitForWindowActive(&first));
-    QCOMPARE(timers(), std::size_t(2));
+    QVERIFY(!second.isMinimized());
+    QVERIFY(QTest::qWaitForWindowActive(&second));
+    QCOMPARE(timers(), std::size_t(3));
 }
 
 void tst_LaunchOrders::aLaterLaunchBringsBackAMinimizedTimer()
@@ -228,10 +239,18 @@ void tst_LaunchOrders::aServiceThatIsToldInTimeStays()
     program.orders.begin({.service = true, .answer = {}});
     program.clock.advance(9.9);
     program.ask("");
-    program.clock.advance(60);
-    QVERIFY(!WufferApplication::isQuitting());
-    QCoreApplication::processEvents();
-    QCOMPARE(timers(), std::size_t(1));
+    bool quits = true;
+    std::size_t open = 0;
+    // Only a program that runs can end itself.
+    QTimer::singleShot(0, &program.controller, [&] {
+        program.clock.advance(60);
+        quits = WufferApplication::isQuitting();
+        open = timers();
+        QCoreApplication::quit();
+    });
+    QCOMPARE(QCoreApplication::exec(), 0);
+    QVERIFY(!quits);
+    QCOMPARE(open, std::size_t(1));
 }
 
 void tst_LaunchOrders::aServiceThatIsToldNothingEnds()
@@ -250,6 +269,30 @@ void tst_LaunchOrders::whatAServiceIsToldNextIsDoneByTheRunningProgram()
     program.ask("preferences");
     program.ask("new-timer");
     QCOMPARE(openWindows(), (QStringList{QStringLiteral("Preferences"), QStringLiteral("Wuffer")}));
+}
+
+void tst_LaunchOrders::aLaterLaunchLeavesClosedWindowsClosed()
+{
+    Program program;
+    program.launch(LaunchOrder::Activate);
+    program.ask("converter");
+    QVERIFY(QTest::qWaitFor([] { return QApplication::activeWindow() != nullptr; }));
+    QWidget &converter = *QApplication::activeWindow();
+    QCOMPARE(converter.windowTitle(), QStringLiteral("Converter"));
+    converter.close();
+    program.ask("");
+    QCOMPARE(openWindows(), QStringList{QStringLiteral("Wuffer")});
+    QVERIFY(QTest::qWaitForWindowActive(WufferApplication::getWuffers().front()->window()));
+}
+
+void tst_LaunchOrders::everyLaunchForANewTimerOpensOne()
+{
+    Program program;
+    program.launch(LaunchOrder::Activate);
+    for (int i = 0; i < 3; ++i)
+        Q_EMIT program.instance.asked(QStringLiteral("new-timer"));
+    program.clock.advance(0.02);
+    QCOMPARE(timers(), std::size_t(4));
 }
 
 WUFFER_TEST_MAIN(tst_LaunchOrders)

@@ -89,11 +89,12 @@ void tst_LinkMenu::choosingWhatIsChosenChangesNothing()
 
 void tst_LinkMenu::aTimerThatClosedMeanwhileIsNotLinked()
 {
+    _timers[0]->setTargetWuffer(_timers[1]);
     QMenu &menu = opened(*_timers[0]->window());
     _timers[2]->window()->close();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     menu.actions().at(3)->trigger();
-    QVERIFY(!_timers[0]->isChained());
+    QCOMPARE(_timers[0]->getTargetWuffer(), _timers[1]);
 }
 
 void tst_LinkMenu::itNeedsAnActiveTimer()

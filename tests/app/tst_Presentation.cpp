@@ -53,6 +53,7 @@ class tst_Presentation final : public Test
 private Q_SLOTS:
     void fullScreenSizesAndBack();
     void theNameOnTheFullScreenStaysVisibleAfterwards();
+    void aTimerWithoutANameIsAWufferOnTheFullScreen();
     void thePointerIsHiddenAndShownAgain();
     void thePointerIsHiddenOnceForAStartOnTheFullScreen();
     void theMenuTogglesFullScreen();
@@ -356,6 +357,15 @@ void tst_Presentation::allItemsOfAClosedTimerAreDisabled()
           &Wuffer::showHideAdvanced, &Wuffer::startStopFullScreen, &Wuffer::resetWuffer,
           &Wuffer::showWufferWindow})
         QVERIFY(!isEnabled(t, operation));
+}
+
+void tst_Presentation::aTimerWithoutANameIsAWufferOnTheFullScreen()
+{
+    const TimerFixture t;
+    t.timer.setFullScreenMode(true);
+    QCOMPARE(t.label("_fullTitleField").text(), QStringLiteral("Wuffer"));
+    t.timer.setFullScreenMode(false);
+    QCOMPARE(t.label("_fullTitleField").text(), QString());
 }
 
 WUFFER_TEST_MAIN(tst_Presentation)

@@ -28,6 +28,7 @@ private Q_SLOTS:
     void aTitleIsShownAsItIs();
     void presetOneOpensAtLaunch();
     void digitsOfTheKeypadDoTheSame();
+    void aHeldKeyOpensOneTimer();
 
 private:
     static Wuffer &newest() { return *WufferApplication::getWuffers().back(); }
@@ -247,6 +248,14 @@ void tst_PresetsMenu::digitsOfTheKeypadDoTheSame()
 {
     press(3, Keyboard::kCommand | Qt::KeypadModifier);
     QCOMPARE(newest().description(), QStringLiteral("Preset 3 - 0h 30m 0s"));
+}
+
+void tst_PresetsMenu::aHeldKeyOpensOneTimer()
+{
+    QWindow *window = QGuiApplication::focusWindow();
+    for (const bool repeats : {false, true, true})
+        QTest::simulateEvent(window, true, Qt::Key_3, Keyboard::kCommand, {}, repeats);
+    QCOMPARE(count(), std::size_t(2));
 }
 
 WUFFER_TEST_MAIN(tst_PresetsMenu)

@@ -24,6 +24,7 @@ private Q_SLOTS:
     void theNextKeyPressIsTyped();
     void aHeldKeyDoesNothingMore();
     void anotherKeyLetGoDoesNotFreeTheHeldOne();
+    void aHeldKeyThatRepeatsIsNotLetGo();
     void theHeldKeyThatBroughtTheFullScreenDoesNotEndIt();
     void aMenuShortcutEndsFullScreenOnly();
     void aModifierAloneDoesNotEndFullScreen();
@@ -370,6 +371,21 @@ void tst_WufferApplication::returnInAnOpenListPicksAndDoesNotStart()
     QVERIFY(!QApplication::activePopupWidget());
     QCOMPARE(combo.currentIndex(), 1);
     QVERIFY(!t.timer.isRunning());
+}
+
+void tst_WufferApplication::aHeldKeyThatRepeatsIsNotLetGo()
+{
+    TimerFixture t;
+    show(t);
+    t.timer.setFullScreenMode(true);
+    press(*t.box().window(), Qt::Key_7);
+    // On X a held key is let go and pressed again and again.
+    QWidget *field = &t.part<QLineEdit>("_minutesField");
+    for (const QEvent::Type type : {QEvent::KeyRelease, QEvent::KeyPress}) {
+        QKeyEvent repeat(type, Qt::Key_7, Qt::NoModifier, QStringLiteral("7"), true);
+        QCoreApplication::sendEvent(field, &repeat);
+    }
+    QCOMPARE(t.fields(), QStringLiteral("0 0 0"));
 }
 
 WUFFER_TEST_MAIN(tst_WufferApplication)

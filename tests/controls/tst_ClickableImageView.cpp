@@ -43,6 +43,7 @@ private Q_SLOTS:
     void otherKeysDoNotClick();
     void aDisabledViewSaysNothing();
     void theTabKeyReachesTheView();
+    void theFocusIsSeen();
     void theViewShowsTheImageOfItsName();
 };
 
@@ -161,6 +162,21 @@ void tst_ClickableImageView::theViewShowsTheImageOfItsName()
 
     QCOMPARE(view.imageName(), QStringLiteral("sound_high.png"));
     QVERIFY(!view.pixmap().isNull());
+}
+
+void tst_ClickableImageView::theFocusIsSeen()
+{
+    Fixture f;
+    QLineEdit other(&f);
+    other.show();
+    other.setFocus();
+    QVERIFY(QTest::qWaitForWindowActive(&f));
+    const QImage without = f.view.grab().toImage();
+
+    QTest::keyClick(&f, Qt::Key_Tab);
+
+    QVERIFY(f.view.hasFocus());
+    QVERIFY(f.view.grab().toImage() != without);
 }
 
 WUFFER_TEST_MAIN(tst_ClickableImageView)

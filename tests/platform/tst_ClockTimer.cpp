@@ -26,6 +26,7 @@ private Q_SLOTS:
     void aFiringStandsForTheTicksBeforeIt();
     void aLateFiringStandsForTheTicksThatItWasLetOff();
     void aTimerThatStartsAgainIsLetOffNothing();
+    void aTimerThatStartsAgainCountsFromNothing();
     void aOneShotIsNotLetOff();
 };
 
@@ -296,6 +297,23 @@ void tst_ClockTimer::aOneShotIsNotLetOff()
 
     f.clock.advance(0.11);
     QCOMPARE(f.diary.size(), 1);
+}
+
+void tst_ClockTimer::aTimerThatStartsAgainCountsFromNothing()
+{
+    ClockFixture f;
+    ClockTimer timer(f.writes("fired"));
+    ClockTimer steady([] {});
+    timer.startRepeating(0.1);
+    steady.startRepeating(0.1);
+    timer.letOff(100);
+    f.clock.advance(0.55);
+
+    timer.startRepeating(0.1);
+
+    f.clock.advance(0.1);
+    QCOMPARE(f.diary.size(), 1);
+    QCOMPARE(timer.ticks(), 1);
 }
 
 QTEST_GUILESS_MAIN(tst_ClockTimer)

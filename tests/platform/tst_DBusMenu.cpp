@@ -55,10 +55,12 @@ private Q_SLOTS:
     void anythingElseChoosesNothing();
     void eventsComeInGroups();
     void otherLinesAreANewLayout();
+    void aGroupThatIsAboutToShowIsToldWhatHasChanged();
     void ofManyChangesAtOnceThereIsOneLayout();
     void otherTextsSayNothingWhileTheMenuIsClosed();
     void aPanelThatIsAboutToShowItGetsTheTexts();
     void anOpenMenuFollowsTheTexts();
+    void anOpenMenuFollowsTextsThatNeverRest();
     void anOpenMenuKeepsItsLinesUntilItCloses();
     void anOpenMenuThatLosesItsListStillChooses();
     void aClickClosesTheMenu();
@@ -383,6 +385,29 @@ void tst_DBusMenu::twoHundredLinesCostOneSignal()
     const QList<QDBusMessage> heard = _peer->takeHeard();
     QCOMPARE(heard.size(), 1);
     QCOMPARE(qdbus_cast<DBusMenuTypes::Items>(heard.first().arguments().constFirst()).size(), 200);
+}
+
+void tst_DBusMenu::anOpenMenuFollowsTextsThatNeverRest()
+{
+    static_cast<void>(layout());
+    event(0, kOpened);
+    // As often as a timer that runs shows another time.
+    for (int tick = 0; tick < 15; ++tick) {
+        _list->current[1].text = QString::number(tick);
+        Q_EMIT _list->textsChanged();
+        QTest::qWait(30);
+    }
+    QVERIFY(_peer->hasHeardSomething());
+}
+
+void tst_DBusMenu::aGroupThatIsAboutToShowIsToldWhatHasChanged()
+{
+    static_cast<void>(layout());
+    _list->current[0].text = QStringLiteral("Tea: 3s");
+    const QDBusMessage changed =
+        _peer->ask(QStringLiteral("AboutToShowGroup"), {QVariant::fromValue(QList<int>{0, 7})});
+    QCOMPARE(qdbus_cast<QList<int>>(changed.arguments().value(0)), QList<int>{0});
+    QCOMPARE(qdbus_cast<QList<int>>(changed.arguments().value(1)), QList<int>());
 }
 
 int main(int argc, char *argv[])

@@ -47,12 +47,14 @@ private Q_SLOTS:
     void theItemRegistersUnderTheNameThatTheBusHasGiven();
     void theItemRegistersWithEveryWatcherThatComes();
     void theItemRegistersWithAWatcherThatTakesTheNameOver();
+    void aPanelThatIsReplacedHasNoMenuOpen();
     void theItemSaysWhatItIs();
     void anEmptyItemIsPassive();
     void theTitleIsLabelTitleAndToolTip();
     void theIconIsSquareInTheSizesOfPanels();
     void thePixelsAreAlphaFirst();
     void thereIsAMenuOnlyWhileOneIsAttached();
+    void anOpenMenuStaysUntilItCloses();
     void aPressSendsTheAction();
     void aPressWithAMenuShowsItForPanelsThatCannot();
     void theMiddleButtonAndTheWheelDoNothing();
@@ -365,6 +367,45 @@ void tst_FreedesktopStatusItem::aMissingBusIsNoMatter()
     QCOMPARE(QDir(nowhere.path()).entryList(QDir::NoDotAndDotDot | QDir::AllEntries),
              QStringList());
     qputenv("DBUS_SESSION_BUS_ADDRESS", _address.toUtf8());
+}
+
+void tst_FreedesktopStatusItem::anOpenMenuStaysUntilItCloses()
+{
+    watch();
+    BusPeer peer = panel();
+    BusPeer shownMenu(_address, kPath + QStringLiteral("/Menu"),
+                      QStringLiteral("com.canonical.dbusmenu"));
+    const auto event = [&](const char *name) {
+        shownMenu.tell(QStringLiteral("Event"), {0, QString::fromLatin1(name),
+                                                 QVariant::fromValue(QDBusVariant(QString())), 0U});
+    };
+    const auto isMenu = [&] { return peer.property(QStringLiteral("ItemIsMenu")).toBool(); };
+    FakeStatusMenu menu;
+    _item->setMenu(&menu);
+    QTRY_VERIFY(isMenu());
+    event("opened");
+    _item->setMenu(nullptr);
+    QTest::qWait(20);
+    QVERIFY(isMenu());
+    event("closed");
+    QTRY_VERIFY(!isMenu());
+}
+
+void tst_FreedesktopStatusItem::aPanelThatIsReplacedHasNoMenuOpen()
+{
+    watch();
+    BusPeer shownMenu(_address, kPath + QStringLiteral("/Menu"),
+                      QStringLiteral("com.canonical.dbusmenu"));
+    BusPeer peer = panel();
+    FakeStatusMenu menu;
+    _item->setMenu(&menu);
+    shownMenu.tell(QStringLiteral("Event"),
+                   {0, QStringLiteral("opened"), QVariant::fromValue(QDBusVariant(QString())), 0U});
+    const StatusWatcher next(_address, StatusWatcher::Next);
+    _watcher.reset();
+    QTRY_COMPARE(next.registered.size(), 1);
+    _item->setMenu(nullptr);
+    QTRY_VERIFY(!peer.property(QStringLiteral("ItemIsMenu")).toBool());
 }
 
 int main(int argc, char *argv[])

@@ -36,6 +36,7 @@ private Q_SLOTS:
     void aFrozenScreenSaverBlocksNothing();
     void aScreenSaverThatIsRestartedIsAskedAgain();
     void aScreenSaverThatIsRestartedIsNotToldTheNumbersOfTheOldOne();
+    void aScreenSaverThatIsRestartedBeforeItHasAnsweredIsAskedAgain();
     void withoutAnybodyNothingHappens();
     void withoutABusNothingIsAskedFor();
 
@@ -253,6 +254,24 @@ void tst_ScreenBlanking::withoutABusNothingIsAskedFor()
 
     qputenv("DBUS_SESSION_BUS_ADDRESS", _address.toUtf8());
     QCOMPARE(server.diary, QStringList());
+}
+
+void tst_ScreenBlanking::aScreenSaverThatIsRestartedBeforeItHasAnsweredIsAskedAgain()
+{
+    ScreenSaverService &before = serve();
+    FreedesktopScreenBlanking blanking;
+    const QObject asker;
+    before.stopAnswering();
+    blanking.inhibit(asker, kReason);
+    QTRY_COMPARE(before.heldBack(), 1U);
+
+    _screenSaver.reset();
+    const ScreenSaverService &after = serve();
+
+    QTRY_COMPARE(after.diary, QStringList({kAsked}));
+    QTest::qWait(20);
+    blanking.release(asker);
+    QTRY_COMPARE(after.diary, QStringList({kAsked, QStringLiteral("release 7")}));
 }
 
 int main(int argc, char *argv[])

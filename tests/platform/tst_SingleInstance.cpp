@@ -21,11 +21,13 @@ public:
 private Q_SLOTS:
     void theFirstOwnsTheName();
     void whoComesLaterDoesNot();
+    void withoutABusEveryLaunchIsTheFirst();
     void activationIsPassedOn();
     void actionsArePassedOn();
     void filesAreAnActivation();
     void aTokenIsNotLeftForOtherProgramsToFind();
     void whoRunsOnBesideTheFirstTakesItsPlace();
+    void whatTheDesktopSaysOfALaunchIsHandedOn();
     void nobodyAnswersWhenThereIsNoFirst();
     void aFirstThatHangsIsGivenUp();
     void aBusThatIsAliveDoesNotHang();
@@ -189,6 +191,7 @@ void tst_SingleInstance::whereNobodyListensNothingHangs_data()
     QTest::newRow("no such abstract socket") << QByteArray("unix:abstract=wuffer-nowhere");
     QTest::newRow("a name that is too long") << "unix:path=/" + QByteArray(200, 'a');
     QTest::newRow("no name") << QByteArray("unix:path=");
+    QTest::newRow("no kind of name that is known") << QByteArray("unix:dir=/tmp,guid=12");
     QTest::newRow("another kind of address") << QByteArray("tcp:host=localhost,port=1");
     QTest::newRow("disabled") << QByteArray("disabled:");
 }
@@ -197,6 +200,31 @@ void tst_SingleInstance::whereNobodyListensNothingHangs()
 {
     QFETCH(const QByteArray, address);
     QVERIFY(!BusProbe::hangs(address));
+}
+
+void tst_SingleInstance::whatTheDesktopSaysOfALaunchIsHandedOn()
+{
+    qunsetenv("DESKTOP_STARTUP_ID");
+    qunsetenv("XDG_ACTIVATION_TOKEN");
+    QVERIFY(SingleInstance::thisLaunch().isEmpty());
+    qputenv("DESKTOP_STARTUP_ID", "start-7");
+    qputenv("XDG_ACTIVATION_TOKEN", "token-8");
+    const QVariantMap launch = SingleInstance::thisLaunch();
+    qunsetenv("DESKTOP_STARTUP_ID");
+    qunsetenv("XDG_ACTIVATION_TOKEN");
+    const QVariantMap expected{{QStringLiteral("desktop-startup-id"), QStringLiteral("start-7")},
+                               {QStringLiteral("activation-token"), QStringLiteral("token-8")}};
+    QCOMPARE(launch, expected);
+}
+
+void tst_SingleInstance::withoutABusEveryLaunchIsTheFirst()
+{
+    const OtherInstance other(_bus.address());
+    qputenv("DBUS_SESSION_BUS_ADDRESS", "disabled:");
+    SingleInstance instance;
+    const bool first = instance.claim();
+    qputenv("DBUS_SESSION_BUS_ADDRESS", _bus.address().toUtf8());
+    QVERIFY(first);
 }
 
 int main(int argc, char *argv[])

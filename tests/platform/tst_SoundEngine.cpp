@@ -3,9 +3,39 @@
 #include "support/SoundFiles.h"
 
 #include <QElapsedTimer>
+#include <QFile>
+#include <QScopeGuard>
 #include <QSemaphore>
 #include <QTemporaryDir>
 #include <QTest>
+
+#include <algorithm>
+#include <mutex>
+#include <thread>
+
+namespace
+{
+/// A file on a disk that delivers nothing while somebody holds it.
+class HeldFile final : public QFile
+{
+public:
+    HeldFile(const QString &path, std::mutex &disk) : QFile(path), _disk(disk)
+    {
+        if (!open(QIODevice::ReadOnly | QIODevice::Unbuffered))
+            qFatal("there is no file %s", qPrintable(path));
+    }
+
+protected:
+    qint64 readData(char *data, qint64 size) override
+    {
+        const std::lock_guard turn(_disk);
+        return QFile::readData(data, size);
+    }
+
+private:
+    std::mutex &_disk;
+};
+} // namespace
 
 /// What a disk that does not answer may do to the sounds, and what not.
 class tst_SoundEngine final : public QObject
@@ -21,6 +51,7 @@ private Q_SLOTS:
     void aFileThatDoesNotAnswerKeepsNoOtherSoundWaiting();
     void aFileThatDoesNotAnswerDelaysTheEndByNoMoreThanASecond();
     void aFileThatAnswersLateIsHeardFromItsBeginning();
+    void aFileThatPausesNowAndThenIsNotGivenUp();
 
 private:
     static constexpr int kSampleRate = 48000;
@@ -100,6 +131,29 @@ void tst_SoundEngine::aFileThatAnswersLateIsHeardFromItsBeginning()
     QTRY_VERIFY(!late->isPlaying());
     QVERIFY2(timer.elapsed() > 270 && timer.elapsed() < 500,
              qPrintable(QString::number(timer.elapsed())));
+}
+
+void tst_SoundEngine::aFileThatPausesNowAndThenIsNotGivenUp()
+{
+    const QString path = _folder.filePath(QStringLiteral("long.wav"));
+    writeTone(path, {.seconds = 5, .sampleRate = kSampleRate});
+    std::mutex disk;
+    Voice voice([&] { return std::make_unique<HeldFile>(path, disk); }, kSampleRate,
+                std::make_shared<SoundControls>());
+    const std::jthread reader([&] { voice.readFile(); });
+    const auto end = qScopeGuard([&] { voice.finish(); });
+    const auto mix = [&](double seconds) {
+        std::vector<float> samples(static_cast<std::size_t>(seconds * kSampleRate) * 2);
+        return voice.mixInto(samples, 0) &&
+               std::ranges::any_of(samples, [](float sample) { return sample != 0; });
+    };
+    // Longer in all than a file is waited for.
+    for (int pause = 0; pause < 3; ++pause) {
+        QTRY_VERIFY(mix(0.01));
+        const std::lock_guard held(disk);
+        static_cast<void>(mix(1.5));
+        QVERIFY(voice.isPlaying());
+    }
 }
 
 QTEST_GUILESS_MAIN(tst_SoundEngine)

@@ -46,6 +46,18 @@ public:
     }
 };
 
+/// The panel that is open when the program is told to end.
+class PanelAtTheEnd final : public OpenPanel
+{
+public:
+    std::optional<QUrl> runModal(QWidget & /*window*/, const QString & /*title*/) override
+    {
+        QEvent end(QEvent::Quit);
+        QCoreApplication::sendEvent(qApp, &end);
+        return std::nullopt;
+    }
+};
+
 const auto kNothing = QStringLiteral("(nothing)");
 
 WebbyComboBox &alarmOf(const Wuffer &timer)
@@ -114,6 +126,8 @@ private Q_SLOTS:
     void theTimersCombosFollowTheSwitches_data();
     void theTimersCombosFollowTheSwitches();
     void anAddedSoundRings();
+    // Last: there is no way back from the end.
+    void theEndOfTheProgramChoosesNoSound();
 };
 
 void tst_SoundLibrary::withoutSoundsOnlyTheFixedEntriesAreOffered()
@@ -721,6 +735,18 @@ void tst_SoundLibrary::anAddedSoundRings()
     timer.goPressed();
     p.clock.advance(1.1);
     QVERIFY(p.sounds.isPlaying(kBell));
+}
+
+void tst_SoundLibrary::theEndOfTheProgramChoosesNoSound()
+{
+    Fixture p;
+    p.open();
+    p.addTo(kAlarm, kBell);
+    PanelAtTheEnd panel;
+    const Service<OpenPanel> service(panel);
+    p.choose(kAlarm, kSelect);
+    QVERIFY(WufferApplication::isQuitting());
+    QCOMPARE(p.path("alarmPath"), kBell);
 }
 
 WUFFER_TEST_MAIN(tst_SoundLibrary)

@@ -31,6 +31,8 @@ private Q_SLOTS:
     void leavingWithoutADragIsHarmless();
     void thePictureIsThere();
     void aPressThatDoesNotMoveIsNoDrag();
+    void aDragBeginsAtTheDistanceOfTheDesktop_data();
+    void aDragBeginsAtTheDistanceOfTheDesktop();
 };
 
 void tst_LinkDrag::highlightingShowsTheWholeChain()
@@ -131,6 +133,39 @@ void tst_LinkDrag::aPressThatDoesNotMoveIsNoDrag()
         QTest::mouseRelease(&window, button, Keyboard::kControl, to);
         QVERIFY(window.findChildren<QDrag *>().isEmpty());
     }
+}
+
+void tst_LinkDrag::aDragBeginsAtTheDistanceOfTheDesktop_data()
+{
+    QTest::addColumn<Qt::MouseButton>("button");
+    QTest::newRow("left, with Control") << Qt::LeftButton;
+    QTest::newRow("right") << Qt::RightButton;
+}
+
+void tst_LinkDrag::aDragBeginsAtTheDistanceOfTheDesktop()
+{
+    QFETCH(const Qt::MouseButton, button);
+    const TimerFixture t;
+    WufferWindow &window = *t.timer.window();
+    window.show();
+    const QPoint from(4, 60);
+    const auto moveBy = [&](int way) {
+        const QPoint to = from + QPoint(way, 0);
+        QMouseEvent move(QEvent::MouseMove, to, window.mapToGlobal(to), Qt::NoButton, button,
+                         Keyboard::kControl);
+        QCoreApplication::sendEvent(&window, &move);
+    };
+    QTest::mousePress(&window, button, Keyboard::kControl, from);
+    moveBy(QApplication::startDragDistance() - 1);
+    QVERIFY(window.findChildren<QDrag *>().isEmpty());
+    // The display that is only in memory ends a drag as soon as it has begun, and says so.
+    QTest::ignoreMessage(QtWarningMsg, "Unimplemented code.");
+    moveBy(QApplication::startDragDistance());
+    const QList<QDrag *> drags = window.findChildren<QDrag *>();
+    QCOMPARE(drags.size(), 1);
+    QCOMPARE(drags.first()->mimeData()->formats(), QStringList{kType});
+    QVERIFY(!drags.first()->pixmap().isNull());
+    QVERIFY(!t.timer.isChained());
 }
 
 WUFFER_TEST_MAIN(tst_LinkDrag)

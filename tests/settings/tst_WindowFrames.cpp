@@ -20,6 +20,7 @@ class tst_WindowFrames final : public Test
 
 private Q_SLOTS:
     void theWindowComesBackToItsPlace();
+    void theTimerOfTheLastTimeComesBackToItsPlace();
     void theWindowStaysWhereNoPlaceIsStored();
     void theWindowStaysWhenItIsNotToMove();
     void theWindowStaysWithoutARecord();
@@ -160,6 +161,17 @@ void tst_WindowFrames::theWindowIsShownInAnyCase()
         user.timer.loadSettingsFromDefaultsWithKey(key, true);
         QVERIFY(QTest::qWaitForWindowActive(user.timer.window()));
     }
+}
+
+void tst_WindowFrames::theTimerOfTheLastTimeComesBackToItsPlace()
+{
+    TimerFixture t;
+    t.timer.window()->move(120, 90);
+    t.pressGo();
+    t.timer.window()->close();
+    const TimerUser other;
+    other.timer.loadSettingsFromDefaultsWithKey(kDefault, true);
+    QCOMPARE(place(other), QPoint(120, 90));
 }
 
 WUFFER_TEST_MAIN(tst_WindowFrames)

@@ -57,6 +57,8 @@ void tst_WindowPlace::aWindowComesBackWhereItCanBeReached_data()
     same("over both screens", {900, 400});
     same("the last pixels that can be taken hold of", {-340, 300});
     QTest::newRow("a pixel too far") << QPoint(-341, 300) << QPoint(0, 300);
+    same("with just so much of the title bar above the lower edge", {300, 780});
+    QTest::newRow("with less of it") << QPoint(300, 781) << QPoint(300, 500);
     QTest::newRow("under the panel") << QPoint(300, 10) << QPoint(300, 30);
     QTest::newRow("below everything") << QPoint(300, 5000) << QPoint(300, 500);
     QTest::newRow("on a screen that is gone, on the right")

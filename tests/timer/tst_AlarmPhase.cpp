@@ -39,6 +39,7 @@ private Q_SLOTS:
     void aLongFinishedTextShrinks();
     void theAlarmIsLookedAtEveryFifthOfASecond();
     void aMutedAlarmLastsFiveSecondsAndNoLess();
+    void aMutedAlarmLastsFiveSecondsAndNoMore();
     void theOtherTimersLeaveTheFullScreenBeforeTheAlarmSounds();
     void theBoxDecidesWhetherTheNextAlarmLoops();
 };
@@ -433,6 +434,20 @@ void tst_AlarmPhase::theBoxDecidesWhetherTheNextAlarmLoops()
     t.startCountdown(1);
     t.pass(0.1);
     QVERIFY(!t.sounds.sound(bell)->loops());
+}
+
+void tst_AlarmPhase::aMutedAlarmLastsFiveSecondsAndNoMore()
+{
+    TimerFixture t;
+    t.set("soundOff", 1);
+    t.chooseFinish(QStringLiteral("Loop this Wuffer"));
+    // Late enough for an alarm tick to fall just after the five seconds.
+    t.startCountdown(0);
+    t.clock.sleep(0.21);
+    t.pass(4.78);
+    QCOMPARE(t.go(), QStringLiteral("Reset"));
+    t.pass(0.03);
+    QVERIFY(t.go() != QStringLiteral("Reset"));
 }
 
 WUFFER_TEST_MAIN(tst_AlarmPhase)

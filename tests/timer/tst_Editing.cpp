@@ -15,7 +15,9 @@ private Q_SLOTS:
     void theEnterKeyOfTheKeypadDoesTheSame();
     void typingANameNamesTheWindow();
     void returnEndsTheNameWithoutStarting();
+    void enterEndsTheNameWithoutStarting();
     void afterTheNameReturnStartsAgain();
+    void aNameTypedOnAtOnceKeepsReturn();
     void leavingTheNameGivesReturnBack();
     void keepWuffingIsToggledOnce();
     void tabsWalkThroughTheWindowInOrder();
@@ -222,6 +224,29 @@ void tst_Editing::aHeldReturnPressesOnce()
     QTest::simulateEvent(window, true, Qt::Key_Return, Qt::NoModifier, QStringLiteral("\r"), false);
     QTest::simulateEvent(window, true, Qt::Key_Return, Qt::NoModifier, QStringLiteral("\r"), true);
     QVERIFY(t.timer.isRunning());
+}
+
+void tst_Editing::enterEndsTheNameWithoutStarting()
+{
+    TimerFixture t;
+    show(t);
+    t.titleField.setFocus();
+    t.typeName(QStringLiteral("Tea"));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Enter, Qt::KeypadModifier);
+    QVERIFY(!t.timer.isRunning());
+}
+
+void tst_Editing::aNameTypedOnAtOnceKeepsReturn()
+{
+    TimerFixture t;
+    show(t);
+    t.titleField.setFocus();
+    t.typeName(QStringLiteral("Tea"));
+    press(Qt::Key_Return);
+    t.typeName(QStringLiteral("Green tea"));
+    t.pass(0.02);
+    press(Qt::Key_Return);
+    QVERIFY(!t.timer.isRunning());
 }
 
 WUFFER_TEST_MAIN(tst_Editing)

@@ -66,6 +66,7 @@ private Q_SLOTS:
     void oneMoreGathersThemAll();
     void thoseThatEndTogetherShowAtOnceAsOne();
     void manyAreNamedOnlyInPart();
+    void eightAreAllNamed();
     void moreAreAddedOnceASecond();
     void thoseThatAreWithdrawnAreCountedNoMore();
     void theLastOneLeftIsItself();
@@ -76,6 +77,7 @@ private Q_SLOTS:
     void stopIsForAll();
     void aStopMayDestroyTheOthers();
     void quickOnesOfOneTimerAreHeldBack();
+    void quickOnesAreHeldBackAtAnyTime();
     void aDismissedSummaryDoesNotComeBack();
     void oneThatCameUnseenOutlivesTheDismissal();
     void aDismissedOneIsNotGathered();
@@ -125,6 +127,14 @@ void tst_GatheredNotifications::manyAreNamedOnlyInPart()
     QCOMPARE(lines.front(), QStringLiteral("T20"));
     QCOMPARE(lines[7], QStringLiteral("T13"));
     QCOMPARE(lines.back(), QStringLiteral("and 12 more"));
+}
+
+void tst_GatheredNotifications::eightAreAllNamed()
+{
+    Fixture t;
+    t.end(8);
+    t.clock.advance(1);
+    QCOMPARE(t.only().text, QStringLiteral("T8\nT7\nT6\nT5\nT4\nT3\nT2\nT1"));
 }
 
 void tst_GatheredNotifications::moreAreAddedOnceASecond()
@@ -305,6 +315,26 @@ void tst_GatheredNotifications::nothingWakesTheProgramWhileNothingChanges()
     t.clock.advance(5);
     QVERIFY(t.clock.isIdle());
     QCOMPARE(t.desktop.standing.size(), 1U);
+}
+
+void tst_GatheredNotifications::quickOnesAreHeldBackAtAnyTime()
+{
+    Fixture t;
+    const QObject timer;
+    const auto endFourTimes = [&](double lastPause) {
+        for (const double pause : {60.0, 0.25, 0.25, lastPause}) {
+            t.clock.advance(pause);
+            t.end(timer, QStringLiteral("loop"));
+            t.gathered.withdraw(timer);
+        }
+    };
+    // The fourth comes a whole second after the first.
+    endFourTimes(0.5);
+    QCOMPARE(t.desktop.shown.size(), 4U);
+    // It comes too early, and is over before it could show.
+    endFourTimes(0.4375);
+    t.clock.advance(60);
+    QCOMPARE(t.desktop.shown.size(), 7U);
 }
 
 WUFFER_TEST_MAIN(tst_GatheredNotifications)

@@ -18,8 +18,10 @@ private Q_SLOTS:
     void stoppingKeepsTheRemainingTimeInTheFields();
     void startingAgainRunsTheWholeSecondsLeft();
     void aZeroDurationEndsAtTheFirstTick();
+    void theVeryMomentOfTheEndIsTheEnd();
     void aNegativeDurationEndsAtTheFirstTick();
     void textThatIsNoNumberCountsAsZero();
+    void stoppingWithNothingLeftLeavesTheFieldsAlone();
     void hugeDurationsDoNotOverflow();
     void resettingRestoresTheDurationOfTheLastStart();
     void resettingWhileRunningStops();
@@ -29,6 +31,7 @@ private Q_SLOTS:
     void aMutedTimersKeepWuffingBoxStaysDisabled();
     void theRestIsToldWhenAllIsDone();
     void everyFifthTickTellsTheRestOfTheProgram();
+    void whoeverIsToldMayStopTheTimer();
     void theCountOfTicksGoesOnOverAStop();
     void startAndStopEachTellTheRestOnce();
     void savingEnergyWorksEveryFifthTickOnly();
@@ -366,6 +369,42 @@ void tst_RunCycle::theRestIsToldWhenAllIsDone()
     const QStringList expected{QStringLiteral("Stop 5s"), QStringLiteral("Start 5s"),
                                QStringLiteral("Stop Wuffer"), QStringLiteral("Reset Wuff!")};
     QCOMPARE(told, expected);
+}
+
+void tst_RunCycle::stoppingWithNothingLeftLeavesTheFieldsAlone()
+{
+    TimerFixture t;
+    t.part<QLineEdit>("_minutesField").setText(QStringLiteral("none"));
+    t.pressGo();
+    t.pressGo();
+    QCOMPARE(t.fields(), QStringLiteral("0 none 0"));
+}
+
+void tst_RunCycle::theVeryMomentOfTheEndIsTheEnd()
+{
+    TimerFixture t;
+    t.startCountdown(60);
+    t.clock.sleep(60);
+    QCOMPARE(t.timer.targetDate()->timeIntervalSinceNow(), 0.0);
+    QCOMPARE(t.display(), QStringLiteral("Wuff!"));
+}
+
+void tst_RunCycle::whoeverIsToldMayStopTheTimer()
+{
+    TimerFixture t;
+    t.startCountdown(60);
+    t.pass(4.5 * 0.037);
+    QObject observer;
+    NotificationCenter::defaultCenter().addObserver(observer, QStringLiteral("statusChanged"),
+                                                    [&](QObject *) {
+                                                        if (t.timer.isRunning())
+                                                            t.pressGo();
+                                                    });
+    t.clock.sleep(70);
+    QVERIFY(!t.timer.isRunning());
+    QCOMPARE(t.go(), QStringLiteral("Start"));
+    QVERIFY(t.notifications.shown.empty());
+    QVERIFY(t.clock.isIdle());
 }
 
 WUFFER_TEST_MAIN(tst_RunCycle)

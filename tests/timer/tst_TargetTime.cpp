@@ -14,6 +14,7 @@ class tst_TargetTime final : public Test
 private Q_SLOTS:
     void theSheetBeginsAtTheDurationTyped();
     void nothingEarlierThanNowCanBePicked();
+    void whatIsPickedIsAWholeSecond();
     void theCalendarAndTheFieldFollowEachOther();
     void theTimeAfterConfirmingIsAnOrdinaryCountdown();
     void theFractionOfTheSecondsIsCutByTheStart();
@@ -177,6 +178,14 @@ void tst_TargetTime::aStartMeanwhileEndsTheSheet()
     t.pressGo();
     QVERIFY(!sheet(t).isVisible());
     QVERIFY(t.timer.isRunning());
+}
+
+void tst_TargetTime::whatIsPickedIsAWholeSecond()
+{
+    TimerFixture t;
+    QVERIFY(t.clock.calendarNow().time().msec() != 0);
+    t.timer.targetTime();
+    QCOMPARE(sheet(t).dateValue().time().msec(), 0);
 }
 
 WUFFER_TEST_MAIN(tst_TargetTime)

@@ -172,6 +172,7 @@ void tst_Conversions::weightsAndTemperatures_data()
     QTest::newRow("where both are the same") << toFahrenheit << -40.0F << -40.0F;
     QTest::newRow("a summer's day") << toFahrenheit << 21.3F << 70.34F;
     QTest::newRow("in single precision") << toFahrenheit << -273.15F << -459.66998F;
+    QTest::newRow("in single precision at every step") << toFahrenheit << -48.0F << -54.4F;
     const Conversion toCelsius = Conversions::celsiusFromFahrenheit;
     QTest::newRow("water boils in Fahrenheit") << toCelsius << 212.0F << 100.0F;
     QTest::newRow("no Fahrenheit") << toCelsius << 0.0F << -17.777779F;

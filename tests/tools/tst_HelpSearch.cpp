@@ -32,6 +32,7 @@ void tst_HelpSearch::wordsAreFound_data()
     row("one word within the other", "looping loop", "Loop|looping|");
     row("the same word twice", "tea tea", "tea|");
     row("words that overlap are one place", "loopi oping", "looping|");
+    row("words that touch are two places", "loop ing", "Loop|loop|ing|");
     row("a plain apostrophe", "doesn't", "doesn’t|");
     row("a curly apostrophe", "doesn’t", "doesn’t|");
     row("on both sides of a blank that keeps a line together", "cup of", "cup|of|");
