@@ -45,6 +45,11 @@ Wuffer::~Wuffer()
 {
     // The display must be back in its window before that goes.
     setWindowed();
+    // A window in sight takes the focus from its fields when it goes, and there is nobody to tell
+    // by then.
+    for (const QObject *control : _window->findChildren<QObject *>())
+        control->disconnect(this);
+    _window->disconnect(this);
 }
 
 void Wuffer::awakeFromNib()

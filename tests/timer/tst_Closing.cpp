@@ -24,6 +24,7 @@ private Q_SLOTS:
     void aClosedTimerIsDestroyed();
     void aRunningTimerClosesWithoutATrace();
     void aClosedTimerIsGoneWhenTheRestIsTold();
+    void aTimerThatIsDestroyedInSightGoesQuietly();
 
 private:
     static void letGo() { QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); }
@@ -164,6 +165,22 @@ void tst_Closing::aClosedTimerIsGoneWhenTheRestIsTold()
     t.timer.window()->close();
     QVERIFY(!listed);
     QVERIFY(!enabled);
+}
+
+void tst_Closing::aTimerThatIsDestroyedInSightGoesQuietly()
+{
+    const TestServices services;
+    auto timer = std::make_unique<Wuffer>();
+    const QPointer<QWidget> window(timer->window());
+    window->show();
+    window->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(window));
+    auto *name = window->findChild<QLineEdit *>(QStringLiteral("_titleField"));
+    name->setFocus();
+    QVERIFY(name->hasFocus());
+    QTest::keyClicks(name, QStringLiteral("Tea"));
+    timer.reset();
+    QVERIFY(!window);
 }
 
 WUFFER_TEST_MAIN(tst_Closing)
