@@ -71,8 +71,7 @@ class WindowsTest(DesktopTest):
         program.start_countdown(60)
         program.wait_for_button("Stop")
         self.display.key("ctrl+w")
-        program.wait_for_button("New Timer")
-        program.wait_for_windows(1)
+        program.wait_for_home()
         self.quit(program)
 
     def test_the_program_is_quit_while_a_timer_runs_which_is_not_saved(self):

@@ -63,7 +63,7 @@ class DesktopTest(unittest.TestCase):
 
     def close_home(self, program):
         """Waits for the home window and closes it as the button in the title bar does."""
-        program.wait_for_button("New Timer")
+        program.wait_for_home()
         start = time.monotonic()
         self.display.key("alt+F4")
         seconds, status = program.wait_for_end(start)

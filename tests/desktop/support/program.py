@@ -186,8 +186,17 @@ class Program:
 
     # The end
 
+    def wait_for_home(self):
+        """Waits until the home window has taken the place of the last one; gives it."""
+        self.wait_for_button("New Timer")
+        home, = self.wait_for_windows(1)
+        wait_until(lambda: self.display.active_window() == home, 5, "the home window is active")
+        return home
+
     def quit(self):
         """Quits with the keyboard; gives how many seconds that took and the exit status."""
+        # A window that has just closed leaves the keyboard to nobody for a moment.
+        wait_until(self.has_focus, 5, "a window of the program is active")
         start = time.monotonic()
         self.display.key("ctrl+q")
         return self.wait_for_end(start)
@@ -195,9 +204,7 @@ class Program:
     def close_all(self):
         """Closes its only timer, and the home window that takes its place; gives the same."""
         self.display.key("ctrl+w")
-        self.wait_for_button("New Timer")
-        home, = self.wait_for_windows(1)
-        wait_until(lambda: self.display.active_window() == home, 5, "the home window is active")
+        self.wait_for_home()
         start = time.monotonic()
         self.display.key("ctrl+w")
         return self.wait_for_end(start)
