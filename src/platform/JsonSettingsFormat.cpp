@@ -44,7 +44,7 @@ bool mayReplace(const QString &path)
 bool write(QIODevice &device, const QSettings::SettingsMap &map)
 {
     auto *file = qobject_cast<QFileDevice *>(&device);
-    if (!file || !mayReplace(file->fileName()))
+    if (file == nullptr || !mayReplace(file->fileName()))
         return false;
     // Names of timers and paths of sounds are nobody else's business.
     file->setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner);

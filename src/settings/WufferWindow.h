@@ -51,7 +51,7 @@ public:
 
     /// Shows every window of this one's chain in the highlight, or in the colour that is normal
     /// for this window.
-    void highlightChain(bool on);
+    void highlightChain(bool on) const;
 
 Q_SIGNALS:
     /// The window is about to close. It cannot be refused.

@@ -142,7 +142,7 @@ bool WufferWindow::performDragOperation(const QDropEvent &drag)
     return true;
 }
 
-void WufferWindow::highlightChain(bool on)
+void WufferWindow::highlightChain(bool on) const
 {
     const QColor color = on ? QColor(Qt::white) : normalColor();
     for (const Wuffer *timer : delegate().chainedWuffers())

@@ -82,7 +82,7 @@ bool SndFileDecoder::rewind()
 
 bool SndFileDecoder::isPlayable()
 {
-    if (!_file || !_info.seekable)
+    if (!_file || _info.seekable == 0)
         return false;
     // FLAC states its length at the beginning, whatever is there. The uncompressed formats count
     // what is there, and an Ogg stream without its end has no believable length.
