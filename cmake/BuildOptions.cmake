@@ -51,6 +51,7 @@ if(WUFFER_SANITIZE)
 endif()
 
 if(WUFFER_COVERAGE)
-    target_compile_options(wuffer_build_options INTERFACE --coverage)
+    # Threads that count the same line at once would spoil its counter.
+    target_compile_options(wuffer_build_options INTERFACE --coverage -fprofile-update=atomic)
     target_link_options(wuffer_build_options INTERFACE --coverage)
 endif()
