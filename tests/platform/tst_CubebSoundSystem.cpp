@@ -11,9 +11,11 @@
 
 namespace
 {
-/// How late the end of a sound may be noticed here, in seconds: on a busy computer, but less than
-/// the shortest of them lasts, so that one which is played again is noticed.
-constexpr double kSlack = 0.29;
+/// How late the end of a sound may be noticed here, in seconds.
+constexpr double kSlack = 0.2;
+/// How often a measurement is made: a busy computer notices an end late now and then, but what the
+/// sounds themselves do late, they do each time.
+constexpr int kAttempts = 3;
 
 qsizetype threadCount()
 {
@@ -39,9 +41,15 @@ double secondsUntilSilent(const Sound &sound, QElapsedTimer timer = startedTimer
 }
 } // namespace
 
-#define VERIFY_ABOUT(actual, expected)                                                             \
+/// Plays, and verifies that it takes about so many seconds.
+#define VERIFY_LASTS(play, expected)                                                               \
     do {                                                                                           \
-        const double seconds = actual;                                                             \
+        double seconds = 0;                                                                        \
+        for (int attempt = 0; attempt < kAttempts; ++attempt) {                                    \
+            seconds = (play)();                                                                    \
+            if (seconds < (expected) + kSlack)                                                     \
+                break;                                                                             \
+        }                                                                                          \
         QVERIFY2(seconds > (expected)-0.01 && seconds < (expected) + kSlack,                       \
                  qPrintable(QString::number(seconds)));                                            \
     } while (false)
@@ -156,8 +164,11 @@ void tst_CubebSoundSystem::aSoundOfTheProgramIsFoundByName()
     QVERIFY(blip);
     QCOMPARE(blip->name(), QStringLiteral("test-blip.wav"));
     QCOMPARE(blip->duration(), 0.3);
-    blip->play();
-    VERIFY_ABOUT(secondsUntilSilent(*blip), 0.3);
+    const auto play = [&] {
+        blip->play();
+        return secondsUntilSilent(*blip);
+    };
+    VERIFY_LASTS(play, 0.3);
     QVERIFY(!_system->soundNamed(QStringLiteral("missing.wav")));
     QVERIFY(!_system->soundNamed(QString()));
 }
@@ -174,19 +185,24 @@ void tst_CubebSoundSystem::aFileThatIsNoSoundNeverPlays()
 void tst_CubebSoundSystem::aSoundPlaysForItsLength()
 {
     const auto half = sound(0.5);
-    half->play();
-    QVERIFY(half->isPlaying());
-    VERIFY_ABOUT(secondsUntilSilent(*half), 0.5);
+    const auto play = [&] {
+        half->play();
+        return half->isPlaying() ? secondsUntilSilent(*half) : 0;
+    };
+    VERIFY_LASTS(play, 0.5);
 }
 
 void tst_CubebSoundSystem::playingAgainChangesNothing()
 {
     const auto half = sound(0.5);
-    const QElapsedTimer timer = startedTimer();
-    half->play();
-    QTest::qWait(400);
-    half->play();
-    VERIFY_ABOUT(secondsUntilSilent(*half, timer), 0.5);
+    const auto playTwice = [&] {
+        const QElapsedTimer timer = startedTimer();
+        half->play();
+        QTest::qWait(250);
+        half->play();
+        return secondsUntilSilent(*half, timer);
+    };
+    VERIFY_LASTS(playTwice, 0.5);
 }
 
 void tst_CubebSoundSystem::stoppingEndsAtOnce()
@@ -202,12 +218,14 @@ void tst_CubebSoundSystem::stoppingEndsAtOnce()
 void tst_CubebSoundSystem::aStoppedSoundBeginsAtTheBeginning()
 {
     const auto half = sound(0.5);
-    half->play();
-    QTest::qWait(300);
-    half->stop();
-    half->play();
-    QVERIFY(half->isPlaying());
-    VERIFY_ABOUT(secondsUntilSilent(*half), 0.5);
+    const auto playAgain = [&] {
+        half->play();
+        QTest::qWait(300);
+        half->stop();
+        half->play();
+        return half->isPlaying() ? secondsUntilSilent(*half) : 0;
+    };
+    VERIFY_LASTS(playAgain, 0.5);
 }
 
 void tst_CubebSoundSystem::aStopWinsOverThePlayBeforeIt()
@@ -233,13 +251,16 @@ void tst_CubebSoundSystem::aSoundMayBeDestroyedAtAnyMoment()
 void tst_CubebSoundSystem::aLoopGoesOnUntilToldOtherwise()
 {
     const auto third = sound(0.3);
-    third->setLoops(true);
-    const QElapsedTimer timer = startedTimer();
-    third->play();
-    QTest::qWait(700);
-    QVERIFY(third->isPlaying());
-    third->setLoops(false);
-    VERIFY_ABOUT(secondsUntilSilent(*third, timer), 0.9);
+    const auto loop = [&] {
+        third->setLoops(true);
+        const QElapsedTimer timer = startedTimer();
+        third->play();
+        QTest::qWait(700);
+        const bool goesOn = third->isPlaying();
+        third->setLoops(false);
+        return goesOn ? secondsUntilSilent(*third, timer) : 0;
+    };
+    VERIFY_LASTS(loop, 0.9);
 }
 
 void tst_CubebSoundSystem::aLoopMayBeginWhileTheSoundPlays()
@@ -255,13 +276,16 @@ void tst_CubebSoundSystem::aLoopMayBeginWhileTheSoundPlays()
 void tst_CubebSoundSystem::theLoopFlagCountsOnlyAtTheEnd()
 {
     const auto half = sound(0.5);
-    const QElapsedTimer timer = startedTimer();
-    half->play();
-    for (int i = 0; i < 20; ++i) {
-        half->setLoops(i % 2 == 0);
-        QTest::qWait(10);
-    }
-    VERIFY_ABOUT(secondsUntilSilent(*half, timer), 0.5);
+    const auto play = [&] {
+        const QElapsedTimer timer = startedTimer();
+        half->play();
+        for (int i = 0; i < 20; ++i) {
+            half->setLoops(i % 2 == 0);
+            QTest::qWait(10);
+        }
+        return secondsUntilSilent(*half, timer);
+    };
+    VERIFY_LASTS(play, 0.5);
 }
 
 void tst_CubebSoundSystem::manySoundsEndOnTime()
@@ -269,23 +293,28 @@ void tst_CubebSoundSystem::manySoundsEndOnTime()
     std::vector<std::unique_ptr<Sound>> sounds;
     for (int i = 0; i < 40; ++i)
         sounds.push_back(sound(0.5));
-    const QElapsedTimer timer = startedTimer();
-    for (const auto &one : sounds)
-        one->play();
-    QVERIFY(std::ranges::all_of(sounds, &Sound::isPlaying));
     const auto allAreSilent = [&] { return std::ranges::none_of(sounds, &Sound::isPlaying); };
-    QVERIFY(QTest::qWaitFor(allAreSilent));
-    VERIFY_ABOUT(static_cast<double>(timer.elapsed()) / 1000, 0.5);
+    const auto playAll = [&] {
+        const QElapsedTimer timer = startedTimer();
+        for (const auto &one : sounds)
+            one->play();
+        const bool allPlay = std::ranges::all_of(sounds, &Sound::isPlaying);
+        return allPlay && QTest::qWaitFor(allAreSilent) ? double(timer.elapsed()) / 1000 : 0;
+    };
+    VERIFY_LASTS(playAll, 0.5);
 }
 
 void tst_CubebSoundSystem::oneSoundsStopLeavesTheOthersPlaying()
 {
     const auto first = sound(0.5);
     const auto second = sound(0.5);
-    first->play();
-    second->play();
-    first->stop();
-    VERIFY_ABOUT(secondsUntilSilent(*second), 0.5);
+    const auto playBoth = [&] {
+        first->play();
+        second->play();
+        first->stop();
+        return secondsUntilSilent(*second);
+    };
+    VERIFY_LASTS(playBoth, 0.5);
 }
 
 void tst_CubebSoundSystem::soundsOfDifferentRatesPlayTogether()
@@ -293,10 +322,14 @@ void tst_CubebSoundSystem::soundsOfDifferentRatesPlayTogether()
     for (const int sampleRate : {1000, 8000, 44100, 192'000}) {
         const auto one = sound(0.4, sampleRate);
         const auto other = sound(0.4, 48000);
-        one->play();
-        other->play();
-        VERIFY_ABOUT(secondsUntilSilent(*one), 0.4);
-        QTRY_VERIFY_WITH_TIMEOUT(!other->isPlaying(), 200);
+        const auto playBoth = [&] {
+            const QElapsedTimer timer = startedTimer();
+            one->play();
+            other->play();
+            const double first = secondsUntilSilent(*one, timer);
+            return std::max(first, secondsUntilSilent(*other, timer));
+        };
+        VERIFY_LASTS(playBoth, 0.4);
     }
 }
 
