@@ -51,7 +51,6 @@ if(WUFFER_SANITIZE)
 endif()
 
 if(WUFFER_COVERAGE)
-    # Threads that count the same line at once would spoil its counter.
-    target_compile_options(wuffer_build_options INTERFACE --coverage -fprofile-update=atomic)
+    target_compile_options(wuffer_build_options INTERFACE --coverage)
     target_link_options(wuffer_build_options INTERFACE --coverage)
 endif()
