@@ -3,7 +3,8 @@
 #include <QComboBox>
 
 /// A combo box that says when its list is about to open, so that the list can be brought up to
-/// date first.
+/// date first. While the list is closed the wheel selects nothing: it was meant for what lies
+/// around the box.
 class PopUpComboBox final : public QComboBox
 {
     Q_OBJECT
@@ -15,4 +16,7 @@ public:
 
 Q_SIGNALS:
     void willPopUp();
+
+protected:
+    void wheelEvent(QWheelEvent *event) override;
 };
