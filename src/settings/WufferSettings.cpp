@@ -3,6 +3,7 @@
 #include "settings/TimerSettings.h"
 #include "settings/WufferWindow.h"
 #include "timer/NameText.h"
+#include "timer/TimeEntry.h"
 #include "timer/TimerTexts.h"
 #include "timer/Wuffer.h"
 #include "ui_Wuffer.h"
@@ -42,6 +43,7 @@ TimerSettings Wuffer::settings() const
 
 void Wuffer::storeSettingsInDefaultsWithKey(const QString &key)
 {
+    _timeEntry->settle();
     TimerSettings kept = settings();
     if (key != kDefaultKey) {
         kept.individualAlarmPath = _ui->_alarmSoundCombo->dataObjectOfSelectedItem();
@@ -86,6 +88,7 @@ void Wuffer::takeOver(const TimerSettings &settings)
     handleFinishedComboChange();
     if (_ui->_finishedCombo->currentText() == kWufferFinishedPreset)
         _ui->_finishedPicker->setCurrentIndex(settings.presetSelection.value_or(0));
+    _timeEntry->makeReady();
 }
 
 void Wuffer::showAsPreset(const TimerSettings &settings, const QString &key)

@@ -5,6 +5,7 @@
 #include "settings/WufferWindow.h"
 #include "timer/RunTimes.h"
 #include "timer/TargetTimeSheet.h"
+#include "timer/TimeEntry.h"
 #include "timer/TimeFormat.h"
 #include "timer/TimerTexts.h"
 #include "ui_Wuffer.h"
@@ -74,9 +75,8 @@ void Wuffer::fitControls()
     fitToTitles(*_ui->_goButton, {kGoButtonStart, kGoButtonStop, kGoButtonReset,
                                   kGoButtonStartChain, kGoButtonChained});
     fitToTitles(*_ui->_finishedDrawerButton, {kMoreOptions, kHideOptions});
-    // Most countdowns are minutes: what is typed straight away goes there.
-    _ui->_minutesField->setFocus();
-    _ui->_minutesField->selectAll();
+    _timeEntry = std::make_unique<TimeEntry>(
+        *_window, TimeEntry::Fields{_ui->_hoursField, _ui->_minutesField, _ui->_secondsField});
 }
 
 void Wuffer::connectControls()
@@ -89,8 +89,8 @@ void Wuffer::connectControls()
     connect(_ui->_helpButton, &QToolButton::clicked, this, &Wuffer::getFinishingHelp);
     connect(_ui->_keepWuffingBox, &QCheckBox::clicked, this, &Wuffer::removePresetColor);
     connect(_ui->_displayBox, &DisplayBox::fullScreenCloseRequested, this, &Wuffer::setWindowed);
-    for (QLineEdit *field :
-         {_ui->_titleField, _ui->_hoursField, _ui->_minutesField, _ui->_secondsField}) {
+    for (QLineEdit *field : std::initializer_list<QLineEdit *>{
+             _ui->_titleField, _ui->_hoursField, _ui->_minutesField, _ui->_secondsField}) {
         connect(field, &QLineEdit::textEdited, this,
                 [this, field] { controlTextDidChange(*field); });
         connect(field, &QLineEdit::editingFinished, this,

@@ -18,6 +18,7 @@ class QComboBox;
 class QLineEdit;
 struct RunTimes;
 class TargetTimeSheet;
+class TimeEntry;
 struct TimerSettings;
 class WebbyComboBox;
 class WufferWindow;
@@ -263,8 +264,8 @@ private:
     TextColor _titleColor = TextColor::Black;
     TextColor _elapsedColor = TextColor::Black;
 
-    /// The number field that had the focus when the run began; null when none had.
-    QLineEdit *_fieldInUse = nullptr;
+    /// What is typed into the number fields.
+    std::unique_ptr<TimeEntry> _timeEntry;
 
     bool _timerStarted = false;
     std::optional<Date> _targetDate;

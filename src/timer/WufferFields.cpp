@@ -1,6 +1,7 @@
 #include "settings/WufferWindow.h"
 #include "timer/NameText.h"
 #include "timer/NumberText.h"
+#include "timer/TimeEntry.h"
 #include "timer/TimeFields.h"
 #include "timer/Wuffer.h"
 #include "ui_Wuffer.h"
@@ -31,6 +32,7 @@ void Wuffer::setFieldsWithTimeLeft(double timeLeft)
     _ui->_hoursField->setText(QString::number(fields.hours));
     _ui->_minutesField->setText(QString::number(fields.minutes));
     _ui->_secondsField->setText(NumberText::fromSeconds(fields.seconds));
+    _timeEntry->makeReady();
 }
 
 void Wuffer::controlTextDidChange(const QLineEdit &field)

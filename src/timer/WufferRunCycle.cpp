@@ -5,13 +5,12 @@
 #include "timer/BeepSchedule.h"
 #include "timer/NumberText.h"
 #include "timer/RunTimes.h"
+#include "timer/TimeEntry.h"
 #include "timer/TimeFields.h"
 #include "timer/TimerTexts.h"
 #include "timer/Wuffer.h"
 #include "ui_Wuffer.h"
 
-#include <algorithm>
-#include <array>
 #include <cmath>
 
 namespace
@@ -56,6 +55,7 @@ void Wuffer::startRun()
     setColorForDisplayText(TextColor::Black, false);
     _timerStarted = true;
 
+    _timeEntry->settle();
     const qint32 total = TimeFields::total(hours(), minutes(), seconds());
     const Date now = Date::now();
     if (_stopwatch) {
@@ -194,18 +194,10 @@ void Wuffer::setRunningControls(bool running, const QString &goTitle)
 {
     _ui->_goButton->setText(goTitle);
     _ui->_goButton->setEnabled(true);
-    const std::array fields{_ui->_hoursField, _ui->_minutesField, _ui->_secondsField};
-    if (running) {
-        const auto *used = std::ranges::find(fields, _window->focusWidget());
-        _fieldInUse = used == fields.end() ? nullptr : *used;
-        if (_fieldInUse)
-            _ui->_goButton->setFocus();
-    }
-    for (QLineEdit *field : fields)
-        field->setEnabled(!running);
-    // The next time is typed where the last one was, unless the user has gone elsewhere.
-    if (!running && _fieldInUse && _window->focusWidget() == _ui->_goButton)
-        _fieldInUse->setFocus(Qt::TabFocusReason);
+    if (running)
+        _timeEntry->lock(*_ui->_goButton);
+    else
+        _timeEntry->unlock(*_ui->_goButton);
 }
 
 void Wuffer::postStatusChanged()

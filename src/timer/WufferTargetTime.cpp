@@ -2,6 +2,7 @@
 #include "platform/Service.h"
 #include "settings/WufferWindow.h"
 #include "timer/TargetTimeSheet.h"
+#include "timer/TimeEntry.h"
 #include "timer/Wuffer.h"
 
 void Wuffer::targetTime()
@@ -12,6 +13,7 @@ void Wuffer::targetTime()
         _targetTimeWindow = std::make_unique<TargetTimeSheet>(*_window);
         connect(_targetTimeWindow.get(), &QDialog::accepted, this, &Wuffer::startWithTargetTime);
     }
+    _timeEntry->settle();
     const QDateTime now = Service<Clock>::current().calendarNow();
     _targetTimeWindow->setMinDate(now);
     _targetTimeWindow->setDateValue(now.addSecs(static_cast<qint64>(timeLeftFromFields())));
