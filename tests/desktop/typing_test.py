@@ -1,0 +1,75 @@
+#!/usr/bin/python3
+"""Sets timers by hand: with real keys, the wheel, and the text that is selected.
+
+Usage: typing_test.py WUFFER FOLDER [unittest arguments]
+"""
+
+from support.case import DesktopTest, main
+from support.waiting import wait_until
+
+LAST_TIME = '{"defaultWufferSettings": {"title": "1h 5m", "minutes": 4, "seconds": 57}}'
+WHEEL_UP, WHEEL_DOWN = 4, 5
+MIDDLE = 2
+
+
+class TypingTest(DesktopTest):
+    def fields(self, program):
+        return " ".join(program.text(field) for field in ("Hours", "Minutes", "Seconds"))
+
+    def wait_for_fields(self, program, fields):
+        wait_until(lambda: self.fields(program) == fields, 3, f"the fields say {fields}")
+
+    def middle_of(self, program, role, name):
+        place = program.place(program.find(role, name))
+        return place.x + place.width // 2, place.y + place.height // 2
+
+    def launch_ready(self):
+        program = self.launch(settings=LAST_TIME)
+        program.wait_for_focus_in("Minutes")
+        self.assertEqual(self.fields(program), "0 4 57")
+        return program
+
+    def test_what_is_typed_after_a_launch_replaces(self):
+        program = self.launch_ready()
+        self.display.type("10")
+        self.wait_for_fields(program, "0 10 57")
+        self.display.key("Return")
+        program.wait_for_button("Stop")
+        self.assertRegex(program.shown("Time"), "^10m 5[0-9]s$")
+        # With the mouse, too, the next time goes where the last one was typed.
+        self.display.click(*self.middle_of(program, "button", "Stop"))
+        program.wait_for_button("Start")
+        program.wait_for_focus_in("Minutes")
+        self.display.type("8")
+        wait_until(lambda: program.text("Minutes") == "8", 3, "8 has replaced what was left")
+        self.quit(program)
+
+    def test_colons_and_letters_lead_through_the_fields(self):
+        program = self.launch_ready()
+        self.display.type("1:02:03")
+        self.wait_for_fields(program, "1 02 03")
+        self.display.type("h5m")
+        program.wait_for_focus_in("Seconds")
+        self.wait_for_fields(program, "03 5 0")
+        self.quit(program)
+
+    def test_the_wheel_turns_the_number_in_focus_only(self):
+        program = self.launch_ready()
+        self.display.click(*self.middle_of(program, "field", "Seconds"), WHEEL_UP)
+        self.display.click(*self.middle_of(program, "field", "Minutes"), WHEEL_UP)
+        self.display.click(*self.middle_of(program, "field", "Minutes"), WHEEL_UP)
+        self.display.click(*self.middle_of(program, "field", "Minutes"), WHEEL_DOWN)
+        self.wait_for_fields(program, "0 5 57")
+        self.quit(program)
+
+    def test_the_middle_button_pastes_what_is_selected(self):
+        program = self.launch_ready()
+        self.display.click(*self.middle_of(program, "field", "Name"))
+        self.display.key("ctrl+a")
+        self.display.click(*self.middle_of(program, "field", "Minutes"), MIDDLE)
+        self.wait_for_fields(program, "1 5 0")
+        self.quit(program)
+
+
+if __name__ == "__main__":
+    main()
