@@ -5,6 +5,7 @@
 #include "timer/TargetTimeSheet.h"
 
 #include <QAction>
+#include <QTest>
 
 #include <algorithm>
 #include <array>
@@ -43,6 +44,7 @@ const std::vector<Resident::Habit> &Resident::habits()
         {5, "close", &R::close},
         {1, "close all", &R::closeAll},
         {8, "type a duration", &R::typeDuration},
+        {3, "press keys", &R::pressKeys},
         {2, "type a name", &R::typeName},
         {30, "start", &R::start},
         {6, "stop", &R::stop},
@@ -175,6 +177,19 @@ void Resident::typeDuration()
         user.typeDuration(-_random.bounded(2), _random.bounded(100), -_random.bounded(100));
     else
         user.typeDuration(inOneOf(4) ? _random.bounded(30) : 0, upTo(90), _random.bounded(60));
+}
+
+void Resident::pressKeys()
+{
+    static constexpr std::array keys{'0', '1', '2', '3', '5', ':', 'h', 'm', 's', '.', '-', 'R'};
+    static constexpr std::array fields{"_hoursField", "_minutesField", "_secondsField"};
+    const TimerUser &user = any();
+    QWidget &window = *user.timer.window();
+    user.part<QLineEdit>(fields.at(std::size_t(_random.bounded(3)))).setFocus();
+    for (int count = upTo(6); count > 0 && window.focusWidget(); --count)
+        QTest::keyClick(window.focusWidget(), keys.at(std::size_t(_random.bounded(12))));
+    if (inOneOf(4) && window.focusWidget())
+        QTest::keyClick(window.focusWidget(), inOneOf(2) ? Qt::Key_Up : Qt::Key_PageDown);
 }
 
 void Resident::typeName()

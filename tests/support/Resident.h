@@ -36,6 +36,7 @@ private:
     void close();
     void closeAll();
     void typeDuration();
+    void pressKeys();
     void typeName();
     void start();
     void stop();
