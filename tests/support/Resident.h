@@ -51,6 +51,8 @@ private:
     void mute();
     void changePreference();
     void startAll();
+    void answerNotification();
+    void letNotificationGo();
     void wait();
     void watch();
     void shutTheLid();
