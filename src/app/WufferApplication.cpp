@@ -107,12 +107,14 @@ bool WufferApplication::cancelFullScreenMode()
     return cancelled;
 }
 
-void WufferApplication::cancelFullScreenModeForOthers(const Wuffer &timer)
+bool WufferApplication::cancelFullScreenModeForOthers(const Wuffer &timer)
 {
+    bool cancelled = false;
     for (Wuffer *other : getWuffers()) {
         if (other != &timer)
-            other->setWindowed();
+            cancelled = other->giveUpFullScreen() || cancelled;
     }
+    return cancelled;
 }
 
 void WufferApplication::showHelp(const QString &page)

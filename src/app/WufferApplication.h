@@ -40,8 +40,8 @@ public:
     /// Ends full-screen mode of every timer. True when at least one was in it.
     bool cancelFullScreenMode();
 
-    /// Ends full-screen mode of every timer but this one.
-    void cancelFullScreenModeForOthers(const Wuffer &timer);
+    /// Ends full-screen mode of every timer but this one. True when another was in it.
+    bool cancelFullScreenModeForOthers(const Wuffer &timer);
 
     /// Whether the program is about to end.
     [[nodiscard]] static bool isQuitting() { return instance()._quitting; }

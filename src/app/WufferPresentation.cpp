@@ -75,6 +75,14 @@ bool Wuffer::setWindowed()
     return true;
 }
 
+bool Wuffer::giveUpFullScreen()
+{
+    const bool gaveUp = setWindowed();
+    if (gaveUp)
+        _alarmNotification.expectActivation();
+    return gaveUp;
+}
+
 void Wuffer::showHideAdvanced()
 {
     // Asked before the drawer moves: one that is still closing opens again under the title of
@@ -86,6 +94,15 @@ void Wuffer::showHideAdvanced()
 
 void Wuffer::showWufferWindow()
 {
+    _alarmNotification.answer();
+    bringToFront(*_window);
+}
+
+void Wuffer::comeForward()
+{
+    // The window system does not tell of one that is the active window already.
+    if (!_window->isActiveWindow())
+        _alarmNotification.expectActivation();
     bringToFront(*_window);
 }
 

@@ -123,6 +123,14 @@ void DisplayBox::destroyPlaceholder()
         disconnect(placeholder.get(), nullptr, this, nullptr);
 }
 
+bool DisplayBox::event(QEvent *event)
+{
+    const bool handled = QFrame::event(event);
+    if (event->type() == QEvent::WindowActivate)
+        Q_EMIT windowActivated();
+    return handled;
+}
+
 void DisplayBox::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);

@@ -31,8 +31,12 @@ public:
 Q_SIGNALS:
     /// Somebody asked the window manager to close the window that fills the screen.
     void fullScreenCloseRequested();
+    /// The window that the box is in, be it its own or the one that fills the screen, has become
+    /// the active one.
+    void windowActivated();
 
 protected:
+    bool event(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
 private:

@@ -9,6 +9,23 @@ class QObject;
 /// What a desktop notification says, in plain text, and what can be done with it.
 struct DesktopNotification
 {
+    /// Why it comes up.
+    enum class Occasion {
+        /// Something has happened.
+        News,
+        /// What stands offers something else from now on, and says the same.
+        Change,
+        /// It went by itself and is needed still: it comes back, without asking to be noticed.
+        Reminder,
+    };
+    /// How one that was not withdrawn has gone.
+    enum class End {
+        /// The desktop has shown it for as long as it shows such ones.
+        Expired,
+        /// The user has taken it away, or it is not known how it went.
+        Dismissed,
+    };
+
     QString title;
     QString text;
     /// What kind of event it tells of, in the program's own words.
@@ -22,7 +39,9 @@ struct DesktopNotification
     std::function<void()> show = {};
     std::function<void()> stop = {};
     /// Called when it has gone by itself or been dismissed by the user.
-    std::function<void()> closed = {};
+    std::function<void(End)> closed = {};
+
+    Occasion occasion = Occasion::News;
 };
 
 /// Shows notifications outside the windows of the program. A notification that cannot be shown

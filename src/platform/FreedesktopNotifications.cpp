@@ -78,16 +78,25 @@ QString iconName()
     return QGuiApplication::applicationName();
 }
 
-/// The arguments of Notify, in the order of the protocol.
-QVariantList notifyArguments(const DesktopNotification &notification, uint replacedId,
-                             const QStringList &capabilities)
+QVariantMap hintsFor(const DesktopNotification &notification)
 {
-    const QVariantMap hints{
+    QVariantMap hints{
         {QStringLiteral("desktop-entry"), QGuiApplication::desktopFileName()},
         {QStringLiteral("category"), QString(QStringLiteral("x-wuffer.") + notification.name)},
         // The program plays its own alarm.
         {QStringLiteral("suppress-sound"), true},
     };
+    // Nor does the desktop list each return of one among what was missed.
+    constexpr uchar low = 0;
+    if (notification.occasion == DesktopNotification::Occasion::Reminder)
+        hints[QStringLiteral("urgency")] = QVariant::fromValue(low);
+    return hints;
+}
+
+/// The arguments of Notify, in the order of the protocol.
+QVariantList notifyArguments(const DesktopNotification &notification, uint replacedId,
+                             const QStringList &capabilities)
+{
     const bool markup = capabilities.contains(QStringLiteral("body-markup"));
     const bool actions = capabilities.contains(QStringLiteral("actions"));
     constexpr int serversOwnTimeout = -1;
@@ -97,8 +106,17 @@ QVariantList notifyArguments(const DesktopNotification &notification, uint repla
             notification.title,
             markup ? notification.text.toHtmlEscaped() : notification.text,
             actions ? buttons(notification) : QStringList(),
-            hints,
+            hintsFor(notification),
             serversOwnTimeout};
+}
+
+/// How a notification has gone by the number that its server gives as the reason.
+DesktopNotification::End endSaidBy(const QVariant &reason)
+{
+    constexpr uint expired = 1;
+    return reason.typeId() == QMetaType::UInt && reason.toUInt() == expired
+               ? DesktopNotification::End::Expired
+               : DesktopNotification::End::Dismissed;
 }
 
 template<class Function>
@@ -185,7 +203,8 @@ void FreedesktopNotifications::hear(const QDBusMessage &signal)
         useActivationToken(arguments.back().toString());
     } else if (signal.member() == QLatin1String("NotificationClosed")) {
         conversation->id = 0;
-        action = std::exchange(conversation->shown, {})->closed;
+        if (const auto closed = std::exchange(conversation->shown, {})->closed)
+            action = [closed, end = endSaidBy(arguments.back())] { closed(end); };
     }
     if (action)
         action();

@@ -82,7 +82,7 @@ void Wuffer::handleFinishedBehaviour()
     const QString option = _ui->_finishedCombo->currentText();
     if (option == kWufferFinishedRestart) {
         ++_repeatCount;
-        goPressed();
+        toggleRun();
         return;
     }
     _repeatCount = 1;
@@ -98,7 +98,7 @@ void Wuffer::startChosenPreset()
     // timer runs again as it is.
     const auto number = static_cast<quint32>(_ui->_finishedPicker->currentIndex() + 1);
     loadSettingsFromDefaultsWithKey(keyForPreset(number), false);
-    goPressed();
+    toggleRun();
 }
 
 void Wuffer::startTargetWuffer()
@@ -108,10 +108,10 @@ void Wuffer::startTargetWuffer()
         return;
     }
     Wuffer &target = *_targetWuffer;
-    target.goPressed();
+    target.toggleRun();
     // Whoever was told of the start may have closed it.
     if (!target._closed)
-        target.showWufferWindow();
+        target.comeForward();
 }
 
 void Wuffer::getFinishingHelp()

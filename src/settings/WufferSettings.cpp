@@ -71,7 +71,7 @@ void Wuffer::loadSettingsFromDefaultsWithKey(const QString &key, bool moveWindow
         if (moveWindow)
             restorePlace(key);
     }
-    showWufferWindow();
+    comeForward();
 }
 
 void Wuffer::takeOver(const TimerSettings &settings)

@@ -26,7 +26,10 @@ GatheredNotifications::GatheredNotifications(DesktopNotifications &desktop) : _d
 
 void GatheredNotifications::notify(const QObject &sender, const DesktopNotification &notification)
 {
+    using Occasion = DesktopNotification::Occasion;
     const auto before = find(sender);
+    if (before != _standing.end() && notification.occasion == Occasion::Change)
+        return change(*before, notification);
     if (before == _standing.end()) {
         // Once for each sender, however often it comes back.
         disconnect(&sender, &QObject::destroyed, this, nullptr);
@@ -35,7 +38,7 @@ void GatheredNotifications::notify(const QObject &sender, const DesktopNotificat
         _standing.erase(before);
     }
     _standing.push_back({&sender, notification, false});
-    const bool tooFast = isTooFast();
+    const bool tooFast = notification.occasion == Occasion::News && isTooFast();
     if (_gathering)
         gatheredChanged();
     else if (tooFast || _standing.size() > kFew)
@@ -73,12 +76,22 @@ bool GatheredNotifications::isTooFast()
     return tooFast;
 }
 
+void GatheredNotifications::change(Standing &standing, const DesktopNotification &notification)
+{
+    const bool offeredStop = offersStop();
+    standing.notification = notification;
+    if (!_gathering)
+        showAlone(standing);
+    else if (offersStop() != offeredStop)
+        gatheredChanged();
+}
+
 void GatheredNotifications::showAlone(Standing &standing)
 {
     standing.told = true;
     const QObject *sender = standing.sender;
     DesktopNotification notification = standing.notification;
-    notification.closed = [this, sender] { close(*sender); };
+    notification.closed = [this, sender](DesktopNotification::End end) { close(*sender, end); };
     _desktop.notify(*sender, notification);
 }
 
@@ -86,8 +99,8 @@ void GatheredNotifications::gather()
 {
     _gathering = true;
     for (Standing &each : _standing) {
-        if (std::exchange(each.told, false))
-            _desktop.withdraw(*each.sender);
+        each.told = false;
+        _desktop.withdraw(*each.sender);
     }
     gatheredChanged();
 }
@@ -118,10 +131,17 @@ void GatheredNotifications::refresh()
 
 DesktopNotification GatheredNotifications::summary()
 {
+    const auto isReminder = [](const Standing &each) {
+        return each.notification.occasion == DesktopNotification::Occasion::Reminder;
+    };
     DesktopNotification summary = _standing.back().notification;
     summary.show = [this] { showLatest(); };
-    summary.stop = [this] { stopAll(); };
-    summary.closed = [this] { closeAll(); };
+    summary.stop = {};
+    if (offersStop())
+        summary.stop = [this] { stopAll(); };
+    summary.closed = [this](DesktopNotification::End end) { closeAll(end); };
+    if (!std::ranges::all_of(_standing, isReminder))
+        summary.occasion = DesktopNotification::Occasion::News;
     if (_standing.size() == 1)
         return summary;
     summary.title = tr("%n timers have ended", nullptr, static_cast<int>(_standing.size()));
@@ -136,17 +156,24 @@ DesktopNotification GatheredNotifications::summary()
     return summary;
 }
 
-void GatheredNotifications::close(const QObject &sender)
+bool GatheredNotifications::offersStop() const
+{
+    const auto isThere = [](const Standing &each) { return bool(each.notification.stop); };
+    return std::ranges::any_of(_standing, isThere);
+}
+
+void GatheredNotifications::close(const QObject &sender, DesktopNotification::End end)
 {
     const auto found = find(sender);
     if (found == _standing.end())
         return;
-    const std::function<void()> closed = found->notification.closed;
+    const auto closed = found->notification.closed;
     _standing.erase(found);
-    call(closed);
+    if (closed)
+        closed(end);
 }
 
-void GatheredNotifications::closeAll()
+void GatheredNotifications::closeAll(DesktopNotification::End end)
 {
     // One that the desktop has not been told of comes up anew with the next.
     std::vector<const QObject *> told;
@@ -155,7 +182,7 @@ void GatheredNotifications::closeAll()
             told.push_back(each.sender);
     }
     for (const QObject *sender : told)
-        close(*sender);
+        close(*sender, end);
     gatheredChanged();
 }
 
@@ -164,6 +191,7 @@ void GatheredNotifications::showLatest()
     if (_standing.empty())
         return;
     const std::function<void()> show = _standing.back().notification.show;
+    closeAll(DesktopNotification::End::Dismissed);
     call(show);
 }
 
@@ -180,4 +208,5 @@ void GatheredNotifications::stopAll()
         const std::function<void()> stop = found->notification.stop;
         call(stop);
     }
+    closeAll(DesktopNotification::End::Dismissed);
 }

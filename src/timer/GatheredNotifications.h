@@ -13,7 +13,8 @@
 ///
 /// A few notifications are passed on as they are. When more would stand at once, or come within
 /// a second, they are gathered into one that counts and names those who have sent them, and that
-/// changes about once a second at most. What the desktop does with it is not its business. Uses
+/// changes about once a second at most. Its buttons are for all of them, and so is the answer: each
+/// sender is told that its own has gone. What the desktop does with it is not its business. Uses
 /// the clock of the program, on the main thread, and wakes it only while something changes.
 class GatheredNotifications final : public QObject, public DesktopNotifications
 {
@@ -38,13 +39,15 @@ private:
 
     [[nodiscard]] std::vector<Standing>::iterator find(const QObject &sender);
     [[nodiscard]] bool isTooFast();
+    void change(Standing &standing, const DesktopNotification &notification);
     void showAlone(Standing &standing);
     void gather();
     void gatheredChanged();
     void refresh();
     [[nodiscard]] DesktopNotification summary();
-    void close(const QObject &sender);
-    void closeAll();
+    [[nodiscard]] bool offersStop() const;
+    void close(const QObject &sender, DesktopNotification::End end);
+    void closeAll(DesktopNotification::End end);
     void showLatest();
     void stopAll();
 

@@ -89,6 +89,8 @@ void Wuffer::connectControls()
     connect(_ui->_helpButton, &QToolButton::clicked, this, &Wuffer::getFinishingHelp);
     connect(_ui->_keepWuffingBox, &QCheckBox::clicked, this, &Wuffer::removePresetColor);
     connect(_ui->_displayBox, &DisplayBox::fullScreenCloseRequested, this, &Wuffer::setWindowed);
+    connect(_ui->_displayBox, &DisplayBox::windowActivated, this,
+            [this] { _alarmNotification.windowActivated(); });
     for (QLineEdit *field : std::initializer_list<QLineEdit *>{
              _ui->_titleField, _ui->_hoursField, _ui->_minutesField, _ui->_secondsField}) {
         connect(field, &QLineEdit::textEdited, this,

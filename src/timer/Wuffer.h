@@ -3,6 +3,7 @@
 #include "platform/ClockTimer.h"
 #include "platform/Date.h"
 #include "platform/Sound.h"
+#include "timer/AlarmNotification.h"
 #include "timer/DisplayRest.h"
 #include "timer/TimerColors.h"
 
@@ -30,11 +31,10 @@ class Wuffer;
 
 /// One timer: the controller of its window and of everything that runs in it.
 ///
-/// It counts down from the hours, minutes and seconds typed into it, counts up as a stopwatch, or
-/// counts down to a date picked in a sheet. At the end it rings ("wuffs"), and when the alarm is
-/// over it stops and runs its finish action. All time is measured between dates, never by counting
-/// ticks. The application owns it until its window closes; whoever else refers to it does so
-/// weakly. Bodies stand with their theme, in the file named above each group.
+/// It counts down from the hours, minutes and seconds typed into it or to a date picked in a sheet,
+/// or counts up as a stopwatch. At the end it rings ("wuffs") and then runs its finish action. Time
+/// is measured between dates, never by counting ticks. The application owns it until its window
+/// closes; all others refer to it weakly. Bodies stand in the file named above each group.
 class Wuffer final : public QObject
 {
     Q_OBJECT
@@ -62,7 +62,7 @@ public:
 
     // The run cycle: WufferRunCycle.cpp, WufferAlarmPhase.cpp.
 
-    /// Start, Stop or Reset: starts when the timer is not started, else stops. Never refused.
+    /// The user's Start, Stop or Reset: starts when not started, else stops. Never refused.
     void goPressed();
     /// Back to the state before the last start.
     void resetWuffer();
@@ -99,8 +99,7 @@ public:
     void setColorForDisplayText(TextColor color, bool elapsedToo);
     /// The idle display.
     void setDefaultDisplayValues();
-    /// A window of the program has come into view or gone from it: a display that has rested
-    /// unseen and is seen now catches up.
+    /// Some window has come into view or gone: a display that has rested and is seen catches up.
     void windowExposed();
 
     // Sounds and notifications: WufferSounds.cpp.
@@ -124,17 +123,17 @@ public:
     void setFullScreenFontSizes(bool fullScreen);
     /// Enters full-screen mode, or leaves it.
     void startStopFullScreen();
-    /// Leaves full-screen mode; answers whether the timer was in it.
+    /// Leave full-screen mode, for the user or for an alarm; answer whether the timer was in it.
     bool setWindowed();
+    bool giveUpFullScreen();
     /// Opens or closes the drawer and retitles its button.
     void showHideAdvanced();
-    /// Brings the timer's window to the front, with the whole program.
+    /// Brings the timer's window to the front, with the whole program, for the user.
     void showWufferWindow();
 
     /// What a menu item does to a timer.
     using Operation = void (Wuffer::*)();
-    /// Whether the menu item with this operation is enabled now; retitles those whose text
-    /// follows the state.
+    /// Whether the menu item with this operation is enabled; retitles what follows the state.
     [[nodiscard]] bool validateMenuItem(QAction &item, Operation action) const;
 
     // Settings: settings/WufferSettings.cpp.
@@ -175,8 +174,7 @@ public:
     /// Explains the finish actions.
     void getFinishingHelp();
 
-    // Chains of timers that start one another: settings/WufferChain.cpp. What one side is told
-    // the other learns, and no chain ever closes to a circle.
+    // Chains, known to both ends of each link and never a circle: settings/WufferChain.cpp.
 
     /// The timer that this one starts when it has finished; null when there is none.
     [[nodiscard]] Wuffer *getTargetWuffer() const { return _targetWuffer; }
@@ -220,6 +218,7 @@ private:
     void fitControls();
     void awakeFromNib();
     void connectControls();
+    void toggleRun();
     void startRun();
     void stopRun();
     void timerLoop();
@@ -255,6 +254,7 @@ private:
     void selectFinishOption(QStringView option);
     void startChosenPreset();
     void startTargetWuffer();
+    void comeForward();
 
     std::unique_ptr<WufferWindow> _window;
     std::unique_ptr<Ui::Wuffer> _ui;
@@ -264,7 +264,6 @@ private:
     TextColor _titleColor = TextColor::Black;
     TextColor _elapsedColor = TextColor::Black;
 
-    /// What is typed into the number fields.
     std::unique_ptr<TimeEntry> _timeEntry;
 
     bool _timerStarted = false;
@@ -279,6 +278,7 @@ private:
     ClockTimer _returnTimer{[this] { enableReturnShortcut(); }};
     std::unique_ptr<Sound> _doneSound;
     std::unique_ptr<Sound> _beepSound;
+    AlarmNotification _alarmNotification{*this, [this] { return !_soundOff && !_disableGrowl; }};
     QString _finishedText;
     bool _energySaverActive = false;
     bool _stopwatch = false;
@@ -294,8 +294,7 @@ private:
     quint32 _refreshCount = 0;
     /// The duration of the last countdown start, in whole seconds.
     double _initialTimeLeft = 0;
-    /// The timer that this one starts when it has finished. Closing a window cuts its links.
+    /// The timer that this one starts, and the one that starts it. Closing a window cuts the links.
     QPointer<Wuffer> _targetWuffer;
-    /// The timer whose end starts this one.
     QPointer<Wuffer> _reverseTargetWuffer;
 };

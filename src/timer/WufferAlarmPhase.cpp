@@ -17,7 +17,8 @@ constexpr double kMutedAlarm = 5.0;
 
 void Wuffer::timerDone()
 {
-    WufferApplication::instance().cancelFullScreenModeForOthers(*this);
+    if (WufferApplication::instance().cancelFullScreenModeForOthers(*this))
+        _alarmNotification.expectActivation();
     playDone();
     _checkTimer.invalidate();
     _displayRest.setResting(false);
@@ -56,12 +57,13 @@ void Wuffer::wuffLoop()
     if (!_timerStarted)
         return;
 
-    goPressed();
+    _alarmNotification.alarmEnded();
+    toggleRun();
     // Whoever was told of the stop may have closed the window.
     if (_closed)
         return;
     if (_ui->_finishedCombo->currentText() != kWufferFinishedRestart)
-        setWindowed();
+        giveUpFullScreen();
     if (!nothingFollows)
         handleFinishedBehaviour();
     refreshChainStatusForAllChainedWuffers();

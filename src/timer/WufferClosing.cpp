@@ -1,5 +1,3 @@
-#include "platform/DesktopNotifications.h"
-#include "platform/Service.h"
 #include "platform/UserDefaults.h"
 #include "timer/Wuffer.h"
 
@@ -7,6 +5,7 @@ void Wuffer::windowWillClose()
 {
     if (_closed)
         return;
+    _alarmNotification.answer();
     setWindowed();
     endTargetTimeSheet();
     for (Sound *sound : {_doneSound.get(), _beepSound.get()}) {
@@ -16,7 +15,6 @@ void Wuffer::windowWillClose()
     // A running timer closes without a trace.
     if (_timerStarted) {
         _checkTimer.invalidate();
-        Service<DesktopNotifications>::current().withdraw(*this);
         _timerStarted = false;
     } else {
         saveSettingsToDefaultKey();

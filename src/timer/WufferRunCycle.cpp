@@ -1,6 +1,4 @@
-#include "platform/DesktopNotifications.h"
 #include "platform/NotificationCenter.h"
-#include "platform/Service.h"
 #include "settings/WufferWindow.h"
 #include "timer/BeepSchedule.h"
 #include "timer/NumberText.h"
@@ -32,6 +30,12 @@ Date beginningOf(qint64 milliseconds, Date now)
 } // namespace
 
 void Wuffer::goPressed()
+{
+    _alarmNotification.answer();
+    toggleRun();
+}
+
+void Wuffer::toggleRun()
 {
     if (_timerStarted)
         stopRun();
@@ -74,14 +78,15 @@ void Wuffer::startRun()
     const RunTimes times = timesAt(now);
     refreshDisplay(times.remaining, times.elapsed);
     // A looping timer fills the screen on its first pass only.
-    if (_ui->_fullScreenBox->isChecked() && _repeatCount < 2)
+    if (_ui->_fullScreenBox->isChecked() && _repeatCount < 2) {
+        _alarmNotification.expectActivation();
         setFullScreenMode(true);
+    }
 }
 
 void Wuffer::stopRun()
 {
     _wuffTimer.invalidate();
-    Service<DesktopNotifications>::current().withdraw(*this);
     setColorForDisplayText(TextColor::Black, false);
     _timerStarted = false;
 
@@ -145,6 +150,7 @@ void Wuffer::beepIfDue(double remaining)
 
 void Wuffer::resetWuffer()
 {
+    _alarmNotification.answer();
     if (_timerStarted)
         goPressed();
     if (_stopwatch) {

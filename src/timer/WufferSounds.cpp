@@ -1,6 +1,4 @@
-#include "platform/DesktopNotifications.h"
 #include "platform/NotificationText.h"
-#include "platform/Service.h"
 #include "timer/SoundChoice.h"
 #include "timer/Wuffer.h"
 #include "ui_Wuffer.h"
@@ -78,16 +76,15 @@ void Wuffer::prepareSounds()
 void Wuffer::showGrowlNotification()
 {
     const QString name = NotificationText::line(title());
-    Service<DesktopNotifications>::current().notify(
-        *this, {.title = NotificationText::line(_finishedText),
-                .text = name + QStringLiteral(": ") + _ui->_elapsedLabel->text(),
-                .name = QStringLiteral("wuff"),
-                .subject = name,
-                .show = [this] { showWufferWindow(); },
-                .stop =
-                    [this] {
-                        // Nothing to stop once the alarm is over.
-                        if (_wuffTimer.isValid())
-                            goPressed();
-                    }});
+    _alarmNotification.alarmBegan({.title = NotificationText::line(_finishedText),
+                                   .text = name + QStringLiteral(": ") + _ui->_elapsedLabel->text(),
+                                   .name = QStringLiteral("wuff"),
+                                   .subject = name,
+                                   .show = [this] { showWufferWindow(); },
+                                   .stop =
+                                       [this] {
+                                           // Nothing to stop once the alarm is over.
+                                           if (_wuffTimer.isValid())
+                                               goPressed();
+                                       }});
 }

@@ -73,6 +73,7 @@ private Q_SLOTS:
     void itComesBackInTheSameTabOrder();
     void itCanGoAndComeManyTimes();
     void theBoxGrowsWithAWindowThatGrewMeanwhile();
+    void theWindowThatItIsInTellsOfItsActivation();
     void aRequestToCloseIsReportedAndRefusedWhileTheBoxIsThere();
     void aBoxDestroyedOnTheFullScreenLeavesNothingBehind();
     void aWindowDestroyedMeanwhileTakesTheBoxAlong();
@@ -198,6 +199,33 @@ void tst_DisplayBox::theBoxGrowsWithAWindowThatGrewMeanwhile()
     other.window->resize(600, 500);
     QCoreApplication::processEvents();
     QCOMPARE(place, other.box->geometry());
+}
+
+void tst_DisplayBox::theWindowThatItIsInTellsOfItsActivation()
+{
+    Fixture f;
+    QWidget elsewhere;
+    elsewhere.show();
+    const auto goTo = [](QWidget &window) {
+        window.activateWindow();
+        QCoreApplication::processEvents();
+    };
+    goTo(elsewhere);
+    const QSignalSpy activations(f.box, &DisplayBox::windowActivated);
+
+    goTo(*f.window);
+    QCOMPARE(activations.count(), 1);
+    goTo(elsewhere);
+    QCOMPARE(activations.count(), 1);
+
+    f.enter();
+    QCoreApplication::processEvents();
+    QCOMPARE(activations.count(), 2);
+    goTo(elsewhere);
+    goTo(*f.window);
+    QCOMPARE(activations.count(), 2);
+    goTo(*f.box->window());
+    QCOMPARE(activations.count(), 3);
 }
 
 void tst_DisplayBox::aRequestToCloseIsReportedAndRefusedWhileTheBoxIsThere()

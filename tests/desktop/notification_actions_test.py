@@ -77,15 +77,6 @@ class NotificationActionsTest(DesktopTest):
         self.quit(program)
         self.wait_for_notifications(0)
 
-    def test_the_end_of_the_sound_takes_it_away(self):
-        self.session.start_sound()
-        program = self.launch()
-        program.start_countdown(1)
-        self.wait_for_notifications(1)
-        program.wait_for_button("Start", 10)
-        self.wait_for_notifications(0)
-        self.quit(program)
-
     def test_thirty_timers_that_end_at_once_are_one_notification(self):
         program = self.launch(settings=MUTED)
         for count in range(2, 31):

@@ -29,6 +29,7 @@ public:
 private Q_SLOTS:
     void theServerIsToldWhatToShow();
     void theHintsSayWhoAndWhat();
+    void onlyAReminderIsQuiet();
     void theTextIsEscapedForServersThatReadMarkup_data();
     void theTextIsEscapedForServersThatReadMarkup();
     void theNextReplacesTheLastOfTheSameSender();
@@ -87,6 +88,26 @@ void tst_FreedesktopNotifications::theHintsSayWhoAndWhat()
         {QStringLiteral("category"), QStringLiteral("x-wuffer.wuff")},
         {QStringLiteral("suppress-sound"), true}};
     QCOMPARE(server.shown.front().hints, expected);
+}
+
+void tst_FreedesktopNotifications::onlyAReminderIsQuiet()
+{
+    using Occasion = DesktopNotification::Occasion;
+    const NotificationServer &server = serve();
+    FreedesktopNotifications notifications;
+    const QObject sender;
+    DesktopNotification notification = saying(QStringLiteral("done"));
+    for (const Occasion occasion : {Occasion::News, Occasion::Reminder, Occasion::Change}) {
+        notification.occasion = occasion;
+        const std::size_t count = server.shown.size() + 1;
+        notifications.notify(sender, notification);
+        QTRY_COMPARE(server.shown.size(), count);
+    }
+
+    const QString urgency = QStringLiteral("urgency");
+    QVERIFY(!server.shown[0].hints.contains(urgency));
+    QCOMPARE(server.shown[1].hints.value(urgency), QVariant::fromValue(uchar(0)));
+    QVERIFY(!server.shown[2].hints.contains(urgency));
 }
 
 void tst_FreedesktopNotifications::theTextIsEscapedForServersThatReadMarkup_data()

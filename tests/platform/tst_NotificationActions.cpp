@@ -46,6 +46,8 @@ private Q_SLOTS:
     void whatHasNoNumberYetIsWithdrawnWhenItHas();
     void whatIsShownAgainBeforeItHasANumberStays();
     void aRestartedServerIsNotToldToCloseTheOldOnes();
+    void howItWentIsReported_data();
+    void howItWentIsReported();
     void aDismissedOneIsReportedAndForgotten();
     void theNextAfterADismissedOneReplacesNothing();
     void anotherServersAnswerThatIsNoNumberIsDoneWithout();
@@ -62,7 +64,11 @@ private:
                 .name = QStringLiteral("wuff"),
                 .show = [this] { _diary << QStringLiteral("shown"); },
                 .stop = [this] { _diary << QStringLiteral("stopped"); },
-                .closed = [this] { _diary << QStringLiteral("closed"); }};
+                .closed =
+                    [this](DesktopNotification::End end) {
+                        const bool expired = end == DesktopNotification::End::Expired;
+                        _diary << (expired ? QStringLiteral("expired") : QStringLiteral("closed"));
+                    }};
     }
     /// Shows one and waits until its number, 100, is known.
     void show(FreedesktopNotifications &notifications, const QObject &sender)
@@ -332,6 +338,30 @@ void tst_NotificationActions::aRestartedServerIsNotToldToCloseTheOldOnes()
     settle();
     QCOMPARE(_diary, QStringList());
     QVERIFY(after.closed.empty());
+}
+
+void tst_NotificationActions::howItWentIsReported_data()
+{
+    QTest::addColumn<QVariant>("reason");
+    QTest::addColumn<QString>("end");
+    QTest::newRow("it has timed out") << QVariant(1U) << QStringLiteral("expired");
+    QTest::newRow("by the user") << QVariant(2U) << QStringLiteral("closed");
+    QTest::newRow("by another program") << QVariant(3U) << QStringLiteral("closed");
+    QTest::newRow("not known") << QVariant(4U) << QStringLiteral("closed");
+    QTest::newRow("out of order") << QVariant(0U) << QStringLiteral("closed");
+    QTest::newRow("nonsense") << QVariant(QStringLiteral("1")) << QStringLiteral("closed");
+}
+
+void tst_NotificationActions::howItWentIsReported()
+{
+    QFETCH(const QVariant, reason);
+    QFETCH(const QString, end);
+    NotificationServer &server = serve();
+    FreedesktopNotifications notifications;
+    const QObject sender;
+    show(notifications, sender);
+    server.say(QStringLiteral("NotificationClosed"), {100U, reason});
+    QTRY_COMPARE(_diary, QStringList{end});
 }
 
 void tst_NotificationActions::aDismissedOneIsReportedAndForgotten()

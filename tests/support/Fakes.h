@@ -80,7 +80,7 @@ private:
     QStringList _diary;
 };
 
-/// Keeps what would have been shown, and what of it would still be there.
+/// Keeps what would have been shown, how it came up again, and what would still be there.
 class FakeNotifications final : public DesktopNotifications
 {
 public:
@@ -92,7 +92,8 @@ public:
 
     void notify(const QObject &sender, const DesktopNotification &notification) override
     {
-        shown.push_back({&sender, notification});
+        const bool news = notification.occasion == DesktopNotification::Occasion::News;
+        (news ? shown : shownAgain).push_back({&sender, notification});
         withdraw(sender);
         standing.push_back({&sender, notification});
     }
@@ -102,7 +103,19 @@ public:
         std::erase_if(standing, [&](const Shown &each) { return each.sender == &sender; });
     }
 
+    /// Lets what was shown at this place go, as the user or the desktop does.
+    void close(std::size_t place, DesktopNotification::End end)
+    {
+        const auto gone = standing.begin() + static_cast<std::ptrdiff_t>(place);
+        const auto closed = gone->notification.closed;
+        standing.erase(gone);
+        if (closed)
+            closed(end);
+    }
+
+    /// The news, and whatever else was shown.
     std::vector<Shown> shown;
+    std::vector<Shown> shownAgain;
     std::vector<Shown> standing;
 };
 

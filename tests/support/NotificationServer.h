@@ -59,7 +59,7 @@ public:
     /// clicked on.
     void press(uint id, const QString &key) { say(QStringLiteral("ActionInvoked"), {id, key}); }
 
-    /// Says that the notification is gone: it has timed out, or the user has closed it.
+    /// Says that the user has closed the notification.
     void dismiss(uint id)
     {
         constexpr uint byTheUser = 2;

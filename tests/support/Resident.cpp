@@ -57,6 +57,8 @@ const std::vector<Resident::Habit> &Resident::habits()
         {2, "keep wuffing", &R::keepWuffing},
         {2, "want the full screen", &R::wantFullScreen},
         {2, "end the full screen", &R::endFullScreen},
+        {5, "answer a notification", &R::answerNotification},
+        {3, "let a notification go", &R::letNotificationGo},
         {2, "mute", &R::mute},
         {4, "change a preference", &R::changePreference},
         {1, "start all", &R::startAll},
@@ -292,6 +294,29 @@ void Resident::endFullScreen()
 void Resident::startAll()
 {
     _controller.startAllWuffers();
+}
+
+// Notifications
+
+void Resident::answerNotification()
+{
+    if (notifications.standing.empty())
+        return;
+    const auto place = std::size_t(_random.bounded(int(notifications.standing.size())));
+    const DesktopNotification answered = notifications.standing.at(place).notification;
+    if (answered.stop && inOneOf(2))
+        answered.stop();
+    else
+        answered.show();
+}
+
+void Resident::letNotificationGo()
+{
+    if (notifications.standing.empty())
+        return;
+    using End = DesktopNotification::End;
+    const auto place = std::size_t(_random.bounded(int(notifications.standing.size())));
+    notifications.close(place, inOneOf(3) ? End::Dismissed : End::Expired);
 }
 
 // Preferences

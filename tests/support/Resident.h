@@ -52,6 +52,8 @@ private:
     void mute();
     void changePreference();
     void startAll();
+    void answerNotification();
+    void letNotificationGo();
     void wait();
     void watch();
     void shutTheLid();

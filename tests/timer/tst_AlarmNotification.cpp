@@ -4,115 +4,91 @@
 namespace
 {
 const QString kWuff = QStringLiteral("wolvesWuff.wav");
+
+using End = DesktopNotification::End;
+using Occasion = DesktopNotification::Occasion;
+
+/// One timer, and its notification.
+class Fixture : public TimerFixture
+{
+public:
+    /// Runs a countdown of a second to its end, and a second further.
+    void ring()
+    {
+        startCountdown(1);
+        pass(2);
+    }
+    /// Rings until the user stops it.
+    void ringOnAndOn()
+    {
+        tick("_keepWuffingBox");
+        ring();
+    }
+    /// Lets the sound reach its end, and the timer notice it.
+    void endAlarm()
+    {
+        sounds.sound(kWuff)->reachEnd();
+        pass(0.21);
+    }
+    [[nodiscard]] const DesktopNotification &only() const
+    {
+        if (notifications.standing.size() != 1)
+            qFatal("%zu stand instead of one", notifications.standing.size());
+        return notifications.standing.front().notification;
+    }
+};
 } // namespace
 
-/// What the notification of an alarm says and offers, and when it goes.
+/// What the notification of an alarm says and offers, what it leaves, and when it comes back.
 class tst_AlarmNotification final : public Test
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void itStandsWhileTheTimerRings();
-    void itGoesWhenTheSoundHasEnded();
-    void itGoesWhenTheUserResets();
-    void itGoesWhenTheFinishActionRuns();
-    void itGoesWhenTheWindowCloses();
-    void itGoesWhenTheNotificationsAreTurnedOffMeanwhile();
-    void stoppingARunWithdrawsNothingOfOthers();
+    void aNameIsALineOfSaneLength();
     void stopEndsTheAlarmAsResetDoes();
     void stopRunsNoFinishAction();
     void stopDoesNothingOnceTheAlarmIsOver();
     void showBringsTheWindowBack();
-    void aNameIsALineOfSaneLength();
+    void anAlarmThatHasEndedByItselfLeavesATrace();
+    void aMutedAlarmThatHasEndedLeavesATraceToo();
+    void theNextAlarmReplacesTheTrace();
+    void noTraceIsLeftOfWhatTheDesktopHasTakenAway_data();
+    void noTraceIsLeftOfWhatTheDesktopHasTakenAway();
+    void whatExpiresWhileTheTimerRingsComesBack();
+    void itComesBackAsItWas();
+    void itComesBackAtOnceAfterALongTime();
+    void whatTheUserDismissesDoesNotComeBack();
+    void whatTheUserHasAnsweredDoesNotComeBack();
+    void whatExpiresAfterTheAlarmDoesNotComeBack();
+    void thatOfAMutedAlarmDoesNotComeBack();
+    void nothingComesBackOnceNotificationsAreTurnedOff();
+    void aTraceOutlastsThatNotificationsAreTurnedOff();
 };
 
 void tst_AlarmNotification::itStandsWhileTheTimerRings()
 {
-    TimerFixture t;
+    Fixture t;
     t.typeName(QStringLiteral("Tea"));
     t.startCountdown(1);
     t.pass(0.9);
     QVERIFY(t.notifications.standing.empty());
     t.pass(60);
-    QCOMPARE(t.notifications.standing.size(), 1U);
-    const DesktopNotification &notification = t.notifications.standing.front().notification;
-    QCOMPARE(notification.text, QStringLiteral("Tea: 1s"));
-    QCOMPARE(notification.subject, QStringLiteral("Tea"));
-}
-
-void tst_AlarmNotification::itGoesWhenTheSoundHasEnded()
-{
-    TimerFixture t;
-    t.startCountdown(1);
-    t.pass(2);
-    t.sounds.sound(kWuff)->reachEnd();
-    QCOMPARE(t.notifications.standing.size(), 1U);
-    t.pass(0.21);
-    QVERIFY(t.notifications.standing.empty());
-    QCOMPARE(t.notifications.shown.size(), 1U);
-}
-
-void tst_AlarmNotification::itGoesWhenTheUserResets()
-{
-    TimerFixture t;
-    t.startCountdown(1);
-    t.pass(2);
-    t.pressGo();
-    QVERIFY(t.notifications.standing.empty());
-}
-
-void tst_AlarmNotification::itGoesWhenTheFinishActionRuns()
-{
-    TimerFixture t;
-    t.chooseFinish(QStringLiteral("Loop this Wuffer"));
-    t.startCountdown(1);
-    t.pass(1.1);
-    t.sounds.sound(kWuff)->reachEnd();
-    t.pass(0.3);
-    QCOMPARE(t.go(), QStringLiteral("Stop"));
-    QVERIFY(t.notifications.standing.empty());
-    t.pass(1);
-    QCOMPARE(t.notifications.standing.size(), 1U);
-}
-
-void tst_AlarmNotification::itGoesWhenTheWindowCloses()
-{
-    TimerFixture t;
-    t.startCountdown(1);
-    t.pass(2);
-    t.timer.window()->close();
-    QVERIFY(t.notifications.standing.empty());
-}
-
-void tst_AlarmNotification::itGoesWhenTheNotificationsAreTurnedOffMeanwhile()
-{
-    TimerFixture t;
-    t.startCountdown(1);
-    t.pass(2);
-    t.set("disableGrowl", 1);
-    t.pressGo();
-    QVERIFY(t.notifications.standing.empty());
-}
-
-void tst_AlarmNotification::stoppingARunWithdrawsNothingOfOthers()
-{
-    TimerFixture t;
-    TimerUser other;
-    t.startCountdown(1);
-    other.startCountdown(60);
-    t.pass(2);
-    other.pressGo();
-    other.timer.window()->close();
-    QCOMPARE(t.notifications.standing.size(), 1U);
+    QCOMPARE(t.only().text, QStringLiteral("Tea: 1s"));
+    QCOMPARE(t.only().subject, QStringLiteral("Tea"));
+    QVERIFY(t.only().occasion == Occasion::News);
+    QVERIFY(t.only().show);
+    QVERIFY(t.only().stop);
 }
 
 void tst_AlarmNotification::stopEndsTheAlarmAsResetDoes()
 {
-    TimerFixture t;
+    Fixture t;
     t.tick("_keepWuffingBox");
     t.startCountdown(65);
     t.pass(70);
-    const DesktopNotification notification = t.notifications.standing.front().notification;
+    const DesktopNotification notification = t.only();
     notification.stop();
     QVERIFY(!t.sounds.isPlaying(kWuff));
     QVERIFY(!t.timer.isRunning());
@@ -124,11 +100,11 @@ void tst_AlarmNotification::stopEndsTheAlarmAsResetDoes()
 
 void tst_AlarmNotification::stopRunsNoFinishAction()
 {
-    TimerFixture t;
+    Fixture t;
     t.chooseFinish(QStringLiteral("Loop this Wuffer"));
     t.startCountdown(1);
     t.pass(2);
-    const DesktopNotification notification = t.notifications.standing.front().notification;
+    const DesktopNotification notification = t.only();
     notification.stop();
     t.pass(60);
     QVERIFY(!t.timer.isRunning());
@@ -136,10 +112,10 @@ void tst_AlarmNotification::stopRunsNoFinishAction()
 
 void tst_AlarmNotification::stopDoesNothingOnceTheAlarmIsOver()
 {
-    TimerFixture t;
+    Fixture t;
     t.startCountdown(1);
     t.pass(2);
-    const DesktopNotification notification = t.notifications.standing.front().notification;
+    const DesktopNotification notification = t.only();
     t.pressGo();
     notification.stop();
     QCOMPARE(t.go(), QStringLiteral("Start"));
@@ -150,11 +126,11 @@ void tst_AlarmNotification::stopDoesNothingOnceTheAlarmIsOver()
 
 void tst_AlarmNotification::showBringsTheWindowBack()
 {
-    TimerFixture t;
+    Fixture t;
     t.startCountdown(1);
     t.timer.window()->showMinimized();
     t.pass(2);
-    const DesktopNotification notification = t.notifications.standing.front().notification;
+    const DesktopNotification notification = t.only();
     notification.show();
     QVERIFY(t.timer.window()->isVisible());
     QVERIFY(!t.timer.window()->isMinimized());
@@ -163,14 +139,187 @@ void tst_AlarmNotification::showBringsTheWindowBack()
 
 void tst_AlarmNotification::aNameIsALineOfSaneLength()
 {
-    TimerFixture t;
+    Fixture t;
     t.set("finishedText", QStringLiteral("Up\nnow"));
     t.titleField.setText(QString(10'000, QLatin1Char('x')));
     t.startCountdown(1);
     t.pass(2);
-    const DesktopNotification &notification = t.notifications.standing.front().notification;
+    const DesktopNotification &notification = t.only();
     QCOMPARE(notification.title, QStringLiteral("Up now"));
     QCOMPARE(notification.text, QString(100, QLatin1Char('x')) + QStringLiteral("…: 1s"));
+}
+
+void tst_AlarmNotification::anAlarmThatHasEndedByItselfLeavesATrace()
+{
+    Fixture t;
+    t.typeName(QStringLiteral("Tea"));
+    t.ring();
+    t.endAlarm();
+    QCOMPARE(t.display(), QStringLiteral("Wuffer"));
+    t.pass(3600);
+    QCOMPARE(t.only().title, QStringLiteral("Wuff!"));
+    QCOMPARE(t.only().text, QStringLiteral("Tea: 1s"));
+    QVERIFY(t.only().occasion == Occasion::Change);
+    QVERIFY(t.only().show);
+    QVERIFY(!t.only().stop);
+    QVERIFY(t.clock.isIdle());
+}
+
+void tst_AlarmNotification::aMutedAlarmThatHasEndedLeavesATraceToo()
+{
+    Fixture t;
+    t.set("soundOff", 1);
+    t.chooseFinish(QStringLiteral("Loop this Wuffer"));
+    t.startCountdown(60);
+    t.pass(64.9);
+    QVERIFY(t.only().stop);
+    t.pass(1);
+    QCOMPARE(t.go(), QStringLiteral("Stop"));
+    QVERIFY(!t.only().stop);
+}
+
+void tst_AlarmNotification::theNextAlarmReplacesTheTrace()
+{
+    Fixture t;
+    t.chooseFinish(QStringLiteral("Loop this Wuffer"));
+    t.ring();
+    t.endAlarm();
+    t.pass(1.1);
+    QCOMPARE(t.go(), QStringLiteral("Reset"));
+    QCOMPARE(t.only().text, QStringLiteral("Wuffer: 1s (x2)"));
+    QVERIFY(t.only().occasion == Occasion::News);
+    QVERIFY(t.only().stop);
+}
+
+void tst_AlarmNotification::noTraceIsLeftOfWhatTheDesktopHasTakenAway_data()
+{
+    QTest::addColumn<bool>("expired");
+    QTest::newRow("expired") << true;
+    QTest::newRow("dismissed") << false;
+}
+
+void tst_AlarmNotification::noTraceIsLeftOfWhatTheDesktopHasTakenAway()
+{
+    QFETCH(const bool, expired);
+    Fixture t;
+    t.ring();
+    t.notifications.close(0, expired ? End::Expired : End::Dismissed);
+    t.endAlarm();
+    t.pass(60);
+    QVERIFY(t.notifications.standing.empty());
+    QVERIFY(t.notifications.shownAgain.empty());
+    QVERIFY(t.clock.isIdle());
+}
+
+void tst_AlarmNotification::whatExpiresWhileTheTimerRingsComesBack()
+{
+    Fixture t;
+    t.ringOnAndOn();
+    for (std::size_t times = 1; times <= 100; ++times) {
+        t.notifications.close(0, End::Expired);
+        t.pass(3);
+        QCOMPARE(t.notifications.standing.size(), 0U);
+        t.pass(2);
+        QCOMPARE(t.notifications.standing.size(), 1U);
+        QCOMPARE(t.notifications.shownAgain.size(), times);
+    }
+    t.only().stop();
+    QVERIFY(!t.timer.isRunning());
+    QVERIFY(t.notifications.standing.empty());
+}
+
+void tst_AlarmNotification::itComesBackAsItWas()
+{
+    Fixture t;
+    t.typeName(QStringLiteral("Tea"));
+    t.ringOnAndOn();
+    t.typeName(QStringLiteral("Cake"));
+    t.set("finishedText", QStringLiteral("Woof"));
+    t.notifications.close(0, End::Expired);
+    t.pass(10);
+    QCOMPARE(t.only().title, QStringLiteral("Wuff!"));
+    QCOMPARE(t.only().text, QStringLiteral("Tea: 1s"));
+    QCOMPARE(t.only().subject, QStringLiteral("Tea"));
+    QVERIFY(t.only().occasion == Occasion::Reminder);
+    QVERIFY(t.only().show);
+}
+
+void tst_AlarmNotification::itComesBackAtOnceAfterALongTime()
+{
+    Fixture t;
+    t.ringOnAndOn();
+    t.pass(60);
+    t.notifications.close(0, End::Expired);
+    t.pass(0.01);
+    QCOMPARE(t.notifications.standing.size(), 1U);
+}
+
+void tst_AlarmNotification::whatTheUserDismissesDoesNotComeBack()
+{
+    Fixture t;
+    t.ringOnAndOn();
+    t.notifications.close(0, End::Dismissed);
+    t.pass(3600);
+    QVERIFY(t.notifications.standing.empty());
+}
+
+void tst_AlarmNotification::whatTheUserHasAnsweredDoesNotComeBack()
+{
+    Fixture t;
+    t.ringOnAndOn();
+    t.notifications.close(0, End::Expired);
+    t.timer.showWufferWindow();
+    t.pass(3600);
+    QVERIFY(t.timer.isRunning());
+    QVERIFY(t.notifications.standing.empty());
+}
+
+void tst_AlarmNotification::whatExpiresAfterTheAlarmDoesNotComeBack()
+{
+    Fixture t;
+    t.ring();
+    t.endAlarm();
+    t.notifications.close(0, End::Expired);
+    t.pass(3600);
+    QVERIFY(t.notifications.standing.empty());
+    QVERIFY(t.clock.isIdle());
+}
+
+void tst_AlarmNotification::thatOfAMutedAlarmDoesNotComeBack()
+{
+    Fixture t;
+    t.set("soundOff", 1);
+    t.ring();
+    t.notifications.close(0, End::Expired);
+    t.pass(3600);
+    QCOMPARE(t.go(), QStringLiteral("Reset"));
+    QVERIFY(t.notifications.standing.empty());
+}
+
+void tst_AlarmNotification::nothingComesBackOnceNotificationsAreTurnedOff()
+{
+    Fixture t;
+    t.ringOnAndOn();
+    t.set("growlDisabled", 1);
+    QCOMPARE(t.notifications.standing.size(), 1U);
+    t.notifications.close(0, End::Expired);
+    t.pass(3600);
+    QCOMPARE(t.go(), QStringLiteral("Reset"));
+    QVERIFY(t.notifications.standing.empty());
+}
+
+void tst_AlarmNotification::aTraceOutlastsThatNotificationsAreTurnedOff()
+{
+    Fixture t;
+    t.chooseFinish(QStringLiteral("Loop this Wuffer"));
+    t.ring();
+    t.endAlarm();
+    t.set("growlDisabled", 1);
+    t.pass(1.1);
+    QCOMPARE(t.go(), QStringLiteral("Reset"));
+    QCOMPARE(t.only().text, QStringLiteral("Wuffer: 1s"));
+    t.pressGo();
+    QVERIFY(t.notifications.standing.empty());
 }
 
 WUFFER_TEST_MAIN(tst_AlarmNotification)

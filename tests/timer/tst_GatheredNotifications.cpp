@@ -1,60 +1,9 @@
-#include "support/ClockFixture.h"
-#include "support/Fakes.h"
+#include "support/GatheringFixture.h"
 #include "support/TestMain.h"
-#include "timer/GatheredNotifications.h"
-
-#include <memory>
-#include <vector>
 
 namespace
 {
-/// Timers that end, and what the desktop shows of it.
-class Fixture : public ClockFixture
-{
-public:
-    FakeNotifications desktop;
-    GatheredNotifications gathered{desktop};
-    std::vector<std::unique_ptr<QObject>> timers;
-
-    /// Lets so many new timers end at once.
-    void end(int count)
-    {
-        for (int i = 0; i < count; ++i) {
-            timers.push_back(std::make_unique<QObject>());
-            end(*timers.back(), QStringLiteral("T%1").arg(timers.size()));
-        }
-    }
-
-    void end(const QObject &timer, const QString &name)
-    {
-        gathered.notify(timer, {.title = QStringLiteral("Wuff!"),
-                                .text = name + QStringLiteral(": 5s"),
-                                .name = QStringLiteral("wuff"),
-                                .subject = name,
-                                .show = [this, name] { diary << QStringLiteral("show ") + name; },
-                                .stop =
-                                    [this, &timer, name] {
-                                        diary << QStringLiteral("stop ") + name;
-                                        gathered.withdraw(timer);
-                                    }});
-    }
-
-    /// The texts of what stands on the desktop now.
-    [[nodiscard]] QStringList texts() const
-    {
-        QStringList texts;
-        for (const FakeNotifications::Shown &each : desktop.standing)
-            texts << each.notification.text;
-        return texts;
-    }
-
-    [[nodiscard]] const DesktopNotification &only() const
-    {
-        if (desktop.standing.size() != 1)
-            qFatal("%zu stand instead of one", desktop.standing.size());
-        return desktop.standing.front().notification;
-    }
-};
+using End = DesktopNotification::End;
 } // namespace
 
 class tst_GatheredNotifications final : public Test
@@ -86,7 +35,7 @@ private Q_SLOTS:
 
 void tst_GatheredNotifications::aFewStandByThemselves()
 {
-    Fixture t;
+    GatheringFixture t;
     t.end(3);
     QCOMPARE(t.texts(), QStringList({QStringLiteral("T1: 5s"), QStringLiteral("T2: 5s"),
                                      QStringLiteral("T3: 5s")}));
@@ -98,7 +47,7 @@ void tst_GatheredNotifications::aFewStandByThemselves()
 
 void tst_GatheredNotifications::oneMoreGathersThemAll()
 {
-    Fixture t;
+    GatheringFixture t;
     for (int i = 0; i < 4; ++i) {
         t.end(1);
         t.clock.advance(60);
@@ -110,7 +59,7 @@ void tst_GatheredNotifications::oneMoreGathersThemAll()
 
 void tst_GatheredNotifications::thoseThatEndTogetherShowAtOnceAsOne()
 {
-    Fixture t;
+    GatheringFixture t;
     t.end(30);
     t.clock.advance(0.11);
     QCOMPARE(t.only().title, QStringLiteral("30 timers have ended"));
@@ -119,7 +68,7 @@ void tst_GatheredNotifications::thoseThatEndTogetherShowAtOnceAsOne()
 
 void tst_GatheredNotifications::manyAreNamedOnlyInPart()
 {
-    Fixture t;
+    GatheringFixture t;
     t.end(20);
     t.clock.advance(1);
     const QStringList lines = t.only().text.split(QLatin1Char('\n'));
@@ -131,7 +80,7 @@ void tst_GatheredNotifications::manyAreNamedOnlyInPart()
 
 void tst_GatheredNotifications::eightAreAllNamed()
 {
-    Fixture t;
+    GatheringFixture t;
     t.end(8);
     t.clock.advance(1);
     QCOMPARE(t.only().text, QStringLiteral("T8\nT7\nT6\nT5\nT4\nT3\nT2\nT1"));
@@ -139,7 +88,7 @@ void tst_GatheredNotifications::eightAreAllNamed()
 
 void tst_GatheredNotifications::moreAreAddedOnceASecond()
 {
-    Fixture t;
+    GatheringFixture t;
     for (int i = 0; i < 100; ++i) {
         t.end(1);
         t.clock.advance(0.1);
@@ -152,7 +101,7 @@ void tst_GatheredNotifications::moreAreAddedOnceASecond()
 
 void tst_GatheredNotifications::thoseThatAreWithdrawnAreCountedNoMore()
 {
-    Fixture t;
+    GatheringFixture t;
     t.end(5);
     t.clock.advance(5);
     t.gathered.withdraw(*t.timers[4]);
@@ -166,7 +115,7 @@ void tst_GatheredNotifications::thoseThatAreWithdrawnAreCountedNoMore()
 
 void tst_GatheredNotifications::theLastOneLeftIsItself()
 {
-    Fixture t;
+    GatheringFixture t;
     t.end(4);
     t.clock.advance(5);
     for (const int ended : {0, 1, 3})
@@ -178,7 +127,7 @@ void tst_GatheredNotifications::theLastOneLeftIsItself()
 
 void tst_GatheredNotifications::itGoesWithTheLast()
 {
-    Fixture t;
+    GatheringFixture t;
     t.end(4);
     t.clock.advance(5);
     for (const auto &timer : t.timers)
@@ -191,7 +140,7 @@ void tst_GatheredNotifications::itGoesWithTheLast()
 
 void tst_GatheredNotifications::aDestroyedSenderIsCountedNoMore()
 {
-    Fixture t;
+    GatheringFixture t;
     t.end(5);
     t.clock.advance(5);
     t.timers.pop_back();
@@ -203,7 +152,7 @@ void tst_GatheredNotifications::aDestroyedSenderIsCountedNoMore()
 
 void tst_GatheredNotifications::whenAllIsOverTheNextStandByThemselves()
 {
-    Fixture t;
+    GatheringFixture t;
     t.end(4);
     t.clock.advance(5);
     t.timers.clear();
@@ -214,18 +163,19 @@ void tst_GatheredNotifications::whenAllIsOverTheNextStandByThemselves()
 
 void tst_GatheredNotifications::showIsForTheLatest()
 {
-    Fixture t;
+    GatheringFixture t;
     t.end(5);
     t.end(*t.timers[1], QStringLiteral("again"));
     t.clock.advance(1);
-    t.only().show();
-    QCOMPARE(t.entries(), QStringLiteral("show again"));
     QCOMPARE(t.only().title, QStringLiteral("5 timers have ended"));
+    const std::function<void()> show = t.only().show;
+    show();
+    QCOMPARE(t.entries(), QStringLiteral("show again"));
 }
 
 void tst_GatheredNotifications::stopIsForAll()
 {
-    Fixture t;
+    GatheringFixture t;
     t.end(5);
     t.clock.advance(1);
     const std::function<void()> stop = t.only().stop;
@@ -238,7 +188,7 @@ void tst_GatheredNotifications::stopIsForAll()
 
 void tst_GatheredNotifications::aStopMayDestroyTheOthers()
 {
-    Fixture t;
+    GatheringFixture t;
     const QObject first;
     t.gathered.notify(first,
                       {.title = {}, .text = {}, .name = {}, .stop = [&] { t.timers.clear(); }});
@@ -252,7 +202,7 @@ void tst_GatheredNotifications::aStopMayDestroyTheOthers()
 
 void tst_GatheredNotifications::quickOnesOfOneTimerAreHeldBack()
 {
-    Fixture t;
+    GatheringFixture t;
     const QObject timer;
     for (int i = 0; i < 40; ++i) {
         t.end(timer, QStringLiteral("loop"));
@@ -269,11 +219,10 @@ void tst_GatheredNotifications::quickOnesOfOneTimerAreHeldBack()
 
 void tst_GatheredNotifications::aDismissedSummaryDoesNotComeBack()
 {
-    Fixture t;
+    GatheringFixture t;
     t.end(5);
     t.clock.advance(5);
-    t.only().closed();
-    t.desktop.standing.clear();
+    t.desktop.close(0, End::Dismissed);
     t.gathered.withdraw(*t.timers.back());
     t.clock.advance(5);
     QCOMPARE(t.texts(), QStringList());
@@ -284,25 +233,21 @@ void tst_GatheredNotifications::aDismissedSummaryDoesNotComeBack()
 
 void tst_GatheredNotifications::oneThatCameUnseenOutlivesTheDismissal()
 {
-    Fixture t;
+    GatheringFixture t;
     t.end(5);
     t.clock.advance(0.2);
-    const std::function<void()> closed = t.only().closed;
     t.end(1);
-    closed();
-    t.desktop.standing.clear();
+    t.desktop.close(0, End::Dismissed);
     t.clock.advance(1);
     QCOMPARE(t.texts(), QStringList({QStringLiteral("T6: 5s")}));
 }
 
 void tst_GatheredNotifications::aDismissedOneIsNotGathered()
 {
-    Fixture t;
+    GatheringFixture t;
     t.end(3);
     t.clock.advance(5);
-    const std::function<void()> closed = t.desktop.standing.front().notification.closed;
-    t.desktop.standing.erase(t.desktop.standing.begin());
-    closed();
+    t.desktop.close(0, End::Dismissed);
     t.end(1);
     QCOMPARE(t.texts(), QStringList({QStringLiteral("T2: 5s"), QStringLiteral("T3: 5s"),
                                      QStringLiteral("T4: 5s")}));
@@ -310,7 +255,7 @@ void tst_GatheredNotifications::aDismissedOneIsNotGathered()
 
 void tst_GatheredNotifications::nothingWakesTheProgramWhileNothingChanges()
 {
-    Fixture t;
+    GatheringFixture t;
     t.end(30);
     t.clock.advance(5);
     QVERIFY(t.clock.isIdle());
@@ -319,7 +264,7 @@ void tst_GatheredNotifications::nothingWakesTheProgramWhileNothingChanges()
 
 void tst_GatheredNotifications::quickOnesAreHeldBackAtAnyTime()
 {
-    Fixture t;
+    GatheringFixture t;
     const QObject timer;
     const auto endFourTimes = [&](double lastPause) {
         for (const double pause : {60.0, 0.25, 0.25, lastPause}) {

@@ -1,8 +1,10 @@
 """A desktop session of the test's own: buses, notifications, sound, and displays."""
 
 import os
+import re
 import shutil
 import tempfile
+import time
 
 from gi.repository import Gio, GLib
 
@@ -25,7 +27,7 @@ BUS_CONFIGURATION = """<busconfig>
 </busconfig>
 """
 
-# Whatever is shown stays, so that it can be counted.
+# Unless the test wants it otherwise, whatever is shown stays, so that it can be counted.
 NOTIFICATION_CONFIGURATION = """[global]
     idle_threshold = 0
     stack_duplicates = false
@@ -33,17 +35,20 @@ NOTIFICATION_CONFIGURATION = """[global]
     notification_limit = 20
     dmenu = {chooser}
 [urgency_low]
-    timeout = 0
+    timeout = {seconds}
 [urgency_normal]
-    timeout = 0
+    timeout = {seconds}
 [urgency_critical]
-    timeout = 0
+    timeout = {seconds}
 """
 
 
-# Stands for the menu from which the user picks a button: takes the one that the test has named.
+# Stands for the menu from which the user picks a button: keeps what is offered, and takes the one
+# that the test has named.
 CHOOSER = """#!/bin/sh
-exec grep --max-count=1 --fixed-strings "#$(cat {wanted}) ("
+cat > {offered}.new
+mv {offered}.new {offered}
+exec grep --max-count=1 --fixed-strings "#$(cat {wanted}) (" {offered}
 """
 
 
@@ -53,29 +58,30 @@ def ask(bus, name, path, interface, method, arguments=None):
 
 
 class Notifications:
-    """A notification daemon, and what it shows."""
+    """A notification daemon, and what it shows, each for so many seconds; 0 means for ever."""
 
     NAME = "org.freedesktop.Notifications"
     PATH = "/org/freedesktop/Notifications"
 
-    def __init__(self, bus, folder, environment):
+    def __init__(self, bus, folder, environment, seconds):
         processes.require("dunst")
         self.bus = bus
         self.taken = set()
-        self.wanted = None
+        self.wanted = os.path.join(folder, "wanted-button")
+        self.offered = os.path.join(folder, "offered-buttons")
         configuration = os.path.join(folder, "dunstrc")
         with open(configuration, "w", encoding="ascii") as file:
-            file.write(NOTIFICATION_CONFIGURATION.format(chooser=self.add_chooser(folder)))
+            file.write(NOTIFICATION_CONFIGURATION.format(chooser=self.add_chooser(folder),
+                                                         seconds=seconds))
         self.process = processes.start(["dunst", "-conf", configuration], environment)
         wait_until(lambda: ask(bus, "org.freedesktop.DBus", "/", "org.freedesktop.DBus",
                                "NameHasOwner", GLib.Variant("(s)", (self.NAME,)))[0],
                    10, "the notification daemon answers")
 
     def add_chooser(self, folder):
-        self.wanted = os.path.join(folder, "wanted-button")
         path = os.path.join(folder, "choose-button")
         with open(path, "w", encoding="ascii") as file:
-            file.write(CHOOSER.format(wanted=self.wanted))
+            file.write(CHOOSER.format(wanted=self.wanted, offered=self.offered))
         os.chmod(path, 0o700)
         return path
 
@@ -88,6 +94,17 @@ class Notifications:
         with open(self.wanted, "w", encoding="ascii") as file:
             file.write(button)
         self.ask_for("ContextMenuCall")
+
+    def buttons(self):
+        """What the buttons of all that are shown say, each text once and in alphabetical order."""
+        if os.path.exists(self.offered):
+            os.remove(self.offered)
+        self.press("none of them")
+        wait_until(lambda: os.path.exists(self.offered), 5, "the buttons are offered")
+        # The daemon opens no other menu until it has noticed that this one has closed.
+        time.sleep(0.3)
+        with open(self.offered, encoding="utf-8") as file:
+            return sorted(set(re.findall(r"^#(\w+) \(", file.read(), re.MULTILINE)))
 
     def shown(self):
         return ask(self.bus, self.NAME, self.PATH, "org.freedesktop.DBus.Properties", "Get",
@@ -188,8 +205,8 @@ class Session:
         return ask(self.bus, "org.freedesktop.DBus", "/", "org.freedesktop.DBus", "NameHasOwner",
                    GLib.Variant("(s)", (name,)))[0]
 
-    def start_notifications(self):
-        self.notifications = Notifications(self.bus, self.folder, self.environment)
+    def start_notifications(self, seconds=0):
+        self.notifications = Notifications(self.bus, self.folder, self.environment, seconds)
 
     def end_notifications(self):
         if self.notifications:

@@ -1,0 +1,147 @@
+#!/usr/bin/python3
+"""What is left of an alarm that was missed, how it is found, and how one that goes on is stopped.
+
+Usage: missed_alarm_test.py WUFFER FOLDER [unittest arguments]
+"""
+
+import json
+import time
+
+from support.case import DesktopTest, main
+from support.waiting import wait_until
+
+# For so long an activation may be that which the program has asked for.
+OWN_ACTIVATION = 2
+
+
+def of_two_seconds(**settings):
+    """Settings with which the first timer runs two seconds, and presets five minutes."""
+    return json.dumps({
+        "defaultWufferSettings": {"hours": 0, "minutes": 0, "seconds": 2, **settings},
+        "Preset 1": {"title": "Tea", "hours": 0, "minutes": 5, "seconds": 0}})
+
+
+class MissedAlarmTest(DesktopTest):
+    sound = True
+
+    def wait_for_notifications(self, count, seconds=5):
+        return wait_until(lambda: self.session.notifications.shown() == count, seconds,
+                          f"{count} notifications are shown", 0.02)
+
+    def wait_for_active(self, window):
+        wait_until(lambda: self.display.active_window() == window, 8, "the window is active")
+
+    def start_and_leave(self, **settings):
+        """Starts the timer and opens another; gives the program and both windows."""
+        program = self.launch(settings=of_two_seconds(**settings))
+        self.display.key("Return")
+        program.wait_for_button("Stop")
+        self.display.key("ctrl+n")
+        first, second = program.wait_for_windows(2)
+        self.wait_for_active(second)
+        return program, first, second
+
+    def miss(self):
+        """Lets an alarm pass while another window is active."""
+        program, first, second = self.start_and_leave()
+        self.wait_for_notifications(1)
+        self.assertEqual(self.session.notifications.buttons(), ["Show", "Stop"])
+        wait_until(lambda: len(program.all("button", "Start")) == 2, 10, "the alarm is over")
+        time.sleep(0.5)
+        self.assertEqual(self.session.notifications.shown(), 1)
+        return program, first, second
+
+    def test_the_end_of_the_sound_leaves_it_with_show_alone(self):
+        program, first, _ = self.miss()
+        self.assertEqual(self.session.notifications.buttons(), ["Show"])
+        self.session.notifications.press("Show")
+        self.wait_for_active(first)
+        self.wait_for_notifications(0)
+        shown, = self.session.notifications.take_all()
+        self.assertEqual(shown["body"], "Wuffer: 2s")
+        self.quit(program)
+
+    def test_turning_to_the_window_takes_it_away(self):
+        program, first, _ = self.miss()
+        self.display.activate(first)
+        self.wait_for_active(first)
+        self.wait_for_notifications(0)
+        self.quit(program)
+
+    def test_the_next_start_takes_it_away(self):
+        program = self.launch(settings=of_two_seconds())
+        self.display.key("Return")
+        self.wait_for_notifications(1)
+        program.wait_for_button("Start", 10)
+        self.assertEqual(self.session.notifications.shown(), 1)
+        self.display.key("Return")
+        program.wait_for_button("Stop")
+        self.wait_for_notifications(0, 1)
+        self.quit(program)
+
+    def test_closing_the_window_takes_it_away(self):
+        program, first, _ = self.miss()
+        self.display.close_window(first)
+        program.wait_for_windows(1)
+        self.wait_for_notifications(0)
+        self.quit(program)
+
+    def test_quitting_takes_it_away(self):
+        program, _, _ = self.miss()
+        self.quit(program)
+        self.wait_for_notifications(0)
+
+    def test_a_preset_that_starts_leaves_it(self):
+        program, first, second = self.start_and_leave(finishOption="Start a Preset")
+        self.wait_for_notifications(1)
+        # The preset brings the window forward.
+        self.wait_for_active(first)
+        self.assertTrue(program.has("button", "Stop"))
+        time.sleep(OWN_ACTIVATION + 0.5)
+        self.assertEqual(self.session.notifications.shown(), 1)
+        self.assertEqual(self.session.notifications.buttons(), ["Show"])
+        self.display.activate(second)
+        self.wait_for_active(second)
+        self.assertEqual(self.session.notifications.shown(), 1)
+        self.display.activate(first)
+        self.wait_for_notifications(0)
+        self.quit(program)
+
+    def test_an_alarm_on_the_full_screen_leaves_it(self):
+        program = self.launch(settings=of_two_seconds(fullScreen=True))
+        window, = program.windows()
+        self.display.key("Return")
+        wait_until(lambda: self.display.active_window() not in (window, 0), 5,
+                   "the display fills the screen")
+        self.wait_for_notifications(1)
+        self.wait_for_active(window)
+        program.wait_for_button("Start", 10)
+        time.sleep(OWN_ACTIVATION + 0.5)
+        self.assertEqual(self.session.notifications.shown(), 1)
+        self.quit(program)
+
+    def test_an_alarm_that_goes_on_can_be_stopped_at_any_time(self):
+        self.session.end_notifications()
+        self.session.start_notifications(seconds=2)
+        try:
+            program, _, _ = self.start_and_leave(keepWuffing=True, finishOption="Do Nothing")
+            for _ in range(2):
+                self.wait_for_notifications(1, 10)
+                self.wait_for_notifications(0, 10)
+            pause = self.wait_for_notifications(1, 10)
+            self.report(f"the notification comes back after {pause:.1f} s")
+            self.assertGreater(pause, 1)
+            self.assertEqual(self.session.notifications.buttons(), ["Show", "Stop"])
+            self.session.notifications.press("Stop")
+            wait_until(lambda: len(program.all("button", "Start")) == 2, 5, "the alarm is over")
+            self.wait_for_notifications(0, 1)
+            time.sleep(6)
+            self.assertEqual(self.session.notifications.shown(), 0)
+            self.quit(program)
+        finally:
+            self.session.end_notifications()
+            self.session.start_notifications()
+
+
+if __name__ == "__main__":
+    main()

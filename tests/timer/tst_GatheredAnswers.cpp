@@ -1,0 +1,169 @@
+#include "support/GatheringFixture.h"
+#include "support/TestMain.h"
+
+namespace
+{
+using End = DesktopNotification::End;
+using Occasion = DesktopNotification::Occasion;
+
+const QStringList kFirstFive{QStringLiteral("T1"), QStringLiteral("T2"), QStringLiteral("T3"),
+                             QStringLiteral("T4"), QStringLiteral("T5")};
+} // namespace
+
+/// What becomes of gathered notifications when alarms end by themselves, when the user answers, and
+/// when the desktop takes them away.
+class tst_GatheredAnswers final : public Test
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void aChangeTakesThePlaceOfWhatStands();
+    void changesAreNotTooManyToStandByThemselves();
+    void changesOfOneTimerAreHeldBackLikeItsNews();
+    void stopIsOfferedAsLongAsOneRings();
+    void aChangeThatNobodySeesIsNotShown();
+    void showAnswersForAll();
+    void stopAnswersAlsoForThoseThatRingNoMore();
+    void theEndOfTheSummaryIsThatOfEach();
+    void thoseThatComeBackTogetherAreOneAndQuiet();
+    void newsAmongThoseThatComeBackIsNews();
+};
+
+void tst_GatheredAnswers::aChangeTakesThePlaceOfWhatStands()
+{
+    GatheringFixture t;
+    t.end(2);
+    t.quieten(0);
+    QCOMPARE(t.desktop.shownAgain.size(), 1U);
+    QCOMPARE(t.desktop.shownAgain.front().sender, t.timers.front().get());
+    QVERIFY(!t.desktop.shownAgain.front().notification.stop);
+    QCOMPARE(t.desktop.standing.size(), 2U);
+    QVERIFY(t.clock.isIdle());
+}
+
+void tst_GatheredAnswers::changesAreNotTooManyToStandByThemselves()
+{
+    GatheringFixture t;
+    t.end(3);
+    for (const std::size_t each : {0U, 1U, 2U}) {
+        t.clock.advance(0.2);
+        t.quieten(each);
+    }
+    QCOMPARE(t.desktop.standing.size(), 3U);
+    t.clock.advance(5);
+    QCOMPARE(t.desktop.standing.size(), 3U);
+    QCOMPARE(t.desktop.shownAgain.size(), 3U);
+}
+
+void tst_GatheredAnswers::changesOfOneTimerAreHeldBackLikeItsNews()
+{
+    GatheringFixture t;
+    t.end(1);
+    for (int i = 0; i < 40; ++i) {
+        t.clock.advance(0.2);
+        t.quieten(0);
+        t.clock.advance(0.05);
+        t.end(*t.timers.front(), QStringLiteral("T1"));
+    }
+    // Three alone, each with its change, and then about one a second for ten seconds.
+    QVERIFY(t.desktop.shown.size() + t.desktop.shownAgain.size() <= 6U + 11U);
+    t.clock.advance(1);
+    QCOMPARE(t.only().text, QStringLiteral("T1: 5s"));
+}
+
+void tst_GatheredAnswers::stopIsOfferedAsLongAsOneRings()
+{
+    GatheringFixture t;
+    t.end(5);
+    t.clock.advance(5);
+    for (const std::size_t each : {3U, 0U, 4U, 1U})
+        t.quieten(each);
+    t.clock.advance(5);
+    QVERIFY(t.only().stop);
+    t.quieten(2);
+    t.clock.advance(5);
+    QVERIFY(!t.only().stop);
+    QVERIFY(t.only().show);
+    QCOMPARE(t.only().text, QStringLiteral("T5\nT4\nT3\nT2\nT1"));
+}
+
+void tst_GatheredAnswers::aChangeThatNobodySeesIsNotShown()
+{
+    GatheringFixture t;
+    t.end(5);
+    t.clock.advance(5);
+    const std::size_t before = t.desktop.shown.size() + t.desktop.shownAgain.size();
+    t.quieten(3);
+    QVERIFY(t.clock.isIdle());
+    t.clock.advance(5);
+    QCOMPARE(t.desktop.shown.size() + t.desktop.shownAgain.size(), before);
+}
+
+void tst_GatheredAnswers::showAnswersForAll()
+{
+    GatheringFixture t;
+    t.end(5);
+    t.clock.advance(5);
+    const std::function<void()> show = t.only().show;
+    show();
+    QCOMPARE(t.texts(), QStringList());
+    QCOMPARE(t.dismissed, kFirstFive);
+    t.clock.advance(5);
+    QCOMPARE(t.texts(), QStringList());
+}
+
+void tst_GatheredAnswers::stopAnswersAlsoForThoseThatRingNoMore()
+{
+    GatheringFixture t;
+    t.end(5);
+    t.quieten(0);
+    t.quieten(2);
+    t.clock.advance(5);
+    const std::function<void()> stop = t.only().stop;
+    stop();
+    QCOMPARE(t.entries(), QStringLiteral("stop T2 stop T4 stop T5"));
+    QCOMPARE(t.dismissed, QStringList({QStringLiteral("T1"), QStringLiteral("T3")}));
+    QCOMPARE(t.texts(), QStringList());
+}
+
+void tst_GatheredAnswers::theEndOfTheSummaryIsThatOfEach()
+{
+    GatheringFixture t;
+    t.end(5);
+    t.clock.advance(5);
+    t.desktop.close(0, End::Expired);
+    QCOMPARE(t.expired, kFirstFive);
+    QCOMPARE(t.dismissed, QStringList());
+}
+
+void tst_GatheredAnswers::thoseThatComeBackTogetherAreOneAndQuiet()
+{
+    GatheringFixture t;
+    t.end(5);
+    t.clock.advance(5);
+    t.desktop.close(0, End::Expired);
+    t.clock.advance(5);
+    for (std::size_t each = 0; each < 5; ++each)
+        t.remind(each);
+    t.clock.advance(1);
+    QCOMPARE(t.only().title, QStringLiteral("5 timers have ended"));
+    QVERIFY(t.only().occasion == Occasion::Reminder);
+    QVERIFY(t.only().stop);
+}
+
+void tst_GatheredAnswers::newsAmongThoseThatComeBackIsNews()
+{
+    GatheringFixture t;
+    t.end(5);
+    t.clock.advance(5);
+    t.desktop.close(0, End::Expired);
+    t.end(1);
+    for (std::size_t each = 0; each < 5; ++each)
+        t.remind(each);
+    t.clock.advance(1);
+    QCOMPARE(t.only().title, QStringLiteral("6 timers have ended"));
+    QVERIFY(t.only().occasion == Occasion::News);
+}
+
+WUFFER_TEST_MAIN(tst_GatheredAnswers)
+#include "tst_GatheredAnswers.moc"
