@@ -99,7 +99,6 @@ void tst_CubebSoundSystem::initTestCase()
 {
     qputenv("PULSE_SERVER", "unix:/nonexistent");
     qputenv("ALSA_CONFIG_PATH", "/dev/null");
-    qputenv("JACK_NO_START_SERVER", "1");
     _threadsAtFirst = threadCount();
 }
 
