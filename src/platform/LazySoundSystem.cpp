@@ -28,6 +28,7 @@ class NoSoundSystem final : public SoundSystem
 {
 public:
     std::unique_ptr<Sound> soundNamed(const QString & /*fileName*/) override { return nullptr; }
+    bool canOpenFiles() override { return false; }
     std::unique_ptr<Sound> soundWithContentsOfFile(const QString &path) override
     {
         return std::make_unique<NoSound>(path);
@@ -57,6 +58,11 @@ QString LazySoundSystem::standardModule()
 std::unique_ptr<Sound> LazySoundSystem::soundNamed(const QString &fileName)
 {
     return system().soundNamed(fileName);
+}
+
+bool LazySoundSystem::canOpenFiles()
+{
+    return system().canOpenFiles();
 }
 
 std::unique_ptr<Sound> LazySoundSystem::soundWithContentsOfFile(const QString &path)

@@ -54,6 +54,10 @@ public:
     /// The program's own sound of this file name ("crow.wav"), or null when there is none.
     [[nodiscard]] virtual std::unique_ptr<Sound> soundNamed(const QString &fileName) = 0;
 
+    /// Whether there is anything here that opens files. Where not, that a file cannot be played
+    /// says nothing about the file.
+    [[nodiscard]] virtual bool canOpenFiles() = 0;
+
     /// The sound in the file at this path. The file is read while the sound plays. A file that
     /// cannot be played gives a sound of duration 0.
     [[nodiscard]] virtual std::unique_ptr<Sound> soundWithContentsOfFile(const QString &path) = 0;

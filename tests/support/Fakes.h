@@ -52,6 +52,7 @@ class FakeSoundSystem final : public SoundSystem
 {
 public:
     [[nodiscard]] std::unique_ptr<Sound> soundNamed(const QString &fileName) override;
+    [[nodiscard]] bool canOpenFiles() override { return opensFiles; }
     [[nodiscard]] std::unique_ptr<Sound> soundWithContentsOfFile(const QString &path) override;
 
     /// Makes the file one of this duration, in seconds. Files have none to begin with.
@@ -66,6 +67,9 @@ public:
     /// The lines of the diary that begin so.
     [[nodiscard]] QStringList diary(const QString &beginning = {}) const;
     void clearDiary() { _diary.clear(); }
+
+    /// False when what opens files is missing. There are no sounds at all then.
+    bool opensFiles = true;
 
     /// Called whenever a sound begins.
     std::function<void()> whenPlayed = [] {};
