@@ -13,6 +13,7 @@ public:
 
     [[nodiscard]] QString name() const override { return _name; }
     [[nodiscard]] double duration() const override { return 0; }
+    void setStandIn(const QString & /*fileName*/) override {}
     void play() override {}
     void stop() override {}
     [[nodiscard]] bool isPlaying() const override { return false; }

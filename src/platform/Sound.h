@@ -21,6 +21,11 @@ public:
     /// Length of one pass in seconds; 0 when the file cannot be played.
     [[nodiscard]] virtual double duration() const = 0;
 
+    /// Names the program's own sound ("crow.wav") that stands in for this one whenever its file
+    /// turns out to hold nothing that can be heard as it is played. It is heard under everything
+    /// else that is said of this sound: its name, its volume, whether it loops. None to begin with.
+    virtual void setStandIn(const QString &fileName) = 0;
+
     /// Plays from the beginning. A sound that is playing already goes on as it is.
     virtual void play() = 0;
 

@@ -46,6 +46,7 @@ void tst_LazySoundSystem::withoutTheModuleThereAreNoSounds()
     const auto sound = system.soundWithContentsOfFile(QStringLiteral("/some/file"));
     QCOMPARE(sound->name(), QStringLiteral("/some/file"));
     QCOMPARE(sound->duration(), 0.0);
+    sound->setStandIn(QStringLiteral("test-blip.wav"));
     sound->play();
     QVERIFY(!sound->isPlaying());
 }

@@ -26,6 +26,7 @@ public:
 
     [[nodiscard]] QString name() const override { return _name; }
     [[nodiscard]] double duration() const override { return _duration; }
+    void setStandIn(const QString &fileName) override { _standIn = fileName; }
     void play() override;
     void stop() override;
     [[nodiscard]] bool isPlaying() const override { return _playing; }
@@ -33,6 +34,7 @@ public:
     void setVolume(float volume) override { _volume = volume; }
     void setLoops(bool loops) override { _loops = loops; }
 
+    [[nodiscard]] QString standIn() const { return _standIn; }
     [[nodiscard]] bool loops() const { return _loops; }
     /// Lets the sound reach its end.
     void reachEnd() { _playing = _loops; }
@@ -40,6 +42,7 @@ public:
 private:
     FakeSoundSystem &_system;
     QString _name;
+    QString _standIn;
     double _duration;
     bool _playing = false;
     bool _loops = false;
