@@ -13,6 +13,7 @@ public:
 
     [[nodiscard]] QString name() const override { return _name; }
     [[nodiscard]] double duration() const override { return 0; }
+    void setStandIn(const QString & /*fileName*/) override {}
     void play() override {}
     void stop() override {}
     [[nodiscard]] bool isPlaying() const override { return false; }
@@ -28,6 +29,7 @@ class NoSoundSystem final : public SoundSystem
 {
 public:
     std::unique_ptr<Sound> soundNamed(const QString & /*fileName*/) override { return nullptr; }
+    bool canOpenFiles() override { return false; }
     std::unique_ptr<Sound> soundWithContentsOfFile(const QString &path) override
     {
         return std::make_unique<NoSound>(path);
@@ -57,6 +59,11 @@ QString LazySoundSystem::standardModule()
 std::unique_ptr<Sound> LazySoundSystem::soundNamed(const QString &fileName)
 {
     return system().soundNamed(fileName);
+}
+
+bool LazySoundSystem::canOpenFiles()
+{
+    return system().canOpenFiles();
 }
 
 std::unique_ptr<Sound> LazySoundSystem::soundWithContentsOfFile(const QString &path)

@@ -17,6 +17,7 @@ public:
     [[nodiscard]] static QString standardModule();
 
     [[nodiscard]] std::unique_ptr<Sound> soundNamed(const QString &fileName) override;
+    [[nodiscard]] bool canOpenFiles() override;
     [[nodiscard]] std::unique_ptr<Sound> soundWithContentsOfFile(const QString &path) override;
 
 private:

@@ -21,6 +21,11 @@ public:
     /// Length of one pass in seconds; 0 when the file cannot be played.
     [[nodiscard]] virtual double duration() const = 0;
 
+    /// Names the program's own sound ("crow.wav") that stands in for this one whenever its file
+    /// turns out to hold nothing that can be heard as it is played. It is heard under everything
+    /// else that is said of this sound: its name, its volume, whether it loops. None to begin with.
+    virtual void setStandIn(const QString &fileName) = 0;
+
     /// Plays from the beginning. A sound that is playing already goes on as it is.
     virtual void play() = 0;
 
@@ -53,6 +58,10 @@ public:
 
     /// The program's own sound of this file name ("crow.wav"), or null when there is none.
     [[nodiscard]] virtual std::unique_ptr<Sound> soundNamed(const QString &fileName) = 0;
+
+    /// Whether there is anything here that opens files. Where not, that a file cannot be played
+    /// says nothing about the file.
+    [[nodiscard]] virtual bool canOpenFiles() = 0;
 
     /// The sound in the file at this path. The file is read while the sound plays. A file that
     /// cannot be played gives a sound of duration 0.

@@ -25,6 +25,12 @@ QString storedPath(const QString &key)
 {
     return UserDefaults::standardUserDefaults().stringForKey(key).value_or(QString());
 }
+
+/// True when the file cannot be judged, because what opens sounds is missing. It may be a good one.
+bool nothingIsKnownOf(const QString &path)
+{
+    return !path.isEmpty() && !Service<SoundSystem>::current().canOpenFiles();
+}
 } // namespace
 
 /// What differs between the alarm and the countdown sound.
@@ -114,7 +120,7 @@ void Preferences::populateComboBoxes()
 void Preferences::selectStoredSound(const Kind &kind)
 {
     const QString path = storedPath(kind.key);
-    if (soundFileIsValid(path)) {
+    if (soundFileIsValid(path) || nothingIsKnownOf(path)) {
         kind.combo.selectItemWithDataObjectValue(path);
         return;
     }

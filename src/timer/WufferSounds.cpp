@@ -1,5 +1,6 @@
 #include "platform/NotificationText.h"
 #include "timer/SoundChoice.h"
+#include "timer/TimerTexts.h"
 #include "timer/Wuffer.h"
 #include "ui_Wuffer.h"
 
@@ -9,6 +10,21 @@ namespace
 bool asksForOther(const std::optional<QString> &path, const std::unique_ptr<Sound> &sound)
 {
     return path && !path->isEmpty() && !(sound && sound->name() == *path);
+}
+
+/// The sound to be played for the choice in place of the last one; null to go on with that. A file
+/// that cannot be opened leaves the last good sound in its place, or else the built-in one is
+/// taken, which also stands in for a file that breaks later.
+std::unique_ptr<Sound> newSound(const Wuffer &timer, const std::optional<QString> &path,
+                                QStringView builtIn, const std::unique_ptr<Sound> &last)
+{
+    if (!asksForOther(path, last))
+        return nullptr;
+    std::unique_ptr<Sound> sound = timer.createSoundWithPath(*path);
+    if (!sound || sound->duration() == 0)
+        return last ? nullptr : timer.createSoundWithPath(builtIn.toString());
+    sound->setStandIn(builtInSoundFile(builtIn));
+    return sound;
 }
 
 void stop(const std::unique_ptr<Sound> &sound)
@@ -30,12 +46,8 @@ void Wuffer::playDone()
     if (_soundOff)
         return;
     const std::optional<QString> path = _ui->_alarmSoundCombo->dataObjectOfSelectedItem();
-    if (asksForOther(path, _doneSound)) {
-        // An unreadable file leaves the last good alarm in its place.
-        std::unique_ptr<Sound> sound = createSoundWithPath(*path);
-        if (sound && sound->duration() != 0)
-            _doneSound = std::move(sound);
-    }
+    if (std::unique_ptr<Sound> sound = newSound(*this, path, kWuffSound, _doneSound))
+        _doneSound = std::move(sound);
     if (_doneSound)
         _doneSound->play();
 }
@@ -47,12 +59,9 @@ void Wuffer::playBeep()
     if (_soundOff)
         return;
     const std::optional<QString> path = _ui->_countdownSoundCombo->dataObjectOfSelectedItem();
-    if (asksForOther(path, _beepSound)) {
-        std::unique_ptr<Sound> sound = createSoundWithPath(*path);
-        if (sound && sound->duration() != 0) {
-            _beepSound = std::move(sound);
-            _beepSound->setVolume(volume);
-        }
+    if (std::unique_ptr<Sound> sound = newSound(*this, path, kCrowSound, _beepSound)) {
+        _beepSound = std::move(sound);
+        _beepSound->setVolume(volume);
     }
     if (_beepSound)
         _beepSound->play();

@@ -4,15 +4,19 @@
 Usage: alarm_test.py WUFFER FOLDER [unittest arguments]
 """
 
+import json
+import os
 import threading
 import time
 
 from support.case import DesktopTest, main
 from support.moments import measures_moments
-from support.samples import AUDIBLE, loudest
+from support.samples import AUDIBLE, loudest, strength, write_tone
 from support.waiting import wait_until
 
 ALARM = 2.24
+# Of the user's own alarm.
+TONE = 1000
 
 
 class AlarmTest(DesktopTest):
@@ -125,6 +129,48 @@ class AlarmTest(DesktopTest):
             self.strike(self.session.sound.freeze)
         finally:
             self.session.sound.thaw()
+
+    def launch_with_own_alarm(self):
+        """Launches with an alarm of the user's own; gives its path."""
+        path = os.path.join(self.session.folder, "own.wav")
+        write_tone(path, TONE, 1)
+        self.program = self.launch(
+            settings=json.dumps({"soundHistory": [path], "alarmPath": path}))
+        return path
+
+    def check_built_in_alarm(self):
+        """It is heard, from zero to its end."""
+        self.program.wait_for_text("Time", "Wuff!", 3)
+        zero = time.monotonic()
+        # Long enough for the pauses of the built-in alarm.
+        samples = self.heard().hear(1.2)
+        self.assertGreater(loudest(samples), AUDIBLE)
+        self.assertLess(strength(samples, TONE), 0.1 * loudest(samples))
+        self.program.wait_for_button("Start")
+        late = time.monotonic() - zero - ALARM
+        self.report(f"the alarm phase is over {late * 1000:.0f} ms after the end of its sound")
+        self.assertGreater(late, -0.2)
+        self.assertLess(late, 0.8)
+
+    @measures_moments
+    def test_the_file_of_the_alarm_is_deleted_before_the_alarm_first_rings(self):
+        path = self.launch_with_own_alarm()
+        os.remove(path)
+        self.program.start_countdown(1)
+        self.check_built_in_alarm()
+        self.quit(self.program)
+
+    @measures_moments
+    def test_the_file_of_the_alarm_is_emptied_after_it_has_rung(self):
+        path = self.launch_with_own_alarm()
+        self.program.start_countdown(1)
+        self.program.wait_for_text("Time", "Wuff!", 3)
+        self.assertGreater(strength(self.heard().hear(0.5), TONE), AUDIBLE)
+        self.program.wait_for_button("Start")
+        os.truncate(path, 0)
+        self.display.key("Return")
+        self.check_built_in_alarm()
+        self.quit(self.program)
 
     @measures_moments
     def test_there_is_no_sound_server(self):

@@ -23,6 +23,11 @@ from support.waiting import wait_until
 
 SOUNDPLAYER = ""
 
+# The player's own sound: its name, its frequency, and how loud it is.
+OWN_SOUND = "test-blip.wav"
+OWN_TONE = 500
+OWN_RMS = 11313
+
 
 class Player:
     """The program under test, and the orders it takes."""
@@ -296,6 +301,52 @@ class SoundServerTest(unittest.TestCase):
         for name, tone in tones.items():
             expected = 0 if name in ("tone7", "tone8") else 1
             self.assertAlmostEqual(strength(heard, tone) / 655, expected, delta=0.1, msg=name)
+
+    # Files that break after they were loaded
+
+    def load_and_break(self, name, **tone):
+        self.load(name, **tone)
+        self.player.order("standin", name, OWN_SOUND)
+        os.truncate(os.path.join(self.folder, f"{name}.wav"), 0)
+
+    @measures_moments
+    def test_the_stand_in_is_heard_at_the_volume_of_the_sound_while_that_loops(self):
+        self.load_and_break("tone", rate=44100)
+        self.player.order("loops", "tone", 1)
+        self.player.order("volume", "tone", 0.5)
+        moment = self.player.play("tone")
+        wait_until(lambda: self.recorder.first_sound_after(moment), 1, "it is heard")
+        onset = (self.recorder.first_sound_after(moment) - moment) * 1000
+        self.report(f"onset after {onset:.0f} ms")
+        self.assertLess(onset, 100)
+        time.sleep(0.1)
+        heard = self.recorder.hear_undisturbed(0.6)
+        self.assertAlmostEqual(frequency(heard), OWN_TONE, delta=5)
+        self.assertAlmostEqual(rms(heard) / OWN_RMS, 0.5, delta=0.02)
+        self.player.order("loops", "tone", 0)
+        self.player.wait_for_end("tone", 1)
+        self.wait_for_silence()
+
+    @measures_moments
+    def test_a_stop_before_the_stand_in_began_keeps_it_silent(self):
+        self.load_and_break("tone")
+        time.sleep(0.1)
+        moment = time.monotonic()
+        self.player.orders("play tone", "stop tone")
+        time.sleep(0.3)
+        self.assertIsNone(self.recorder.first_sound_after(moment))
+        self.wait_for_silence()
+
+    @measures_moments
+    def test_a_file_that_took_the_place_of_another_is_heard_at_its_own_rate(self):
+        self.load("tone", tone=700, rate=44100)
+        shutil.copy(os.path.join(self.folder, "tone.wav"), os.path.join(self.folder, "kept.wav"))
+        self.load_and_break("other", rate=22050)
+        shutil.copy(os.path.join(self.folder, "kept.wav"), os.path.join(self.folder, "other.wav"))
+        moment = self.player.play("other")
+        wait_until(lambda: self.recorder.first_sound_after(moment), 1, "it is heard")
+        time.sleep(0.1)
+        self.assertAlmostEqual(frequency(self.recorder.hear_undisturbed(0.5)), 700, delta=5)
 
     # Hard times
 

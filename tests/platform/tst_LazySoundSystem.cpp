@@ -32,6 +32,7 @@ void tst_LazySoundSystem::theModuleIsLoadedForTheFirstSound()
     QVERIFY(blip);
     QCOMPARE(blip->duration(), 0.3);
     QVERIFY(!system.soundNamed(QStringLiteral("missing.wav")));
+    QVERIFY(system.canOpenFiles());
     QCOMPARE(system.soundWithContentsOfFile(QStringLiteral("/missing"))->duration(), 0.0);
 }
 
@@ -40,10 +41,12 @@ void tst_LazySoundSystem::withoutTheModuleThereAreNoSounds()
     LazySoundSystem system(QStringLiteral("/missing/module"));
 
     QVERIFY(!system.soundNamed(QStringLiteral("test-blip.wav")));
+    QVERIFY(!system.canOpenFiles());
 
     const auto sound = system.soundWithContentsOfFile(QStringLiteral("/some/file"));
     QCOMPARE(sound->name(), QStringLiteral("/some/file"));
     QCOMPARE(sound->duration(), 0.0);
+    sound->setStandIn(QStringLiteral("test-blip.wav"));
     sound->play();
     QVERIFY(!sound->isPlaying());
 }

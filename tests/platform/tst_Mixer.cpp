@@ -1,4 +1,6 @@
+#include "platform/sound/AudioFile.h"
 #include "platform/sound/Mixer.h"
+#include "platform/sound/SoundBytes.h"
 #include "platform/sound/Voice.h"
 #include "support/SoundFiles.h"
 
@@ -29,9 +31,12 @@ public:
         const auto controls = std::make_shared<SoundControls>();
         controls->loops = true;
         controls->volume = volume;
-        auto voice =
-            std::make_shared<Voice>([path] { return openSoundFile(path); }, kSampleRate, controls);
-        _readers.emplace_back([voice] { voice->readFile(); });
+        auto voice = std::make_shared<Voice>(kSampleRate, controls, [] {});
+        _readers.emplace_back([voice, path] {
+            const auto file = AudioFile::open(openSoundFile(path));
+            if (file && voice->begin(*file))
+                voice->readOn(*file);
+        });
         mixer.add(std::move(voice));
     }
 
@@ -66,6 +71,9 @@ private Q_SLOTS:
     void withoutAVoiceThereIsSilence();
     void voicesAreHeardTogether();
     void whatIsTooLoudIsLimited();
+    void aVoiceThatHasNotBegunIsSilent();
+    void aFileIsMissedAgainAndAgainUntilItBegins();
+    void aVoiceWithoutAFileEndsWhenItIsStopped();
 
 private:
     QTemporaryDir _folder;
@@ -95,6 +103,45 @@ void tst_Mixer::whatIsTooLoudIsLimited()
     for (int i = 0; i < 5; ++i)
         hum.add(_tone);
     QTRY_COMPARE(hum.range(), std::pair(-1.0F, 1.0F));
+}
+
+void tst_Mixer::aVoiceThatHasNotBegunIsSilent()
+{
+    Mixer mixer(kSampleRate);
+    const auto voice =
+        std::make_shared<Voice>(kSampleRate, std::make_shared<SoundControls>(), [] {});
+    const auto file = AudioFile::open(openSoundFile(_tone));
+    QVERIFY(voice->begin(*file));
+    mixer.add(voice);
+    std::vector<float> samples(kFrames * 2, 7.0F);
+    mixer.render(samples);
+    QVERIFY(std::ranges::all_of(samples, [](float sample) { return sample == 0; }));
+    QVERIFY(voice->isPlaying());
+}
+
+void tst_Mixer::aFileIsMissedAgainAndAgainUntilItBegins()
+{
+    int missed = 0;
+    Voice voice(kSampleRate, std::make_shared<SoundControls>(), [&] { ++missed; });
+    std::vector<float> second(std::size_t{2} * kSampleRate);
+    QList<int> misses;
+    for (int i = 0; i < 6; ++i) {
+        QVERIFY(voice.mixInto(second, 0));
+        misses << missed;
+    }
+    QCOMPARE(misses, (QList<int>{0, 0, 1, 1, 1, 2}));
+    QVERIFY(voice.isPlaying());
+    voice.finish();
+    QVERIFY(!voice.mixInto(second, 0));
+}
+
+void tst_Mixer::aVoiceWithoutAFileEndsWhenItIsStopped()
+{
+    Voice voice(kSampleRate, std::make_shared<SoundControls>(), [] {});
+    std::vector<float> samples(kFrames * 2);
+    QVERIFY(voice.mixInto(samples, 0));
+    voice.stop();
+    QVERIFY(!voice.mixInto(samples, 0));
 }
 
 QTEST_GUILESS_MAIN(tst_Mixer)

@@ -1,3 +1,5 @@
+#include "platform/sound/AudioFile.h"
+#include "platform/sound/Playing.h"
 #include "platform/sound/SoundEngine.h"
 #include "platform/sound/Voice.h"
 #include "support/SoundFiles.h"
@@ -52,17 +54,23 @@ private Q_SLOTS:
     void aFileThatDoesNotAnswerDelaysTheEndByNoMoreThanASecond();
     void aFileThatAnswersLateIsHeardFromItsBeginning();
     void aFileThatPausesNowAndThenIsNotGivenUp();
+    void theStandInIsHeardInPlaceOfAFileThatDoesNotAnswer();
+    void aFileThatAnswersWhenItsStandInIsHeardStaysSilent();
+    void aStopWinsOverTheStandIn();
+    void theEndOfAllSoundsIsTheEndOfTheStandIn();
 
 private:
     static constexpr int kSampleRate = 48000;
 
-    [[nodiscard]] std::shared_ptr<Voice> play(const OpenSoundBytes &open)
+    [[nodiscard]] std::shared_ptr<Playing> play(const OpenSoundBytes &open,
+                                                const OpenSoundBytes &standIn = {})
     {
-        return _engine->play(open, kSampleRate, std::make_shared<SoundControls>());
+        return _engine->play(open, kSampleRate, std::make_shared<SoundControls>(), standIn);
     }
 
     QTemporaryDir _folder;
     OpenSoundBytes _openTone;
+    OpenSoundBytes _openLowTone;
     std::unique_ptr<SoundEngine> _engine;
     // Shared with the threads that wait at it, which may outlive the test.
     std::shared_ptr<QSemaphore> _disk;
@@ -76,6 +84,9 @@ void tst_SoundEngine::initTestCase()
     const QString path = _folder.filePath(QStringLiteral("tone.wav"));
     writeTone(path, {.seconds = 0.3, .sampleRate = kSampleRate});
     _openTone = [path] { return openSoundFile(path); };
+    const QString low = _folder.filePath(QStringLiteral("low.wav"));
+    writeTone(low, {.seconds = 0.5, .sampleRate = 22050});
+    _openLowTone = [low] { return openSoundFile(low); };
 }
 
 void tst_SoundEngine::init()
@@ -138,9 +149,10 @@ void tst_SoundEngine::aFileThatPausesNowAndThenIsNotGivenUp()
     const QString path = _folder.filePath(QStringLiteral("long.wav"));
     writeTone(path, {.seconds = 5, .sampleRate = kSampleRate});
     std::mutex disk;
-    Voice voice([&] { return std::make_unique<HeldFile>(path, disk); }, kSampleRate,
-                std::make_shared<SoundControls>());
-    const std::jthread reader([&] { voice.readFile(); });
+    Voice voice(kSampleRate, std::make_shared<SoundControls>(), [] {});
+    const auto file = AudioFile::open(std::make_unique<HeldFile>(path, disk));
+    QVERIFY(voice.begin(*file));
+    const std::jthread reader([&] { voice.readOn(*file); });
     const auto end = qScopeGuard([&] { voice.finish(); });
     const auto mix = [&](double seconds) {
         std::vector<float> samples(static_cast<std::size_t>(seconds * kSampleRate) * 2);
@@ -149,11 +161,58 @@ void tst_SoundEngine::aFileThatPausesNowAndThenIsNotGivenUp()
     };
     // Longer in all than a file is waited for.
     for (int pause = 0; pause < 3; ++pause) {
-        QTRY_VERIFY(mix(0.01));
+        bool isHeard = false;
+        QTRY_VERIFY(isHeard || (isHeard = mix(0.01)));
         const std::lock_guard held(disk);
         static_cast<void>(mix(1.5));
         QVERIFY(voice.isPlaying());
     }
+}
+
+void tst_SoundEngine::theStandInIsHeardInPlaceOfAFileThatDoesNotAnswer()
+{
+    QElapsedTimer timer;
+    timer.start();
+    const auto stuck = play(_openWhenTheDiskAnswers, _openLowTone);
+    QTRY_VERIFY_WITH_TIMEOUT(!stuck->isPlaying(), 4000);
+    // Two seconds for the disk, and then the sound of the stand-in.
+    QVERIFY2(timer.elapsed() > 2300 && timer.elapsed() < 3100,
+             qPrintable(QString::number(timer.elapsed())));
+}
+
+void tst_SoundEngine::aFileThatAnswersWhenItsStandInIsHeardStaysSilent()
+{
+    const QString path = _folder.filePath(QStringLiteral("minute.wav"));
+    // Of the same rate, so that it could be taken for the stand-in.
+    writeTone(path, {.seconds = 60, .sampleRate = 22050});
+    const auto late = play(
+        [disk = _disk, path] {
+            disk->acquire();
+            return openSoundFile(path);
+        },
+        _openLowTone);
+    QTest::qWait(2200);
+    _disk->release();
+    QTRY_VERIFY_WITH_TIMEOUT(!late->isPlaying(), 2000);
+}
+
+void tst_SoundEngine::aStopWinsOverTheStandIn()
+{
+    for (const int milliseconds : {0, 1, 5, 20, 100}) {
+        const auto nothing = play([] { return nullptr; }, _openLowTone);
+        QTest::qWait(milliseconds);
+        QVERIFY(nothing->isPlaying());
+        nothing->stop();
+        QVERIFY(!nothing->isPlaying());
+        QVERIFY(!QTest::qWaitFor([&] { return nothing->isPlaying(); }, 100));
+    }
+}
+
+void tst_SoundEngine::theEndOfAllSoundsIsTheEndOfTheStandIn()
+{
+    const auto nothing = play([] { return nullptr; }, _openLowTone);
+    _engine.reset();
+    QVERIFY(!nothing->isPlaying());
 }
 
 QTEST_GUILESS_MAIN(tst_SoundEngine)

@@ -37,6 +37,12 @@ void type(QFileDialog &dialog, const QString &path)
     dialog.findChild<QLineEdit *>(QStringLiteral("fileNameEdit"))->setText(path);
     QMetaObject::invokeMethod(&dialog, "accept");
 }
+
+QByteArray contentsOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
 } // namespace
 
 class tst_SystemOpenPanel final : public Test
@@ -44,12 +50,48 @@ class tst_SystemOpenPanel final : public Test
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs); }
+    void initTestCase();
+    void init();
     void anyFileMayBeChosen();
     void onlyItsOwnWindowWaitsForIt();
     void aCancelledPanelGivesNothing();
     void theNextOneBeginsWhereTheLastFileWas();
+    void theFirstOneBeginsWhereSoundsAre_data();
+    void theFirstOneBeginsWhereSoundsAre();
+    void nothingIsLeftBehind();
+    void whatAllProgramsShareIsReadAndNotWritten();
+
+private:
+    [[nodiscard]] QString inHome(const QString &name) const { return _home.filePath(name); }
+    void write(const QString &name, const QByteArray &contents) const;
+
+    QTemporaryDir _home;
 };
+
+void tst_SystemOpenPanel::initTestCase()
+{
+    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+    // The folders are the test's own, and stand for those of a user.
+    QStandardPaths::setTestModeEnabled(false);
+    qputenv("HOME", _home.path().toLocal8Bit());
+    qputenv("XDG_CONFIG_HOME", inHome(QStringLiteral("config")).toLocal8Bit());
+    qputenv("XDG_DATA_HOME", inHome(QStringLiteral("data")).toLocal8Bit());
+    qputenv("XDG_DATA_DIRS", inHome(QStringLiteral("system")).toLocal8Bit());
+}
+
+void tst_SystemOpenPanel::init()
+{
+    Test::init();
+    QVERIFY(QDir(_home.path()).removeRecursively() && QDir().mkdir(_home.path()));
+}
+
+void tst_SystemOpenPanel::write(const QString &name, const QByteArray &contents) const
+{
+    const QString path = inHome(name);
+    QVERIFY(QDir().mkpath(QFileInfo(path).path()));
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(contents) == contents.size());
+}
 
 void tst_SystemOpenPanel::anyFileMayBeChosen()
 {
@@ -93,6 +135,65 @@ void tst_SystemOpenPanel::theNextOneBeginsWhereTheLastFileWas()
         QCOMPARE(dialog.directory().canonicalPath(), QDir(folder.path()).canonicalPath());
         dialog.reject();
     });
+}
+
+void tst_SystemOpenPanel::theFirstOneBeginsWhereSoundsAre_data()
+{
+    QTest::addColumn<QStringList>("folders");
+    QTest::addColumn<QByteArray>("music");
+    QTest::addColumn<QString>("first");
+    const QStringList all{QStringLiteral("data/sounds"), QStringLiteral("Tunes"),
+                          QStringLiteral("system/sounds")};
+    QTest::newRow("the user's own sounds") << all << QByteArray("$HOME/Tunes") << "data/sounds";
+    QTest::newRow("music") << all.mid(1) << QByteArray("$HOME/Tunes") << "Tunes";
+    QTest::newRow("no folder for music") << all.mid(1) << QByteArray("$HOME/") << "system/sounds";
+    QTest::newRow("the folder for music has gone")
+        << all.mid(2) << QByteArray("$HOME/Tunes") << "system/sounds";
+    QTest::newRow("none of them") << QStringList() << QByteArray("$HOME/Tunes") << ".";
+}
+
+void tst_SystemOpenPanel::theFirstOneBeginsWhereSoundsAre()
+{
+    QFETCH(const QStringList, folders);
+    QFETCH(const QByteArray, music);
+    QFETCH(const QString, first);
+    for (const QString &folder : folders)
+        QVERIFY(QDir().mkpath(inHome(folder)));
+    write(QStringLiteral("config/user-dirs.dirs"), "XDG_MUSIC_DIR=\"" + music + "\"\n");
+    SystemOpenPanel panel;
+    (void)run(panel, [&](QFileDialog &dialog) {
+        QCOMPARE(dialog.directory().canonicalPath(), QDir(inHome(first)).canonicalPath());
+        dialog.reject();
+    });
+}
+
+void tst_SystemOpenPanel::nothingIsLeftBehind()
+{
+    SystemOpenPanel panel;
+    const QString path = inHome(QStringLiteral("tone.wav"));
+    write(QStringLiteral("tone.wav"), "tone");
+    for (int i = 0; i < 2; ++i)
+        QVERIFY(run(panel, [&](QFileDialog &dialog) { type(dialog, path); }));
+    (void)run(panel, [](QFileDialog &dialog) { dialog.reject(); });
+    QCOMPARE(QDir(_home.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+             QStringList{QStringLiteral("tone.wav")});
+}
+
+void tst_SystemOpenPanel::whatAllProgramsShareIsReadAndNotWritten()
+{
+    const auto shared = QStringLiteral("config/QtProject.conf");
+    const QByteArray contents = "[FileDialog]\nviewMode=List\n";
+    write(shared, contents);
+    SystemOpenPanel panel;
+    for (int i = 0; i < 2; ++i) {
+        (void)run(panel, [](QFileDialog &dialog) {
+            QCOMPARE(dialog.viewMode(), QFileDialog::List);
+            dialog.setViewMode(QFileDialog::Detail);
+            dialog.reject();
+        });
+        QCOMPARE(contentsOf(inHome(shared)), contents);
+    }
+    QCOMPARE(QDir(inHome(QStringLiteral("config"))).entryList(QDir::Files).size(), 1);
 }
 
 WUFFER_TEST_MAIN(tst_SystemOpenPanel)

@@ -26,6 +26,25 @@ private:
     LazySoundSystem _sounds;
     Service<SoundSystem> _service{_sounds};
 };
+/// The preferences in an installation that lacks the module with the sounds, with a sound stored
+/// that was chosen before.
+class FixtureWithoutModule : public PreferencesFixture
+{
+public:
+    FixtureWithoutModule()
+    {
+        set("soundHistory", QStringList{kBell});
+        set("alarmPath", kBell);
+        set("countdownPath", kBell);
+        open();
+    }
+
+    const QString kBell = QStringLiteral("/home/somebody/Bell.wav");
+
+private:
+    LazySoundSystem _sounds{QStringLiteral("/missing/module")};
+    Service<SoundSystem> _service{_sounds};
+};
 } // namespace
 
 /// Real files, judged by the real sound system.
@@ -42,6 +61,8 @@ private Q_SLOTS:
     void whatIsNoSoundIsNot();
     void filesOfOneNameFromTwoFoldersAreBothListed();
     void aDeletedFileIsPrunedWhenThePreferencesAreLoaded();
+    void withoutTheModuleStoredSoundsAreKept();
+    void withoutTheModuleNoFileIsAccepted();
 };
 
 void tst_SoundFiles::everyFormatIsAccepted_data()
@@ -164,6 +185,31 @@ void tst_SoundFiles::aDeletedFileIsPrunedWhenThePreferencesAreLoaded()
     QCOMPARE(p.defaults.stringArrayForKey(QStringLiteral("soundHistory")), QStringList());
     QCOMPARE(p.selected("_alarmCombo"), QStringLiteral("Wuff (Default)"));
     QCOMPARE(p.defaults.stringForKey(QStringLiteral("alarmPath")), file);
+}
+
+void tst_SoundFiles::withoutTheModuleStoredSoundsAreKept()
+{
+    const FixtureWithoutModule p;
+    QCOMPARE(p.defaults.stringArrayForKey(QStringLiteral("soundHistory")), QStringList{p.kBell});
+    QCOMPARE(p.defaults.stringForKey(QStringLiteral("alarmPath")), p.kBell);
+    QCOMPARE(p.selected("_alarmCombo"), p.kBell);
+    QCOMPARE(p.selected("_countdownCombo"), p.kBell);
+    // There is nothing that the user could mend here.
+    QCOMPARE(p.desktop.beeps, 0);
+    QVERIFY(!p.window.isVisible());
+}
+
+void tst_SoundFiles::withoutTheModuleNoFileIsAccepted()
+{
+    FixtureWithoutModule p;
+    const QTemporaryDir folder;
+    const QString file = folder.filePath(QStringLiteral("tone.wav"));
+    writeTone(file);
+    p.openPanel.choose(file);
+    p.choose("_alarmCombo", QStringLiteral("Select another sound..."));
+    QCOMPARE(p.desktop.beeps, 1);
+    QCOMPARE(p.defaults.stringArrayForKey(QStringLiteral("soundHistory")), QStringList{p.kBell});
+    QCOMPARE(p.defaults.stringForKey(QStringLiteral("alarmPath")), p.kBell);
 }
 
 WUFFER_TEST_MAIN(tst_SoundFiles)

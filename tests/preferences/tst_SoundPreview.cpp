@@ -42,6 +42,7 @@ private Q_SLOTS:
     void mutingStopsTheSound();
     void turningBeepsOffStopsTheCountdownSoundOnly();
     void anUnplayableSoundBeeps();
+    void noOtherSoundStandsInForTheOneThatIsTried();
     void theButtonSaysWhatItDoes();
     void aSoundThatPlaysWhenThePreferencesGoIsSilenced();
 };
@@ -188,6 +189,14 @@ void tst_SoundPreview::anUnplayableSoundBeeps()
     p.part<QComboBox>("_alarmCombo").setCurrentIndex(-1);
     p.alarm().click();
     QVERIFY(!p.alarm().isPlaying());
+}
+
+void tst_SoundPreview::noOtherSoundStandsInForTheOneThatIsTried()
+{
+    Fixture p;
+    p.choose("_alarmCombo", QStringLiteral("Bell"));
+    p.alarm().click();
+    QCOMPARE(p.sounds.sound(kBell)->standIn(), QString());
 }
 
 void tst_SoundPreview::theButtonSaysWhatItDoes()

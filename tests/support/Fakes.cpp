@@ -33,12 +33,12 @@ void FakeSound::stop()
 
 std::unique_ptr<Sound> FakeSoundSystem::soundNamed(const QString &fileName)
 {
-    return make(fileName, 2.5);
+    return opensFiles ? make(fileName, 2.5) : nullptr;
 }
 
 std::unique_ptr<Sound> FakeSoundSystem::soundWithContentsOfFile(const QString &path)
 {
-    return make(path, _fileDurations.value(path, 0.0));
+    return make(path, opensFiles ? _fileDurations.value(path, 0.0) : 0.0);
 }
 
 FakeSound *FakeSoundSystem::sound(const QString &name) const

@@ -26,6 +26,7 @@ public:
 
     [[nodiscard]] QString name() const override { return _name; }
     [[nodiscard]] double duration() const override { return _duration; }
+    void setStandIn(const QString &fileName) override { _standIn = fileName; }
     void play() override;
     void stop() override;
     [[nodiscard]] bool isPlaying() const override { return _playing; }
@@ -33,6 +34,7 @@ public:
     void setVolume(float volume) override { _volume = volume; }
     void setLoops(bool loops) override { _loops = loops; }
 
+    [[nodiscard]] QString standIn() const { return _standIn; }
     [[nodiscard]] bool loops() const { return _loops; }
     /// Lets the sound reach its end.
     void reachEnd() { _playing = _loops; }
@@ -40,6 +42,7 @@ public:
 private:
     FakeSoundSystem &_system;
     QString _name;
+    QString _standIn;
     double _duration;
     bool _playing = false;
     bool _loops = false;
@@ -52,6 +55,7 @@ class FakeSoundSystem final : public SoundSystem
 {
 public:
     [[nodiscard]] std::unique_ptr<Sound> soundNamed(const QString &fileName) override;
+    [[nodiscard]] bool canOpenFiles() override { return opensFiles; }
     [[nodiscard]] std::unique_ptr<Sound> soundWithContentsOfFile(const QString &path) override;
 
     /// Makes the file one of this duration, in seconds. Files have none to begin with.
@@ -66,6 +70,9 @@ public:
     /// The lines of the diary that begin so.
     [[nodiscard]] QStringList diary(const QString &beginning = {}) const;
     void clearDiary() { _diary.clear(); }
+
+    /// False when what opens files is missing. There are no sounds at all then.
+    bool opensFiles = true;
 
     /// Called whenever a sound begins.
     std::function<void()> whenPlayed = [] {};

@@ -10,7 +10,8 @@
 // Plays sounds at the command of a test. Each line of the standard input is one order,
 //
 //     load NAME PATH     play NAME       volume NAME VOLUME    playing NAME
-//     destroy NAME       stop NAME       loops NAME 0|1        quit
+//     destroy NAME       stop NAME       loops NAME 0|1        standin NAME FILE
+//     quit
 //
 // and is answered by a line with a result and by how many microseconds the order took.
 
@@ -47,6 +48,8 @@ double Player::carryOut(std::istringstream &order)
         sound.setVolume(std::stof(argument));
     else if (verb == "loops")
         sound.setLoops(argument == "1");
+    else if (verb == "standin")
+        sound.setStandIn(QString::fromStdString(argument));
     else if (verb == "destroy")
         _sounds.erase(name);
     else if (verb == "playing")

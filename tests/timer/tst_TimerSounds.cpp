@@ -27,9 +27,6 @@ private Q_SLOTS:
     void theBuiltInAlarmIsLookedUpEachTime();
     void theSameFileIsNotLoadedAgain();
     void anotherChoiceReplacesTheAlarm();
-    void anUnusableFileKeepsTheLastGoodAlarm();
-    void anUnusableFileAloneIsSilence();
-    void anUnusableFileKeepsTheLastGoodBeep();
     void aNewBeepSoundKeepsTheVolume();
     void withoutASelectionTheLastSoundStays();
     void mutingStopsWhatSounds();
@@ -179,38 +176,6 @@ void tst_TimerSounds::anotherChoiceReplacesTheAlarm()
     t.timer.playDone();
     QVERIFY(t.sounds.isPlaying(kBell));
     QVERIFY(!t.sounds.sound(kWuff));
-}
-
-void tst_TimerSounds::anUnusableFileKeepsTheLastGoodAlarm()
-{
-    TimerFixture t;
-    t.timer.playDone();
-    t.chooseAlarm(QStringLiteral("/no/such.wav"));
-    t.sounds.clearDiary();
-    t.timer.playDone();
-    QCOMPARE(t.sounds.diary(QStringLiteral("play")),
-             QStringList{QStringLiteral("play wolvesWuff.wav at 1")});
-}
-
-void tst_TimerSounds::anUnusableFileAloneIsSilence()
-{
-    TimerFixture t;
-    t.chooseAlarm(QStringLiteral("/no/such.wav"));
-    t.startCountdown(1);
-    t.pass(1.05);
-    QCOMPARE(t.display(), QStringLiteral("Wuff!"));
-    QCOMPARE(t.sounds.diary(QStringLiteral("play wolves")), QStringList());
-    t.pass(0.21);
-    QVERIFY(!t.timer.isRunning());
-}
-
-void tst_TimerSounds::anUnusableFileKeepsTheLastGoodBeep()
-{
-    TimerFixture t;
-    t.timer.playBeep();
-    t.chooseBeep(QStringLiteral("/no/such.wav"));
-    t.timer.playBeep();
-    QCOMPARE(t.sounds.diary(QStringLiteral("play crow.wav")).size(), 2);
 }
 
 void tst_TimerSounds::aNewBeepSoundKeepsTheVolume()

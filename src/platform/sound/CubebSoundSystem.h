@@ -14,6 +14,7 @@ public:
     ~CubebSoundSystem() override;
 
     [[nodiscard]] std::unique_ptr<Sound> soundNamed(const QString &fileName) override;
+    [[nodiscard]] bool canOpenFiles() override { return true; }
     [[nodiscard]] std::unique_ptr<Sound> soundWithContentsOfFile(const QString &path) override;
 
 private:

@@ -1,8 +1,8 @@
 #include "platform/sound/EngineSound.h"
 
 #include "platform/sound/AudioFile.h"
+#include "platform/sound/Playing.h"
 #include "platform/sound/SoundEngine.h"
-#include "platform/sound/Voice.h"
 
 #include <algorithm>
 #include <cmath>
@@ -22,23 +22,28 @@ EngineSound::~EngineSound()
     stop();
 }
 
+void EngineSound::setStandIn(const QString &fileName)
+{
+    _standIn = [fileName] { return openSoundResource(fileName); };
+}
+
 void EngineSound::play()
 {
     const std::shared_ptr<SoundEngine> engine = _engine.lock();
     if (engine && _duration > 0 && !isPlaying())
-        _voice = engine->play(_open, _sampleRate, _controls);
+        _playing = engine->play(_open, _sampleRate, _controls, _standIn);
 }
 
 void EngineSound::stop()
 {
-    if (_voice)
-        _voice->stop();
-    _voice.reset();
+    if (_playing)
+        _playing->stop();
+    _playing.reset();
 }
 
 bool EngineSound::isPlaying() const
 {
-    return _voice && _voice->isPlaying();
+    return _playing && _playing->isPlaying();
 }
 
 void EngineSound::setVolume(float volume)

@@ -4,8 +4,8 @@
 #include "platform/sound/SoundBytes.h"
 #include "platform/sound/SoundControls.h"
 
+class Playing;
 class SoundEngine;
-class Voice;
 
 /// A sound that a SoundEngine plays.
 class EngineSound final : public Sound
@@ -18,6 +18,7 @@ public:
 
     [[nodiscard]] QString name() const override { return _name; }
     [[nodiscard]] double duration() const override { return _duration; }
+    void setStandIn(const QString &fileName) override;
     void play() override;
     void stop() override;
     [[nodiscard]] bool isPlaying() const override;
@@ -28,9 +29,10 @@ public:
 private:
     const QString _name;
     const OpenSoundBytes _open;
+    OpenSoundBytes _standIn;
     const std::weak_ptr<SoundEngine> _engine;
     const std::shared_ptr<SoundControls> _controls;
     double _duration = 0;
     int _sampleRate = 0;
-    std::shared_ptr<Voice> _voice;
+    std::shared_ptr<Playing> _playing;
 };

@@ -4,31 +4,30 @@
 #include "platform/sound/SoundControls.h"
 #include "platform/sound/Workers.h"
 
-#include <map>
 #include <memory>
 
-class Output;
-class Voice;
+class Outputs;
+class Playing;
 
-/// What all sounds of one system share: an output for each sample rate that was ever played, and
-/// the threads. It costs nothing until the first sound is played. Main thread.
+/// What all sounds of one system share: the outputs and the threads. It costs nothing until the
+/// first sound is played. Main thread.
 class SoundEngine final
 {
 public:
-    SoundEngine() = default;
+    SoundEngine();
     Q_DISABLE_COPY_MOVE(SoundEngine)
 
     /// Silences everything; waits for the threads, but no longer than a second for those that are
     /// stuck in a sound server or a disk.
     ~SoundEngine();
 
-    /// Begins to play a file that has so many frames a second.
-    [[nodiscard]] std::shared_ptr<Voice> play(const OpenSoundBytes &open, int sampleRate,
-                                              std::shared_ptr<const SoundControls> controls);
+    /// Begins to play a file that has so many frames a second. If it yields not one frame, the
+    /// stand-in is played, which may be missing.
+    [[nodiscard]] std::shared_ptr<Playing> play(const OpenSoundBytes &open, int sampleRate,
+                                                std::shared_ptr<const SoundControls> controls,
+                                                const OpenSoundBytes &standIn = {});
 
 private:
-    [[nodiscard]] Output &output(int sampleRate);
-
     Workers _workers;
-    std::map<int, std::shared_ptr<Output>> _outputs;
+    std::shared_ptr<Outputs> _outputs;
 };

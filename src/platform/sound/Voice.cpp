@@ -9,16 +9,18 @@ namespace
 /// Long enough for few wake-ups, short enough for little memory.
 constexpr int kBlocksPerSecond = 50;
 
-/// How long a file may deliver nothing before its sound is given up.
+/// How long a file may deliver nothing before it is given up.
 constexpr std::size_t kPatienceSeconds = 2;
 
 /// The volume changes by this much a frame, so that no change clicks.
 constexpr float kGainStep = 1.0F / 256;
 } // namespace
 
-Voice::Voice(OpenSoundBytes open, int sampleRate, std::shared_ptr<const SoundControls> controls) :
-    _open(std::move(open)), _sampleRate(sampleRate), _framesPerBlock(sampleRate / kBlocksPerSecond),
-    _controls(std::move(controls)), _queue(_framesPerBlock)
+Voice::Voice(int sampleRate, std::shared_ptr<const SoundControls> controls,
+             std::function<void()> fileIsMissed) :
+    _sampleRate(sampleRate),
+    _framesPerBlock(sampleRate / kBlocksPerSecond), _controls(std::move(controls)),
+    _fileIsMissed(std::move(fileIsMissed)), _queue(_framesPerBlock)
 {}
 
 void Voice::stop()
@@ -33,34 +35,40 @@ void Voice::finish()
     _room.release();
 }
 
-void Voice::readFile()
+bool Voice::begin(AudioFile &file)
 {
-    const std::unique_ptr<AudioFile> file = AudioFile::open(_open());
-    if (file && file->sampleRate() == _sampleRate) {
-        bool passIsEmpty = true;
-        while (isPlaying() && readBlock(*file, passIsEmpty)) {
-        }
-    }
+    return readBlock(file);
+}
+
+void Voice::readOn(AudioFile &file)
+{
+    bool endsPass = false;
+    do {
+        endsPass = _queue.back()->endsPass;
+        _queue.push();
+        // Whether there is another pass shows only when this one has been played.
+        if (endsPass && !file.rewind())
+            break;
+        // A pass without a frame would go on for ever.
+    } while (waitForRoom() && (readBlock(file) || !endsPass));
     _readerIsDone = true;
 }
 
-bool Voice::readBlock(AudioFile &file, bool &passIsEmpty)
+/// Fills the block at the back, which must be there; false when the file had nothing for it.
+bool Voice::readBlock(AudioFile &file)
 {
-    BlockQueue::Block *block = _queue.back();
-    if (!block) {
+    BlockQueue::Block &block = *_queue.back();
+    block.frames = file.readStereo(block.samples.data(), _framesPerBlock);
+    block.endsPass = block.frames < _framesPerBlock;
+    return block.frames > 0;
+}
+
+/// True once there is a block to fill, false when that is no longer wanted.
+bool Voice::waitForRoom()
+{
+    while (isPlaying() && !_queue.back())
         _room.acquire();
-        return true;
-    }
-    block->frames = file.readStereo(block->samples.data(), _framesPerBlock);
-    block->endsPass = block->frames < _framesPerBlock;
-    if (passIsEmpty && block->frames == 0)
-        return false;
-    passIsEmpty = block->endsPass;
-    _queue.push();
-    if (!passIsEmpty)
-        return true;
-    // Whether there is another pass shows only when this one has been played.
-    return file.rewind();
+    return isPlaying();
 }
 
 bool Voice::mixInto(std::span<float> stereo, int heardAfter)
@@ -109,6 +117,12 @@ std::size_t Voice::mixBlock(const BlockQueue::Block &block, std::span<float> ste
 void Voice::starve(std::size_t frames, bool readerIsDone)
 {
     _starved += frames;
-    const auto patience = static_cast<std::size_t>(_sampleRate) * kPatienceSeconds;
-    _ended = readerIsDone || _stopped || _starved > patience;
+    const bool isOutOfPatience =
+        _starved > static_cast<std::size_t>(_sampleRate) * kPatienceSeconds;
+    const bool hasBegun = _gain.has_value();
+    _ended = _stopped || (hasBegun && (readerIsDone || isOutOfPatience));
+    if (isOutOfPatience && !_ended) {
+        _starved = 0;
+        _fileIsMissed();
+    }
 }

@@ -1,12 +1,12 @@
 #pragma once
 
 #include "platform/sound/BlockQueue.h"
-#include "platform/sound/SoundBytes.h"
 #include "platform/sound/SoundControls.h"
 
 #include <QSemaphore>
 
 #include <atomic>
+#include <functional>
 #include <limits>
 #include <memory>
 #include <optional>
@@ -14,17 +14,23 @@
 
 class AudioFile;
 
-/// One playing of one sound, from the request until it has been heard or silenced. Playing the
-/// sound again takes another voice, so that nothing can revive one that was stopped.
+/// One file on its way to the mixer of its sample rate, from the request until it has been heard or
+/// silenced. Playing a file again takes another voice, so that nothing can revive one that was
+/// stopped.
 ///
-/// Shared by the sound that asked for it, by the thread that reads its file, which is its own so
-/// that a disk that does not answer keeps nobody else waiting, and by the mixer.
+/// Shared by the playing that it belongs to, by the thread that reads its file, and by the mixer.
+/// The thread is the voice's own, so that a disk that does not answer keeps no other sound waiting.
 class Voice final
 {
 public:
-    /// A voice for a file that has so many frames a second.
-    Voice(OpenSoundBytes open, int sampleRate, std::shared_ptr<const SoundControls> controls);
+    /// A voice for a file of so many frames a second. While the file delivers nothing at all the
+    /// voice is silent, and after each time that a file is waited for it calls the function, on the
+    /// mixing thread, which must not be kept.
+    Voice(int sampleRate, std::shared_ptr<const SoundControls> controls,
+          std::function<void()> fileIsMissed);
     Q_DISABLE_COPY_MOVE(Voice)
+
+    [[nodiscard]] int sampleRate() const { return _sampleRate; }
 
     /// True until the end has been heard or stop was called. Any thread.
     [[nodiscard]] bool isPlaying() const { return !_over && !_stopped; }
@@ -32,25 +38,31 @@ public:
     /// Fades within milliseconds. Any thread.
     void stop();
 
-    /// Reads the file over and over, as far ahead as there is room, until the voice is over.
-    void readFile();
+    /// Reads the first frames of a file, which are not to be heard yet; false when there are none.
+    /// Once, and before readOn().
+    [[nodiscard]] bool begin(AudioFile &file);
+
+    /// Lets the first frames be heard, and reads the file over and over, as far ahead as there is
+    /// room, until the voice is over.
+    void readOn(AudioFile &file);
 
     /// Adds the next frames to those in the buffer (stereo, interleaved). A frame is heard so
     /// many frames after it was mixed. False when the voice is over. For the mixing thread.
     [[nodiscard]] bool mixInto(std::span<float> stereo, int heardAfter);
 
-    /// Ends the voice whatever it is doing. For the mixing thread.
+    /// Ends the voice whatever it is doing. Any thread.
     void finish();
 
 private:
-    [[nodiscard]] bool readBlock(AudioFile &file, bool &passIsEmpty);
+    [[nodiscard]] bool readBlock(AudioFile &file);
+    [[nodiscard]] bool waitForRoom();
     [[nodiscard]] std::size_t mixBlock(const BlockQueue::Block &block, std::span<float> stereo);
     void starve(std::size_t frames, bool readerIsDone);
 
-    const OpenSoundBytes _open;
     const int _sampleRate;
     const int _framesPerBlock;
     const std::shared_ptr<const SoundControls> _controls;
+    const std::function<void()> _fileIsMissed;
 
     std::atomic<bool> _stopped = false;
     std::atomic<bool> _over = false;
