@@ -13,6 +13,7 @@
 #include <optional>
 #include <vector>
 
+class QAbstractButton;
 class QAction;
 class QComboBox;
 class QLineEdit;
@@ -32,8 +33,7 @@ class Wuffer;
 /// It counts down from the hours, minutes and seconds typed into it, counts up as a stopwatch, or
 /// counts down to a date picked in a sheet. At the end it rings ("wuffs"), and when the alarm is
 /// over it stops and runs its finish action. All time is measured between dates, never by counting
-/// ticks. The application owns it until its window closes; whoever else refers to it does so
-/// weakly. Bodies stand with their theme, in the file named above each group.
+/// ticks. The application owns it until its window closes. Bodies stand in the files named below.
 class Wuffer final : public QObject
 {
     Q_OBJECT
@@ -58,6 +58,8 @@ public:
     [[nodiscard]] QString statusString() const;
     /// The colour in which it says so.
     [[nodiscard]] QColor currentTextColor() const;
+    /// The button that starts and stops it, for a menu item that repeats it.
+    [[nodiscard]] QAbstractButton &goButton() const;
 
     // The run cycle: WufferRunCycle.cpp, WufferAlarmPhase.cpp.
 
@@ -78,6 +80,8 @@ public:
     [[nodiscard]] double timeLeftFromFields() const;
     /// Writes so many seconds into the three fields.
     void setFieldsWithTimeLeft(double timeLeft);
+    /// Goes to the name, the whole of which the next letter replaces.
+    void rename();
 
     // The target date: WufferTargetTime.cpp.
 
@@ -98,8 +102,7 @@ public:
     void setColorForDisplayText(TextColor color, bool elapsedToo);
     /// The idle display.
     void setDefaultDisplayValues();
-    /// A window of the program has come into view or gone from it: a display that has rested
-    /// unseen and is seen now catches up.
+    /// Windows have come into view or gone: a display that rested unseen and is seen catches up.
     void windowExposed();
 
     // Sounds and notifications: WufferSounds.cpp.
@@ -132,8 +135,7 @@ public:
 
     /// What a menu item does to a timer.
     using Operation = void (Wuffer::*)();
-    /// Whether the menu item with this operation is enabled now; retitles those whose text
-    /// follows the state.
+    /// Whether the menu item with this operation is enabled now; gives it the text of the state.
     [[nodiscard]] bool validateMenuItem(QAction &item, Operation action) const;
 
     // Settings: settings/WufferSettings.cpp.
@@ -174,8 +176,7 @@ public:
     /// Explains the finish actions.
     void getFinishingHelp();
 
-    // Chains of timers that start one another: settings/WufferChain.cpp. What one side is told
-    // the other learns, and no chain ever closes to a circle.
+    // Chains: settings/WufferChain.cpp. Both ends know a link, and no chain closes to a circle.
 
     /// The timer that this one starts when it has finished; null when there is none.
     [[nodiscard]] Wuffer *getTargetWuffer() const { return _targetWuffer; }
@@ -192,9 +193,8 @@ public:
     void setTargetWuffer(Wuffer *timer);
     /// The other side of setTargetWuffer(), which alone calls it.
     void setTargeted(Wuffer &timer);
-    /// Cuts the link to the timer that this one starts.
+    /// Cut the link to the timer that this one starts, and that from the timer that starts it.
     void removeTargetWuffer();
-    /// Cuts the link from the timer that starts this one.
     void removeTargetingWuffer();
     /// Shows the state of the chain in this timer, unless it is started.
     void refreshChainStatus();

@@ -65,6 +65,7 @@ void Wuffer::wuffLoop()
     if (!nothingFollows)
         handleFinishedBehaviour();
     refreshChainStatusForAllChainedWuffers();
+    Q_EMIT stateChanged();
 }
 
 QString Wuffer::repeatSuffix() const

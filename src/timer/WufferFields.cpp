@@ -33,6 +33,12 @@ void Wuffer::setFieldsWithTimeLeft(double timeLeft)
     _ui->_secondsField->setText(NumberText::fromSeconds(fields.seconds));
 }
 
+void Wuffer::rename()
+{
+    _ui->_titleField->setFocus(Qt::ShortcutFocusReason);
+    _ui->_titleField->selectAll();
+}
+
 void Wuffer::controlTextDidChange(const QLineEdit &field)
 {
     if (&field == _ui->_titleField) {
