@@ -1,8 +1,10 @@
 #include "app/MainMenu.h"
 
+#include "app/KeepOnTopItem.h"
 #include "app/LinkMenu.h"
 #include "app/MainMenuTable.h"
 #include "app/PresetsMenu.h"
+#include "app/TimerList.h"
 #include "app/WufferApplication.h"
 
 #include <QMainWindow>
@@ -40,11 +42,7 @@ MainMenu::MainMenu(WufferController &controller, PresetsMenu &presetsMenu) :
 {
     for (const Menu &menu : menus())
         addMenu(menu);
-    // Those that are not written down, because their items come and go.
-    constexpr int timerMenu = 1;
-    _menuBar.at(timerMenu)->addSeparator();
-    _menuBar.at(timerMenu)->addMenu(_linkMenu.get());
-    _menuBar.insert(_menuBar.begin() + timerMenu + 1, &_presetsMenu);
+    addWhatComesAndGoes();
     connect(&_presetsMenu, &QMenu::aboutToShow, this, &MainMenu::validate);
 
     connect(qApp, &QApplication::focusWindowChanged, this, &MainMenu::validate);
@@ -55,6 +53,20 @@ MainMenu::MainMenu(WufferController &controller, PresetsMenu &presetsMenu) :
 }
 
 MainMenu::~MainMenu() = default;
+
+void MainMenu::addWhatComesAndGoes()
+{
+    constexpr int timerMenu = 1;
+    constexpr int windowMenu = 2;
+    _menuBar.at(timerMenu)->addSeparator();
+    _menuBar.at(timerMenu)->addMenu(_linkMenu.get());
+    QMenu &windows = *_menuBar.at(windowMenu);
+    // After the item that minimizes.
+    new KeepOnTopItem(windows, windows.actions().value(1));
+    windows.addSeparator();
+    new TimerList(windows);
+    _menuBar.insert(_menuBar.begin() + timerMenu + 1, &_presetsMenu);
+}
 
 void MainMenu::addTo(QMainWindow &window)
 {

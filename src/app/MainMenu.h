@@ -47,6 +47,8 @@ private:
 
     [[nodiscard]] static const std::vector<Menu> &menus();
     void addMenu(const Menu &menu);
+    /// Adds what is not written down, because it depends on the timers.
+    void addWhatComesAndGoes();
     void addItem(QMenu &menu, const Row &row);
     void run(const Row &row);
     [[nodiscard]] bool isEnabled(const Item &item) const;
