@@ -74,6 +74,12 @@ void MainMenu::addTo(QMainWindow &window)
         window.menuBar()->addMenu(menu);
 }
 
+void MainMenu::addKeysTo(QWidget &window) const
+{
+    for (const Item &item : _items)
+        window.addAction(item.action);
+}
+
 QAction &MainMenu::itemFor(WufferController::Operation operation) const
 {
     const auto item = std::ranges::find_if(_items, [&](const Item &each) {

@@ -10,6 +10,7 @@
 class QAction;
 class QMainWindow;
 class QMenu;
+class QWidget;
 class LinkMenu;
 class PresetsMenu;
 class WufferController;
@@ -30,6 +31,9 @@ public:
 
     /// Gives the window a menu bar with these menus.
     void addTo(QMainWindow &window);
+
+    /// Lets the keys of the items, presets apart, work in a window that shows no menus.
+    void addKeysTo(QWidget &window) const;
 
     /// The item that does this, which there must be.
     [[nodiscard]] QAction &itemFor(void (WufferController::*operation)()) const;

@@ -94,8 +94,9 @@ const std::vector<MainMenu::Menu> &MainMenu::menus()
           {QT_TR_NOOP("M&easurements"), key("Ctrl+Shift+E"), &C::showMeasurements}}},
         {QT_TR_NOOP("&Help"),
          {{QT_TR_NOOP("Wuffer &Help"), key(QKeySequence::HelpContents), &C::showHelp},
+          {QT_TR_NOOP("Wuffer on the &Web"), {}, &C::donate},
           {},
-          {QT_TR_NOOP("Wuffer on the &Web"), {}, &C::donate}}},
+          {QT_TR_NOOP("&About Wuffer"), {}, &C::showAbout}}},
     };
     return menus;
 }

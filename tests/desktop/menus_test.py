@@ -127,6 +127,22 @@ class MenusTest(MenuUser):
         self.activate(first)
         self.quit(program)
 
+    def test_about_is_in_front_even_of_a_timer_that_is_kept_on_top(self):
+        program = self.launch()
+        window, = program.windows()
+        self.choose("w", "t")
+        self.wait_for_state(window, True)
+        self.choose("h", "a")
+        about = program.wait_for_windows(2)[-1]
+        self.wait_until_active(about)
+        self.assertEqual(self.display.title(about), "About Wuffer")
+        self.assertTrue(self.is_above(about, window))
+        self.assertTrue(program.has("button", "Close"))
+        self.display.key("Escape")
+        program.wait_for_windows(1)
+        self.wait_until_active(window)
+        self.quit(program)
+
 
 class SimpleWindowManagerTest(MenuUser):
     def test_nothing_is_kept_on_top_where_the_window_manager_does_not_say_that_it_can(self):
