@@ -260,6 +260,7 @@ void tst_PresetKeys::withoutATimerNothingIsSaved()
     press(Qt::Key_Ampersand, Keyboard::kControl, kFirstNumber);
     QCOMPARE(minutesOf(1), QVariant(10));
     press(Qt::Key_Ampersand, Keyboard::kCommand, kFirstNumber);
+    QCOMPARE(count(), std::size_t(1));
     QCOMPARE(newest().description(), QStringLiteral("Preset 1 - 0h 10m 0s"));
 }
 
