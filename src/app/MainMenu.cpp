@@ -1,10 +1,11 @@
 #include "app/MainMenu.h"
 
+#include "app/KeepOnTopItem.h"
 #include "app/LinkMenu.h"
+#include "app/MainMenuTable.h"
 #include "app/PresetsMenu.h"
+#include "app/TimerList.h"
 #include "app/WufferApplication.h"
-#include "app/WufferController.h"
-#include "timer/Wuffer.h"
 
 #include <QMainWindow>
 #include <QMenu>
@@ -12,66 +13,22 @@
 #include <QWindow>
 
 #include <algorithm>
-#include <variant>
 
 namespace
 {
-/// What an item does to the active window.
-using WindowOperation = void (*)(QWidget &window);
-
-void closeWindow(QWidget &window)
-{
-    window.close();
-}
-
-QList<QKeySequence> key(const char *keys)
-{
-    return {QKeySequence(QString::fromLatin1(keys))};
-}
-
-QList<QKeySequence> key(QKeySequence::StandardKey keys)
-{
-    return QKeySequence::keyBindings(keys);
-}
-
-/// F11 is known everywhere; some desktops have keys of their own instead or beside it.
-QList<QKeySequence> fullScreenKeys()
-{
-    const QKeySequence f11(Qt::Key_F11);
-    QList<QKeySequence> keys = key(QKeySequence::FullScreen);
-    keys.removeAll(f11);
-    keys.prepend(f11);
-    return keys;
-}
-
 /// The text of a menu or an item without the mark of its mnemonic.
 QString plainText(QString text)
 {
     return text.remove(QLatin1Char('&'));
 }
 
-void minimizeWindow(QWidget &window)
+/// The timer of the active window. One whose window is closing is none any more.
+Wuffer *openKeyWuffer()
 {
-    window.showMinimized();
+    Wuffer *timer = WufferApplication::keyWuffer();
+    return std::ranges::count(WufferApplication::getWuffers(), timer) > 0 ? timer : nullptr;
 }
 } // namespace
-
-/// One line of a menu, as written down.
-struct MainMenu::Row
-{
-    /// Null for a separator.
-    const char *text = nullptr;
-    QList<QKeySequence> shortcuts = {};
-    std::variant<std::monostate, WufferController::Operation, Wuffer::Operation, WindowOperation>
-        operation = {};
-};
-
-/// One menu, as written down.
-struct MainMenu::Menu
-{
-    const char *title;
-    std::vector<Row> rows;
-};
 
 /// One line of a menu, as made.
 struct MainMenu::Item
@@ -80,52 +37,12 @@ struct MainMenu::Item
     const Row *row;
 };
 
-const std::vector<MainMenu::Menu> &MainMenu::menus()
-{
-    using C = WufferController;
-    using W = Wuffer;
-    // The platform's own keys where it has some; Alt and Control with a digit are left free.
-    static const std::vector<Menu> menus{
-        {QT_TR_NOOP("&File"),
-         {{QT_TR_NOOP("&New Wuffer"), key(QKeySequence::New), &C::newWuffer},
-          {QT_TR_NOOP("Start &All"), key("Ctrl+Shift+S"), &C::startAllWuffers},
-          {QT_TR_NOOP("Mute All"), key("Ctrl+Shift+M"), &C::toggleMute},
-          {},
-          {QT_TR_NOOP("&Preferences…"), key("Ctrl+,"), &C::showPreferences},
-          {},
-          {QT_TR_NOOP("&Close"), key(QKeySequence::Close), closeWindow},
-          {QT_TR_NOOP("&Quit"), key(QKeySequence::Quit), &C::quit}}},
-        {QT_TR_NOOP("&Timer"),
-         {{QT_TR_NOOP("Stopwatch"), key("Ctrl+T"), &W::stopwatch},
-          {QT_TR_NOOP("Count Down to a &Date…"), key("Ctrl+D"), &W::targetTime},
-          {QT_TR_NOOP("&Reset"), key("Ctrl+R"), &W::resetWuffer},
-          {},
-          {QT_TR_NOOP("&Keep Wuffing"), key("Ctrl+K"), &W::toggleKeepWuffing},
-          {QT_TR_NOOP("&Full Screen"), fullScreenKeys(), &W::startStopFullScreen},
-          {QT_TR_NOOP("More Options"), key("Ctrl+O"), &W::showHideAdvanced}}},
-        {QT_TR_NOOP("&Window"),
-         {{QT_TR_NOOP("&Minimize"), key("Ctrl+M"), minimizeWindow},
-          {},
-          {QT_TR_NOOP("&Converter"), key("Ctrl+Shift+C"), &C::showConverter},
-          {QT_TR_NOOP("M&easurements"), key("Ctrl+Shift+E"), &C::showMeasurements}}},
-        {QT_TR_NOOP("&Help"),
-         {{QT_TR_NOOP("Wuffer &Help"), key(QKeySequence::HelpContents), &C::showHelp},
-          {},
-          {QT_TR_NOOP("Wuffer on the &Web"), {}, &C::donate}}},
-    };
-    return menus;
-}
-
 MainMenu::MainMenu(WufferController &controller, PresetsMenu &presetsMenu) :
     _controller(controller), _presetsMenu(presetsMenu), _linkMenu(std::make_unique<LinkMenu>())
 {
     for (const Menu &menu : menus())
         addMenu(menu);
-    // Those that are not written down, because their items come and go.
-    constexpr int timerMenu = 1;
-    _menuBar.at(timerMenu)->addSeparator();
-    _menuBar.at(timerMenu)->addMenu(_linkMenu.get());
-    _menuBar.insert(_menuBar.begin() + timerMenu + 1, &_presetsMenu);
+    addWhatComesAndGoes();
     connect(&_presetsMenu, &QMenu::aboutToShow, this, &MainMenu::validate);
 
     connect(qApp, &QApplication::focusWindowChanged, this, &MainMenu::validate);
@@ -137,10 +54,30 @@ MainMenu::MainMenu(WufferController &controller, PresetsMenu &presetsMenu) :
 
 MainMenu::~MainMenu() = default;
 
+void MainMenu::addWhatComesAndGoes()
+{
+    constexpr int timerMenu = 1;
+    constexpr int windowMenu = 2;
+    _menuBar.at(timerMenu)->addSeparator();
+    _menuBar.at(timerMenu)->addMenu(_linkMenu.get());
+    QMenu &windows = *_menuBar.at(windowMenu);
+    // After the item that minimizes.
+    new KeepOnTopItem(windows, windows.actions().value(1));
+    windows.addSeparator();
+    new TimerList(windows);
+    _menuBar.insert(_menuBar.begin() + timerMenu + 1, &_presetsMenu);
+}
+
 void MainMenu::addTo(QMainWindow &window)
 {
     for (QMenu *menu : _menuBar)
         window.menuBar()->addMenu(menu);
+}
+
+void MainMenu::addKeysTo(QWidget &window) const
+{
+    for (const Item &item : _items)
+        window.addAction(item.action);
 }
 
 QAction &MainMenu::itemFor(WufferController::Operation operation) const
@@ -202,6 +139,9 @@ void MainMenu::run(const Row &row)
     } else if (const auto *ofTimer = std::get_if<Wuffer::Operation>(&operation)) {
         if (Wuffer *timer = WufferApplication::keyWuffer())
             (timer->**ofTimer)();
+    } else if (const auto *item = std::get_if<TimerItem>(&operation)) {
+        if (Wuffer *timer = openKeyWuffer())
+            item->act(*timer);
     } else if (const auto *ofWindow = std::get_if<WindowOperation>(&operation)) {
         if (QWidget *window = QApplication::activeWindow())
             (*ofWindow)(*window);
@@ -217,5 +157,7 @@ bool MainMenu::isEnabled(const Item &item) const
         const Wuffer *timer = WufferApplication::keyWuffer();
         return timer != nullptr && timer->validateMenuItem(*item.action, *ofTimer);
     }
+    if (const auto *ofItem = std::get_if<TimerItem>(&operation))
+        return ofItem->show(openKeyWuffer(), *item.action);
     return QApplication::activeWindow() != nullptr;
 }

@@ -10,6 +10,7 @@
 class QAction;
 class QMainWindow;
 class QMenu;
+class QWidget;
 class LinkMenu;
 class PresetsMenu;
 class WufferController;
@@ -31,6 +32,9 @@ public:
     /// Gives the window a menu bar with these menus.
     void addTo(QMainWindow &window);
 
+    /// Lets the keys of the items, presets apart, work in a window that shows no menus.
+    void addKeysTo(QWidget &window) const;
+
     /// The item that does this, which there must be.
     [[nodiscard]] QAction &itemFor(void (WufferController::*operation)()) const;
 
@@ -47,6 +51,8 @@ private:
 
     [[nodiscard]] static const std::vector<Menu> &menus();
     void addMenu(const Menu &menu);
+    /// Adds what is not written down, because it depends on the timers.
+    void addWhatComesAndGoes();
     void addItem(QMenu &menu, const Row &row);
     void run(const Row &row);
     [[nodiscard]] bool isEnabled(const Item &item) const;

@@ -1,10 +1,13 @@
 #include "app/PresetsMenu.h"
 
 #include "app/MenuText.h"
+#include "app/PresetKeys.h"
 #include "app/WufferController.h"
 #include "platform/Keyboard.h"
 #include "settings/Preset.h"
 #include "timer/Wuffer.h"
+
+#include <algorithm>
 
 namespace
 {
@@ -38,6 +41,7 @@ PresetsMenu::PresetsMenu(WufferController &controller) :
         QAction *item = _save.emplace_back(addItem(submenu, Keyboard::kControl, number));
         connect(item, &QAction::triggered, this, [this, item] { _controller.setPreset(*item); });
     }
+    new PresetKeys(*this);
 }
 
 void PresetsMenu::populate()
@@ -56,6 +60,16 @@ void PresetsMenu::validate()
     const bool mayBeSaved = _controller.validateMenuItem(&WufferController::setPreset);
     for (QAction *item : _save)
         item->setEnabled(mayBeSaved);
+}
+
+QAction *PresetsMenu::itemWithKeys(const QKeySequence &keys) const
+{
+    for (const std::vector<QAction *> &items : {_open, _save}) {
+        const auto item = std::ranges::find(items, keys, &QAction::shortcut);
+        if (item != items.end())
+            return *item;
+    }
+    return nullptr;
 }
 
 int PresetsMenu::presetNumber(const QAction &item)

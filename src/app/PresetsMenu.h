@@ -23,6 +23,9 @@ public:
     /// The items that open a preset, in the order of the list.
     [[nodiscard]] const std::vector<QAction *> &openItems() const { return _open; }
 
+    /// The item, of those that open and those that save, with these keys; null when none has.
+    [[nodiscard]] QAction *itemWithKeys(const QKeySequence &keys) const;
+
     /// Enables the items that save while there is a timer to save.
     void validate();
 

@@ -1,5 +1,6 @@
 #include "app/WufferController.h"
 
+#include "app/AboutDialog.h"
 #include "app/AuxiliaryWindow.h"
 #include "app/HomeKeeper.h"
 #include "app/HomeWindow.h"
@@ -206,6 +207,13 @@ void WufferController::show(std::unique_ptr<AuxiliaryWindow> &window, const QStr
         fill(*window);
     }
     window->orderFront();
+}
+
+void WufferController::showAbout()
+{
+    if (!_about)
+        _about = std::make_unique<AboutDialog>(*_mainMenu);
+    _about->orderFront();
 }
 
 void WufferController::donate()

@@ -8,6 +8,7 @@
 #include <memory>
 
 class QAction;
+class AboutDialog;
 class AuxiliaryWindow;
 class HomeKeeper;
 class HomeWindow;
@@ -55,6 +56,8 @@ public:
     void showMeasurements();
     /// Opens the help at its first page.
     void showHelp();
+    /// Shows what the program is, and what it is made of.
+    void showAbout();
     /// Opens the web page of the program.
     void donate();
     /// Closes every window and ends the program.
@@ -103,6 +106,7 @@ private:
     std::unique_ptr<AuxiliaryWindow> _converterWindow;
     std::unique_ptr<AuxiliaryWindow> _measurementsWindow;
     std::unique_ptr<AuxiliaryWindow> _helpWindow;
+    std::unique_ptr<AboutDialog> _about;
     std::unique_ptr<HomeKeeper> _home;
     QPointer<QWidget> _lastActive;
 };

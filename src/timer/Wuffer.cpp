@@ -128,3 +128,8 @@ QString Wuffer::statusString() const
     const RunTimes times = timesAt(Date::now().addingTimeInterval(-kRunTick));
     return TimeFormat::stringForTime(_stopwatch ? times.elapsed : times.remaining);
 }
+
+QAbstractButton &Wuffer::goButton() const
+{
+    return *_ui->_goButton;
+}

@@ -14,6 +14,7 @@
 #include <optional>
 #include <vector>
 
+class QAbstractButton;
 class QAction;
 class QComboBox;
 class QLineEdit;
@@ -59,6 +60,8 @@ public:
     [[nodiscard]] QString statusString() const;
     /// The colour in which it says so.
     [[nodiscard]] QColor currentTextColor() const;
+    /// The button that starts and stops it, for a menu item that repeats it.
+    [[nodiscard]] QAbstractButton &goButton() const;
 
     // The run cycle: WufferRunCycle.cpp, WufferAlarmPhase.cpp.
 
@@ -79,6 +82,8 @@ public:
     [[nodiscard]] double timeLeftFromFields() const;
     /// Writes so many seconds into the three fields.
     void setFieldsWithTimeLeft(double timeLeft);
+    /// Goes to the name, the whole of which the next letter replaces.
+    void rename();
 
     // The target date: WufferTargetTime.cpp.
 
@@ -191,9 +196,8 @@ public:
     void setTargetWuffer(Wuffer *timer);
     /// The other side of setTargetWuffer(), which alone calls it.
     void setTargeted(Wuffer &timer);
-    /// Cuts the link to the timer that this one starts.
+    /// Cut the link to the timer that this one starts, and that from the timer that starts it.
     void removeTargetWuffer();
-    /// Cuts the link from the timer that starts this one.
     void removeTargetingWuffer();
     /// Shows the state of the chain in this timer, unless it is started.
     void refreshChainStatus();

@@ -67,6 +67,7 @@ void Wuffer::wuffLoop()
     if (!nothingFollows)
         handleFinishedBehaviour();
     refreshChainStatusForAllChainedWuffers();
+    Q_EMIT stateChanged();
 }
 
 QString Wuffer::repeatSuffix() const

@@ -35,6 +35,12 @@ void Wuffer::setFieldsWithTimeLeft(double timeLeft)
     _timeEntry->makeReady();
 }
 
+void Wuffer::rename()
+{
+    _ui->_titleField->setFocus(Qt::ShortcutFocusReason);
+    _ui->_titleField->selectAll();
+}
+
 void Wuffer::controlTextDidChange(const QLineEdit &field)
 {
     if (&field == _ui->_titleField) {

@@ -46,7 +46,7 @@ QString keysOf(const QAction &item)
     return keys.join(QStringLiteral(", "));
 }
 
-/// "File menu|New Wuffer|Ctrl+N" for every item of the menu bar that has keys, presets apart.
+/// "File menu|New Timer|Ctrl+N" for every item of the menu bar that has keys, presets apart.
 QStringList menuRows(const QMainWindow &window)
 {
     QStringList rows;
@@ -140,7 +140,7 @@ void tst_HelpTexts::theTableOfShortcutsEqualsTheMenus()
     const QStringList rows = tableRows(*Reader::browser().document());
     const QStringList ofMenus = rows.filter(QRegularExpression(QStringLiteral("^\\w+ menu\\|")));
     QCOMPARE(ofMenus, menuRows(Reader::window()));
-    QVERIFY(ofMenus.contains(QStringLiteral("File menu|New Wuffer|Ctrl+N")));
+    QVERIFY(ofMenus.contains(QStringLiteral("File menu|New Timer|Ctrl+N")));
     QVERIFY(ofMenus.contains(QStringLiteral("Help menu|Wuffer Help|F1")));
     QVERIFY(rows.contains(QStringLiteral("In this help|Search|Ctrl+F")));
 }

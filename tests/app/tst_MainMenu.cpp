@@ -181,7 +181,7 @@ void tst_MainMenu::withoutAnActiveTimerItsItemsAreDisabled()
     QVERIFY(item(window, QStringLiteral("Reset")).isEnabled());
     controller.showConverter();
     QTRY_VERIFY(!item(window, QStringLiteral("Reset")).isEnabled());
-    QVERIFY(item(window, QStringLiteral("New Wuffer")).isEnabled());
+    QVERIFY(item(window, QStringLiteral("New Timer")).isEnabled());
 }
 
 void tst_MainMenu::aShortcutObeysTheSameRules()

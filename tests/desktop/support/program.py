@@ -140,7 +140,9 @@ class Program:
             return None
 
     def text(self, field, within=None):
-        field = self.find("field", field, within=within)
+        return self.text_of(self.find("field", field, within=within))
+
+    def text_of(self, field):
         return Atspi.Text.get_text(field, 0, Atspi.Text.get_character_count(field))
 
     def place(self, control):

@@ -1,0 +1,83 @@
+#include "app/AboutDialog.h"
+
+#include "BuildInfo.h"
+#include "app/MainMenu.h"
+#include "platform/WindowOrder.h"
+#include "ui_About.h"
+
+#include <QApplication>
+#include <QIcon>
+#include <QPushButton>
+#include <QWindow>
+
+#include <array>
+
+namespace
+{
+struct Library
+{
+    const char *name;
+    const char *use;
+    const char *licence;
+};
+
+/// What the program and its sound module are linked with.
+constexpr std::array kLibraries{
+    Library{"Qt %1", QT_TRANSLATE_NOOP("AboutDialog", "windows, session bus"), "LGPL 3"},
+    Library{"cubeb", QT_TRANSLATE_NOOP("AboutDialog", "sound output"), "ISC"},
+    Library{"libsndfile", QT_TRANSLATE_NOOP("AboutDialog", "sound files"), "LGPL 2.1"},
+    Library{"libmpg123", QT_TRANSLATE_NOOP("AboutDialog", "MP3 files"), "LGPL 2.1"},
+    Library{"libxcb", QT_TRANSLATE_NOOP("AboutDialog", "X Window System"), "MIT"},
+};
+
+/// With the version that is loaded, which need not be that of the build, where there is a place
+/// for it.
+QString nameOf(const Library &library)
+{
+    const QString name = QString::fromLatin1(library.name);
+    const QString version = QString::fromLatin1(qVersion());
+    return name.contains(QLatin1String("%1")) ? name.arg(version) : name;
+}
+
+QString rowOf(const Library &library)
+{
+    QString cells;
+    for (const QString &text :
+         {nameOf(library), AboutDialog::tr(library.use), QString::fromLatin1(library.licence)})
+        cells += QStringLiteral("<td style=\"padding: 1px 16px 1px 0px\">%1</td>").arg(text);
+    return QStringLiteral("<tr>%1</tr>").arg(cells);
+}
+
+QString libraryTable()
+{
+    QString rows;
+    for (const Library &each : kLibraries)
+        rows += rowOf(each);
+    return QStringLiteral("<table cellspacing=\"0\">%1</table>").arg(rows);
+}
+} // namespace
+
+AboutDialog::AboutDialog(const MainMenu &menu) : _ui(std::make_unique<Ui::About>())
+{
+    constexpr int iconSize = 64;
+    _ui->setupUi(this);
+    setWindowFlags(Qt::Dialog | Qt::WindowTitleHint | Qt::WindowCloseButtonHint);
+    _ui->_iconLabel->setPixmap(windowIcon().pixmap(iconSize));
+    _ui->_nameLabel->setText(BuildInfo::name());
+    _ui->_versionLabel->setText(tr("Version %1").arg(BuildInfo::version()));
+    _ui->_librariesLabel->setText(libraryTable());
+    _ui->_buttons->button(QDialogButtonBox::Close)->setFocus();
+    menu.addKeysTo(*this);
+}
+
+AboutDialog::~AboutDialog() = default;
+
+void AboutDialog::orderFront()
+{
+    const QWidget *below = QApplication::activeWindow();
+    // Before it is shown for the first time it has no window yet.
+    create();
+    if (below && below != this)
+        windowHandle()->setTransientParent(below->windowHandle());
+    bringToFront(*this);
+}

@@ -1,0 +1,45 @@
+#include "app/TimerList.h"
+
+#include "app/MenuText.h"
+#include "app/WufferApplication.h"
+#include "timer/Wuffer.h"
+
+#include <QActionGroup>
+#include <QMenu>
+
+namespace
+{
+/// What the timer shows while it runs, else the time that it is set to, after its name.
+QString lineFor(const Wuffer &timer)
+{
+    if (!timer.isRunning())
+        return timer.description();
+    return timer.title() + QStringLiteral(" - ") + timer.statusString();
+}
+} // namespace
+
+TimerList::TimerList(QMenu &menu) : QObject(&menu), _menu(menu), _active(new QActionGroup(this))
+{
+    connect(&menu, &QMenu::aboutToShow, this, &TimerList::populate);
+}
+
+TimerList::~TimerList() = default;
+
+void TimerList::populate()
+{
+    _items.clear();
+    for (Wuffer *timer : WufferApplication::getWuffers())
+        addItem(*timer);
+}
+
+void TimerList::addItem(Wuffer &timer)
+{
+    QAction *item = _items.emplace_back(std::make_unique<QAction>(menuText(lineFor(timer)))).get();
+    item->setCheckable(true);
+    _active->addAction(item);
+    item->setChecked(&timer == WufferApplication::keyWuffer());
+    _menu.addAction(item);
+    connect(item, &QAction::triggered, &timer, &Wuffer::showWufferWindow);
+    // It may close while the menu is open.
+    connect(&timer, &Wuffer::closed, item, [item] { item->setEnabled(false); });
+}

@@ -1,0 +1,16 @@
+#include "platform/HeldKey.h"
+
+#include <QKeyEvent>
+
+void HeldKey::letGo(const QKeyEvent &release)
+{
+    _number = release.nativeScanCode();
+    _moment = release.timestamp();
+}
+
+bool HeldKey::isRepeatedBy(const QKeyEvent &press) const
+{
+    // A press without a number is not of a keyboard.
+    const bool isSameKey = _number != 0 && press.nativeScanCode() == _number;
+    return press.isAutoRepeat() || (isSameKey && press.timestamp() == _moment);
+}

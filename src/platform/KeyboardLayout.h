@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QtGlobal>
+
+#include <vector>
+
+/// What the keyboard layout that is in use has on its keys.
+namespace KeyboardLayout
+{
+/// The symbols of a key, alone and with Shift, as X11 calls them. The state is that of the keyboard
+/// in the event of a press, which says which of several layouts is in use. Nothing where that
+/// cannot be asked for, as under Wayland.
+[[nodiscard]] std::vector<quint32> symbolsOf(quint32 keyNumber, quint32 state);
+} // namespace KeyboardLayout

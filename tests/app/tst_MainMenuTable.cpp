@@ -1,0 +1,254 @@
+#include "app/WufferController.h"
+#include "support/Menus.h"
+#include "support/TestMain.h"
+#include "support/TimerFixture.h"
+
+#include <QAbstractButton>
+#include <QFile>
+#include <QSet>
+
+/// What stands in the menus, and the items that show the state of a timer.
+class tst_MainMenuTable final : public Test
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void everyItemHasAMnemonicOfItsOwn();
+    void quitAndCloseHaveTheirKeysOnEveryDesktop();
+    void thePlatformsOwnKeysStayBeside();
+    void aNewTimerIsCalledTheSameEverywhere();
+    void theFirstItemIsTheButton();
+    void theFirstItemFollowsTheChain();
+    void theFirstItemIsRightWhenAChainHasRun();
+    void theFirstItemDoesWhatTheButtonDoes();
+    void theFirstItemIsAskedWhenTheMenuOpens();
+    void withoutATimerThereIsNothingToStartOrRename();
+    void renameGoesToTheName();
+    void renameSelectsANameThatIsBeingEdited();
+
+private:
+    static Wuffer &newest() { return *WufferApplication::getWuffers().back(); }
+    static QMenu &timerMenu() { return menu(*newest().window(), QStringLiteral("Timer")); }
+    static QAction &first() { return *timerMenu().actions().at(0); }
+    static QAction &rename() { return *timerMenu().actions().at(1); }
+    /// What the first item says; in brackets while it is disabled.
+    static QString firstItem()
+    {
+        return first().isEnabled() ? first().text() : QStringLiteral("(%1)").arg(first().text());
+    }
+    static QLineEdit &name(const Wuffer &timer)
+    {
+        return child<QLineEdit>(*timer.window(), "_titleField");
+    }
+    /// Lets the alarm that has just begun come to its end.
+    void endAlarm()
+    {
+        _services->sounds.sound(QStringLiteral("wolvesWuff.wav"))->reachEnd();
+        _services->clock.advance(0.3);
+    }
+
+    // Each test has services of its own and one timer, which is active.
+    std::unique_ptr<TestServices> _services;
+    std::unique_ptr<WufferController> _controller;
+
+private Q_SLOTS:
+    void init()
+    {
+        Test::init();
+        _services = std::make_unique<TestServices>();
+        _controller = std::make_unique<WufferController>();
+        _controller->awakeFromNib();
+        activate(*newest().window());
+    }
+    void cleanup()
+    {
+        _controller.reset();
+        _services.reset();
+    }
+};
+
+namespace
+{
+/// Texts that are the same elsewhere in the program, and so have no mnemonic.
+bool isFixed(const QString &text)
+{
+    static const QRegularExpression fixed(
+        QStringLiteral("^(Start|Stopwatch|More Options|Mute All|Save Wuffer to Preset|Shortcut: .*|"
+                       ".* - \\d+h \\d+m \\d+s\\)?)$"));
+    return fixed.match(text).hasMatch();
+}
+
+/// The menu and those within it.
+QList<QMenu *> withSubmenus(QMenu &menu)
+{
+    QList<QMenu *> menus{&menu};
+    for (const QAction *item : menu.actions()) {
+        if (item->menu())
+            menus << withSubmenus(*item->menu());
+    }
+    return menus;
+}
+
+/// Complains of an item without a mnemonic, or with one that another has.
+void checkMnemonics(const QList<QAction *> &items)
+{
+    QSet<QString> letters;
+    for (const QAction *item : items) {
+        if (item->isSeparator() || isFixed(item->text()))
+            continue;
+        const QString letter = QKeySequence::mnemonic(item->text()).toString();
+        QVERIFY2(!letter.isEmpty(), qPrintable(item->text()));
+        QVERIFY2(!letters.contains(letter), qPrintable(item->text()));
+        letters << letter;
+    }
+}
+} // namespace
+
+void tst_MainMenuTable::everyItemHasAMnemonicOfItsOwn()
+{
+    _controller->newWuffer();
+    const QList<QAction *> titles = newest().window()->menuBar()->actions();
+    checkMnemonics(titles);
+    int menus = 0;
+    for (const QAction *title : titles) {
+        for (QMenu *each : withSubmenus(*title->menu())) {
+            Q_EMIT each->aboutToShow();
+            checkMnemonics(each->actions());
+            ++menus;
+        }
+    }
+    // The five, and two within them.
+    QCOMPARE(menus, 7);
+}
+
+void tst_MainMenuTable::quitAndCloseHaveTheirKeysOnEveryDesktop()
+{
+    // The desktop of the tests has no key that quits, like some that users have.
+    QVERIFY(QKeySequence::keyBindings(QKeySequence::Quit).isEmpty());
+    const QList<QAction *> file = menu(*newest().window(), QStringLiteral("File")).actions();
+    QCOMPARE(file.last()->shortcut(), QKeySequence(QStringLiteral("Ctrl+Q")));
+    QCOMPARE(file.at(file.size() - 2)->shortcut(), QKeySequence(QStringLiteral("Ctrl+W")));
+}
+
+void tst_MainMenuTable::thePlatformsOwnKeysStayBeside()
+{
+    const QList<QAction *> file = menu(*newest().window(), QStringLiteral("File")).actions();
+    const QList<QKeySequence> keys = file.at(file.size() - 2)->shortcuts();
+    const QList<QKeySequence> own = QKeySequence::keyBindings(QKeySequence::Close);
+    QVERIFY(own.size() > 1);
+    for (const QKeySequence &each : own)
+        QCOMPARE(keys.count(each), 1);
+}
+
+void tst_MainMenuTable::aNewTimerIsCalledTheSameEverywhere()
+{
+    const QAction &item = *menu(*newest().window(), QStringLiteral("File")).actions().at(0);
+    const QString name = QString(item.text()).remove(QLatin1Char('&'));
+    QCOMPARE(name, QStringLiteral("New Timer"));
+    newest().window()->close();
+    QTRY_VERIFY(QApplication::activeWindow() != nullptr);
+    QCOMPARE(child<QAbstractButton>(*QApplication::activeWindow(), "_newTimerButton").text(), name);
+    QFile entry(QFINDTESTDATA("../packaging/org.wuffer.Wuffer.desktop"));
+    QVERIFY(entry.open(QIODevice::ReadOnly));
+    const QString action = QString::fromUtf8(entry.readAll())
+                               .section(QStringLiteral("[Desktop Action new-timer]\n"), 1, 1)
+                               .section(QLatin1Char('\n'), 0, 0);
+    QCOMPARE(action, QStringLiteral("Name=") + name);
+}
+
+void tst_MainMenuTable::theFirstItemIsTheButton()
+{
+    QVERIFY(first().shortcuts().isEmpty());
+    QCOMPARE(firstItem(), QStringLiteral("Start"));
+    newest().setFieldsWithTimeLeft(1);
+    newest().goPressed();
+    QCOMPARE(firstItem(), QStringLiteral("Stop"));
+    _services->clock.advance(1.1);
+    QCOMPARE(firstItem(), QStringLiteral("Reset"));
+    endAlarm();
+    QCOMPARE(firstItem(), QStringLiteral("Start"));
+}
+
+void tst_MainMenuTable::theFirstItemFollowsTheChain()
+{
+    Wuffer &head = newest();
+    _controller->newWuffer();
+    Wuffer &tail = newest();
+    activate(*tail.window());
+    head.setTargetWuffer(&tail);
+    QCOMPARE(firstItem(), QStringLiteral("(Chained)"));
+    activate(*head.window());
+    QCOMPARE(firstItem(), QStringLiteral("Start Chain"));
+    tail.window()->close();
+    QCOMPARE(first().text(), QStringLiteral("Start"));
+}
+
+void tst_MainMenuTable::theFirstItemIsRightWhenAChainHasRun()
+{
+    Wuffer &head = newest();
+    _controller->newWuffer();
+    Wuffer &tail = newest();
+    activate(*tail.window());
+    head.setTargetWuffer(&tail);
+    tail.setFieldsWithTimeLeft(1);
+    tail.goPressed();
+    QCOMPARE(firstItem(), QStringLiteral("Stop"));
+    _services->clock.advance(1.1);
+    endAlarm();
+    // The link is still there, so that only its head can start it again.
+    QVERIFY(!tail.goButton().isEnabled());
+    QCOMPARE(firstItem(), QStringLiteral("(Chained)"));
+}
+
+void tst_MainMenuTable::theFirstItemDoesWhatTheButtonDoes()
+{
+    newest().setFieldsWithTimeLeft(60);
+    first().trigger();
+    QVERIFY(newest().isRunning());
+    first().trigger();
+    QVERIFY(!newest().isRunning());
+}
+
+void tst_MainMenuTable::theFirstItemIsAskedWhenTheMenuOpens()
+{
+    first().setText(QStringLiteral("old"));
+    first().setEnabled(false);
+    Q_EMIT timerMenu().aboutToShow();
+    QCOMPARE(firstItem(), QStringLiteral("Start"));
+}
+
+void tst_MainMenuTable::withoutATimerThereIsNothingToStartOrRename()
+{
+    newest().goPressed();
+    QVERIFY(rename().isEnabled());
+    _controller->showConverter();
+    QTRY_VERIFY(!WufferApplication::keyWuffer());
+    QCOMPARE(firstItem(), QStringLiteral("(Start)"));
+    QVERIFY(!rename().isEnabled());
+}
+
+void tst_MainMenuTable::renameGoesToTheName()
+{
+    Wuffer &timer = newest();
+    name(timer).setText(QStringLiteral("Tea"));
+    QTest::keyClick(QGuiApplication::focusWindow(), Qt::Key_F2);
+    QVERIFY(name(timer).hasFocus());
+    QTest::keyClicks(&name(timer), QStringLiteral("Eggs"));
+    QCOMPARE(timer.title(), QStringLiteral("Eggs"));
+    // Also while it runs.
+    timer.goPressed();
+    QTest::keyClick(QGuiApplication::focusWindow(), Qt::Key_F2);
+    QCOMPARE(name(timer).selectedText(), QStringLiteral("Eggs"));
+}
+
+void tst_MainMenuTable::renameSelectsANameThatIsBeingEdited()
+{
+    name(newest()).setText(QStringLiteral("Tea"));
+    name(newest()).setFocus();
+    name(newest()).setCursorPosition(1);
+    rename().trigger();
+    QCOMPARE(name(newest()).selectedText(), QStringLiteral("Tea"));
+}
+
+WUFFER_TEST_MAIN(tst_MainMenuTable)
+#include "tst_MainMenuTable.moc"

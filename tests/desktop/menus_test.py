@@ -1,0 +1,163 @@
+#!/usr/bin/python3
+"""Finds its way through the menus with the keyboard, as the window manager sees it.
+
+Usage: menus_test.py WUFFER FOLDER [unittest arguments]
+"""
+
+import re
+import subprocess
+import time
+
+from support import processes
+from support.case import DesktopTest, main
+from support.waiting import wait_until
+
+ABOVE = "_NET_WM_STATE_ABOVE"
+
+
+class MenuUser(DesktopTest):
+    def launch_two(self):
+        program = self.launch()
+        first, = program.windows()
+        self.display.key("alt+3")
+        second = program.wait_for_windows(2)[-1]
+        self.wait_until_active(second)
+        return program, first, second
+
+    def wait_until_active(self, window):
+        wait_until(lambda: self.display.active_window() == window, 5, "the window is active")
+
+    def activate(self, window):
+        self.display.activate(window)
+        self.wait_until_active(window)
+
+    def choose(self, menu, *keys):
+        """Opens a menu with its letter, and presses keys in it."""
+        before = self.popups()
+        self.display.key(f"alt+{menu}")
+        wait_until(lambda: self.popups() - before, 3, "the menu is open")
+        self.display.key(*keys)
+        wait_until(lambda: self.popups() == before, 3, "the menu is closed")
+
+    def popups(self):
+        """The windows on the screen that the window manager leaves alone."""
+        while True:
+            try:
+                return set(filter(self.is_popup, self.own_windows()))
+            except subprocess.CalledProcessError:
+                # One has gone while it was looked at.
+                continue
+
+    def own_windows(self):
+        tree = processes.run(["xwininfo", "-root", "-tree"], self.display.environment)
+        return [int(line.split()[0], 16) for line in tree.splitlines() if '"wuffer"' in line]
+
+    def is_popup(self, window):
+        information = self.display.information(window)
+        return "Override Redirect State: yes" in information and "IsViewable" in information
+
+    def is_above(self, window, other):
+        order = [int(number, 16) for number in re.findall(
+            "0x[0-9a-f]+", self.display.property("_NET_CLIENT_LIST_STACKING"))]
+        return order.index(window) > order.index(other)
+
+    def wait_for_state(self, window, above):
+        wait_until(lambda: (ABOVE in self.display.state(window)) == above, 3,
+                   f"it is kept on top: {above}")
+
+
+class MenusTest(MenuUser):
+    def test_a_timer_is_kept_on_top_and_let_go(self):
+        program, first, second = self.launch_two()
+        self.activate(first)
+        self.choose("w", "t")
+        self.wait_for_state(first, True)
+        self.activate(second)
+        self.assertTrue(self.is_above(first, second))
+        # It is still the same window at the same place, and the choice is not kept.
+        self.assertEqual(program.windows(), [first, second])
+        self.activate(first)
+        self.choose("w", "t")
+        self.wait_for_state(first, False)
+        self.activate(second)
+        wait_until(lambda: self.is_above(second, first), 3, "the other is in front")
+        self.quit(program)
+        with open(program.settings_path, encoding="utf-8") as file:
+            self.assertNotIn("bove", file.read())
+
+    def test_the_item_shows_the_state_that_the_window_manager_keeps(self):
+        program, first, second = self.launch_two()
+        processes.run(["wmctrl", "-i", "-r", hex(second), "-b", "add,above"],
+                      self.display.environment)
+        self.wait_for_state(second, True)
+        # Were the item not checked, choosing it would keep the window on top.
+        self.choose("w", "t")
+        self.wait_for_state(second, False)
+        self.assertNotIn(ABOVE, self.display.state(first))
+        self.quit(program)
+
+    def test_a_timer_is_brought_to_the_front_from_the_list(self):
+        program, first, second = self.launch_two()
+        # Up goes to the last of the menu, which is the newest timer, and on to the one before.
+        self.choose("w", "Up", "Up", "Return")
+        self.wait_until_active(first)
+        self.choose("w", "Up", "Return")
+        self.wait_until_active(second)
+        self.quit(program)
+
+    def test_the_first_item_of_the_timer_menu_starts_and_stops(self):
+        program = self.launch()
+        program.wait_for_focus_in("Minutes")
+        self.display.type("5")
+        self.choose("t", "Return")
+        program.wait_for_button("Stop")
+        self.choose("t", "Return")
+        program.wait_for_button("Start")
+        self.quit(program)
+
+    def test_f2_renames_a_timer_that_runs(self):
+        program, first, _ = self.launch_two()
+        self.display.key("Return")
+        program.wait_for_button("Stop")
+        self.display.key("F2")
+        self.display.type("Tea")
+        wait_until(lambda: program.all("display", "Tea") or "Tea" in self.display.title(
+            self.display.active_window()), 3, "it has its name")
+        self.assertNotIn("Preset", self.display.title(self.display.active_window()))
+        self.activate(first)
+        self.quit(program)
+
+    def test_about_is_in_front_even_of_a_timer_that_is_kept_on_top(self):
+        program = self.launch()
+        window, = program.windows()
+        self.choose("w", "t")
+        self.wait_for_state(window, True)
+        self.choose("h", "a")
+        about = program.wait_for_windows(2)[-1]
+        self.wait_until_active(about)
+        self.assertEqual(self.display.title(about), "About Wuffer")
+        self.assertTrue(self.is_above(about, window))
+        self.assertTrue(program.has("button", "Close"))
+        self.display.key("Escape")
+        program.wait_for_windows(1)
+        self.wait_until_active(window)
+        self.quit(program)
+
+
+class SimpleWindowManagerTest(MenuUser):
+    def test_nothing_is_kept_on_top_where_the_window_manager_does_not_say_that_it_can(self):
+        self.assertIn(ABOVE, self.display.property("_NET_SUPPORTED"))
+        processes.run(["xprop", "-root", "-f", "_NET_SUPPORTED", "32a",
+                       "-set", "_NET_SUPPORTED", "_NET_ACTIVE_WINDOW"], self.display.environment)
+        # Only the first session of a test program has an accessibility tree.
+        program = self.launch(accessible=False)
+        window, = program.windows()
+        # The letter of a disabled item does nothing.
+        self.choose("w", "t", "Escape")
+        time.sleep(0.3)
+        self.assertNotIn(ABOVE, self.display.state(window))
+        self.quit(program)
+
+
+if __name__ == "__main__":
+    main()
