@@ -92,6 +92,14 @@ void WufferWindow::setFrameUsingName(const QString &name)
     move(WindowPlace::reachable(*place, size() + decorations(), rooms));
 }
 
+bool WufferWindow::event(QEvent *event)
+{
+    // A sheet that comes up meanwhile keeps the release to itself.
+    if (event->type() == QEvent::WindowBlocked)
+        _pressedAt.reset();
+    return QMainWindow::event(event);
+}
+
 void WufferWindow::closeEvent(QCloseEvent *event)
 {
     // A drag does not survive the window that it comes from, nor the one that it is over.

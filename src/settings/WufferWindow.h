@@ -60,9 +60,11 @@ Q_SIGNALS:
     void returnPressed();
 
 protected:
+    bool event(QEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
     void dragEnterEvent(QDragEnterEvent *event) override;
     void dragMoveEvent(QDragMoveEvent *event) override;
     void dragLeaveEvent(QDragLeaveEvent *event) override;
@@ -83,7 +85,7 @@ private:
     void setBackgroundColor(const QColor &color);
 
     Wuffer &_delegate;
-    /// Where the mouse was pressed, on the screen, until it is dragged.
+    /// Where the mouse was pressed, on the screen, until it is dragged or let go.
     std::optional<QPoint> _pressedAt;
     /// The drag of a link from this window, while there is one.
     QPointer<QDrag> _drag;

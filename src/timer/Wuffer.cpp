@@ -1,6 +1,7 @@
 #include "timer/Wuffer.h"
 
 #include "controls/PickFromList.h"
+#include "controls/PressThrough.h"
 #include "platform/NotificationCenter.h"
 #include "settings/WufferWindow.h"
 #include "timer/RunTimes.h"
@@ -106,6 +107,8 @@ void Wuffer::connectControls()
         connect(combo, &PopUpComboBox::willPopUp, this, &Wuffer::handleFinishedComboChange);
     for (WebbyComboBox *combo : {_ui->_alarmSoundCombo, _ui->_countdownSoundCombo})
         new PickFromList(*combo);
+    for (auto *button : _window->findChildren<QAbstractButton *>())
+        new PressThrough(*button);
 }
 
 QString Wuffer::title() const
