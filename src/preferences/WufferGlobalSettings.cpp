@@ -1,3 +1,4 @@
+#include "controls/ToolTip.h"
 #include "platform/NotificationCenter.h"
 #include "platform/UserDefaults.h"
 #include "preferences/PreferenceTexts.h"
@@ -48,6 +49,8 @@ void Wuffer::loadGlobalSettings()
     _ui->_soundOffImage->setImage(_soundOff ? QStringLiteral("sound_mute.png")
                                             : QStringLiteral("sound_high.png"));
     _ui->_soundOffImage->setAccessibleName(_soundOff ? tr("Sound is off") : tr("Sound is on"));
+    ToolTip::set(*_ui->_soundOffImage,
+                 _soundOff ? tr("Let all timers be heard again") : tr("Mute all timers"));
     handleFinishedComboChange();
     refreshSoundComboEnabledness();
     populateSoundCombos();

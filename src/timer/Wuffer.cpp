@@ -107,6 +107,13 @@ void Wuffer::connectControls()
         connect(combo, &PopUpComboBox::willPopUp, this, &Wuffer::handleFinishedComboChange);
     for (WebbyComboBox *combo : {_ui->_alarmSoundCombo, _ui->_countdownSoundCombo})
         new PickFromList(*combo);
+    // What the timers before and after say of this one follows its name.
+    connect(_ui->_titleField, &QLineEdit::textChanged, this, [this] {
+        for (Wuffer *linked : {_targetWuffer.data(), _reverseTargetWuffer.data()}) {
+            if (linked)
+                linked->showLinks();
+        }
+    });
     for (auto *button : _window->findChildren<QAbstractButton *>())
         new PressThrough(*button);
 }

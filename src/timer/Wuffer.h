@@ -199,6 +199,8 @@ public:
     /// Shows the state of the chain in this timer, unless it is started.
     void refreshChainStatus();
     void refreshChainStatusForAllChainedWuffers();
+    /// Says in tool tips which timer starts this one and which this one starts.
+    void showLinks();
 
     // Global settings: preferences/WufferGlobalSettings.cpp.
 
@@ -252,6 +254,7 @@ private:
     void showPresetMark(const QString &name, const QString &origin);
     void restorePlace(const QString &key);
     void selectFinishOption(QStringView option);
+    void refreshKeepWuffingBox();
     void startChosenPreset();
     void startTargetWuffer();
 
