@@ -41,6 +41,8 @@ void Wuffer::handleFinishedComboChange()
         populateFinishedPickerComboWithChosenTargetWuffer();
     else
         _ui->_finishedPicker->hide();
+    _ui->_linkButton->setVisible(linkWanted);
+    _ui->_linkButton->setEnabled(!_stopwatch);
 
     if (_ui->_finishedPicker->count() > 0 && _ui->_finishedPicker->currentIndex() < 0)
         _ui->_finishedPicker->setCurrentIndex(0);
@@ -85,6 +87,7 @@ void Wuffer::populateFinishedPickerComboWithChosenTargetWuffer()
     // It only shows the link, which is made elsewhere.
     picker.setEnabled(false);
     picker.show();
+    _ui->_linkButton->show();
     // The box is too narrow for most names.
     ToolTip::set(picker,
                  _targetWuffer

@@ -1,5 +1,6 @@
 #include "timer/Wuffer.h"
 
+#include "app/WufferApplication.h"
 #include "controls/PickFromList.h"
 #include "controls/PressThrough.h"
 #include "platform/NotificationCenter.h"
@@ -88,6 +89,8 @@ void Wuffer::connectControls()
     connect(_ui->_finishedDrawerButton, &QPushButton::clicked, this, &Wuffer::showHideAdvanced);
     connect(_ui->_drawer, &Drawer::stateChanged, this, &Wuffer::stateChanged);
     connect(_ui->_helpButton, &QToolButton::clicked, this, &Wuffer::getFinishingHelp);
+    connect(_ui->_linkButton, &QToolButton::clicked, this,
+            [this] { WufferApplication::instance().offerTargets(*this, *_ui->_linkButton); });
     connect(_ui->_keepWuffingBox, &QCheckBox::clicked, this, &Wuffer::removePresetColor);
     connect(_ui->_displayBox, &DisplayBox::fullScreenCloseRequested, this, &Wuffer::setWindowed);
     for (QLineEdit *field :
