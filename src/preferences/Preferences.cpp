@@ -5,7 +5,7 @@
 #include "platform/UserDefaults.h"
 #include "platform/WindowOrder.h"
 #include "preferences/PreferenceTexts.h"
-#include "preferences/SoundPreview.h"
+#include "timer/SoundPreviews.h"
 #include "ui_Preferences.h"
 
 #include <QAction>
@@ -29,9 +29,9 @@ Preferences::Preferences(QMainWindow &window, QAction &muteMenu) :
     _muteMenu(muteMenu)
 {
     _ui->setupUi(&window);
-    _alarmPreview = std::make_unique<SoundPreview>(*_ui->_alarmPlayButton, *_ui->_alarmCombo);
-    _countdownPreview =
-        std::make_unique<SoundPreview>(*_ui->_countdownPlayButton, *_ui->_countdownCombo);
+    _previews = std::make_unique<SoundPreviews>(
+        SoundPreviews::Place{*_ui->_alarmPlayButton, *_ui->_alarmCombo},
+        SoundPreviews::Place{*_ui->_countdownPlayButton, *_ui->_countdownCombo});
     connectControls();
     awakeFromNib();
 }
@@ -69,9 +69,6 @@ void Preferences::connectControls()
         connect(combo, &QComboBox::activated, this,
                 [this, combo] { comboBoxSelectionDidChange(combo); });
     }
-    // One at a time.
-    connect(_alarmPreview.get(), &SoundPreview::starting, this, &Preferences::stopPreviews);
-    connect(_countdownPreview.get(), &SoundPreview::starting, this, &Preferences::stopPreviews);
 }
 
 void Preferences::loadPreferences()
@@ -121,9 +118,8 @@ void Preferences::turnOffSound()
     const bool countdownOn = soundOn && !_ui->_suppressCountdownCheckbox->isChecked();
     _ui->_suppressCountdownCheckbox->setEnabled(soundOn);
     _ui->_alarmCombo->setEnabled(soundOn);
-    _alarmPreview->setEnabled(soundOn);
     _ui->_countdownCombo->setEnabled(countdownOn);
-    _countdownPreview->setEnabled(countdownOn);
+    _previews->setEnabled(soundOn, countdownOn);
     _muteMenu.setText(soundOn ? tr("Mute All") : tr("Unmute All"));
     savePreferences();
 }
@@ -158,7 +154,7 @@ bool Preferences::eventFilter(QObject *watched, QEvent *event)
         if (event->type() == QEvent::Close)
             windowWillClose(*_preferencesWindow);
         else if (event->type() == QEvent::Hide)
-            stopPreviews();
+            _previews->stop();
     }
     return QObject::eventFilter(watched, event);
 }

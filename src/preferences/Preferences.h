@@ -10,7 +10,7 @@
 class QAction;
 class QLineEdit;
 class QMainWindow;
-class SoundPreview;
+class SoundPreviews;
 class WebbyComboBox;
 
 namespace Ui
@@ -88,12 +88,10 @@ private:
     void selectAndReport(WebbyComboBox &combo, const QString &dataObject);
     void selectAnotherSound(const Kind &kind);
     void storeSound(const Kind &kind);
-    void stopPreviews();
 
     QWidget *_window;
     std::unique_ptr<Ui::Preferences> _ui;
     QWidget *_preferencesWindow;
     QAction &_muteMenu;
-    std::unique_ptr<SoundPreview> _alarmPreview;
-    std::unique_ptr<SoundPreview> _countdownPreview;
+    std::unique_ptr<SoundPreviews> _previews;
 };

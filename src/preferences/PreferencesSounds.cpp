@@ -8,7 +8,7 @@
 #include "preferences/PreferenceTexts.h"
 #include "preferences/Preferences.h"
 #include "preferences/SoundCombos.h"
-#include "preferences/SoundPreview.h"
+#include "timer/SoundPreviews.h"
 #include "timer/TimerTexts.h"
 #include "ui_Preferences.h"
 
@@ -132,7 +132,7 @@ void Preferences::comboBoxSelectionDidChange(WebbyComboBox *combo)
 {
     if (combo != _ui->_alarmCombo && combo != _ui->_countdownCombo)
         return;
-    stopPreviews();
+    _previews->stop();
     const Kind kind = combo == _ui->_alarmCombo ? alarm() : countdown();
     // Not by the text that is shown: a file may be called like anything.
     const QString selected = combo->dataObjectOfSelectedItem().value_or(QString());
@@ -168,10 +168,4 @@ void Preferences::selectAndReport(WebbyComboBox &combo, const QString &dataObjec
         return;
     combo.selectItemWithDataObjectValue(dataObject);
     comboBoxSelectionDidChange(&combo);
-}
-
-void Preferences::stopPreviews()
-{
-    _alarmPreview->stop();
-    _countdownPreview->stop();
 }

@@ -3,6 +3,7 @@
 #include "platform/UserDefaults.h"
 #include "preferences/PreferenceTexts.h"
 #include "preferences/SoundCombos.h"
+#include "timer/SoundPreviews.h"
 #include "timer/TimerTexts.h"
 #include "timer/Wuffer.h"
 #include "ui_Wuffer.h"
@@ -64,6 +65,7 @@ void Wuffer::populateSoundCombos()
     };
     refill(*_ui->_alarmSoundCombo, kWuffSound, path(QStringLiteral("alarmPath")));
     refill(*_ui->_countdownSoundCombo, kCrowSound, path(QStringLiteral("countdownPath")));
+    _previews->followChoices();
 }
 
 void Wuffer::handleManageSounds(WebbyComboBox &combo)
@@ -80,4 +82,5 @@ void Wuffer::refreshSoundComboEnabledness()
     const bool audible = !_soundOff && !_stopwatch;
     _ui->_alarmSoundCombo->setEnabled(audible);
     _ui->_countdownSoundCombo->setEnabled(audible && !_suppressCountdown);
+    _previews->setEnabled(audible, audible && !_suppressCountdown);
 }

@@ -6,6 +6,7 @@
 #include "platform/NotificationCenter.h"
 #include "settings/WufferWindow.h"
 #include "timer/RunTimes.h"
+#include "timer/SoundPreviews.h"
 #include "timer/TargetTimeSheet.h"
 #include "timer/TimeFormat.h"
 #include "timer/TimerTexts.h"
@@ -86,11 +87,6 @@ void Wuffer::connectControls()
     connect(_window.get(), &WufferWindow::willClose, this, &Wuffer::windowWillClose);
     connect(_window.get(), &WufferWindow::returnPressed, _ui->_goButton, &QPushButton::click);
     connect(_ui->_goButton, &QPushButton::clicked, this, &Wuffer::goPressed);
-    connect(_ui->_finishedDrawerButton, &QPushButton::clicked, this, &Wuffer::showHideAdvanced);
-    connect(_ui->_drawer, &Drawer::stateChanged, this, &Wuffer::stateChanged);
-    connect(_ui->_helpButton, &QToolButton::clicked, this, &Wuffer::getFinishingHelp);
-    connect(_ui->_linkButton, &QToolButton::clicked, this,
-            [this] { WufferApplication::instance().offerTargets(*this, *_ui->_linkButton); });
     connect(_ui->_keepWuffingBox, &QCheckBox::clicked, this, &Wuffer::removePresetColor);
     connect(_ui->_displayBox, &DisplayBox::fullScreenCloseRequested, this, &Wuffer::setWindowed);
     for (QLineEdit *field :
@@ -119,6 +115,24 @@ void Wuffer::connectControls()
     });
     for (auto *button : _window->findChildren<QAbstractButton *>())
         new PressThrough(*button);
+    connectDrawer();
+}
+
+void Wuffer::connectDrawer()
+{
+    connect(_ui->_finishedDrawerButton, &QPushButton::clicked, this, &Wuffer::showHideAdvanced);
+    connect(_ui->_drawer, &Drawer::stateChanged, this, &Wuffer::stateChanged);
+    connect(_ui->_helpButton, &QToolButton::clicked, this, &Wuffer::getFinishingHelp);
+    connect(_ui->_linkButton, &QToolButton::clicked, this,
+            [this] { WufferApplication::instance().offerTargets(*this, *_ui->_linkButton); });
+    _previews = std::make_unique<SoundPreviews>(
+        SoundPreviews::Place{*_ui->_alarmPlayButton, *_ui->_alarmSoundCombo},
+        SoundPreviews::Place{*_ui->_countdownPlayButton, *_ui->_countdownSoundCombo});
+    connect(_window.get(), &WufferWindow::willClose, _previews.get(), &SoundPreviews::stop);
+    connect(_ui->_drawer, &Drawer::stateChanged, _previews.get(), [this] {
+        if (_ui->_drawer->state() == Drawer::State::Closing)
+            _previews->stop();
+    });
 }
 
 QString Wuffer::title() const

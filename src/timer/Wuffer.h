@@ -17,6 +17,7 @@ class QAction;
 class QComboBox;
 class QLineEdit;
 struct RunTimes;
+class SoundPreviews;
 class TargetTimeSheet;
 struct TimerSettings;
 class WebbyComboBox;
@@ -29,11 +30,10 @@ class Wuffer;
 
 /// One timer: the controller of its window and of everything that runs in it.
 ///
-/// It counts down from the hours, minutes and seconds typed into it, counts up as a stopwatch, or
-/// counts down to a date picked in a sheet. At the end it rings ("wuffs"), and when the alarm is
-/// over it stops and runs its finish action. All time is measured between dates, never by counting
-/// ticks. The application owns it until its window closes; whoever else refers to it does so
-/// weakly. Bodies stand with their theme, in the file named above each group.
+/// It counts down from the time typed into it or to a date picked in a sheet, or counts up as a
+/// stopwatch. At the end it rings ("wuffs"), and when the alarm is over it stops and runs its
+/// finish action. All time is measured between dates, never by counting ticks. The application owns
+/// it until its window closes. Bodies stand with their theme, in the file named above each group.
 class Wuffer final : public QObject
 {
     Q_OBJECT
@@ -98,8 +98,7 @@ public:
     void setColorForDisplayText(TextColor color, bool elapsedToo);
     /// The idle display.
     void setDefaultDisplayValues();
-    /// A window of the program has come into view or gone from it: a display that has rested
-    /// unseen and is seen now catches up.
+    /// Some window has come into view or gone: a display that has rested unseen catches up.
     void windowExposed();
 
     // Sounds and notifications: WufferSounds.cpp.
@@ -132,8 +131,7 @@ public:
 
     /// What a menu item does to a timer.
     using Operation = void (Wuffer::*)();
-    /// Whether the menu item with this operation is enabled now; retitles those whose text
-    /// follows the state.
+    /// Whether the menu item with this operation is enabled now; retitles it if its text follows.
     [[nodiscard]] bool validateMenuItem(QAction &item, Operation action) const;
 
     // Settings: settings/WufferSettings.cpp.
@@ -142,8 +140,8 @@ public:
     void storeSettingsInDefaultsWithKey(const QString &key);
     /// Keeps them for the next launch.
     void saveSettingsToDefaultKey();
-    /// Reads what is kept under the key into the controls, puts the window where it was kept if
-    /// that is asked for, but never exactly onto another timer's, and shows it.
+    /// Reads what is kept under the key into the controls, puts the window where it was kept, but
+    /// never exactly onto another timer's, if that is asked for, and shows it.
     void loadSettingsFromDefaultsWithKey(const QString &key, bool moveWindow);
 
     // Presets: settings/WufferPresets.cpp.
@@ -174,8 +172,7 @@ public:
     /// Explains the finish actions.
     void getFinishingHelp();
 
-    // Chains of timers that start one another: settings/WufferChain.cpp. What one side is told
-    // the other learns, and no chain ever closes to a circle.
+    // Chains, in which what one side is told the other learns: settings/WufferChain.cpp.
 
     /// The timer that this one starts when it has finished; null when there is none.
     [[nodiscard]] Wuffer *getTargetWuffer() const { return _targetWuffer; }
@@ -199,8 +196,6 @@ public:
     /// Shows the state of the chain in this timer, unless it is started.
     void refreshChainStatus();
     void refreshChainStatusForAllChainedWuffers();
-    /// Says in tool tips which timer starts this one and which this one starts.
-    void showLinks();
 
     // Global settings: preferences/WufferGlobalSettings.cpp.
 
@@ -221,6 +216,7 @@ private:
     void fitControls();
     void awakeFromNib();
     void connectControls();
+    void connectDrawer();
     void startRun();
     void stopRun();
     void timerLoop();
@@ -242,7 +238,6 @@ private:
     void enableReturnShortcut();
     void disableReturnShortcut();
     void comboBoxSelectionDidChange(QComboBox &combo);
-    /// Where managing the sounds was chosen, selects the built-in one and asks for the preferences.
     void handleManageSounds(WebbyComboBox &combo);
 
     [[nodiscard]] QString repeatSuffix() const;
@@ -254,12 +249,14 @@ private:
     void showPresetMark(const QString &name, const QString &origin);
     void restorePlace(const QString &key);
     void selectFinishOption(QStringView option);
+    void showLinks();
     void refreshKeepWuffingBox();
     void startChosenPreset();
     void startTargetWuffer();
 
     std::unique_ptr<WufferWindow> _window;
     std::unique_ptr<Ui::Wuffer> _ui;
+    std::unique_ptr<SoundPreviews> _previews;
     /// Made when it is first asked for: a calendar is costly.
     std::unique_ptr<TargetTimeSheet> _targetTimeWindow;
 

@@ -2,6 +2,7 @@
 #include "platform/Desktop.h"
 #include "platform/Service.h"
 #include "settings/WufferWindow.h"
+#include "timer/SoundPreviews.h"
 #include "timer/TimeFormat.h"
 #include "timer/TimerTexts.h"
 #include "timer/Wuffer.h"
@@ -18,6 +19,7 @@ constexpr double kMutedAlarm = 5.0;
 void Wuffer::timerDone()
 {
     WufferApplication::instance().cancelFullScreenModeForOthers(*this);
+    _previews->stop();
     playDone();
     _checkTimer.invalidate();
     _displayRest.setResting(false);

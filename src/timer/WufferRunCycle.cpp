@@ -5,6 +5,7 @@
 #include "timer/BeepSchedule.h"
 #include "timer/NumberText.h"
 #include "timer/RunTimes.h"
+#include "timer/SoundPreviews.h"
 #include "timer/TimeFields.h"
 #include "timer/TimerTexts.h"
 #include "timer/Wuffer.h"
@@ -52,6 +53,7 @@ void Wuffer::startRun()
 {
     // A sheet that still asks when to end has been overtaken.
     endTargetTimeSheet();
+    _previews->stop();
     _wuffTimer.invalidate();
     setColorForDisplayText(TextColor::Black, false);
     _timerStarted = true;
