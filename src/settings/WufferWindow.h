@@ -29,6 +29,10 @@ public:
     /// Whether Return and Enter press the default button of the window.
     void setReturnShortcutEnabled(bool enabled);
 
+    /// Names the control into which the focus never falls when the one that has it is disabled or
+    /// hidden. The control must be in the window.
+    void spareFromFocus(const QWidget &control) { _spared = &control; }
+
     /// Gives the window its final size before it is shown. One that is resized between the making
     /// of its native window and its first appearance loses the place of its frame.
     void setVisible(bool visible) override;
@@ -61,6 +65,7 @@ Q_SIGNALS:
 
 protected:
     bool event(QEvent *event) override;
+    bool focusNextPrevChild(bool next) override;
     void closeEvent(QCloseEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
@@ -91,6 +96,7 @@ private:
     QPointer<QDrag> _drag;
     /// The window that is dragged over this one.
     QPointer<WufferWindow> _hovering;
+    const QWidget *_spared = nullptr;
     QShortcut *_return;
     QShortcut *_enter;
 };

@@ -40,6 +40,7 @@ Wuffer::Wuffer() :
     _window(std::make_unique<WufferWindow>(*this)), _ui(std::make_unique<Ui::Wuffer>())
 {
     _ui->setupUi(_window.get());
+    _window->spareFromFocus(*_ui->_titleField);
     fitControls();
     awakeFromNib();
 }
