@@ -5,6 +5,7 @@
 #include "platform/UserDefaults.h"
 #include "platform/WindowOrder.h"
 #include "preferences/PreferenceTexts.h"
+#include "preferences/SoundDrop.h"
 #include "timer/SoundPreviews.h"
 #include "ui_Preferences.h"
 
@@ -62,6 +63,8 @@ void Preferences::connectControls()
         connect(box, &QCheckBox::clicked, this, &Preferences::turnOffSound);
     new PickFromList(*_ui->_launchCombobox);
     connect(_ui->_launchCombobox, &QComboBox::activated, this, &Preferences::savePreferences);
+    auto *drop = new SoundDrop(*_ui->soundTab, [this](QPoint place) { return takesAt(place); });
+    connect(drop, &SoundDrop::dropped, this, &Preferences::takeDroppedSounds);
     connect(_ui->_finishedText, &QLineEdit::textEdited, this,
             [this] { controlTextDidChange(*_ui->_finishedText); });
     for (WebbyComboBox *combo : {_ui->_alarmCombo, _ui->_countdownCombo}) {
