@@ -33,8 +33,7 @@ QDateTime inWholeSeconds(const QDateTime &date)
 } // namespace
 
 TargetTimeSheet::TargetTimeSheet(QWidget &parent) :
-    QDialog(&parent, Qt::Sheet | Qt::MSWindowsFixedSizeDialogHint),
-    _ui(std::make_unique<Ui::TargetTime>())
+    QDialog(&parent, Qt::Sheet), _ui(std::make_unique<Ui::TargetTime>())
 {
     _ui->setupUi(this);
     setWindowModality(Qt::WindowModal);
