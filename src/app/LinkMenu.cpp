@@ -11,18 +11,27 @@ LinkMenu::LinkMenu() : QMenu(tr("When F&inished, Start")), _choice(new QActionGr
     connect(this, &QMenu::aboutToShow, this, &LinkMenu::populate);
 }
 
+LinkMenu::LinkMenu(Wuffer &timer, QWidget &parent) :
+    QMenu(&parent), _choice(new QActionGroup(this)), _timer(&timer)
+{
+    connect(this, &QMenu::aboutToShow, this, &LinkMenu::populate);
+}
+
 void LinkMenu::populate()
 {
     clear();
-    Wuffer *timer = WufferApplication::keyWuffer();
+    Wuffer *timer = _timer ? _timer.data() : WufferApplication::keyWuffer();
     if (!timer)
         return;
     addItem(tr("&None"), *timer, nullptr);
     addSeparator();
-    for (Wuffer *other : WufferApplication::getWuffers()) {
+    const std::vector<Wuffer *> timers = WufferApplication::getWuffers();
+    for (Wuffer *other : timers) {
         if (other != timer)
             addItem(menuText(other->description()), *timer, other);
     }
+    if (timers.size() < 2)
+        addAction(tr("No &Other Timer Is Open"))->setEnabled(false);
 }
 
 void LinkMenu::addItem(const QString &text, Wuffer &timer, Wuffer *target)

@@ -122,6 +122,11 @@ void WufferApplication::showHelp(const QString &page)
     Q_EMIT helpRequested(page);
 }
 
+void WufferApplication::offerTargets(Wuffer &timer, QWidget &button)
+{
+    Q_EMIT targetsRequested(&timer, &button);
+}
+
 /// Whether this is Return on its way to the open list of a combo box.
 static bool belongsToOpenList(const QObject &receiver, const QEvent &event)
 {

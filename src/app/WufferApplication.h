@@ -49,6 +49,10 @@ public:
     /// Asks for this page of the help to be shown; an unknown name means the first page.
     void showHelp(const QString &page);
 
+    /// Asks for the list of the timers that this one may start when it has finished, below the
+    /// button in its window.
+    void offerTargets(Wuffer &timer, QWidget &button);
+
     bool notify(QObject *receiver, QEvent *event) override;
 
 Q_SIGNALS:
@@ -62,6 +66,8 @@ Q_SIGNALS:
     void wufferOpened(Wuffer *timer);
     /// Somebody wants to read this page of the help.
     void helpRequested(const QString &page);
+    /// This button was pressed for the timers that this one may start.
+    void targetsRequested(Wuffer *timer, QWidget *button);
 
 private:
     void tellOfWindow(QObject &receiver, const QEvent &event);

@@ -4,6 +4,7 @@
 #include "app/AuxiliaryWindow.h"
 #include "app/HomeKeeper.h"
 #include "app/HomeWindow.h"
+#include "app/LinkMenu.h"
 #include "app/MainMenu.h"
 #include "app/PresetsMenu.h"
 #include "app/StatusPresenter.h"
@@ -34,6 +35,8 @@ WufferController::WufferController() :
 {
     connect(&WufferApplication::instance(), &WufferApplication::helpRequested, this,
             &WufferController::showHelpPage);
+    connect(&WufferApplication::instance(), &WufferApplication::targetsRequested, this,
+            &WufferController::offerTargets);
     connect(qApp, &QGuiApplication::focusWindowChanged, this, [this] {
         if (QWidget *active = QApplication::activeWindow())
             _lastActive = active;
@@ -197,6 +200,14 @@ void WufferController::showHelpPage(const QString &page)
         window.resize(window.sizeHint().boundedTo(window.screen()->availableSize()));
     });
     static_cast<HelpPanel &>(*_helpWindow->centralWidget()).showPage(page);
+}
+
+void WufferController::offerTargets(Wuffer *timer, QWidget *button)
+{
+    auto *menu = new LinkMenu(*timer, *button);
+    // What was chosen is carried out after the list has closed.
+    connect(menu, &QMenu::aboutToHide, menu, &QObject::deleteLater);
+    menu->popup(button->mapToGlobal(button->rect().bottomLeft()));
 }
 
 void WufferController::show(std::unique_ptr<AuxiliaryWindow> &window, const QString &title,

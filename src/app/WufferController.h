@@ -93,6 +93,8 @@ private:
     /// Makes the preferences, not shown, and loads them, unless that is done.
     void makePreferences();
     void showHelpPage(const QString &page);
+    /// Opens the list of the timers that this one may start, below the button.
+    void offerTargets(Wuffer *timer, QWidget *button);
     /// Shows one of the windows beside the timers, which is made and filled when it is first asked
     /// for.
     void show(std::unique_ptr<AuxiliaryWindow> &window, const QString &title,

@@ -5,7 +5,8 @@
 #include "platform/UserDefaults.h"
 #include "platform/WindowOrder.h"
 #include "preferences/PreferenceTexts.h"
-#include "preferences/SoundPreview.h"
+#include "preferences/SoundDrop.h"
+#include "timer/SoundPreviews.h"
 #include "ui_Preferences.h"
 
 #include <QAction>
@@ -29,9 +30,9 @@ Preferences::Preferences(QMainWindow &window, QAction &muteMenu) :
     _muteMenu(muteMenu)
 {
     _ui->setupUi(&window);
-    _alarmPreview = std::make_unique<SoundPreview>(*_ui->_alarmPlayButton, *_ui->_alarmCombo);
-    _countdownPreview =
-        std::make_unique<SoundPreview>(*_ui->_countdownPlayButton, *_ui->_countdownCombo);
+    _previews = std::make_unique<SoundPreviews>(
+        SoundPreviews::Place{*_ui->_alarmPlayButton, *_ui->_alarmCombo},
+        SoundPreviews::Place{*_ui->_countdownPlayButton, *_ui->_countdownCombo});
     connectControls();
     awakeFromNib();
 }
@@ -62,6 +63,8 @@ void Preferences::connectControls()
         connect(box, &QCheckBox::clicked, this, &Preferences::turnOffSound);
     new PickFromList(*_ui->_launchCombobox);
     connect(_ui->_launchCombobox, &QComboBox::activated, this, &Preferences::savePreferences);
+    auto *drop = new SoundDrop(*_ui->soundTab, [this](QPoint place) { return takesAt(place); });
+    connect(drop, &SoundDrop::dropped, this, &Preferences::takeDroppedSounds);
     connect(_ui->_finishedText, &QLineEdit::textEdited, this,
             [this] { controlTextDidChange(*_ui->_finishedText); });
     for (WebbyComboBox *combo : {_ui->_alarmCombo, _ui->_countdownCombo}) {
@@ -69,9 +72,6 @@ void Preferences::connectControls()
         connect(combo, &QComboBox::activated, this,
                 [this, combo] { comboBoxSelectionDidChange(combo); });
     }
-    // One at a time.
-    connect(_alarmPreview.get(), &SoundPreview::starting, this, &Preferences::stopPreviews);
-    connect(_countdownPreview.get(), &SoundPreview::starting, this, &Preferences::stopPreviews);
 }
 
 void Preferences::loadPreferences()
@@ -121,9 +121,8 @@ void Preferences::turnOffSound()
     const bool countdownOn = soundOn && !_ui->_suppressCountdownCheckbox->isChecked();
     _ui->_suppressCountdownCheckbox->setEnabled(soundOn);
     _ui->_alarmCombo->setEnabled(soundOn);
-    _alarmPreview->setEnabled(soundOn);
     _ui->_countdownCombo->setEnabled(countdownOn);
-    _countdownPreview->setEnabled(countdownOn);
+    _previews->setEnabled(soundOn, countdownOn);
     _muteMenu.setText(soundOn ? tr("Mute All") : tr("Unmute All"));
     savePreferences();
 }
@@ -158,7 +157,7 @@ bool Preferences::eventFilter(QObject *watched, QEvent *event)
         if (event->type() == QEvent::Close)
             windowWillClose(*_preferencesWindow);
         else if (event->type() == QEvent::Hide)
-            stopPreviews();
+            _previews->stop();
     }
     return QObject::eventFilter(watched, event);
 }

@@ -10,7 +10,7 @@
 class QAction;
 class QLineEdit;
 class QMainWindow;
-class SoundPreview;
+class SoundPreviews;
 class WebbyComboBox;
 
 namespace Ui
@@ -61,6 +61,9 @@ public:
     /// Lets the user choose a file and adds it to the library, or beeps if it cannot be played.
     /// The path of the file in both cases; nothing when it was cancelled.
     std::optional<QString> addSoundPath();
+    /// Adds the files to the library and takes the first that can be played into use, as if each
+    /// had been chosen at this place of the page of the sounds. Beeps if one cannot be played.
+    void takeDroppedSounds(QPoint place, const QStringList &paths);
     /// Takes the path out of the library in the settings; the lists that are shown stay.
     void removeSound(const QString &path);
     /// Forgets all added sounds and goes back to the built-in ones.
@@ -84,16 +87,22 @@ private:
 
     [[nodiscard]] Kind alarm() const;
     [[nodiscard]] Kind countdown() const;
+    /// The sound to whose row the place belongs; the alarm away from both.
+    [[nodiscard]] Kind kindAt(QPoint place) const;
+    /// Whether sounds are taken there: where they can be chosen, too.
+    [[nodiscard]] bool takesAt(QPoint place) const;
+    /// Adds the file to the library in the settings if it can be played; whether it can.
+    [[nodiscard]] bool addSound(const QString &path) const;
+    /// Says which file of the kind cannot be played; nothing for no path.
+    static void showMissing(const Kind &kind, const QString &path);
     void selectStoredSound(const Kind &kind);
     void selectAndReport(WebbyComboBox &combo, const QString &dataObject);
     void selectAnotherSound(const Kind &kind);
     void storeSound(const Kind &kind);
-    void stopPreviews();
 
     QWidget *_window;
     std::unique_ptr<Ui::Preferences> _ui;
     QWidget *_preferencesWindow;
     QAction &_muteMenu;
-    std::unique_ptr<SoundPreview> _alarmPreview;
-    std::unique_ptr<SoundPreview> _countdownPreview;
+    std::unique_ptr<SoundPreviews> _previews;
 };

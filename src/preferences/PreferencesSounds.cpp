@@ -4,14 +4,14 @@
 #include "platform/Service.h"
 #include "platform/Sound.h"
 #include "platform/UserDefaults.h"
-#include "platform/WindowOrder.h"
 #include "preferences/PreferenceTexts.h"
 #include "preferences/Preferences.h"
 #include "preferences/SoundCombos.h"
-#include "preferences/SoundPreview.h"
+#include "timer/SoundPreviews.h"
 #include "timer/TimerTexts.h"
 #include "ui_Preferences.h"
 
+#include <QFileInfo>
 #include <QSignalBlocker>
 
 namespace
@@ -38,19 +38,43 @@ struct Preferences::Kind
 {
     WebbyComboBox &combo;
     ElidedLabel &label;
+    QLabel &missingWord;
+    ElidedLabel &missingLabel;
     QStringView builtInSound;
     QString key;
 };
 
 Preferences::Kind Preferences::alarm() const
 {
-    return {*_ui->_alarmCombo, *_ui->_alarmLabel, kWuffSound, QStringLiteral("alarmPath")};
+    return {*_ui->_alarmCombo,        *_ui->_alarmLabel, *_ui->_alarmMissingWord,
+            *_ui->_alarmMissingLabel, kWuffSound,        QStringLiteral("alarmPath")};
 }
 
 Preferences::Kind Preferences::countdown() const
 {
-    return {*_ui->_countdownCombo, *_ui->_countdownLabel, kCrowSound,
+    return {*_ui->_countdownCombo,
+            *_ui->_countdownLabel,
+            *_ui->_countdownMissingWord,
+            *_ui->_countdownMissingLabel,
+            kCrowSound,
             QStringLiteral("countdownPath")};
+}
+
+Preferences::Kind Preferences::kindAt(QPoint place) const
+{
+    QRect row;
+    for (const QWidget *part : std::initializer_list<const QWidget *>{
+             _ui->_countdownCombo, _ui->_countdownPlayButton, _ui->_countdownLabel,
+             _ui->_countdownMissingLabel}) {
+        if (!part->isHidden())
+            row |= part->geometry();
+    }
+    return place.y() >= row.top() && place.y() <= row.bottom() ? countdown() : alarm();
+}
+
+bool Preferences::takesAt(QPoint place) const
+{
+    return kindAt(place).combo.isEnabled();
 }
 
 bool Preferences::soundFileIsValid(const QString &path) const
@@ -72,14 +96,47 @@ std::optional<QString> Preferences::addSoundPath()
     if (!file)
         return std::nullopt;
     QString path = file->toLocalFile();
-    if (soundFileIsValid(path)) {
-        SoundHistory history = SoundCombos::storedHistory();
-        history.add(path);
-        store(history);
-    } else {
+    if (!addSound(path))
         Service<Desktop>::current().beep();
-    }
     return path;
+}
+
+bool Preferences::addSound(const QString &path) const
+{
+    if (!soundFileIsValid(path))
+        return false;
+    SoundHistory history = SoundCombos::storedHistory();
+    history.add(path);
+    store(history);
+    return true;
+}
+
+void Preferences::takeDroppedSounds(QPoint place, const QStringList &paths)
+{
+    const Kind kind = kindAt(place);
+    QStringList playable;
+    // The last first: the newest stands in front, and so they are listed as they were dropped.
+    for (qsizetype index = paths.size() - 1; index >= 0; --index) {
+        if (addSound(paths.at(index)))
+            playable.prepend(paths.at(index));
+    }
+    if (playable.size() < paths.size())
+        Service<Desktop>::current().beep();
+    if (playable.isEmpty())
+        return;
+    _previews->stop();
+    populateComboBoxes();
+    selectAndReport(kind.combo, playable.first());
+}
+
+void Preferences::showMissing(const Kind &kind, const QString &path)
+{
+    const QFileInfo file(path);
+    kind.missingWord.setText(file.exists() ? tr("Unplayable:") : tr("Missing:"));
+    kind.missingLabel.setText(file.fileName());
+    kind.missingLabel.setToolTip(SoundCombos::toolTip(path));
+    for (QLabel *label : std::initializer_list<QLabel *>{&kind.missingWord, &kind.missingLabel})
+        label->setVisible(!path.isEmpty());
 }
 
 void Preferences::removeSound(const QString &path)
@@ -121,14 +178,16 @@ void Preferences::selectStoredSound(const Kind &kind)
 {
     const QString path = storedPath(kind.key);
     if (soundFileIsValid(path) || nothingIsKnownOf(path)) {
+        showMissing(kind, {});
         kind.combo.selectItemWithDataObjectValue(path);
         return;
     }
+    showMissing(kind, path);
     if (!path.isEmpty()) {
         // It stays in the list until that is filled again, and remains the choice in the settings:
         // the file may come back.
         removeSound(path);
-        bringToFront(*_preferencesWindow);
+        showSoundTab();
         Service<Desktop>::current().beep();
     }
     kind.combo.selectItemWithDataObjectValue(kind.builtInSound.toString());
@@ -138,11 +197,12 @@ void Preferences::comboBoxSelectionDidChange(WebbyComboBox *combo)
 {
     if (combo != _ui->_alarmCombo && combo != _ui->_countdownCombo)
         return;
-    stopPreviews();
+    _previews->stop();
     const Kind kind = combo == _ui->_alarmCombo ? alarm() : countdown();
     // Not by the text that is shown: a file may be called like anything.
     const QString selected = combo->dataObjectOfSelectedItem().value_or(QString());
     UserDefaults &defaults = UserDefaults::standardUserDefaults();
+    const QString before = storedPath(kind.key);
     if (selected == kSelectAnotherSound)
         selectAnotherSound(kind);
     else if (selected == kClearCustomSounds)
@@ -153,6 +213,8 @@ void Preferences::comboBoxSelectionDidChange(WebbyComboBox *combo)
         defaults.removeObjectForKey(QStringLiteral("alarmPath"));
     else if (SoundCombos::storedHistory().contains(selected) && soundFileIsValid(selected))
         defaults.setObject(selected, kind.key);
+    if (storedPath(kind.key) != before)
+        showMissing(kind, {});
     sendChangedNotification();
     refreshSoundTitles();
 }
@@ -174,10 +236,4 @@ void Preferences::selectAndReport(WebbyComboBox &combo, const QString &dataObjec
         return;
     combo.selectItemWithDataObjectValue(dataObject);
     comboBoxSelectionDidChange(&combo);
-}
-
-void Preferences::stopPreviews()
-{
-    _alarmPreview->stop();
-    _countdownPreview->stop();
 }

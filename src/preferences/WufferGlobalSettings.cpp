@@ -1,7 +1,9 @@
+#include "controls/ToolTip.h"
 #include "platform/NotificationCenter.h"
 #include "platform/UserDefaults.h"
 #include "preferences/PreferenceTexts.h"
 #include "preferences/SoundCombos.h"
+#include "timer/SoundPreviews.h"
 #include "timer/TimerTexts.h"
 #include "timer/Wuffer.h"
 #include "ui_Wuffer.h"
@@ -48,6 +50,8 @@ void Wuffer::loadGlobalSettings()
     _ui->_soundOffImage->setImage(_soundOff ? QStringLiteral("sound_mute.png")
                                             : QStringLiteral("sound_high.png"));
     _ui->_soundOffImage->setAccessibleName(_soundOff ? tr("Sound is off") : tr("Sound is on"));
+    ToolTip::set(*_ui->_soundOffImage,
+                 _soundOff ? tr("Let all timers be heard again") : tr("Mute all timers"));
     handleFinishedComboChange();
     refreshSoundComboEnabledness();
     populateSoundCombos();
@@ -61,6 +65,7 @@ void Wuffer::populateSoundCombos()
     };
     refill(*_ui->_alarmSoundCombo, kWuffSound, path(QStringLiteral("alarmPath")));
     refill(*_ui->_countdownSoundCombo, kCrowSound, path(QStringLiteral("countdownPath")));
+    _previews->followChoices();
 }
 
 void Wuffer::handleManageSounds(WebbyComboBox &combo)
@@ -77,4 +82,5 @@ void Wuffer::refreshSoundComboEnabledness()
     const bool audible = !_soundOff && !_stopwatch;
     _ui->_alarmSoundCombo->setEnabled(audible);
     _ui->_countdownSoundCombo->setEnabled(audible && !_suppressCountdown);
+    _previews->setEnabled(audible, audible && !_suppressCountdown);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QSet>
 #include <QString>
 
@@ -37,5 +38,19 @@ template<class Link, class Before, class After>
 [[nodiscard]] inline QString text(quint32 position, quint32 length)
 {
     return QStringLiteral("Wuffer Chain - %1 of %2").arg(position).arg(length);
+}
+
+/// “Started by “Eggs”; starts “Tea””, of the names of the timers before and after; of one of them
+/// alone where the other is empty, and nothing where both are.
+[[nodiscard]] inline QString links(const QString &startedBy, const QString &starts)
+{
+    const auto tr = [](const char *text) { return QCoreApplication::translate("Chain", text); };
+    if (startedBy.isEmpty() && starts.isEmpty())
+        return {};
+    if (starts.isEmpty())
+        return tr("Started by “%1”").arg(startedBy);
+    if (startedBy.isEmpty())
+        return tr("Starts “%1”").arg(starts);
+    return tr("Started by “%1”; starts “%2”").arg(startedBy, starts);
 }
 } // namespace Chain

@@ -1,4 +1,6 @@
+#include "controls/ToolTip.h"
 #include "settings/Chain.h"
+#include "timer/NameText.h"
 #include "timer/TimerTexts.h"
 #include "timer/Wuffer.h"
 #include "ui_Wuffer.h"
@@ -42,8 +44,7 @@ void Wuffer::setTargetWuffer(Wuffer *timer)
         selectFinishOption(kWufferFinishedWuffer);
         populateFinishedPickerComboWithChosenTargetWuffer();
         // An alarm that goes on would keep the chain waiting.
-        _ui->_keepWuffingBox->setEnabled(false);
-        _ui->_keepWuffingBox->setChecked(false);
+        refreshKeepWuffingBox();
     }
     refreshChainStatusForAllChainedWuffers();
     Q_EMIT stateChanged();
@@ -80,8 +81,19 @@ void Wuffer::removeTargetingWuffer()
     refreshChainStatusForAllChainedWuffers();
 }
 
+void Wuffer::showLinks()
+{
+    const auto name = [](const Wuffer *timer) {
+        return timer ? NameText::inOneLine(timer->title()) : QString();
+    };
+    const QString links = Chain::links(name(_reverseTargetWuffer), name(_targetWuffer));
+    for (QWidget *widget : std::initializer_list<QWidget *>{_ui->_elapsedLabel, _ui->_goButton})
+        ToolTip::set(*widget, links);
+}
+
 void Wuffer::refreshChainStatus()
 {
+    showLinks();
     if (_timerStarted)
         return;
     if (!isChained()) {

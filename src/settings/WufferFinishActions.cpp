@@ -1,6 +1,8 @@
 #include "app/WufferApplication.h"
+#include "controls/ToolTip.h"
 #include "platform/Log.h"
 #include "settings/Preset.h"
+#include "timer/KeepWuffing.h"
 #include "timer/NameText.h"
 #include "timer/TimerTexts.h"
 #include "timer/Wuffer.h"
@@ -39,17 +41,26 @@ void Wuffer::handleFinishedComboChange()
         populateFinishedPickerComboWithChosenTargetWuffer();
     else
         _ui->_finishedPicker->hide();
+    _ui->_linkButton->setVisible(linkWanted);
+    _ui->_linkButton->setEnabled(!_stopwatch);
 
     if (_ui->_finishedPicker->count() > 0 && _ui->_finishedPicker->currentIndex() < 0)
         _ui->_finishedPicker->setCurrentIndex(0);
     if (_targetWuffer && !linkWanted)
         removeTargetWuffer();
 
+    refreshKeepWuffingBox();
+    Q_EMIT stateChanged();
+}
+
+void Wuffer::refreshKeepWuffingBox()
+{
     const bool mayKeepWuffing = shouldKeepWuffing() && !_soundOff;
     _ui->_keepWuffingBox->setEnabled(mayKeepWuffing);
     if (!mayKeepWuffing)
         _ui->_keepWuffingBox->setChecked(false);
-    Q_EMIT stateChanged();
+    const bool somethingFollows = _ui->_finishedCombo->currentText() != kWufferFinishedNothing;
+    ToolTip::set(*_ui->_keepWuffingBox, KeepWuffing::hint(_stopwatch, somethingFollows, _soundOff));
 }
 
 void Wuffer::populateFinishedPickerComboWithPresets()
@@ -63,6 +74,7 @@ void Wuffer::populateFinishedPickerComboWithPresets()
         picker.setCurrentIndex(selected);
     picker.setEnabled(true);
     picker.show();
+    ToolTip::set(picker, tr("The preset that this timer turns into and runs when it has finished"));
 }
 
 void Wuffer::populateFinishedPickerComboWithChosenTargetWuffer()
@@ -75,6 +87,13 @@ void Wuffer::populateFinishedPickerComboWithChosenTargetWuffer()
     // It only shows the link, which is made elsewhere.
     picker.setEnabled(false);
     picker.show();
+    _ui->_linkButton->show();
+    // The box is too narrow for most names.
+    ToolTip::set(picker,
+                 _targetWuffer
+                     ? tr("When finished, this timer starts “%1”").arg(picker.currentText())
+                     : tr("Hold Control and drag the window of another timer onto this one: it "
+                          "starts when this one has finished"));
 }
 
 void Wuffer::handleFinishedBehaviour()

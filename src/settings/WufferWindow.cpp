@@ -92,6 +92,23 @@ void WufferWindow::setFrameUsingName(const QString &name)
     move(WindowPlace::reachable(*place, size() + decorations(), rooms));
 }
 
+bool WufferWindow::event(QEvent *event)
+{
+    // A sheet that comes up meanwhile keeps the release to itself.
+    if (event->type() == QEvent::WindowBlocked)
+        _pressedAt.reset();
+    return QMainWindow::event(event);
+}
+
+bool WufferWindow::focusNextPrevChild(bool next)
+{
+    const QWidget *left = focusWidget();
+    const bool lost = left && !(left->isEnabled() && left->isVisibleTo(this));
+    const bool moved = QMainWindow::focusNextPrevChild(next);
+    return moved && lost && focusWidget() == _spared ? QMainWindow::focusNextPrevChild(next)
+                                                     : moved;
+}
+
 void WufferWindow::closeEvent(QCloseEvent *event)
 {
     // A drag does not survive the window that it comes from, nor the one that it is over.

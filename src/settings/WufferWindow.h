@@ -29,6 +29,10 @@ public:
     /// Whether Return and Enter press the default button of the window.
     void setReturnShortcutEnabled(bool enabled);
 
+    /// Names the control into which the focus never falls when the one that has it is disabled or
+    /// hidden. The control must be in the window.
+    void spareFromFocus(const QWidget &control) { _spared = &control; }
+
     /// Gives the window its final size before it is shown. One that is resized between the making
     /// of its native window and its first appearance loses the place of its frame.
     void setVisible(bool visible) override;
@@ -60,9 +64,12 @@ Q_SIGNALS:
     void returnPressed();
 
 protected:
+    bool event(QEvent *event) override;
+    bool focusNextPrevChild(bool next) override;
     void closeEvent(QCloseEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
     void dragEnterEvent(QDragEnterEvent *event) override;
     void dragMoveEvent(QDragMoveEvent *event) override;
     void dragLeaveEvent(QDragLeaveEvent *event) override;
@@ -83,12 +90,13 @@ private:
     void setBackgroundColor(const QColor &color);
 
     Wuffer &_delegate;
-    /// Where the mouse was pressed, on the screen, until it is dragged.
+    /// Where the mouse was pressed, on the screen, until it is dragged or let go.
     std::optional<QPoint> _pressedAt;
     /// The drag of a link from this window, while there is one.
     QPointer<QDrag> _drag;
     /// The window that is dragged over this one.
     QPointer<WufferWindow> _hovering;
+    const QWidget *_spared = nullptr;
     QShortcut *_return;
     QShortcut *_enter;
 };

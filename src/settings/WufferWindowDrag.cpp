@@ -38,6 +38,11 @@ void WufferWindow::mouseMoveEvent(QMouseEvent *event)
         rightMouseDragged();
 }
 
+void WufferWindow::mouseReleaseEvent(QMouseEvent * /*event*/)
+{
+    _pressedAt.reset();
+}
+
 void WufferWindow::mouseDragged(const QMouseEvent &event)
 {
     if (event.modifiers().testFlag(Keyboard::kControl)) {

@@ -1,9 +1,15 @@
 #include "timer/TargetTimeSheet.h"
 
+#include "platform/Clock.h"
+#include "platform/Service.h"
+#include "timer/TimeDistance.h"
 #include "ui_TargetTime.h"
 
+#include <QApplication>
 #include <QLocale>
 #include <QPushButton>
+
+#include <utility>
 
 namespace
 {
@@ -36,16 +42,63 @@ TargetTimeSheet::TargetTimeSheet(QWidget &parent) :
     _ui->_targetButtons->button(QDialogButtonBox::Ok)->setText(tr("Start"));
     for (QAbstractButton *button : _ui->_targetButtons->buttons())
         button->setIcon({});
+    connectControls();
+}
 
+TargetTimeSheet::~TargetTimeSheet() = default;
+
+void TargetTimeSheet::connectControls()
+{
     connect(_ui->_targetCalendar, &QCalendarWidget::selectionChanged, this,
             [this] { _ui->_targetDateField->setDate(_ui->_targetCalendar->selectedDate()); });
     connect(_ui->_targetDateField, &QDateTimeEdit::dateChanged, _ui->_targetCalendar,
             &QCalendarWidget::setSelectedDate);
+    connect(_ui->_targetDateField, &QDateTimeEdit::dateTimeChanged, this,
+            &TargetTimeSheet::showDistance);
+    connect(qApp, &QApplication::focusChanged, this,
+            [this](const QWidget *, const QWidget *now) { focusChanged(now); });
     connect(_ui->_targetButtons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(_ui->_targetButtons, &QDialogButtonBox::rejected, this, &QDialog::reject);
 }
 
-TargetTimeSheet::~TargetTimeSheet() = default;
+void TargetTimeSheet::setVisible(bool visible)
+{
+    const bool opens = visible && !isVisible();
+    QDialog::setVisible(visible);
+    if (!opens)
+        return;
+    _ui->_targetDateField->setFocus();
+    _ui->_targetDateField->setSelectedSection(QDateTimeEdit::HourSection);
+    _hourIsDue = !_ui->_targetDateField->hasFocus();
+}
+
+void TargetTimeSheet::showEvent(QShowEvent *event)
+{
+    constexpr double secondsBetweenLooks = 1.0;
+    QDialog::showEvent(event);
+    showDistance();
+    _distanceTimer.startRepeating(secondsBetweenLooks);
+}
+
+void TargetTimeSheet::hideEvent(QHideEvent *event)
+{
+    _distanceTimer.invalidate();
+    QDialog::hideEvent(event);
+}
+
+void TargetTimeSheet::focusChanged(const QWidget *now)
+{
+    // Again: the field selects its first part of its own accord when it gets the keyboard.
+    if (now == _ui->_targetDateField && std::exchange(_hourIsDue, false))
+        _ui->_targetDateField->setSelectedSection(QDateTimeEdit::HourSection);
+}
+
+void TargetTimeSheet::showDistance()
+{
+    // From the second that clocks show, so that a round time away reads as one.
+    const QDateTime now = inWholeSeconds(Service<Clock>::current().calendarNow());
+    _ui->_targetDistance->setText(TimeDistance::text(now.secsTo(dateValue())));
+}
 
 void TargetTimeSheet::setMinDate(const QDateTime &date)
 {

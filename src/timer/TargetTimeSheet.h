@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/ClockTimer.h"
+
 #include <QDialog>
 
 #include <memory>
@@ -10,7 +12,8 @@ class TargetTime;
 }
 
 /// The sheet in which the end of a countdown is picked: a calendar and a date field that follow
-/// each other. It only asks; accepted() and rejected() say how it was answered.
+/// each other, and how long that is from now. It opens with the hour selected, which is what most
+/// dates differ in. It only asks; accepted() and rejected() say how it was answered.
 class TargetTimeSheet final : public QDialog
 {
     Q_OBJECT
@@ -25,6 +28,21 @@ public:
     [[nodiscard]] QDateTime dateValue() const;
     void setDateValue(const QDateTime &date);
 
+    /// Opens with the hour selected.
+    void setVisible(bool visible) override;
+
+protected:
+    void showEvent(QShowEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
+
 private:
+    void connectControls();
+    /// Selects the hour when the field gets the keyboard for the first time since the sheet opened.
+    void focusChanged(const QWidget *now);
+    void showDistance();
+
     std::unique_ptr<Ui::TargetTime> _ui;
+    bool _hourIsDue = false;
+    /// Now moves on while the sheet is in sight.
+    ClockTimer _distanceTimer{[this] { showDistance(); }};
 };

@@ -1,9 +1,12 @@
 #include "timer/Wuffer.h"
 
+#include "app/WufferApplication.h"
 #include "controls/PickFromList.h"
+#include "controls/PressThrough.h"
 #include "platform/NotificationCenter.h"
 #include "settings/WufferWindow.h"
 #include "timer/RunTimes.h"
+#include "timer/SoundPreviews.h"
 #include "timer/TargetTimeSheet.h"
 #include "timer/TimeEntry.h"
 #include "timer/TimeFormat.h"
@@ -38,6 +41,7 @@ Wuffer::Wuffer() :
     _window(std::make_unique<WufferWindow>(*this)), _ui(std::make_unique<Ui::Wuffer>())
 {
     _ui->setupUi(_window.get());
+    _window->spareFromFocus(*_ui->_titleField);
     fitControls();
     awakeFromNib();
 }
@@ -84,9 +88,6 @@ void Wuffer::connectControls()
     connect(_window.get(), &WufferWindow::willClose, this, &Wuffer::windowWillClose);
     connect(_window.get(), &WufferWindow::returnPressed, _ui->_goButton, &QPushButton::click);
     connect(_ui->_goButton, &QPushButton::clicked, this, &Wuffer::goPressed);
-    connect(_ui->_finishedDrawerButton, &QPushButton::clicked, this, &Wuffer::showHideAdvanced);
-    connect(_ui->_drawer, &Drawer::stateChanged, this, &Wuffer::stateChanged);
-    connect(_ui->_helpButton, &QToolButton::clicked, this, &Wuffer::getFinishingHelp);
     connect(_ui->_keepWuffingBox, &QCheckBox::clicked, this, &Wuffer::removePresetColor);
     connect(_ui->_displayBox, &DisplayBox::fullScreenCloseRequested, this, &Wuffer::setWindowed);
     connect(_ui->_displayBox, &DisplayBox::windowActivated, this,
@@ -108,6 +109,33 @@ void Wuffer::connectControls()
         connect(combo, &PopUpComboBox::willPopUp, this, &Wuffer::handleFinishedComboChange);
     for (WebbyComboBox *combo : {_ui->_alarmSoundCombo, _ui->_countdownSoundCombo})
         new PickFromList(*combo);
+    // What the timers before and after say of this one follows its name.
+    connect(_ui->_titleField, &QLineEdit::textChanged, this, [this] {
+        for (Wuffer *linked : {_targetWuffer.data(), _reverseTargetWuffer.data()}) {
+            if (linked)
+                linked->showLinks();
+        }
+    });
+    for (auto *button : _window->findChildren<QAbstractButton *>())
+        new PressThrough(*button);
+    connectDrawer();
+}
+
+void Wuffer::connectDrawer()
+{
+    connect(_ui->_finishedDrawerButton, &QPushButton::clicked, this, &Wuffer::showHideAdvanced);
+    connect(_ui->_drawer, &Drawer::stateChanged, this, &Wuffer::stateChanged);
+    connect(_ui->_helpButton, &QToolButton::clicked, this, &Wuffer::getFinishingHelp);
+    connect(_ui->_linkButton, &QToolButton::clicked, this,
+            [this] { WufferApplication::instance().offerTargets(*this, *_ui->_linkButton); });
+    _previews = std::make_unique<SoundPreviews>(
+        SoundPreviews::Place{*_ui->_alarmPlayButton, *_ui->_alarmSoundCombo},
+        SoundPreviews::Place{*_ui->_countdownPlayButton, *_ui->_countdownSoundCombo});
+    connect(_window.get(), &WufferWindow::willClose, _previews.get(), &SoundPreviews::stop);
+    connect(_ui->_drawer, &Drawer::stateChanged, _previews.get(), [this] {
+        if (_ui->_drawer->state() == Drawer::State::Closing)
+            _previews->stop();
+    });
 }
 
 QString Wuffer::title() const

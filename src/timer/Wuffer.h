@@ -19,6 +19,7 @@ class QAction;
 class QComboBox;
 class QLineEdit;
 struct RunTimes;
+class SoundPreviews;
 class TargetTimeSheet;
 class TimeEntry;
 struct TimerSettings;
@@ -32,10 +33,9 @@ class Wuffer;
 
 /// One timer: the controller of its window and of everything that runs in it.
 ///
-/// It counts down from the hours, minutes and seconds typed into it or to a date picked in a sheet,
-/// or counts up as a stopwatch. At the end it rings ("wuffs") and then runs its finish action. Time
-/// is measured between dates, never by counting ticks. The application owns it until its window
-/// closes; all others refer to it weakly. Bodies stand in the file named above each group.
+/// It counts down from the time typed into it or to a date picked in a sheet, or counts up as a
+/// stopwatch; at the end it rings ("wuffs") and runs its finish action. Time is measured between
+/// dates, never by counting ticks. The application owns it until its window closes.
 class Wuffer final : public QObject
 {
     Q_OBJECT
@@ -147,8 +147,8 @@ public:
     void storeSettingsInDefaultsWithKey(const QString &key);
     /// Keeps them for the next launch.
     void saveSettingsToDefaultKey();
-    /// Reads what is kept under the key into the controls, puts the window where it was kept if
-    /// that is asked for, but never exactly onto another timer's, and shows it.
+    /// Reads what is kept under the key into the controls, puts the window where it was kept, but
+    /// never exactly onto another timer's, if that is asked for, and shows it.
     void loadSettingsFromDefaultsWithKey(const QString &key, bool moveWindow);
 
     // Presets: settings/WufferPresets.cpp.
@@ -159,9 +159,8 @@ public:
     [[nodiscard]] static QString stringForPreset(qint32 number);
     /// Saves this timer into the preset of that number; ignored while started or a stopwatch.
     void setPreset(qint32 number);
-    /// Marks the timer as one that holds a preset unchanged.
+    /// Mark the timer as one that holds a preset unchanged, and undo that after an edit.
     void setPresetColor();
-    /// Undoes that after an edit.
     void removePresetColor();
 
     // Finish actions: settings/WufferFinishActions.cpp.
@@ -181,9 +180,8 @@ public:
 
     // Chains, known to both ends of each link and never a circle: settings/WufferChain.cpp.
 
-    /// The timer that this one starts when it has finished; null when there is none.
+    /// The timer that this one starts when it has finished, and the one that starts it; or null.
     [[nodiscard]] Wuffer *getTargetWuffer() const { return _targetWuffer; }
-    /// The timer that starts this one; null when there is none.
     [[nodiscard]] Wuffer *getTargetingWuffer() const { return _reverseTargetWuffer; }
     /// Whether this timer starts another or is started by one.
     [[nodiscard]] bool isChained() const;
@@ -222,6 +220,7 @@ private:
     void fitControls();
     void awakeFromNib();
     void connectControls();
+    void connectDrawer();
     void toggleRun();
     void startRun();
     void stopRun();
@@ -234,7 +233,6 @@ private:
     void setRunningControls(bool running, const QString &goTitle);
     void postStatusChanged();
     void windowWillClose();
-
     /// What the number fields say, each as a whole number.
     [[nodiscard]] qint32 hours() const;
     [[nodiscard]] qint32 minutes() const;
@@ -244,32 +242,30 @@ private:
     void enableReturnShortcut();
     void disableReturnShortcut();
     void comboBoxSelectionDidChange(QComboBox &combo);
-    /// Where managing the sounds was chosen, selects the built-in one and asks for the preferences.
     void handleManageSounds(WebbyComboBox &combo);
-
     [[nodiscard]] QString repeatSuffix() const;
     void setElapsedColor(TextColor color);
-
     [[nodiscard]] TimerSettings settings() const;
     void takeOver(const TimerSettings &settings);
     void showAsPreset(const TimerSettings &settings, const QString &key);
     void showPresetMark(const QString &name, const QString &origin);
     void restorePlace(const QString &key);
     void selectFinishOption(QStringView option);
+    void showLinks();
+    void refreshKeepWuffingBox();
     void startChosenPreset();
     void startTargetWuffer();
     void comeForward();
 
     std::unique_ptr<WufferWindow> _window;
     std::unique_ptr<Ui::Wuffer> _ui;
+    std::unique_ptr<SoundPreviews> _previews;
     /// Made when it is first asked for: a calendar is costly.
     std::unique_ptr<TargetTimeSheet> _targetTimeWindow;
 
+    std::unique_ptr<TimeEntry> _timeEntry;
     TextColor _titleColor = TextColor::Black;
     TextColor _elapsedColor = TextColor::Black;
-
-    std::unique_ptr<TimeEntry> _timeEntry;
-
     bool _timerStarted = false;
     std::optional<Date> _targetDate;
     std::optional<Date> _startDate;

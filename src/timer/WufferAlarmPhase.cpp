@@ -2,6 +2,7 @@
 #include "platform/Desktop.h"
 #include "platform/Service.h"
 #include "settings/WufferWindow.h"
+#include "timer/SoundPreviews.h"
 #include "timer/TimeFormat.h"
 #include "timer/TimerTexts.h"
 #include "timer/Wuffer.h"
@@ -19,6 +20,7 @@ void Wuffer::timerDone()
 {
     if (WufferApplication::instance().cancelFullScreenModeForOthers(*this))
         _alarmNotification.expectActivation();
+    _previews->stop();
     playDone();
     _checkTimer.invalidate();
     _displayRest.setResting(false);

@@ -3,6 +3,7 @@
 #include "timer/BeepSchedule.h"
 #include "timer/NumberText.h"
 #include "timer/RunTimes.h"
+#include "timer/SoundPreviews.h"
 #include "timer/TimeEntry.h"
 #include "timer/TimeFields.h"
 #include "timer/TimerTexts.h"
@@ -55,6 +56,7 @@ void Wuffer::startRun()
 {
     // A sheet that still asks when to end has been overtaken.
     endTargetTimeSheet();
+    _previews->stop();
     _wuffTimer.invalidate();
     setColorForDisplayText(TextColor::Black, false);
     _timerStarted = true;

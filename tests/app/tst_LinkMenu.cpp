@@ -3,6 +3,8 @@
 #include "support/TestMain.h"
 #include "support/TimerFixture.h"
 
+#include <QToolButton>
+
 /// The menu that links timers without a mouse.
 class tst_LinkMenu final : public Test
 {
@@ -16,8 +18,24 @@ private Q_SLOTS:
     void aTimerThatClosedMeanwhileIsNotLinked();
     void itNeedsAnActiveTimer();
     void keysAloneAreEnough();
+    void theButtonInTheDrawerOpensTheListOfItsTimer();
+    void theListUnderTheButtonGoesWhenItCloses();
+    void theListUnderTheButtonGoesWithItsWindow();
+    void aTimerAloneIsOfferedNoOther();
 
 private:
+    /// Presses the button in the drawer of the timer, and gives the list that opens.
+    static QMenu &listUnderTheButton(const Wuffer &timer)
+    {
+        timer.window()->show();
+        auto &button = child<QToolButton>(*timer.window(), "_linkButton");
+        button.show();
+        button.click();
+        auto *list = button.findChild<QMenu *>();
+        if (!list || !list->isVisible())
+            qFatal("no list has opened");
+        return *list;
+    }
     static QMenu &links(const WufferWindow &window)
     {
         return menu(window, QStringLiteral("When Finished, Start"));
@@ -117,6 +135,50 @@ void tst_LinkMenu::keysAloneAreEnough()
     QTest::keyClick(&menu, Qt::Key_Down);
     QTest::keyClick(&menu, Qt::Key_Return);
     QCOMPARE(_timers[0]->getTargetWuffer(), _timers[1]);
+}
+
+void tst_LinkMenu::theButtonInTheDrawerOpensTheListOfItsTimer()
+{
+    // Whichever window is active.
+    activate(*_timers[2]->window());
+    QMenu &list = listUnderTheButton(*_timers[0]);
+    const QStringList texts{QStringLiteral("None"), QStringLiteral("-"),
+                            QStringLiteral("B  C - 0h 0m 0s"), QStringLiteral("D - 0h 0m 0s")};
+    QCOMPARE(textsOf(list), texts);
+    list.setActiveAction(list.actions().at(2));
+    QTest::keyClick(&list, Qt::Key_Return);
+    QCOMPARE(_timers[0]->getTargetWuffer(), _timers[1]);
+    QVERIFY(!_timers[2]->isChained());
+}
+
+void tst_LinkMenu::theListUnderTheButtonGoesWhenItCloses()
+{
+    const QPointer<QMenu> list = &listUnderTheButton(*_timers[0]);
+    list->close();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(!list);
+    QVERIFY(!_timers[0]->isChained());
+}
+
+void tst_LinkMenu::theListUnderTheButtonGoesWithItsWindow()
+{
+    const QPointer<QMenu> list = &listUnderTheButton(*_timers[0]);
+    _timers[0]->window()->close();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(!list);
+    QCOMPARE(WufferApplication::getWuffers().size(), std::size_t(2));
+}
+
+void tst_LinkMenu::aTimerAloneIsOfferedNoOther()
+{
+    _timers[1]->window()->close();
+    _timers[2]->window()->close();
+    QMenu &list = listUnderTheButton(*_timers[0]);
+    const QStringList texts{QStringLiteral("None"), QStringLiteral("-"),
+                            QStringLiteral("No Other Timer Is Open")};
+    QCOMPARE(textsOf(list), texts);
+    QVERIFY(!list.actions().last()->isEnabled());
+    list.close();
 }
 
 WUFFER_TEST_MAIN(tst_LinkMenu)

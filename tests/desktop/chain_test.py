@@ -178,6 +178,49 @@ class ChainTest(DesktopTest):
         self.link(first, second)
         self.quit(self.program)
 
+    def test_a_button_that_is_pressed_after_an_empty_spot_moves_nothing(self):
+        first, second = self.launch_timers(2)
+        before = self.display.frame(first)
+        self.display.click(*self.margin(first))
+        start = self.button_in(first, "Start")
+        with self.display.dragging(start, (start[0] + 200, start[1] + 120)):
+            time.sleep(0.2)
+        self.program.answers()
+        self.assertEqual(self.display.frame(first), before)
+        self.assertEqual(len(self.program.all("button", "Start")), 2)
+        with self.display.dragging(start, self.margin(second), key="ctrl"):
+            time.sleep(0.2)
+            self.assertFalse(self.is_lit(second))
+        self.assertEqual(len(self.program.all("button", "Start")), 2)
+        self.quit(self.program)
+
+    def test_a_drag_begins_on_a_disabled_button(self):
+        first, second, third = self.launch_timers(3)
+        self.link(first, second)
+        chained = self.button_in(second, "Chained")
+        with self.display.dragging(chained, self.margin(third), key="ctrl"):
+            wait_until(lambda: self.is_lit(third) and self.is_lit(second), 3, "both are lit")
+        self.wait_for_chain(third, second)
+        # Keep wuffing cannot be ticked where a timer follows; with the right button no key is needed.
+        box = self.button_in(third, "Keep wuffing", "box")
+        with self.display.dragging(box, self.margin(first), button=3):
+            wait_until(lambda: self.is_lit(first) and self.is_lit(third), 3, "both are lit")
+        self.wait_for_chain(first, third, second)
+        before = self.display.frame(second)
+        with self.display.dragging(chained, (chained[0] - 30, chained[1] + 90)):
+            pass
+        wait_until(lambda: self.display.frame(second).y > before.y + 50, 3, "the window moves")
+        self.quit(self.program)
+
+    def button_in(self, window, name, role="button"):
+        """The middle of the button in the window."""
+        area = self.display.geometry(window)
+        places = [self.program.place(button) for button in self.program.all(role, name)]
+        inside = [place for place in places if area.x <= place.x < area.right
+                  and area.y <= place.y < area.bottom]
+        self.assertEqual(len(inside), 1)
+        return inside[0].x + inside[0].width // 2, inside[0].y + inside[0].height // 2
+
     def test_keys_alone_link_timers(self):
         self.launch_timers(2)
         self.display.key("alt+t")

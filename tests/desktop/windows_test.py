@@ -5,6 +5,7 @@ Usage: windows_test.py WUFFER FOLDER [unittest arguments]
 """
 
 import json
+import re
 import time
 
 from support.case import DesktopTest, main
@@ -137,6 +138,62 @@ class WindowsTest(DesktopTest):
         program.wait_for_button("More Options")
         wait_until(lambda: self.display.geometry(window) == closed, 3, "the drawer is in")
         self.quit(program)
+
+    def test_the_date_sheet_begins_at_the_hour_and_says_how_long_that_is(self):
+        # A place where it is morning now, so that the evening is to come.
+        west = time.gmtime().tm_hour - 8
+        program = self.launch(environment={"TZ": f"TEST{west}"})
+        program.wait_for_focus_in("Minutes")
+        for minutes in ("90", "00"):
+            sheet = self.open_sheet(program)
+            # Only where the hour is selected do these set it, and the minutes after it.
+            self.display.type("2359")
+            wait_until(lambda: re.fullmatch(r"in \d+ h( \d+ min)?", self.distance(program)), 3,
+                       "it is later today")
+            self.report(f"{self.distance(program)} to 23:59")
+            # The seconds are those of the moment at which the sheet opened.
+            self.assertAlmostEqual(self.minutes_left(program), self.minutes_to_midnight(),
+                                   delta=1)
+            self.display.key("Escape")
+            program.wait_for_windows(1)
+            self.assertNotIn(sheet, program.windows())
+            self.display.type(minutes)
+        self.quit(program)
+
+    def distance(self, program):
+        return program.shown("How long that is from now") or ""
+
+    def minutes_left(self, program):
+        hours, minutes = (re.search(rf"(\d+) {unit}\b", self.distance(program))
+                          for unit in ("h", "min"))
+        return 60 * int(hours[1] if hours else 0) + int(minutes[1] if minutes else 0)
+
+    def minutes_to_midnight(self):
+        return 24 * 60 - 1 - (60 * 8 + time.gmtime().tm_min)
+
+    def open_sheet(self, program):
+        self.display.key("ctrl+d")
+        sheet = program.wait_for_windows(2)[-1]
+        self.wait_until_active(sheet)
+        wait_until(lambda: self.distance(program), 3, "it says how long that is")
+        return sheet
+
+    def test_the_date_sheet_cannot_be_maximised(self):
+        program = self.launch()
+        sheet = self.open_sheet(program)
+        before = self.display.geometry(sheet)
+        allowed = self.display.property("_NET_WM_ALLOWED_ACTIONS", sheet)
+        self.assertIn("_NET_WM_ACTION_MOVE", allowed)
+        self.assertNotIn("MAXIMIZE", allowed)
+        # For those that know the older hints: moved and closed it can be, but not maximised.
+        flags, functions = self.display.property("_MOTIF_WM_HINTS", sheet).split(", ")[:2]
+        self.assertEqual(int(flags, 16) & 1, 1)
+        self.assertEqual(int(functions, 16) & (1 << 2 | 1 << 4), 1 << 2)
+        self.display.maximise(sheet)
+        time.sleep(0.5)
+        self.assertEqual(self.display.geometry(sheet), before)
+        self.assertNotIn("MAXIMIZED", self.display.state(sheet))
+        program.kill()
 
     def has_come_to_rest(self, window):
         height = self.display.geometry(window).height

@@ -47,6 +47,8 @@ private Q_SLOTS:
     void theWalkEndsAtAMemberLinkedToItself();
     void theWalkEndsWhereLinksAreOneSided();
     void theTextCountsFromOne();
+    void theLinksAreNamedAsFarAsThereAreAny_data();
+    void theLinksAreNamedAsFarAsThereAreAny();
 
 private:
     Member a{QStringLiteral("A")};
@@ -100,6 +102,30 @@ void tst_Chain::theWalkEndsWhereLinksAreOneSided()
 void tst_Chain::theTextCountsFromOne()
 {
     QCOMPARE(Chain::text(2, 3), QStringLiteral("Wuffer Chain - 2 of 3"));
+}
+
+void tst_Chain::theLinksAreNamedAsFarAsThereAreAny_data()
+{
+    QTest::addColumn<QString>("startedBy");
+    QTest::addColumn<QString>("starts");
+    QTest::addColumn<QString>("text");
+    const auto row = [](const char *name, const char *startedBy, const char *starts,
+                        const char *text) {
+        QTest::newRow(name) << QString::fromUtf8(startedBy) << QString::fromUtf8(starts)
+                            << QString::fromUtf8(text);
+    };
+    row("none", "", "", "");
+    row("the first", "", "Tea", "Starts “Tea”");
+    row("one between", "Eggs", "Tea", "Started by “Eggs”; starts “Tea”");
+    row("the last", "Eggs", "", "Started by “Eggs”");
+    row("names with places", "%2", "%1", "Started by “%2”; starts “%1”");
+}
+
+void tst_Chain::theLinksAreNamedAsFarAsThereAreAny()
+{
+    QFETCH(const QString, startedBy);
+    QFETCH(const QString, starts);
+    QTEST(Chain::links(startedBy, starts), "text");
 }
 
 WUFFER_TEST_MAIN(tst_Chain)

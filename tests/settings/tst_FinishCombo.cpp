@@ -1,6 +1,8 @@
 #include "support/TestMain.h"
 #include "support/TimerFixture.h"
 
+#include <QToolButton>
+
 namespace
 {
 const QString kNothing = QStringLiteral("Do Nothing");
@@ -25,6 +27,10 @@ private Q_SLOTS:
     void thePickerSaysHowToLink();
     void thePickerShowsTheLink();
     void thePickerOfAStopwatchEndsEnabled();
+    void aButtonOffersTimersWhereOneIsToFollow_data();
+    void aButtonOffersTimersWhereOneIsToFollow();
+    void theButtonGoesWithTheLink();
+    void theButtonOfAStopwatchIsDisabled();
     void anotherOptionCutsTheLink_data();
     void anotherOptionCutsTheLink();
     void keepWuffingNeedsNothingToFollow_data();
@@ -158,6 +164,55 @@ void tst_FinishCombo::thePickerOfAStopwatchEndsEnabled()
     t.timer.stopwatch();
     t.timer.stopwatch();
     QVERIFY(!t.picker().isEnabled());
+}
+
+void tst_FinishCombo::aButtonOffersTimersWhereOneIsToFollow_data()
+{
+    QTest::addColumn<QString>("option");
+    QTest::addColumn<bool>("offered");
+    QTest::newRow("nothing") << kNothing << false;
+    QTest::newRow("loop") << kLoop << false;
+    QTest::newRow("preset") << kPreset << false;
+    QTest::newRow("other timer") << kWuffer << true;
+}
+
+void tst_FinishCombo::aButtonOffersTimersWhereOneIsToFollow()
+{
+    QFETCH(const QString, option);
+    TimerFixture t;
+    const auto &button = t.part<QToolButton>("_linkButton");
+    QVERIFY(!isShown(button));
+    t.chooseFinish(option);
+    QTEST(isShown(button), "offered");
+    std::vector<const Wuffer *> requests;
+    const QObject until;
+    connect(&WufferApplication::instance(), &WufferApplication::targetsRequested, &until,
+            [&requests](const Wuffer *timer) { requests.push_back(timer); });
+    t.part<QToolButton>("_linkButton").click();
+    QCOMPARE(requests, std::vector<const Wuffer *>{&t.timer});
+    QVERIFY(!button.accessibleName().isEmpty());
+    QVERIFY(!button.toolTip().isEmpty());
+}
+
+void tst_FinishCombo::theButtonGoesWithTheLink()
+{
+    const TimerFixture t;
+    TimerUser other;
+    const auto &button = t.part<QToolButton>("_linkButton");
+    t.timer.setTargetWuffer(&other.timer);
+    QVERIFY(isShown(button));
+    other.timer.window()->close();
+    QVERIFY(!isShown(button));
+}
+
+void tst_FinishCombo::theButtonOfAStopwatchIsDisabled()
+{
+    TimerFixture t;
+    t.chooseFinish(kWuffer);
+    t.timer.stopwatch();
+    QVERIFY(!t.part<QToolButton>("_linkButton").isEnabled());
+    t.timer.stopwatch();
+    QVERIFY(t.part<QToolButton>("_linkButton").isEnabled());
 }
 
 void tst_FinishCombo::anotherOptionCutsTheLink_data()

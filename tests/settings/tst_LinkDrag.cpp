@@ -5,7 +5,6 @@
 #include <QDrag>
 #include <QDragEnterEvent>
 #include <QMimeData>
-#include <QSignalSpy>
 
 namespace
 {
@@ -14,6 +13,21 @@ const QString kType = QStringLiteral("WufferWindow");
 QColor background(const TimerUser &user)
 {
     return user.timer.window()->palette().color(QPalette::Window);
+}
+
+/// Moves the mouse so far to the right over the widget, with a button and Control held.
+void drag(QWidget &widget, Qt::MouseButton button, QPoint from, int way)
+{
+    const QPoint to = from + QPoint(way, 0);
+    QMouseEvent move(QEvent::MouseMove, to, widget.mapToGlobal(to), Qt::NoButton, button,
+                     Keyboard::kControl);
+    QCoreApplication::sendEvent(&widget, &move);
+}
+
+/// Far enough for a drag.
+int far()
+{
+    return QApplication::startDragDistance();
 }
 } // namespace
 
@@ -33,6 +47,11 @@ private Q_SLOTS:
     void aPressThatDoesNotMoveIsNoDrag();
     void aDragBeginsAtTheDistanceOfTheDesktop_data();
     void aDragBeginsAtTheDistanceOfTheDesktop();
+    void aPressIsForgottenWhenItEnds();
+    void aPressIsForgottenWhenASheetComesUp();
+    void aDragBeginsOnWhatIsDisabled_data();
+    void aDragBeginsOnWhatIsDisabled();
+    void aPressOnWhatIsEnabledIsNoDrag();
 };
 
 void tst_LinkDrag::highlightingShowsTheWholeChain()
@@ -125,12 +144,9 @@ void tst_LinkDrag::aPressThatDoesNotMoveIsNoDrag()
     WufferWindow &window = *t.timer.window();
     window.show();
     for (const Qt::MouseButton button : {Qt::LeftButton, Qt::RightButton}) {
-        const QPoint to(5, 61);
         QTest::mousePress(&window, button, Keyboard::kControl, QPoint(4, 60));
-        QMouseEvent move(QEvent::MouseMove, to, window.mapToGlobal(to), Qt::NoButton, button,
-                         Keyboard::kControl);
-        QCoreApplication::sendEvent(&window, &move);
-        QTest::mouseRelease(&window, button, Keyboard::kControl, to);
+        drag(window, button, QPoint(4, 60), 1);
+        QTest::mouseRelease(&window, button, Keyboard::kControl, QPoint(5, 60));
         QVERIFY(window.findChildren<QDrag *>().isEmpty());
     }
 }
@@ -149,23 +165,80 @@ void tst_LinkDrag::aDragBeginsAtTheDistanceOfTheDesktop()
     WufferWindow &window = *t.timer.window();
     window.show();
     const QPoint from(4, 60);
-    const auto moveBy = [&](int way) {
-        const QPoint to = from + QPoint(way, 0);
-        QMouseEvent move(QEvent::MouseMove, to, window.mapToGlobal(to), Qt::NoButton, button,
-                         Keyboard::kControl);
-        QCoreApplication::sendEvent(&window, &move);
-    };
     QTest::mousePress(&window, button, Keyboard::kControl, from);
-    moveBy(QApplication::startDragDistance() - 1);
+    drag(window, button, from, far() - 1);
     QVERIFY(window.findChildren<QDrag *>().isEmpty());
     // The display that is only in memory ends a drag as soon as it has begun, and says so.
     QTest::ignoreMessage(QtWarningMsg, "Unimplemented code.");
-    moveBy(QApplication::startDragDistance());
+    drag(window, button, from, far());
     const QList<QDrag *> drags = window.findChildren<QDrag *>();
     QCOMPARE(drags.size(), 1);
     QCOMPARE(drags.first()->mimeData()->formats(), QStringList{kType});
     QVERIFY(!drags.first()->pixmap().isNull());
     QVERIFY(!t.timer.isChained());
+}
+
+void tst_LinkDrag::aPressIsForgottenWhenItEnds()
+{
+    const TimerFixture t;
+    WufferWindow &window = *t.timer.window();
+    window.show();
+    QTest::mouseClick(&window, Qt::LeftButton, {}, QPoint(4, 60));
+    // Pulled off the button that was pressed after that.
+    QTest::mousePress(&t.goButton(), Qt::LeftButton, Keyboard::kControl, QPoint(5, 5));
+    drag(t.goButton(), Qt::LeftButton, QPoint(5, 5), 500);
+    drag(t.goButton(), Qt::LeftButton, QPoint(5, 5), 600);
+    QVERIFY(window.findChildren<QDrag *>().isEmpty());
+}
+
+void tst_LinkDrag::aPressIsForgottenWhenASheetComesUp()
+{
+    TimerFixture t;
+    WufferWindow &window = *t.timer.window();
+    window.show();
+    QTest::mousePress(&window, Qt::LeftButton, Keyboard::kControl, QPoint(4, 60));
+    t.timer.targetTime();
+    t.timer.endTargetTimeSheet();
+    drag(window, Qt::LeftButton, QPoint(4, 60), far());
+    QVERIFY(window.findChildren<QDrag *>().isEmpty());
+}
+
+void tst_LinkDrag::aDragBeginsOnWhatIsDisabled_data()
+{
+    QTest::addColumn<QString>("control");
+    QTest::addColumn<Qt::MouseButton>("button");
+    for (const char *control : {"_goButton", "_keepWuffingBox", "_hoursField", "_finishedCombo"}) {
+        QTest::addRow("%s, left", control) << QString::fromLatin1(control) << Qt::LeftButton;
+        QTest::addRow("%s, right", control) << QString::fromLatin1(control) << Qt::RightButton;
+    }
+}
+
+void tst_LinkDrag::aDragBeginsOnWhatIsDisabled()
+{
+    QFETCH(const QString, control);
+    QFETCH(const Qt::MouseButton, button);
+    const TimerFixture t;
+    WufferWindow &window = *t.timer.window();
+    window.show();
+    auto &widget = t.part<QWidget>(qPrintable(control));
+    widget.setEnabled(false);
+    QTest::mousePress(&widget, button, Keyboard::kControl, QPoint(5, 5));
+    QTest::ignoreMessage(QtWarningMsg, "Unimplemented code.");
+    drag(widget, button, QPoint(5, 5), far());
+    QCOMPARE(window.findChildren<QDrag *>().size(), 1);
+}
+
+void tst_LinkDrag::aPressOnWhatIsEnabledIsNoDrag()
+{
+    const TimerFixture t;
+    WufferWindow &window = *t.timer.window();
+    window.show();
+    for (const char *control : {"_goButton", "_keepWuffingBox", "_hoursField"}) {
+        auto &widget = t.part<QWidget>(control);
+        QTest::mousePress(&widget, Qt::LeftButton, Keyboard::kControl, QPoint(5, 5));
+        drag(widget, Qt::LeftButton, QPoint(5, 5), far());
+        QVERIFY(window.findChildren<QDrag *>().isEmpty());
+    }
 }
 
 WUFFER_TEST_MAIN(tst_LinkDrag)

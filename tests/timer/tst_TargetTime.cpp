@@ -5,6 +5,7 @@
 #include <QCalendarWidget>
 #include <QDateTimeEdit>
 #include <QDialogButtonBox>
+#include <QLabel>
 
 /// Counting down to a date picked in the sheet.
 class tst_TargetTime final : public Test
@@ -26,8 +27,23 @@ private Q_SLOTS:
     void theSheetBeginsAnewEachTime();
     void confirmingHidesTheSheet();
     void aStartMeanwhileEndsTheSheet();
+    void theSheetSaysHowLongThatIsFromNow();
+    void howLongFollowsWhatIsPicked();
+    void howLongFollowsTheClock();
+    void nothingTicksWhileNoSheetIsOpen();
+    void theHourIsSelectedWheneverTheSheetOpens();
+    void theHourStaysSelectedWhenTheSheetGetsTheKeyboard();
+    void theHourIsSelectedOnlyOnce();
 
 private:
+    static QString distance(const TimerFixture &t)
+    {
+        return child<QLabel>(sheet(t), "_targetDistance").text();
+    }
+    static QDateTimeEdit &field(const TimerFixture &t)
+    {
+        return child<QDateTimeEdit>(sheet(t), "_targetDateField");
+    }
     static TargetTimeSheet &sheet(const TimerFixture &t)
     {
         return child<TargetTimeSheet>(*t.timer.window(), "_targetTimeWindow");
@@ -186,6 +202,93 @@ void tst_TargetTime::whatIsPickedIsAWholeSecond()
     QVERIFY(t.clock.calendarNow().time().msec() != 0);
     t.timer.targetTime();
     QCOMPARE(sheet(t).dateValue().time().msec(), 0);
+}
+
+void tst_TargetTime::theSheetSaysHowLongThatIsFromNow()
+{
+    TimerFixture t;
+    t.typeDuration(4, 12, 0);
+    t.timer.targetTime();
+    QCOMPARE(distance(t), QStringLiteral("in 4 h 12 min"));
+    t.timer.endTargetTimeSheet();
+    t.typeDuration(0, 0, 0);
+    t.timer.targetTime();
+    QCOMPARE(distance(t), QStringLiteral("now"));
+}
+
+void tst_TargetTime::howLongFollowsWhatIsPicked()
+{
+    TimerFixture t;
+    t.typeDuration(4, 0, 0);
+    t.timer.targetTime();
+    field(t).stepUp();
+    QCOMPARE(distance(t), QStringLiteral("in 5 h"));
+    const QDate day = t.clock.calendarNow().date().addDays(1);
+    child<QCalendarWidget>(sheet(t), "_targetCalendar").setSelectedDate(day);
+    QCOMPARE(distance(t), QStringLiteral("in 1 d 5 h"));
+}
+
+void tst_TargetTime::howLongFollowsTheClock()
+{
+    TimerFixture t;
+    t.typeDuration(0, 1, 30);
+    t.timer.targetTime();
+    QCOMPARE(distance(t), QStringLiteral("in 1 min 30 s"));
+    t.pass(31);
+    QCOMPARE(distance(t), QStringLiteral("in 59 s"));
+    t.clock.setCalendarOffset(-3600);
+    t.pass(1);
+    QCOMPARE(distance(t), QStringLiteral("in 1 h"));
+    t.clock.setCalendarOffset(0);
+    t.pass(100);
+    QCOMPARE(distance(t), QStringLiteral("now"));
+}
+
+void tst_TargetTime::nothingTicksWhileNoSheetIsOpen()
+{
+    TimerFixture t;
+    QVERIFY(t.clock.isIdle());
+    t.timer.targetTime();
+    QVERIFY(!t.clock.isIdle());
+    QTest::keyClick(&sheet(t), Qt::Key_Escape);
+    QVERIFY(t.clock.isIdle());
+}
+
+void tst_TargetTime::theHourIsSelectedWheneverTheSheetOpens()
+{
+    TimerFixture t;
+    t.timer.window()->show();
+    for (int time = 1; time <= 2; ++time) {
+        t.timer.targetTime();
+        QCOMPARE(field(t).currentSection(), QDateTimeEdit::HourSection);
+        const QString hour = t.clock.calendarNow().toString(QStringLiteral("HH"));
+        QCOMPARE(child<QLineEdit>(field(t), "qt_spinbox_lineedit").selectedText(), hour);
+        field(t).setSelectedSection(QDateTimeEdit::MinuteSection);
+        t.timer.endTargetTimeSheet();
+    }
+}
+
+void tst_TargetTime::theHourStaysSelectedWhenTheSheetGetsTheKeyboard()
+{
+    TimerFixture t;
+    t.timer.window()->show();
+    t.timer.targetTime();
+    QVERIFY(QTest::qWaitForWindowActive(&sheet(t)));
+    QVERIFY(field(t).hasFocus());
+    QCOMPARE(field(t).currentSection(), QDateTimeEdit::HourSection);
+    QVERIFY(!child<QLineEdit>(field(t), "qt_spinbox_lineedit").selectedText().isEmpty());
+}
+
+void tst_TargetTime::theHourIsSelectedOnlyOnce()
+{
+    TimerFixture t;
+    t.timer.window()->show();
+    t.timer.targetTime();
+    QVERIFY(QTest::qWaitForWindowActive(&sheet(t)));
+    field(t).setSelectedSection(QDateTimeEdit::MinuteSection);
+    child<QCalendarWidget>(sheet(t), "_targetCalendar").setFocus();
+    field(t).setFocus(Qt::MouseFocusReason);
+    QCOMPARE(field(t).currentSection(), QDateTimeEdit::MinuteSection);
 }
 
 WUFFER_TEST_MAIN(tst_TargetTime)

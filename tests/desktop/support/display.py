@@ -112,6 +112,11 @@ class Display:
         """Turns to a window, as a task bar does."""
         processes.run(["wmctrl", "-i", "-a", hex(window)], self.environment)
 
+    def maximise(self, window):
+        """Asks the window manager to, as a task bar does."""
+        processes.run(["wmctrl", "-i", "-r", hex(window), "-b",
+                       "add,maximized_vert,maximized_horz"], self.environment)
+
     def property(self, name, window=None):
         """The text after the sign of equality, or of what xprop has to say instead."""
         where = ["-id", str(window)] if window else ["-root"]

@@ -1,4 +1,4 @@
-#include "preferences/SoundPreview.h"
+#include "timer/SoundPreview.h"
 
 #include "controls/DataComboBox.h"
 #include "controls/PlayButton.h"
@@ -10,6 +10,7 @@ SoundPreview::SoundPreview(PlayButton &button, const DataComboBox &combo) :
     _button(button), _combo(combo)
 {
     connect(&button, &QToolButton::clicked, this, &SoundPreview::playOrStop);
+    connect(&combo, &QComboBox::currentIndexChanged, this, &SoundPreview::followChoice);
 }
 
 SoundPreview::~SoundPreview() = default;
@@ -28,6 +29,17 @@ void SoundPreview::setEnabled(bool enabled)
     _button.setEnabled(enabled);
 }
 
+void SoundPreview::followChoice()
+{
+    if (_sound && choice() != _choice)
+        stop();
+}
+
+QString SoundPreview::choice() const
+{
+    return _combo.dataObjectOfSelectedItem().value_or(QString());
+}
+
 void SoundPreview::playOrStop()
 {
     if (_sound)
@@ -40,8 +52,8 @@ void SoundPreview::play()
 {
     constexpr double secondsBetweenLooks = 0.1;
     Q_EMIT starting();
-    std::unique_ptr<Sound> sound =
-        soundForChoice(_combo.dataObjectOfSelectedItem().value_or(QString()));
+    _choice = choice();
+    std::unique_ptr<Sound> sound = soundForChoice(_choice);
     if (!sound || sound->duration() == 0) {
         Service<Desktop>::current().beep();
         return;

@@ -1,0 +1,34 @@
+#include "controls/PressThrough.h"
+
+#include <QAbstractButton>
+#include <QEvent>
+
+namespace
+{
+bool isOfMouse(const QEvent &event)
+{
+    switch (event.type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::MouseMove:
+    case QEvent::MouseButtonRelease:
+        return true;
+    default:
+        return false;
+    }
+}
+} // namespace
+
+PressThrough::PressThrough(QAbstractButton &button) : QObject(&button), _button(button)
+{
+    button.installEventFilter(this);
+}
+
+bool PressThrough::eventFilter(QObject *watched, QEvent *event)
+{
+    if (_button.isEnabled() || !isOfMouse(*event))
+        return QObject::eventFilter(watched, event);
+    // What a widget ignores goes to the one that it stands in.
+    event->ignore();
+    return true;
+}
