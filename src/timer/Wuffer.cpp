@@ -79,6 +79,8 @@ void Wuffer::fitControls()
     fitToTitles(*_ui->_goButton, {kGoButtonStart, kGoButtonStop, kGoButtonReset,
                                   kGoButtonStartChain, kGoButtonChained});
     fitToTitles(*_ui->_finishedDrawerButton, {kMoreOptions, kHideOptions});
+    // As wide as the buttons below and above it, so that the boxes keep their width when it shows.
+    _ui->_linkButton->setFixedWidth(_ui->_helpButton->sizeHint().width());
     _timeEntry = std::make_unique<TimeEntry>(
         *_window, TimeEntry::Fields{_ui->_hoursField, _ui->_minutesField, _ui->_secondsField});
 }
