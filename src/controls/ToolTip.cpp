@@ -5,6 +5,10 @@
 
 void ToolTip::set(QWidget &widget, const QString &text)
 {
-    widget.setToolTip(text.isEmpty() ? text : Qt::convertFromPlainText(text, Qt::WhiteSpaceNormal));
+    // Left to itself, a tool tip with markup breaks even a short text into lines.
+    constexpr qsizetype mostCharactersInALine = 65;
+    const auto mode =
+        text.length() <= mostCharactersInALine ? Qt::WhiteSpacePre : Qt::WhiteSpaceNormal;
+    widget.setToolTip(text.isEmpty() ? text : Qt::convertFromPlainText(text, mode));
     widget.setAccessibleDescription(text);
 }

@@ -13,6 +13,7 @@ class tst_ToolTip final : public Test
 private Q_SLOTS:
     void theTextIsShownWordForWord_data();
     void theTextIsShownWordForWord();
+    void onlyALongTextIsBroken();
     void anEmptyTextIsNoToolTip();
 };
 
@@ -32,6 +33,16 @@ void tst_ToolTip::theTextIsShownWordForWord()
     QCOMPARE(QTextDocumentFragment::fromHtml(widget.toolTip()).toPlainText(), text);
     QVERIFY(Qt::mightBeRichText(widget.toolTip()));
     QCOMPARE(widget.accessibleDescription(), text);
+}
+
+void tst_ToolTip::onlyALongTextIsBroken()
+{
+    QWidget widget;
+    ToolTip::set(widget, QStringLiteral("Started by “Knead the dough”"));
+    QVERIFY(!widget.toolTip().contains(QStringLiteral("the dough")));
+    QVERIFY(widget.toolTip().contains(QChar(QChar::Nbsp)));
+    ToolTip::set(widget, QStringLiteral("word ").repeated(30));
+    QVERIFY(!widget.toolTip().contains(QChar(QChar::Nbsp)));
 }
 
 void tst_ToolTip::anEmptyTextIsNoToolTip()
