@@ -24,7 +24,9 @@ std::optional<int> digitOf(const QKeyEvent &press)
     const quint32 number = press.nativeScanCode();
     if (digit || !DigitRow::contains(number))
         return digit;
-    return DigitRow::digitAt(number, KeyboardLayout::symbolsOf(number, press.nativeModifiers()));
+    return DigitRow::digitAt(number, [state = press.nativeModifiers()](quint32 key) {
+        return KeyboardLayout::symbolsOf(key, state);
+    });
 }
 
 QAction *itemFor(const PresetsMenu &menu, const QKeyEvent &press)

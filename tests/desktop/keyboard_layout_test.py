@@ -13,8 +13,9 @@ from support import processes
 from support.case import DesktopTest, main
 from support.waiting import wait_until
 
-# The numbers of keys: the first of the row of digits, the 1 of the keypad, and Alt.
+# The numbers of keys: the 1 in the row of digits and the one left of it, the 1 of the keypad, Alt.
 FIRST_KEY = 10
+LEFT_OF_FIRST_KEY = 49
 KEYPAD_1 = 87
 ALT = 64
 CORE_KEYBOARD = 0x100
@@ -134,8 +135,23 @@ class KeyboardLayoutTest(DesktopTest):
         # The second key of that row has a bracket, and with Shift a seven.
         self.opens(program, f"alt+{FIRST_KEY + 1}", "Preset 7")
         self.opens(program, f"alt+shift+{FIRST_KEY + 1}", "Preset 7")
-        # The first has no digit at all.
-        self.opens(program, f"alt+{FIRST_KEY}", "Preset 1")
+        # The one behind the tenth has an exclamation mark, and with Shift an eight.
+        self.opens(program, f"alt+{FIRST_KEY + 10}", "Preset 8")
+        # The first has no digit at all, and the one that others have there is elsewhere.
+        self.display.key(f"alt+{FIRST_KEY}")
+        self.opens(program, f"alt+{FIRST_KEY + 4}", "Preset 1")
+        self.assertEqual(len(program.windows()), 5)
+        self.quit(program)
+
+    def test_a_letter_in_the_place_of_a_digit_is_none(self):
+        self.set_layout("hu")
+        program = self.launch()
+        # The tenth has a letter; the digit that others have there is left of the first.
+        self.display.key(f"ctrl+{FIRST_KEY + 9}")
+        self.display.key(f"alt+{FIRST_KEY + 9}")
+        self.opens(program, f"alt+{LEFT_OF_FIRST_KEY}", "Preset 0")
+        self.assertEqual(len(program.windows()), 2)
+        self.assertEqual(program.all("display", "Saved to Preset 0", "Elapsed time"), [])
         self.quit(program)
 
     def test_the_second_of_two_layouts_counts_while_it_is_in_use(self):
