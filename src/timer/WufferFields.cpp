@@ -39,6 +39,8 @@ void Wuffer::rename()
 {
     _ui->_titleField->setFocus(Qt::ShortcutFocusReason);
     _ui->_titleField->selectAll();
+    // Return takes the name as it is, and neither starts nor stops the timer.
+    disableReturnShortcut();
 }
 
 void Wuffer::controlTextDidChange(const QLineEdit &field)

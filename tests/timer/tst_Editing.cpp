@@ -24,6 +24,7 @@ private Q_SLOTS:
     void aNameThatIsErasedLeavesTheWindowWithoutOne();
     void theButtonsDoWhatTheySay();
     void aHeldReturnPressesOnce();
+    void returnTakesANameThatWasOnlyLookedAt();
 
 private:
     static void show(const TimerFixture &t);
@@ -224,6 +225,20 @@ void tst_Editing::aHeldReturnPressesOnce()
     QTest::simulateEvent(window, true, Qt::Key_Return, Qt::NoModifier, QStringLiteral("\r"), false);
     QTest::simulateEvent(window, true, Qt::Key_Return, Qt::NoModifier, QStringLiteral("\r"), true);
     QVERIFY(t.timer.isRunning());
+}
+
+void tst_Editing::returnTakesANameThatWasOnlyLookedAt()
+{
+    TimerFixture t;
+    show(t);
+    press(Qt::Key_Return);
+    QVERIFY(t.timer.isRunning());
+    t.timer.rename();
+    press(Qt::Key_Return);
+    QVERIFY(t.timer.isRunning());
+    t.pass(0.02);
+    press(Qt::Key_Return);
+    QVERIFY(!t.timer.isRunning());
 }
 
 void tst_Editing::enterEndsTheNameWithoutStarting()
