@@ -17,6 +17,14 @@ bool movesCaret(const QKeyEvent &event)
     return std::ranges::count(keys, event.key()) > 0;
 }
 
+/// Whether the focus was away only for something that lay over the window.
+bool comesBack(const QFocusEvent &event)
+{
+    constexpr std::array reasons{Qt::ActiveWindowFocusReason, Qt::PopupFocusReason,
+                                 Qt::MenuBarFocusReason};
+    return std::ranges::count(reasons, event.reason()) > 0;
+}
+
 /// Whether the key begins a number.
 bool beginsNumber(const QKeyEvent &event)
 {
@@ -41,7 +49,7 @@ TimeEntry::TimeEntry(QWidget &window, const Fields &fields) :
 void TimeEntry::connectField(TimeField &field)
 {
     field.installEventFilter(this);
-    connect(&field, &TimeField::textEdited, this, [this, &field] { edited(field); });
+    connect(&field, &TimeField::textEdited, this, [this, &field] { _typedIn = &field; });
     connect(&field, &TimeField::editingFinished, this, qOverload<>(&TimeEntry::settle));
     connect(&field, &TimeField::colonTyped, this, [this, &field] { takeColon(field); });
     connect(&field, &TimeField::letterTyped, this,
@@ -54,16 +62,9 @@ void TimeEntry::makeReady()
 {
     _typedIn = nullptr;
     _colons = 0;
-    _edited = false;
     _caretSet = false;
     if (TimeField *field = fieldInFocus())
         field->selectAll();
-}
-
-void TimeEntry::edited(TimeField &field)
-{
-    _typedIn = &field;
-    _edited = true;
 }
 
 void TimeEntry::settle()
@@ -145,6 +146,9 @@ void TimeEntry::takeLetter(TimeField &field, QChar letter)
 
 void TimeEntry::takeText(TimeField &field, const QString &text)
 {
+    // The menu that pastes may have been open since before the run began.
+    if (!field.isEnabled())
+        return;
     if (TimeText::isNumber(text)) {
         field.edit(text.trimmed());
     } else if (const std::optional<TimeText::Time> time = TimeText::read(text)) {
@@ -202,11 +206,18 @@ bool TimeEntry::eventFilter(QObject *watched, QEvent *event)
 
 void TimeEntry::focused(TimeField &field, const QFocusEvent &event)
 {
-    // What was begun before the window, or a menu, came in between goes on.
-    const bool comesBack =
-        event.reason() == Qt::ActiveWindowFocusReason || event.reason() == Qt::PopupFocusReason;
-    if (!comesBack || _lastUsed != &field)
+    // What was begun before another window or a menu came in between goes on.
+    if (comesBack(event) && _lastUsed == &field)
+        selectUnlessInUse(field);
+    else
         entered(field);
+}
+
+/// A menu bar that was open, and a window that was not the active one, may have cost the selection.
+void TimeEntry::selectUnlessInUse(TimeField &field) const
+{
+    if (_typedIn != &field && !_caretSet)
+        field.selectAll();
 }
 
 bool TimeEntry::filterWindow(QEvent &event)
@@ -214,8 +225,8 @@ bool TimeEntry::filterWindow(QEvent &event)
     if (event.type() == QEvent::KeyPress)
         return typeFromElsewhere(event);
     TimeField *field = fieldInFocus();
-    if (event.type() == QEvent::WindowActivate && field && !_edited && !_caretSet)
-        field->selectAll();
+    if (event.type() == QEvent::WindowActivate && field)
+        selectUnlessInUse(*field);
     return false;
 }
 

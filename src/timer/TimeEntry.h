@@ -45,7 +45,6 @@ public:
 
 private:
     void connectField(TimeField &field);
-    void edited(TimeField &field);
     void takeColon(const TimeField &field);
     void shiftUp();
     void takeLetter(TimeField &field, QChar letter);
@@ -55,6 +54,7 @@ private:
     void goPast(TimeText::Unit unit);
     void entered(TimeField &field);
     void focused(TimeField &field, const QFocusEvent &event);
+    void selectUnlessInUse(TimeField &field) const;
     [[nodiscard]] bool filterWindow(QEvent &event);
     [[nodiscard]] bool typeFromElsewhere(QEvent &event);
 
@@ -72,8 +72,6 @@ private:
     const TimeField *_typedIn = nullptr;
     /// How many fields have been typed and left by a colon, one after the other.
     int _colons = 0;
-    /// Whether a field has been edited since the timer became ready.
-    bool _edited = false;
     /// Whether the user has put the caret somewhere in the field in focus.
     bool _caretSet = false;
 };

@@ -43,7 +43,14 @@ QString typedBy(const QKeyEvent &event)
     const bool isCommand =
         command != Qt::NoModifier && command != (Qt::ControlModifier | Qt::AltModifier);
     const QString text = event.text();
-    return isCommand || text.isEmpty() || !text.front().isPrint() ? QString() : text;
+    const bool isControl = text.isEmpty() || text.front().category() == QChar::Other_Control;
+    return isCommand || isControl ? QString() : text;
+}
+
+/// Whether a text says something that the fields take.
+bool isOfUse(const QMimeData &data)
+{
+    return !data.hasUrls() && (TimeText::isNumber(data.text()) || TimeText::read(data.text()));
 }
 /// The item that pastes; it is told by its text only, which has its key behind it.
 QAction *pasteIn(const QMenu &menu)
@@ -63,9 +70,9 @@ TimeField::TimeField(QWidget *parent) : QLineEdit(parent)
 
 void TimeField::edit(const QString &text)
 {
-    setText(text);
-    setModified(true);
-    Q_EMIT textEdited(text);
+    // Inserted, so that it can be undone.
+    selectAll();
+    insert(text);
 }
 
 void TimeField::step(int count)
@@ -123,12 +130,12 @@ bool TimeField::hasRoomFor(const QString &typed) const
 
 void TimeField::inputMethodEvent(QInputMethodEvent *event)
 {
-    // What is still being composed is not shown, because it could be anything.
+    // What is still being composed is not shown, because it could be anything. What has been
+    // composed is typed, wherever a colon in it has moved the focus meanwhile.
     for (const QChar character : event->commitString()) {
-        if (hasRoomFor(character))
-            insert(character);
-        else
-            refuse(character);
+        QKeyEvent press(QEvent::KeyPress, 0, Qt::NoModifier, character);
+        QWidget *focused = window()->focusWidget();
+        QCoreApplication::sendEvent(focused ? focused : this, &press);
     }
     event->accept();
 }
@@ -163,11 +170,32 @@ void TimeField::wheelEvent(QWheelEvent *event)
 
 void TimeField::dropEvent(QDropEvent *event)
 {
+    accept(*event);
+    if (event->isAccepted())
+        Q_EMIT textOffered(event->mimeData()->text());
+}
+
+void TimeField::dragEnterEvent(QDragEnterEvent *event)
+{
+    accept(*event);
+}
+
+void TimeField::dragMoveEvent(QDragMoveEvent *event)
+{
+    accept(*event);
+}
+
+void TimeField::dragLeaveEvent(QDragLeaveEvent * /*event*/)
+{
+    // A drag that passes over leaves the caret where it is.
+}
+
+/// Accepts what would be taken; the rest goes on to the window.
+void TimeField::accept(QDropEvent &drag)
+{
     // Not moved: only the text is wanted, not that it goes from where it is.
-    event->setDropAction(Qt::CopyAction);
-    event->accept();
-    setFocus(Qt::OtherFocusReason);
-    Q_EMIT textOffered(event->mimeData()->text());
+    drag.setDropAction(Qt::CopyAction);
+    drag.setAccepted(isOfUse(*drag.mimeData()));
 }
 
 void TimeField::contextMenuEvent(QContextMenuEvent *event)

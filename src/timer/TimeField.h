@@ -16,7 +16,7 @@ class TimeField final : public QLineEdit
 public:
     explicit TimeField(QWidget *parent = nullptr);
 
-    /// Writes the text as if the user had typed it.
+    /// Writes the text as if the user had typed it; it can be undone.
     void edit(const QString &text);
 
     /// Adds so many to the number, but never goes below 0 or beyond 32 bits, and selects it, so
@@ -35,6 +35,9 @@ protected:
     void inputMethodEvent(QInputMethodEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dragMoveEvent(QDragMoveEvent *event) override;
+    void dragLeaveEvent(QDragLeaveEvent *event) override;
     void dropEvent(QDropEvent *event) override;
     void contextMenuEvent(QContextMenuEvent *event) override;
 
@@ -44,6 +47,7 @@ private:
     void refuse(const QString &typed);
     [[nodiscard]] bool hasRoomFor(const QString &typed) const;
     void offerClipboard();
+    static void accept(QDropEvent &drag);
 
     /// What the wheel has turned beyond the last whole step, in eighths of a degree.
     int _turned = 0;

@@ -4,6 +4,8 @@
 Usage: typing_test.py WUFFER FOLDER [unittest arguments]
 """
 
+import time
+
 from support.case import DesktopTest, main
 from support.waiting import wait_until
 
@@ -60,6 +62,17 @@ class TypingTest(DesktopTest):
         self.display.click(*self.middle_of(program, "field", "Minutes"), WHEEL_UP)
         self.display.click(*self.middle_of(program, "field", "Minutes"), WHEEL_DOWN)
         self.wait_for_fields(program, "0 5 57")
+        self.quit(program)
+
+    def test_a_menu_that_was_opened_in_between_changes_nothing(self):
+        program = self.launch_ready()
+        # One closes the menu, the next leaves the menu bar; quicker than a hand they would be one.
+        for key in ("alt+t", "Escape", "Escape"):
+            self.display.key(key)
+            time.sleep(0.3)
+        program.wait_for_focus_in("Minutes")
+        self.display.type("10")
+        self.wait_for_fields(program, "0 10 57")
         self.quit(program)
 
     def test_the_middle_button_pastes_what_is_selected(self):

@@ -3,6 +3,8 @@
 #include "timer/TimeField.h"
 
 #include <QClipboard>
+#include <QInputMethodEvent>
+#include <QWheelEvent>
 
 #include <functional>
 
@@ -47,6 +49,9 @@ private Q_SLOTS:
     void aColonSelectsTheNextNumber();
     void aNumberThatWasNotTypedGoesNowhere();
     void anotherFieldBeginsAnew();
+    void aComposedTimeLeadsThroughTheFields();
+    void whatIsDroppedFillsTheFields();
+    void whatIsPastedIntoARunGoesNowhere();
     void whatWasBegunGoesOnWhenTheWindowComesBack();
     void aTextThatSaysATimeFillsAllFields_data();
     void aTextThatSaysATimeFillsAllFields();
@@ -143,6 +148,35 @@ void tst_TimeEntry::anotherFieldBeginsAnew()
     Typist::press(Qt::Key_Tab);
     Typist::type(QStringLiteral("9:1"));
     QCOMPARE(t.fields(), QStringLiteral("7 9 1"));
+}
+
+void tst_TimeEntry::aComposedTimeLeadsThroughTheFields()
+{
+    const Typist t(7);
+    QInputMethodEvent composed;
+    composed.setCommitString(QStringLiteral("5:30"));
+    QCoreApplication::sendEvent(&t.field("_minutesField"), &composed);
+    QCOMPARE(t.fields(), QStringLiteral("7 5 30"));
+}
+
+void tst_TimeEntry::whatIsDroppedFillsTheFields()
+{
+    const Typist t(7);
+    auto &field = t.part<TimeField>("_secondsField");
+    Q_EMIT field.textOffered(QStringLiteral("1h 5m"));
+    QCOMPARE(t.fields(), QStringLiteral("1 5 0"));
+    QCOMPARE(QApplication::focusWidget(), &field);
+    t.titleField.setFocus();
+    Q_EMIT field.textOffered(QStringLiteral("Rice"));
+    QCOMPARE(QApplication::focusWidget(), &t.titleField);
+}
+
+void tst_TimeEntry::whatIsPastedIntoARunGoesNowhere()
+{
+    const Typist t;
+    Typist::press(Qt::Key_Return);
+    Q_EMIT t.part<TimeField>("_minutesField").textOffered(QStringLiteral("9"));
+    QCOMPARE(t.fields(), QStringLiteral("0 4 57"));
 }
 
 void tst_TimeEntry::whatWasBegunGoesOnWhenTheWindowComesBack()
@@ -269,6 +303,17 @@ void tst_TimeEntry::everyWayToEditRemovesTheMarkOfAPreset_data()
     };
     row("a digit", [] { Typist::type(QStringLiteral("5")); });
     row("an arrow", [] { Typist::press(Qt::Key_Up); });
+    row("the wheel", [] {
+        QWidget &field = *QApplication::focusWidget();
+        QWheelEvent event({5, 5}, field.mapToGlobal(QPointF(5, 5)), {}, {0, 120}, Qt::NoButton,
+                          Qt::NoModifier, Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(&field, &event);
+    });
+    row("a composed digit", [] {
+        QInputMethodEvent composed;
+        composed.setCommitString(QStringLiteral("5"));
+        QCoreApplication::sendEvent(QApplication::focusWidget(), &composed);
+    });
     row("a page key", [] { Typist::press(Qt::Key_PageDown); });
     row("a paste", [] { Typist::paste(QStringLiteral("5:30")); });
 }

@@ -17,6 +17,8 @@ class tst_TimeField final : public Test
 private Q_SLOTS:
     void onlyNumbersCanBeTyped_data();
     void onlyNumbersCanBeTyped();
+    void charactersThatAreNotSeenCannotBeTyped_data();
+    void charactersThatAreNotSeenCannotBeTyped();
     void colonsAndLettersAreReported();
     void theKeysStepTheNumber_data();
     void theKeysStepTheNumber();
@@ -29,6 +31,10 @@ private Q_SLOTS:
     void whatIsPastedIsOffered();
     void theMenuPastesToo();
     void whatIsDroppedIsOffered();
+    void whatSaysNoTimeIsNotTaken_data();
+    void whatSaysNoTimeIsNotTaken();
+    void aDragThatPassesOverLeavesTheSelection();
+    void anEditCanBeUndone();
     void aComposedTextIsTypedCharacterByCharacter();
     void whatTheProgramWritesStaysAsItIs();
 
@@ -65,6 +71,24 @@ void tst_TimeField::onlyNumbersCanBeTyped_data()
     QTest::newRow("1,5") << QStringLiteral("1,5");
     QTest::newRow("1/2") << QStringLiteral("12");
     QTest::newRow("2x5") << QStringLiteral("25");
+}
+
+void tst_TimeField::charactersThatAreNotSeenCannotBeTyped_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::newRow("joins nothing") << QString(QChar(0x200C));
+    QTest::newRow("a private one") << QString(QChar(0xE000));
+    QTest::newRow("a picture") << QStringLiteral("🥚");
+}
+
+void tst_TimeField::charactersThatAreNotSeenCannotBeTyped()
+{
+    QFETCH(const QString, text);
+    TimeField field;
+    show(field);
+    QKeyEvent press(QEvent::KeyPress, 0, Qt::NoModifier, text);
+    QCoreApplication::sendEvent(&field, &press);
+    QCOMPARE(field.text(), QString());
 }
 
 void tst_TimeField::onlyNumbersCanBeTyped()
@@ -251,6 +275,62 @@ void tst_TimeField::whatIsDroppedIsOffered()
     QCOMPARE(offers.size(), 1);
     QCOMPARE(offers.constFirst().constFirst().toString(), QStringLiteral("90s"));
     QCOMPARE(field.text(), QStringLiteral("7"));
+}
+
+void tst_TimeField::whatSaysNoTimeIsNotTaken_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<bool>("isFile");
+    QTest::newRow("a word") << QStringLiteral("Rice") << false;
+    QTest::newRow("nothing") << QString() << false;
+    QTest::newRow("a file") << QStringLiteral("file:///5") << true;
+    QTest::newRow("a file that also says a time") << QStringLiteral("5:30") << true;
+}
+
+void tst_TimeField::whatSaysNoTimeIsNotTaken()
+{
+    QFETCH(const QString, text);
+    QFETCH(const bool, isFile);
+    TimeField field;
+    show(field);
+    const QSignalSpy offers(&field, &TimeField::textOffered);
+    QMimeData data;
+    if (isFile)
+        data.setUrls({QUrl(QStringLiteral("file:///5"))});
+    data.setText(text);
+    QDragEnterEvent enter({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&field, &enter);
+    QVERIFY(!enter.isAccepted());
+    QCOMPARE(offers.size(), 0);
+}
+
+void tst_TimeField::aDragThatPassesOverLeavesTheSelection()
+{
+    TimeField field;
+    show(field);
+    field.setText(QStringLiteral("4"));
+    field.selectAll();
+    QMimeData data;
+    data.setText(QStringLiteral("90s"));
+    QDragEnterEvent enter({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&field, &enter);
+    QDragMoveEvent move({9, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&field, &move);
+    QDragLeaveEvent leave;
+    QCoreApplication::sendEvent(&field, &leave);
+    QCOMPARE(field.selectedText(), QStringLiteral("4"));
+}
+
+void tst_TimeField::anEditCanBeUndone()
+{
+    TimeField field;
+    field.setText(QStringLiteral("4"));
+    const QSignalSpy edits(&field, &TimeField::textEdited);
+    field.edit(QStringLiteral("25"));
+    QCOMPARE(edits.size(), 1);
+    QVERIFY(field.isModified());
+    field.undo();
+    QCOMPARE(field.text(), QStringLiteral("4"));
 }
 
 void tst_TimeField::aComposedTextIsTypedCharacterByCharacter()

@@ -18,6 +18,8 @@ private Q_SLOTS:
     void afterTheAlarmWasReset();
     void inAStopwatch();
     void whenTheWindowComesBack();
+    void afterAMenu();
+    void notWhatWasBegunBeforeAMenu();
     void notWhereTheUserHasPutTheCaret();
     void notAfterAnEdit();
     void theNameKeepsTheFocus();
@@ -29,6 +31,14 @@ private Q_SLOTS:
 private:
     static void show(const TimerFixture &t);
     static void type(const char *text);
+    /// The menu bar gets the focus and gives it back, as at Alt and Escape.
+    static void openAndCloseMenuBar()
+    {
+        for (const QEvent::Type type : {QEvent::FocusOut, QEvent::FocusIn}) {
+            QFocusEvent event(type, Qt::MenuBarFocusReason);
+            QCoreApplication::sendEvent(QApplication::focusWidget(), &event);
+        }
+    }
     static void press(Qt::Key key) { QTest::keyClick(QApplication::focusWidget(), key); }
 };
 
@@ -176,6 +186,26 @@ void tst_TypingReplaces::whenTheWindowComesBack()
     QCOMPARE(t.fields(), QStringLiteral("0 10 57"));
 }
 
+void tst_TypingReplaces::afterAMenu()
+{
+    TimerFixture t;
+    show(t);
+    t.timer.setFieldsWithTimeLeft(297);
+    openAndCloseMenuBar();
+    type("10");
+    QCOMPARE(t.fields(), QStringLiteral("0 10 57"));
+}
+
+void tst_TypingReplaces::notWhatWasBegunBeforeAMenu()
+{
+    TimerFixture t;
+    show(t);
+    type("1");
+    openAndCloseMenuBar();
+    type("0");
+    QCOMPARE(t.fields(), QStringLiteral("0 10 0"));
+}
+
 void tst_TypingReplaces::notWhereTheUserHasPutTheCaret()
 {
     TimerFixture t;
@@ -239,6 +269,9 @@ void tst_TypingReplaces::aBoxKeepsTheFocus()
     t.pressGo();
     t.timer.resetWuffer();
     QCOMPARE(QApplication::focusWidget(), &box);
+    const QString fields = t.fields();
+    type("8");
+    QCOMPARE(t.fields(), fields);
 }
 
 void tst_TypingReplaces::aClickOnTheButtonLeavesTheFocusInTheField()
