@@ -161,9 +161,11 @@ void WufferApplication::tellOfWindow(QObject &receiver, const QEvent &event)
 {
     if (!receiver.isWidgetType() || !static_cast<QWidget &>(receiver).isWindow())
         return;
+    auto &window = static_cast<QWidget &>(receiver);
+    const bool isPassing = window.windowType() == Qt::Popup || window.windowType() == Qt::ToolTip;
     if (event.type() == QEvent::Show)
-        Q_EMIT windowShown(&static_cast<QWidget &>(receiver));
-    else
+        Q_EMIT windowShown(&window);
+    else if (!isPassing)
         Q_EMIT windowHidden();
 }
 

@@ -58,7 +58,7 @@ public:
 Q_SIGNALS:
     /// One of the windows of the program, of whatever kind, has come up.
     void windowShown(QWidget *window);
-    /// One has gone, or is being closed.
+    /// One has gone, or is being closed; menus and tool tips do not count.
     void windowHidden();
     /// The window system has begun to show some window, or another part of it, or has ended it.
     void windowExposed();

@@ -4,7 +4,7 @@
 
 class QWidget;
 
-/// Tool tips whose texts hold what a user has typed.
+/// Tool tips of texts that may hold what a user has typed.
 namespace ToolTip
 {
 /// Gives the widget this tool tip, word for word: what looks like markup is none. Programs that

@@ -18,7 +18,7 @@
 class AlarmNotification final
 {
 public:
-    /// What the timer shows; nothing comes back while the function says no.
+    /// For this timer. What would come back when the function says no does not, from then on.
     AlarmNotification(const QObject &timer, std::function<bool()> mayComeBack);
 
     /// The alarm begins: shows the notification, in place of what an earlier alarm has left.

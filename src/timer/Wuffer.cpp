@@ -94,6 +94,11 @@ void Wuffer::connectControls()
     connect(_ui->_displayBox, &DisplayBox::fullScreenCloseRequested, this, &Wuffer::setWindowed);
     connect(_ui->_displayBox, &DisplayBox::windowActivated, this,
             [this] { _alarmNotification.windowActivated(); });
+    // Where a window goes, the window manager turns to another, and the user has not.
+    connect(&WufferApplication::instance(), &WufferApplication::windowHidden, this, [this] {
+        if (!_window->isActiveWindow())
+            _alarmNotification.expectActivation();
+    });
     for (QLineEdit *field : std::initializer_list<QLineEdit *>{
              _ui->_titleField, _ui->_hoursField, _ui->_minutesField, _ui->_secondsField}) {
         connect(field, &QLineEdit::textEdited, this,

@@ -1,3 +1,4 @@
+#include "app/WufferController.h"
 #include "support/TestMain.h"
 #include "support/TimerFixture.h"
 
@@ -69,6 +70,7 @@ private Q_SLOTS:
     void aWindowThatWasActiveBeforeIsNoAnswer();
     void theActivationOfAnotherTimerIsNoAnswer();
     void stoppingAnotherTimerIsNoAnswer();
+    void aWindowThatClosesInFrontOfItIsNoAnswer();
     void aLoopIsNoAnswer();
     void aPresetThatBringsTheWindowForwardIsNoAnswer();
     void aPresetThatFillsTheScreenIsNoAnswer();
@@ -88,6 +90,14 @@ void tst_AlarmAnswer::anAnswerTakesItAway_data()
     add("show", [](Fixture &t) {
         const DesktopNotification notification = t.notifications.standing.front().notification;
         notification.show();
+    });
+    add("start all", [](Fixture &t) {
+        const bool rings = t.timer.isRunning();
+        WufferController controller;
+        controller.startAllWuffers();
+        // One that rings is not idle.
+        if (rings)
+            t.pressGo();
     });
     add("show in the status item", [](Fixture &t) { t.timer.showWufferWindow(); });
     add("the window activated", [](Fixture &t) { t.comeBack(); });
@@ -152,6 +162,24 @@ void tst_AlarmAnswer::stoppingAnotherTimerIsNoAnswer()
     other.timer.resetWuffer();
     other.timer.window()->close();
     QCOMPARE(t.standing(), 1U);
+}
+
+void tst_AlarmAnswer::aWindowThatClosesInFrontOfItIsNoAnswer()
+{
+    Fixture t;
+    const TimerUser other;
+    t.open(other.timer);
+    t.ring();
+    t.endAlarm();
+    Fixture::goTo(*other.timer.window());
+    other.timer.window()->close();
+    // As a window manager does by itself.
+    t.comeBack();
+    QCOMPARE(t.standing(), 1U);
+    t.goElsewhere();
+    t.pass(60);
+    t.comeBack();
+    QCOMPARE(t.standing(), 0U);
 }
 
 void tst_AlarmAnswer::aLoopIsNoAnswer()

@@ -21,7 +21,7 @@ private Q_SLOTS:
     void changesAreNotTooManyToStandByThemselves();
     void changesOfOneTimerAreHeldBackLikeItsNews();
     void stopIsOfferedAsLongAsOneRings();
-    void aChangeThatNobodySeesIsNotShown();
+    void aChangeThatIsNotSeenIsNotShown();
     void showAnswersForAll();
     void stopAnswersAlsoForThoseThatRingNoMore();
     void theEndOfTheSummaryIsThatOfEach();
@@ -87,7 +87,7 @@ void tst_GatheredAnswers::stopIsOfferedAsLongAsOneRings()
     QCOMPARE(t.only().text, QStringLiteral("T5\nT4\nT3\nT2\nT1"));
 }
 
-void tst_GatheredAnswers::aChangeThatNobodySeesIsNotShown()
+void tst_GatheredAnswers::aChangeThatIsNotSeenIsNotShown()
 {
     GatheringFixture t;
     t.end(5);

@@ -20,7 +20,7 @@ void tst_KeepWuffing::theReasonThatTakesMostToMendComesFirst_data()
     const auto may = QStringLiteral("Repeat the alarm sound until you press Reset");
     const auto muted = QStringLiteral("The sound of all timers is off");
     const auto follows =
-        QStringLiteral("Only a timer that does nothing when finished can go on wuffing");
+        QStringLiteral("Only a timer that is to “Do Nothing” when finished can go on wuffing");
     const auto stopwatch = QStringLiteral("A stopwatch has no alarm that could go on");
     QTest::newRow("it may") << false << false << false << may;
     QTest::newRow("muted") << false << false << true << muted;

@@ -58,7 +58,7 @@ void tst_ToolTips::keepWuffingSaysWhyItCannotBeTicked()
     const auto may = QStringLiteral("Repeat the alarm sound until you press Reset");
     QCOMPARE(box(), may);
     t.chooseFinish(QStringLiteral("Loop this Wuffer"));
-    QVERIFY(box().startsWith(QStringLiteral("Only a timer that does nothing when finished")));
+    QVERIFY(box().startsWith(QStringLiteral("Only a timer that is to “Do Nothing” when finished")));
     t.chooseFinish(QStringLiteral("Do Nothing"));
     t.set("soundOff", 1);
     QCOMPARE(box(), QStringLiteral("The sound of all timers is off"));
@@ -74,7 +74,8 @@ void tst_ToolTips::keepWuffingOfALinkedTimerSaysSo()
     const TimerFixture t;
     const TimerUser other;
     t.timer.setTargetWuffer(&other.timer);
-    QVERIFY(tip(t, "_keepWuffingBox").startsWith(QStringLiteral("Only a timer that does nothing")));
+    QVERIFY(tip(t, "_keepWuffingBox")
+                .startsWith(QStringLiteral("Only a timer that is to “Do Nothing”")));
     t.timer.setTargetWuffer(nullptr);
     QVERIFY(tip(t, "_keepWuffingBox").startsWith(QStringLiteral("Repeat the alarm")));
 }
