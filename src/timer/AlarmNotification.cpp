@@ -30,7 +30,10 @@ void AlarmNotification::alarmEnded()
     if (!std::exchange(_alarmIsOn, false) || !_standing)
         return;
     _notification.stop = {};
-    show(DesktopNotification::Occasion::Change);
+    // What came back quietly stays quiet.
+    if (_notification.occasion != DesktopNotification::Occasion::Reminder)
+        _notification.occasion = DesktopNotification::Occasion::Change;
+    show(_notification.occasion);
 }
 
 void AlarmNotification::answer()

@@ -190,7 +190,11 @@ void GatheredNotifications::showLatest()
 {
     if (_standing.empty())
         return;
+    const QObject *latest = _standing.back().sender;
     const std::function<void()> show = _standing.back().notification.show;
+    // The alarms of others that ring on can still be stopped: with them, it comes up anew.
+    for (Standing &each : _standing)
+        each.told = each.told && (each.sender == latest || !each.notification.stop);
     closeAll(DesktopNotification::End::Dismissed);
     call(show);
 }

@@ -13,9 +13,10 @@
 ///
 /// A few notifications are passed on as they are. When more would stand at once, or come within
 /// a second, they are gathered into one that counts and names those who have sent them, and that
-/// changes about once a second at most. Its buttons are for all of them, and so is the answer: each
-/// sender is told that its own has gone. What the desktop does with it is not its business. Uses
-/// the clock of the program, on the main thread, and wakes it only while something changes.
+/// changes about once a second at most. An answer to it is one to all of them, and each sender is
+/// told that its own has gone; but when the latest is shown, it stays for the others that offer to
+/// be stopped. What the desktop does with it is not its business. Uses the clock of the program, on
+/// the main thread, and wakes it only while something changes.
 class GatheredNotifications final : public QObject, public DesktopNotifications
 {
     Q_OBJECT

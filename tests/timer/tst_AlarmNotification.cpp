@@ -58,6 +58,7 @@ private Q_SLOTS:
     void noTraceIsLeftOfWhatTheDesktopHasTakenAway();
     void whatExpiresWhileTheTimerRingsComesBack();
     void itComesBackAsItWas();
+    void whatCameBackStaysQuietAfterTheAlarm();
     void itComesBackAtOnceAfterALongTime();
     void whatTheUserDismissesDoesNotComeBack();
     void whatTheUserHasAnsweredDoesNotComeBack();
@@ -242,6 +243,21 @@ void tst_AlarmNotification::itComesBackAsItWas()
     QCOMPARE(t.only().subject, QStringLiteral("Tea"));
     QVERIFY(t.only().occasion == Occasion::Reminder);
     QVERIFY(t.only().show);
+}
+
+void tst_AlarmNotification::whatCameBackStaysQuietAfterTheAlarm()
+{
+    Fixture t;
+    t.ringOnAndOn();
+    t.notifications.close(0, End::Expired);
+    t.pass(10);
+    t.tick("_keepWuffingBox", false);
+    t.pass(0.21);
+    t.sounds.endAll();
+    t.pass(0.21);
+    QVERIFY(!t.timer.isRunning());
+    QVERIFY(!t.only().stop);
+    QVERIFY(t.only().occasion == Occasion::Reminder);
 }
 
 void tst_AlarmNotification::itComesBackAtOnceAfterALongTime()

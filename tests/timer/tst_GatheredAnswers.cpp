@@ -22,7 +22,8 @@ private Q_SLOTS:
     void changesOfOneTimerAreHeldBackLikeItsNews();
     void stopIsOfferedAsLongAsOneRings();
     void aChangeThatIsNotSeenIsNotShown();
-    void showAnswersForAll();
+    void showAnswersForThoseThatRingNoMore();
+    void showLeavesTheOthersToBeStopped();
     void stopAnswersAlsoForThoseThatRingNoMore();
     void theEndOfTheSummaryIsThatOfEach();
     void thoseThatComeBackTogetherAreOneAndQuiet();
@@ -99,16 +100,37 @@ void tst_GatheredAnswers::aChangeThatIsNotSeenIsNotShown()
     QCOMPARE(t.desktop.shown.size() + t.desktop.shownAgain.size(), before);
 }
 
-void tst_GatheredAnswers::showAnswersForAll()
+void tst_GatheredAnswers::showAnswersForThoseThatRingNoMore()
 {
     GatheringFixture t;
     t.end(5);
+    for (const std::size_t each : {0U, 1U, 2U, 3U})
+        t.quieten(each);
     t.clock.advance(5);
     const std::function<void()> show = t.only().show;
     show();
     QCOMPARE(t.texts(), QStringList());
     QCOMPARE(t.dismissed, kFirstFive);
+    QCOMPARE(t.entries(), QStringLiteral("show T5"));
     t.clock.advance(5);
+    QCOMPARE(t.texts(), QStringList());
+}
+
+void tst_GatheredAnswers::showLeavesTheOthersToBeStopped()
+{
+    GatheringFixture t;
+    t.end(5);
+    t.quieten(1);
+    t.clock.advance(5);
+    const std::function<void()> show = t.only().show;
+    show();
+    // As a desktop does when one of its buttons was pressed.
+    t.desktop.close(0, End::Dismissed);
+    QCOMPARE(t.dismissed, QStringList({QStringLiteral("T2"), QStringLiteral("T5")}));
+    t.clock.advance(5);
+    QCOMPARE(t.only().text, QStringLiteral("T4\nT3\nT1"));
+    t.only().stop();
+    QCOMPARE(t.entries(), QStringLiteral("show T5 stop T1 stop T3 stop T4"));
     QCOMPARE(t.texts(), QStringList());
 }
 
