@@ -93,8 +93,11 @@ void TimeEntry::lock(QWidget &button)
     _lockedIn = fieldInFocus();
     if (_lockedIn)
         button.setFocus();
-    for (TimeField *field : _fields)
+    for (TimeField *field : _fields) {
+        // A window that is not the active one would keep the number marked.
+        field->deselect();
         field->setEnabled(false);
+    }
 }
 
 void TimeEntry::unlock(const QWidget &button)

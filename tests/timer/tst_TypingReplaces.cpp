@@ -25,6 +25,7 @@ private Q_SLOTS:
     void theNameKeepsTheFocus();
     void aBoxKeepsTheFocus();
     void aClickOnTheButtonLeavesTheFocusInTheField();
+    void nothingIsSelectedWhileItRuns();
     void selectingKeepsTheMarkOfAPreset();
     void theWheelChangesNoClosedBox();
 
@@ -287,6 +288,19 @@ void tst_TypingReplaces::aClickOnTheButtonLeavesTheFocusInTheField()
     QCOMPARE(QApplication::focusWidget(), &t.part<QLineEdit>("_minutesField"));
     type("8");
     QCOMPARE(t.fields().section(QLatin1Char(' '), 0, 1), QStringLiteral("0 8"));
+}
+
+void tst_TypingReplaces::nothingIsSelectedWhileItRuns()
+{
+    // In a window that is not the active one.
+    TimerFixture t;
+    t.timer.setFieldsWithTimeLeft(300);
+    const auto &minutes = t.part<QLineEdit>("_minutesField");
+    QVERIFY(minutes.hasSelectedText());
+    t.pressGo();
+    QVERIFY(!minutes.hasSelectedText());
+    t.pressGo();
+    QVERIFY(minutes.hasSelectedText());
 }
 
 void tst_TypingReplaces::selectingKeepsTheMarkOfAPreset()
