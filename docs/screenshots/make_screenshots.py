@@ -11,6 +11,7 @@ import json
 import os
 import pathlib
 import sys
+import time
 
 HERE = pathlib.Path(__file__).resolve().parent
 sys.path.insert(1, str(HERE.parent.parent / "tests" / "desktop"))
@@ -70,7 +71,9 @@ def options(session):
     program.wait_for_windows(1)
     display.move_window(window, 320, 130)
     display.key("ctrl+o")
-    wait_until(lambda: program.has("button", "Hide Options"), 5, "the drawer is open")
+    wait_until(lambda: program.has("button", "Hide Options"), 5, "the drawer opens")
+    # Until it has slid out.
+    time.sleep(1)
     take_picture(display, "options.png")
     program.kill()
 
