@@ -67,6 +67,8 @@ private Q_SLOTS:
     void anAnswerTakesItAway();
     void anAnswerTakesItsTraceAway_data() { anAnswerTakesItAway_data(); }
     void anAnswerTakesItsTraceAway();
+    void startingAllTakesItsTraceAway();
+    void startingAllIsNoAnswerToOneThatRings();
     void aWindowThatWasActiveBeforeIsNoAnswer();
     void theActivationOfAnotherTimerIsNoAnswer();
     void stoppingAnotherTimerIsNoAnswer();
@@ -90,14 +92,6 @@ void tst_AlarmAnswer::anAnswerTakesItAway_data()
     add("show", [](Fixture &t) {
         const DesktopNotification notification = t.notifications.standing.front().notification;
         notification.show();
-    });
-    add("start all", [](Fixture &t) {
-        const bool rings = t.timer.isRunning();
-        WufferController controller;
-        controller.startAllWuffers();
-        // One that rings is not idle.
-        if (rings)
-            t.pressGo();
     });
     add("show in the status item", [](Fixture &t) { t.timer.showWufferWindow(); });
     add("the window activated", [](Fixture &t) { t.comeBack(); });
@@ -126,6 +120,28 @@ void tst_AlarmAnswer::anAnswerTakesItsTraceAway()
     QCOMPARE(t.standing(), 1U);
     act(t);
     QCOMPARE(t.standing(), 0U);
+}
+
+void tst_AlarmAnswer::startingAllTakesItsTraceAway()
+{
+    Fixture t;
+    WufferController controller;
+    t.ring();
+    t.endAlarm();
+    QCOMPARE(t.standing(), 1U);
+    controller.startAllWuffers();
+    QVERIFY(t.timer.isRunning());
+    QCOMPARE(t.standing(), 0U);
+}
+
+void tst_AlarmAnswer::startingAllIsNoAnswerToOneThatRings()
+{
+    Fixture t;
+    WufferController controller;
+    t.ring();
+    controller.startAllWuffers();
+    QCOMPARE(t.go(), QStringLiteral("Reset"));
+    QCOMPARE(t.standing(), 1U);
 }
 
 void tst_AlarmAnswer::aWindowThatWasActiveBeforeIsNoAnswer()

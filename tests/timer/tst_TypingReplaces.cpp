@@ -31,6 +31,7 @@ private Q_SLOTS:
 
 private:
     static void show(const TimerFixture &t);
+    static void turnTo(QWidget &other);
     static void type(const char *text);
     /// The menu bar gets the focus and gives it back, as at Alt and Escape.
     static void openAndCloseMenuBar()
@@ -47,6 +48,13 @@ void tst_TypingReplaces::show(const TimerFixture &t)
 {
     t.timer.showWufferWindow();
     QVERIFY(QTest::qWaitForWindowActive(t.timer.window()));
+}
+
+void tst_TypingReplaces::turnTo(QWidget &other)
+{
+    other.show();
+    other.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&other));
 }
 
 void tst_TypingReplaces::type(const char *text)
@@ -178,9 +186,7 @@ void tst_TypingReplaces::whenTheWindowComesBack()
     TimerFixture t;
     QWidget other;
     show(t);
-    other.show();
-    other.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&other));
+    turnTo(other);
     t.typeDuration(0, 4, 57);
     show(t);
     type("10");
@@ -214,9 +220,7 @@ void tst_TypingReplaces::notWhereTheUserHasPutTheCaret()
     show(t);
     t.timer.setFieldsWithTimeLeft(300);
     press(Qt::Key_End);
-    other.show();
-    other.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&other));
+    turnTo(other);
     show(t);
     type("0");
     QCOMPARE(t.fields(), QStringLiteral("0 50 0"));
@@ -225,8 +229,7 @@ void tst_TypingReplaces::notWhereTheUserHasPutTheCaret()
     auto &minutes = t.part<QLineEdit>("_minutesField");
     QTest::mouseClick(&minutes, Qt::LeftButton, {}, minutes.rect().center());
     QVERIFY(!minutes.hasSelectedText());
-    other.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&other));
+    turnTo(other);
     show(t);
     QVERIFY(!minutes.hasSelectedText());
 }
@@ -237,9 +240,7 @@ void tst_TypingReplaces::notAfterAnEdit()
     QWidget other;
     show(t);
     type("5");
-    other.show();
-    other.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&other));
+    turnTo(other);
     show(t);
     type("0");
     QCOMPARE(t.fields(), QStringLiteral("0 50 0"));
