@@ -2,9 +2,9 @@
 #include "app/SystemServices.h"
 #include "app/WufferApplication.h"
 #include "app/WufferController.h"
-#include "platform/Date.h"
-#include "settings/WufferWindow.h"
+#include "base/Date.h"
 #include "timer/Wuffer.h"
+#include "timer/WufferWindow.h"
 
 #include <QEventLoop>
 #include <QSocketNotifier>

@@ -3,8 +3,8 @@
 #include "app/SystemServices.h"
 #include "app/WufferApplication.h"
 #include "app/WufferController.h"
-#include "settings/WufferWindow.h"
 #include "timer/Wuffer.h"
+#include "timer/WufferWindow.h"
 
 #include <QWindow>
 

@@ -1,7 +1,7 @@
 #include "app/SystemServices.h"
 #include "app/WufferApplication.h"
-#include "settings/WufferWindow.h"
 #include "timer/Wuffer.h"
+#include "timer/WufferWindow.h"
 
 #include <benchmark/benchmark.h>
 

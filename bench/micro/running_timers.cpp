@@ -1,6 +1,6 @@
-#include "app/RunningTimers.h"
 #include "app/StatusDescription.h"
 #include "micro/PlainTimer.h"
+#include "rules/RunningTimers.h"
 
 #include <algorithm>
 #include <benchmark/benchmark.h>

@@ -1,5 +1,5 @@
-#include "platform/JsonSettingsFormat.h"
-#include "settings/TimerSettings.h"
+#include "base/JsonSettingsFormat.h"
+#include "rules/TimerSettings.h"
 
 #include <QFile>
 #include <QTemporaryDir>

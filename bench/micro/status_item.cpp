@@ -1,10 +1,10 @@
 #include "app/RunningTimersMenu.h"
 #include "app/StatusPresenter.h"
 #include "app/WufferApplication.h"
-#include "platform/Service.h"
+#include "base/Service.h"
 #include "platform/StatusItem.h"
-#include "settings/WufferWindow.h"
 #include "timer/Wuffer.h"
+#include "timer/WufferWindow.h"
 
 #include <benchmark/benchmark.h>
 #include <iterator>

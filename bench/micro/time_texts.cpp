@@ -1,6 +1,6 @@
 #include "app/StatusDescription.h"
 #include "micro/PlainTimer.h"
-#include "timer/TimeFormat.h"
+#include "rules/TimeFormat.h"
 
 #include <benchmark/benchmark.h>
 

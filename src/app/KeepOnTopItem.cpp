@@ -2,8 +2,8 @@
 
 #include "app/WufferApplication.h"
 #include "platform/WindowLevel.h"
-#include "settings/WufferWindow.h"
 #include "timer/Wuffer.h"
+#include "timer/WufferWindow.h"
 
 #include <QMenu>
 

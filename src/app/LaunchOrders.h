@@ -1,7 +1,7 @@
 #pragma once
 
 #include "app/CommandLine.h"
-#include "platform/ClockTimer.h"
+#include "base/ClockTimer.h"
 
 #include <QCoreApplication>
 #include <QList>

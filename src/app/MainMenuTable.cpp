@@ -1,6 +1,6 @@
 #include "app/MainMenuTable.h"
 
-#include "timer/TimerTexts.h"
+#include "rules/TimerTexts.h"
 
 #include <QAbstractButton>
 #include <QAction>

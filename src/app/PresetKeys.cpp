@@ -1,9 +1,9 @@
 #include "app/PresetKeys.h"
 
 #include "app/PresetsMenu.h"
-#include "platform/DigitRow.h"
 #include "platform/Keyboard.h"
 #include "platform/KeyboardLayout.h"
+#include "rules/DigitRow.h"
 
 #include <QApplication>
 #include <QKeyEvent>

@@ -1,10 +1,10 @@
 #include "app/PresetsMenu.h"
 
-#include "app/MenuText.h"
 #include "app/PresetKeys.h"
 #include "app/WufferController.h"
 #include "platform/Keyboard.h"
-#include "settings/Preset.h"
+#include "rules/MenuText.h"
+#include "rules/Preset.h"
 #include "timer/Wuffer.h"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "app/RunningTimers.h"
 #include "platform/StatusMenu.h"
+#include "rules/RunningTimers.h"
 
 #include <QHash>
 

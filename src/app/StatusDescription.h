@@ -1,8 +1,8 @@
 #pragma once
 
-#include "app/RunningTimers.h"
 #include "platform/StatusItem.h"
-#include "timer/NameText.h"
+#include "rules/NameText.h"
+#include "rules/RunningTimers.h"
 
 /// What the status item is to say of the timers that run.
 template<class Timer> struct StatusDescription final

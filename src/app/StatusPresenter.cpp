@@ -3,8 +3,8 @@
 #include "app/RunningTimersMenu.h"
 #include "app/StatusDescription.h"
 #include "app/WufferApplication.h"
+#include "base/UserDefaults.h"
 #include "platform/StatusItem.h"
-#include "platform/UserDefaults.h"
 #include "timer/Wuffer.h"
 
 static QIcon statusIcon()

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/RunningTimers.h"
+#include "rules/RunningTimers.h"
 
 #include <QtGlobal>
 

@@ -1,15 +1,15 @@
 #pragma once
 
+#include "base/Service.h"
+#include "base/UserDefaults.h"
 #include "platform/FreedesktopNotifications.h"
 #include "platform/FreedesktopScreenBlanking.h"
 #include "platform/FreedesktopStatusItem.h"
 #include "platform/LazySoundSystem.h"
-#include "platform/Service.h"
 #include "platform/SystemClock.h"
 #include "platform/SystemDesktop.h"
 #include "platform/SystemOpenPanel.h"
-#include "platform/UserDefaults.h"
-#include "timer/GatheredNotifications.h"
+#include "rules/GatheredNotifications.h"
 
 /// The services of the platform that the running program uses, installed for as long as this
 /// object lives.

@@ -1,7 +1,7 @@
 #include "app/TimerList.h"
 
-#include "app/MenuText.h"
 #include "app/WufferApplication.h"
+#include "rules/MenuText.h"
 #include "timer/Wuffer.h"
 
 #include <QActionGroup>

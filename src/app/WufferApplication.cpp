@@ -2,8 +2,8 @@
 
 #include "BuildInfo.h"
 #include "app/ProcessTuning.h"
-#include "settings/WufferWindow.h"
 #include "timer/Wuffer.h"
+#include "timer/WufferWindow.h"
 
 #include <QIcon>
 #include <QKeyEvent>
@@ -92,9 +92,13 @@ Wuffer *WufferApplication::keyWuffer()
 
 Wuffer &WufferApplication::openWuffer()
 {
-    Wuffer &timer = *_wuffers.emplace_back(std::make_unique<Wuffer>());
+    Wuffer &timer = *_wuffers.emplace_back(std::make_unique<Wuffer>(*this));
     connect(&timer, &Wuffer::closed, this, [this, &timer] { forget(timer); });
     connect(this, &WufferApplication::windowExposed, &timer, &Wuffer::windowExposed);
+    connect(this, &WufferApplication::windowHidden, &timer, &Wuffer::windowHidden);
+    connect(&timer, &Wuffer::helpRequested, this, &WufferApplication::helpRequested);
+    connect(&timer, &Wuffer::targetsRequested, this,
+            [this, &timer](QWidget *button) { Q_EMIT targetsRequested(&timer, button); });
     Q_EMIT wufferOpened(&timer);
     return timer;
 }
@@ -115,16 +119,6 @@ bool WufferApplication::cancelFullScreenModeForOthers(const Wuffer &timer)
             cancelled = other->giveUpFullScreen() || cancelled;
     }
     return cancelled;
-}
-
-void WufferApplication::showHelp(const QString &page)
-{
-    Q_EMIT helpRequested(page);
-}
-
-void WufferApplication::offerTargets(Wuffer &timer, QWidget &button)
-{
-    Q_EMIT targetsRequested(&timer, &button);
 }
 
 /// Whether this is Return on its way to the open list of a combo box.

@@ -1,18 +1,17 @@
 #pragma once
 
+#include "timer/TimerHost.h"
+
 #include <QApplication>
 
 #include <memory>
 #include <optional>
 #include <vector>
 
-class Wuffer;
-class WufferWindow;
-
 /// The application object: the registry of open timers, and the filter that lets the first key
 /// press or click end full-screen mode and do nothing else. It owns the timers while their windows
 /// are open.
-class WufferApplication final : public QApplication
+class WufferApplication final : public QApplication, public TimerHost
 {
     Q_OBJECT
 
@@ -31,6 +30,11 @@ public:
     /// first; null when there is none.
     [[nodiscard]] static WufferWindow *otherWufferWindowSharesOrigin(const QWidget &window);
 
+    [[nodiscard]] WufferWindow *windowSharingOrigin(const QWidget &window) const override
+    {
+        return otherWufferWindowSharesOrigin(window);
+    }
+
     /// The timer of the active window, or of the sheet on it; null when another is active.
     [[nodiscard]] static Wuffer *keyWuffer();
 
@@ -41,17 +45,10 @@ public:
     bool cancelFullScreenMode();
 
     /// Ends full-screen mode of every timer but this one. True when another was in it.
-    bool cancelFullScreenModeForOthers(const Wuffer &timer);
+    bool cancelFullScreenModeForOthers(const Wuffer &timer) override;
 
     /// Whether the program is about to end.
     [[nodiscard]] static bool isQuitting() { return instance()._quitting; }
-
-    /// Asks for this page of the help to be shown; an unknown name means the first page.
-    void showHelp(const QString &page);
-
-    /// Asks for the list of the timers that this one may start when it has finished, below the
-    /// button in its window.
-    void offerTargets(Wuffer &timer, QWidget &button);
 
     bool notify(QObject *receiver, QEvent *event) override;
 
@@ -64,9 +61,9 @@ Q_SIGNALS:
     void windowExposed();
     /// A timer was made.
     void wufferOpened(Wuffer *timer);
-    /// Somebody wants to read this page of the help.
+    /// The user of a timer wants to read this page of the help; an unknown name means the first.
     void helpRequested(const QString &page);
-    /// This button was pressed for the timers that this one may start.
+    /// The user wants to choose which timer this one starts, in a list below the button.
     void targetsRequested(Wuffer *timer, QWidget *button);
 
 private:

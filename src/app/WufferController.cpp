@@ -10,16 +10,16 @@
 #include "app/StatusPresenter.h"
 #include "app/WebPage.h"
 #include "app/WufferApplication.h"
-#include "platform/Desktop.h"
-#include "platform/NotificationCenter.h"
-#include "platform/Service.h"
+#include "base/Desktop.h"
+#include "base/NotificationCenter.h"
+#include "base/Service.h"
+#include "base/UserDefaults.h"
 #include "platform/StatusItem.h"
-#include "platform/UserDefaults.h"
 #include "platform/WindowOrder.h"
-#include "preferences/PreferenceTexts.h"
 #include "preferences/Preferences.h"
-#include "settings/WufferWindow.h"
+#include "rules/PreferenceTexts.h"
 #include "timer/Wuffer.h"
+#include "timer/WufferWindow.h"
 #include "tools/Converter.h"
 #include "tools/HelpPanel.h"
 #include "tools/MeasurementsPanel.h"
@@ -161,7 +161,8 @@ void WufferController::makePreferences()
         return;
     _preferencesWindow = std::make_unique<AuxiliaryWindow>(*_mainMenu, tr("Preferences"));
     _preferences = std::make_unique<Preferences>(*_preferencesWindow,
-                                                 _mainMenu->itemFor(&WufferController::toggleMute));
+                                                 _mainMenu->itemFor(&WufferController::toggleMute),
+                                                 &WufferApplication::isQuitting);
 }
 
 void WufferController::showPreferences()

@@ -1,6 +1,6 @@
 #include "controls/ClickableImageView.h"
 
-#include "platform/NotificationCenter.h"
+#include "base/NotificationCenter.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/DesktopNotifications.h"
+#include "base/DesktopNotifications.h"
 
 #include <QHash>
 #include <QObject>

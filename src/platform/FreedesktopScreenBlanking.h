@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/ScreenBlanking.h"
+#include "base/ScreenBlanking.h"
 
 #include <QObject>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Sound.h"
+#include "base/Sound.h"
 
 /// Loads the sound system when the first sound is asked for, which takes 4 ms. Sound brings many
 /// libraries, 2 MiB of memory that an open window does without. Where the module with the sound

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Desktop.h"
+#include "base/Desktop.h"
 
 /// The desktop that the program runs on.
 class SystemDesktop final : public Desktop

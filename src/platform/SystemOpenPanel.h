@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/OpenPanel.h"
+#include "base/OpenPanel.h"
 
 /// The file dialog of the desktop.
 class SystemOpenPanel final : public OpenPanel

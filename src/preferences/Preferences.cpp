@@ -1,12 +1,12 @@
 #include "preferences/Preferences.h"
 
+#include "base/NotificationCenter.h"
+#include "base/UserDefaults.h"
 #include "controls/PickFromList.h"
-#include "platform/NotificationCenter.h"
-#include "platform/UserDefaults.h"
 #include "platform/WindowOrder.h"
-#include "preferences/PreferenceTexts.h"
 #include "preferences/SoundDrop.h"
-#include "timer/SoundPreviews.h"
+#include "rules/PreferenceTexts.h"
+#include "sounds/SoundPreviews.h"
 #include "ui_Preferences.h"
 
 #include <QAction>
@@ -25,9 +25,11 @@ void save(const QCheckBox &box, const QString &key)
 }
 } // namespace
 
-Preferences::Preferences(QMainWindow &window, QAction &muteMenu) :
-    _window(&window), _ui(std::make_unique<Ui::Preferences>()), _preferencesWindow(&window),
-    _muteMenu(muteMenu)
+Preferences::Preferences(QMainWindow &window, QAction &muteMenu,
+                         std::function<bool()> programEnds) :
+    _window(&window),
+    _ui(std::make_unique<Ui::Preferences>()), _preferencesWindow(&window), _muteMenu(muteMenu),
+    _programEnds(std::move(programEnds))
 {
     _ui->setupUi(&window);
     _previews = std::make_unique<SoundPreviews>(

@@ -4,6 +4,7 @@
 #include <QUrl>
 #include <QWidget>
 
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -32,8 +33,9 @@ class Preferences final : public QObject
 
 public:
     /// Fills the window, which is not shown, and loads the preferences. The menu item is the one
-    /// that mutes and unmutes; its title follows. Both must outlive the controller.
-    Preferences(QMainWindow &window, QAction &muteMenu);
+    /// that mutes and unmutes; its title follows. Both must outlive the controller. The function
+    /// says whether the program is about to end.
+    Preferences(QMainWindow &window, QAction &muteMenu, std::function<bool()> programEnds);
     ~Preferences() override;
 
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -104,5 +106,6 @@ private:
     std::unique_ptr<Ui::Preferences> _ui;
     QWidget *_preferencesWindow;
     QAction &_muteMenu;
+    const std::function<bool()> _programEnds;
     std::unique_ptr<SoundPreviews> _previews;
 };

@@ -1,14 +1,13 @@
-#include "app/WufferApplication.h"
-#include "platform/Desktop.h"
-#include "platform/OpenPanel.h"
-#include "platform/Service.h"
-#include "platform/Sound.h"
-#include "platform/UserDefaults.h"
-#include "preferences/PreferenceTexts.h"
+#include "base/Desktop.h"
+#include "base/OpenPanel.h"
+#include "base/Service.h"
+#include "base/Sound.h"
+#include "base/UserDefaults.h"
 #include "preferences/Preferences.h"
-#include "preferences/SoundCombos.h"
-#include "timer/SoundPreviews.h"
-#include "timer/TimerTexts.h"
+#include "rules/PreferenceTexts.h"
+#include "rules/TimerTexts.h"
+#include "sounds/SoundCombos.h"
+#include "sounds/SoundPreviews.h"
 #include "ui_Preferences.h"
 
 #include <QFileInfo>
@@ -224,7 +223,7 @@ void Preferences::selectAnotherSound(const Kind &kind)
     if (const std::optional<QString> path = addSoundPath()) {
         populateComboBoxes();
         selectAndReport(kind.combo, *path);
-    } else if (!WufferApplication::isQuitting()) {
+    } else if (!_programEnds()) {
         // The end of the program closes the panel, too, and is no choice of a sound.
         selectAndReport(kind.combo, kind.builtInSound.toString());
     }

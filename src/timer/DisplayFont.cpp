@@ -1,6 +1,6 @@
 #include "timer/DisplayFont.h"
 
-#include "timer/TimerTexts.h"
+#include "rules/TimerTexts.h"
 
 void DisplayFont::apply(QWidget &label, double points)
 {

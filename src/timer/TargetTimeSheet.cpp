@@ -1,8 +1,8 @@
 #include "timer/TargetTimeSheet.h"
 
-#include "platform/Clock.h"
-#include "platform/Service.h"
-#include "timer/TimeDistance.h"
+#include "base/Clock.h"
+#include "base/Service.h"
+#include "rules/TimeDistance.h"
 #include "ui_TargetTime.h"
 
 #include <QApplication>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/ClockTimer.h"
+#include "base/ClockTimer.h"
 
 #include <QDialog>
 

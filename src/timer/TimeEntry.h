@@ -1,6 +1,6 @@
 #pragma once
 
-#include "timer/TimeText.h"
+#include "rules/TimeText.h"
 
 #include <QObject>
 

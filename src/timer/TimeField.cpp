@@ -1,7 +1,7 @@
 #include "timer/TimeField.h"
 
-#include "timer/NumberText.h"
-#include "timer/TimeText.h"
+#include "rules/NumberText.h"
+#include "rules/TimeText.h"
 
 #include <QAction>
 #include <QClipboard>

@@ -1,16 +1,15 @@
 #include "timer/Wuffer.h"
 
-#include "app/WufferApplication.h"
+#include "base/NotificationCenter.h"
 #include "controls/PickFromList.h"
 #include "controls/PressThrough.h"
-#include "platform/NotificationCenter.h"
-#include "settings/WufferWindow.h"
-#include "timer/RunTimes.h"
-#include "timer/SoundPreviews.h"
+#include "rules/RunTimes.h"
+#include "rules/TimeFormat.h"
+#include "rules/TimerTexts.h"
+#include "sounds/SoundPreviews.h"
 #include "timer/TargetTimeSheet.h"
 #include "timer/TimeEntry.h"
-#include "timer/TimeFormat.h"
-#include "timer/TimerTexts.h"
+#include "timer/WufferWindow.h"
 #include "ui_Wuffer.h"
 
 namespace
@@ -37,8 +36,8 @@ void fitToTitles(QPushButton &button, std::initializer_list<QStringView> titles)
 }
 } // namespace
 
-Wuffer::Wuffer() :
-    _window(std::make_unique<WufferWindow>(*this)), _ui(std::make_unique<Ui::Wuffer>())
+Wuffer::Wuffer(TimerHost &host) :
+    _host(host), _window(std::make_unique<WufferWindow>(*this)), _ui(std::make_unique<Ui::Wuffer>())
 {
     _ui->setupUi(_window.get());
     _window->spareFromFocus(*_ui->_titleField);
@@ -94,11 +93,6 @@ void Wuffer::connectControls()
     connect(_ui->_displayBox, &DisplayBox::fullScreenCloseRequested, this, &Wuffer::setWindowed);
     connect(_ui->_displayBox, &DisplayBox::windowActivated, this,
             [this] { _alarmNotification.windowActivated(); });
-    // Where a window goes, the window manager turns to another, and the user has not.
-    connect(&WufferApplication::instance(), &WufferApplication::windowHidden, this, [this] {
-        if (!_window->isActiveWindow())
-            _alarmNotification.expectActivation();
-    });
     for (QLineEdit *field : std::initializer_list<QLineEdit *>{
              _ui->_titleField, _ui->_hoursField, _ui->_minutesField, _ui->_secondsField}) {
         connect(field, &QLineEdit::textEdited, this,
@@ -134,7 +128,7 @@ void Wuffer::connectDrawer()
     connect(_ui->_drawer, &Drawer::stateChanged, this, &Wuffer::stateChanged);
     connect(_ui->_helpButton, &QToolButton::clicked, this, &Wuffer::getFinishingHelp);
     connect(_ui->_linkButton, &QToolButton::clicked, this,
-            [this] { WufferApplication::instance().offerTargets(*this, *_ui->_linkButton); });
+            [this] { Q_EMIT targetsRequested(_ui->_linkButton); });
     _previews = std::make_unique<SoundPreviews>(
         SoundPreviews::Place{*_ui->_alarmPlayButton, *_ui->_alarmSoundCombo},
         SoundPreviews::Place{*_ui->_countdownPlayButton, *_ui->_countdownSoundCombo});

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "platform/ClockTimer.h"
-#include "platform/Date.h"
-#include "platform/Sound.h"
-#include "timer/AlarmNotification.h"
-#include "timer/DisplayRest.h"
+#include "base/ClockTimer.h"
+#include "base/Date.h"
+#include "base/Sound.h"
+#include "rules/AlarmNotification.h"
+#include "rules/DisplayRest.h"
 #include "timer/TimerColors.h"
 
 #include <QObject>
@@ -22,6 +22,7 @@ struct RunTimes;
 class SoundPreviews;
 class TargetTimeSheet;
 class TimeEntry;
+class TimerHost;
 struct TimerSettings;
 class WebbyComboBox;
 class WufferWindow;
@@ -42,7 +43,7 @@ class Wuffer final : public QObject
 
 public:
     /// Makes the timer with its window, idle, unnamed and not yet shown.
-    Wuffer();
+    explicit Wuffer(TimerHost &host);
     ~Wuffer() override;
 
     // What others ask a timer: Wuffer.cpp.
@@ -106,6 +107,8 @@ public:
     void setDefaultDisplayValues();
     /// Some window has come into view or gone: a display that has rested and is seen catches up.
     void windowExposed();
+    /// Some window of the program has gone.
+    void windowHidden();
 
     // Sounds and notifications: WufferSounds.cpp.
 
@@ -215,6 +218,10 @@ Q_SIGNALS:
     void stateChanged();
     /// The window closes; the timer is of no more use. Before the notice that tells of it.
     void closed();
+    /// The user wants to read this page of the help.
+    void helpRequested(const QString &page);
+    /// The user wants to choose, below this button, which timer this one starts.
+    void targetsRequested(QWidget *button);
 
 private:
     void fitControls();
@@ -257,6 +264,7 @@ private:
     void startTargetWuffer();
     void comeForward();
 
+    TimerHost &_host;
     std::unique_ptr<WufferWindow> _window;
     std::unique_ptr<Ui::Wuffer> _ui;
     std::unique_ptr<SoundPreviews> _previews;

@@ -1,11 +1,11 @@
-#include "app/WufferApplication.h"
-#include "platform/Desktop.h"
-#include "platform/Service.h"
-#include "settings/WufferWindow.h"
-#include "timer/SoundPreviews.h"
-#include "timer/TimeFormat.h"
-#include "timer/TimerTexts.h"
+#include "base/Desktop.h"
+#include "base/Service.h"
+#include "rules/TimeFormat.h"
+#include "rules/TimerTexts.h"
+#include "sounds/SoundPreviews.h"
+#include "timer/TimerHost.h"
 #include "timer/Wuffer.h"
+#include "timer/WufferWindow.h"
 #include "ui_Wuffer.h"
 
 namespace
@@ -18,7 +18,7 @@ constexpr double kMutedAlarm = 5.0;
 
 void Wuffer::timerDone()
 {
-    if (WufferApplication::instance().cancelFullScreenModeForOthers(*this))
+    if (_host.cancelFullScreenModeForOthers(*this))
         _alarmNotification.expectActivation();
     _previews->stop();
     playDone();

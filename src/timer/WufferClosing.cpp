@@ -1,4 +1,4 @@
-#include "platform/UserDefaults.h"
+#include "base/UserDefaults.h"
 #include "timer/Wuffer.h"
 
 void Wuffer::windowWillClose()

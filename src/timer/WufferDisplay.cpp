@@ -1,8 +1,8 @@
 #include "BuildInfo.h"
+#include "rules/RunTimes.h"
+#include "rules/TimeFormat.h"
+#include "rules/TimerTexts.h"
 #include "timer/DisplayFont.h"
-#include "timer/RunTimes.h"
-#include "timer/TimeFormat.h"
-#include "timer/TimerTexts.h"
 #include "timer/Wuffer.h"
 #include "ui_Wuffer.h"
 

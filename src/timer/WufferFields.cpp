@@ -1,9 +1,9 @@
-#include "settings/WufferWindow.h"
-#include "timer/NameText.h"
-#include "timer/NumberText.h"
+#include "rules/NameText.h"
+#include "rules/NumberText.h"
+#include "rules/TimeFields.h"
 #include "timer/TimeEntry.h"
-#include "timer/TimeFields.h"
 #include "timer/Wuffer.h"
+#include "timer/WufferWindow.h"
 #include "ui_Wuffer.h"
 
 double Wuffer::timeLeftFromFields() const

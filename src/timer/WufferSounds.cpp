@@ -1,6 +1,6 @@
-#include "platform/NotificationText.h"
-#include "timer/SoundChoice.h"
-#include "timer/TimerTexts.h"
+#include "rules/NotificationText.h"
+#include "rules/TimerTexts.h"
+#include "sounds/SoundChoice.h"
 #include "timer/Wuffer.h"
 #include "ui_Wuffer.h"
 

@@ -1,9 +1,9 @@
-#include "platform/Clock.h"
-#include "platform/Service.h"
-#include "settings/WufferWindow.h"
+#include "base/Clock.h"
+#include "base/Service.h"
 #include "timer/TargetTimeSheet.h"
 #include "timer/TimeEntry.h"
 #include "timer/Wuffer.h"
+#include "timer/WufferWindow.h"
 
 void Wuffer::targetTime()
 {

@@ -1,7 +1,7 @@
 #include "tools/Converter.h"
 
-#include "platform/UserDefaults.h"
-#include "tools/Conversions.h"
+#include "base/UserDefaults.h"
+#include "rules/Conversions.h"
 #include "tools/NumberField.h"
 #include "ui_Converter.h"
 

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "rules/HelpSearch.h"
 #include "tools/HelpPages.h"
-#include "tools/HelpSearch.h"
 
 #include <QStringList>
 #include <QWidget>

@@ -1,6 +1,6 @@
 #include "tools/NumberField.h"
 
-#include "tools/FigureText.h"
+#include "rules/FigureText.h"
 
 #include <QScopedValueRollback>
 

@@ -1,7 +1,7 @@
+#include "rules/TimerTexts.h"
 #include "support/HelpReader.h"
 #include "support/TestMain.h"
 #include "timer/TargetTimeSheet.h"
-#include "timer/TimerTexts.h"
 
 #include <QSet>
 #include <QTabBar>

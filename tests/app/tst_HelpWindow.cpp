@@ -229,7 +229,7 @@ void tst_HelpWindow::openingEndsTheSearch()
     Reader reader;
     reader.open();
     reader.searchFor("butter");
-    WufferApplication::instance().showHelp(QStringLiteral("finish-actions"));
+    Q_EMIT WufferApplication::instance().helpRequested(QStringLiteral("finish-actions"));
     QCOMPARE(Reader::field().text(), QString());
     QCOMPARE(Reader::page(), QStringLiteral("finish-actions"));
     QVERIFY(Reader::listed().size() > 5);

@@ -1,6 +1,6 @@
 #include "app/HomeWindow.h"
 #include "app/WufferController.h"
-#include "platform/NotificationCenter.h"
+#include "base/NotificationCenter.h"
 #include "support/TestMain.h"
 #include "support/TimerFixture.h"
 

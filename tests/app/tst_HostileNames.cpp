@@ -1,7 +1,7 @@
 #include "app/HomeWindow.h"
 #include "app/StatusDescription.h"
 #include "app/WufferController.h"
-#include "platform/NotificationCenter.h"
+#include "base/NotificationCenter.h"
 #include "support/Menus.h"
 #include "support/TestMain.h"
 #include "support/TimerFixture.h"

@@ -1,4 +1,4 @@
-#include "app/MenuText.h"
+#include "rules/MenuText.h"
 #include "support/TestMain.h"
 
 /// What a user has written, as a menu shows it.

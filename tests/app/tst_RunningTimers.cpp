@@ -1,6 +1,6 @@
-#include "app/RunningTimers.h"
 #include "app/StatusDescription.h"
-#include "platform/Service.h"
+#include "base/Service.h"
+#include "rules/RunningTimers.h"
 #include "support/TestClock.h"
 #include "support/TestMain.h"
 

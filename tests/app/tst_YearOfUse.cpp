@@ -1,5 +1,5 @@
 #include "app/HomeKeeper.h"
-#include "settings/TimerSettings.h"
+#include "rules/TimerSettings.h"
 #include "support/ChainRules.h"
 #include "support/Resident.h"
 #include "support/TestMain.h"

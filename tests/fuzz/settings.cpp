@@ -1,7 +1,7 @@
-#include "platform/UserDefaults.h"
-#include "settings/Preset.h"
-#include "settings/TimerSettings.h"
-#include "settings/WindowPlace.h"
+#include "base/UserDefaults.h"
+#include "rules/Preset.h"
+#include "rules/TimerSettings.h"
+#include "rules/WindowPlace.h"
 #include "tests/fuzz/Check.h"
 
 #include <QDir>

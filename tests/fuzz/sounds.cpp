@@ -1,4 +1,4 @@
-#include "platform/sound/AudioFile.h"
+#include "audio/AudioFile.h"
 #include "tests/fuzz/Check.h"
 
 #include <QBuffer>

@@ -1,12 +1,12 @@
-#include "app/MenuText.h"
-#include "preferences/SoundHistory.h"
-#include "settings/Preset.h"
-#include "settings/TimerSettings.h"
+#include "rules/FigureText.h"
+#include "rules/MenuText.h"
+#include "rules/NumberText.h"
+#include "rules/Preset.h"
+#include "rules/SoundHistory.h"
+#include "rules/TimeFields.h"
+#include "rules/TimeFormat.h"
+#include "rules/TimerSettings.h"
 #include "tests/fuzz/Check.h"
-#include "timer/NumberText.h"
-#include "timer/TimeFields.h"
-#include "timer/TimeFormat.h"
-#include "tools/FigureText.h"
 
 #include <array>
 #include <cmath>

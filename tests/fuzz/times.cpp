@@ -1,5 +1,5 @@
+#include "rules/TimeText.h"
 #include "tests/fuzz/Check.h"
-#include "timer/TimeText.h"
 
 #include <QString>
 

@@ -1,5 +1,5 @@
-#include "platform/sound/AudioFile.h"
-#include "platform/sound/SoundBytes.h"
+#include "audio/AudioFile.h"
+#include "audio/SoundBytes.h"
 #include "support/SoundFiles.h"
 
 #include <QBuffer>

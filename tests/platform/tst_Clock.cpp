@@ -1,4 +1,4 @@
-#include "platform/ClockTimer.h"
+#include "base/ClockTimer.h"
 #include "support/ClockFixture.h"
 
 #include <QTest>

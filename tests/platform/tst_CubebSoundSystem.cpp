@@ -1,4 +1,4 @@
-#include "platform/sound/CubebSoundSystem.h"
+#include "audio/CubebSoundSystem.h"
 #include "support/SoundFiles.h"
 #include "support/SoundLengths.h"
 

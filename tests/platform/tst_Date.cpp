@@ -1,5 +1,5 @@
-#include "platform/Clock.h"
-#include "platform/Date.h"
+#include "base/Clock.h"
+#include "base/Date.h"
 #include "support/ClockFixture.h"
 
 #include <QRandomGenerator>

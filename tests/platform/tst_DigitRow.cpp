@@ -1,4 +1,4 @@
-#include "platform/DigitRow.h"
+#include "rules/DigitRow.h"
 
 #include <QtTest/QTest>
 

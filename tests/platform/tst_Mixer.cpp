@@ -1,7 +1,7 @@
-#include "platform/sound/AudioFile.h"
-#include "platform/sound/Mixer.h"
-#include "platform/sound/SoundBytes.h"
-#include "platform/sound/Voice.h"
+#include "audio/AudioFile.h"
+#include "audio/Mixer.h"
+#include "audio/SoundBytes.h"
+#include "audio/Voice.h"
 #include "support/SoundFiles.h"
 
 #include <QTemporaryDir>

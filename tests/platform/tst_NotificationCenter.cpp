@@ -1,4 +1,4 @@
-#include "platform/NotificationCenter.h"
+#include "base/NotificationCenter.h"
 
 #include <QStringList>
 #include <QTest>

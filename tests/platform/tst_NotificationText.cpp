@@ -1,4 +1,4 @@
-#include "platform/NotificationText.h"
+#include "rules/NotificationText.h"
 #include "support/TestMain.h"
 
 class tst_NotificationText final : public Test

@@ -1,4 +1,4 @@
-#include "platform/UserDefaults.h"
+#include "base/UserDefaults.h"
 #include "support/SettingsFile.h"
 #include "support/TestMain.h"
 

@@ -1,4 +1,4 @@
-#include "platform/SettingsPath.h"
+#include "base/SettingsPath.h"
 #include "support/SettingsFile.h"
 #include "support/TestMain.h"
 

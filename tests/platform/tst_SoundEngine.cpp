@@ -1,7 +1,7 @@
-#include "platform/sound/AudioFile.h"
-#include "platform/sound/Playing.h"
-#include "platform/sound/SoundEngine.h"
-#include "platform/sound/Voice.h"
+#include "audio/AudioFile.h"
+#include "audio/Playing.h"
+#include "audio/SoundEngine.h"
+#include "audio/Voice.h"
 #include "support/SoundFiles.h"
 
 #include <QElapsedTimer>

@@ -1,6 +1,6 @@
-#include "platform/ClockTimer.h"
-#include "platform/Date.h"
-#include "platform/Service.h"
+#include "base/ClockTimer.h"
+#include "base/Date.h"
+#include "base/Service.h"
 #include "platform/SystemClock.h"
 
 #include <QAbstractEventDispatcher>

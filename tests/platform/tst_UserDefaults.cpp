@@ -1,5 +1,5 @@
-#include "platform/Service.h"
-#include "platform/UserDefaults.h"
+#include "base/Service.h"
+#include "base/UserDefaults.h"
 #include "support/SettingsFile.h"
 #include "support/TestMain.h"
 

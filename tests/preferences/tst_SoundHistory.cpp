@@ -1,4 +1,4 @@
-#include "preferences/SoundHistory.h"
+#include "rules/SoundHistory.h"
 
 #include <QTest>
 

@@ -1,4 +1,4 @@
-#include "preferences/SoundCombos.h"
+#include "sounds/SoundCombos.h"
 #include "support/PreferencesFixture.h"
 #include "support/TestMain.h"
 

@@ -1,4 +1,4 @@
-#include "settings/Chain.h"
+#include "rules/Chain.h"
 #include "support/TestMain.h"
 
 namespace

@@ -1,6 +1,6 @@
 #include "controls/Drawer.h"
-#include "settings/Preset.h"
-#include "settings/TimerSettings.h"
+#include "rules/Preset.h"
+#include "rules/TimerSettings.h"
 #include "support/TestMain.h"
 #include "support/TimerFixture.h"
 

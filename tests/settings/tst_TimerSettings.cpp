@@ -1,4 +1,4 @@
-#include "settings/TimerSettings.h"
+#include "rules/TimerSettings.h"
 #include "support/SettingsFile.h"
 #include "support/TestMain.h"
 

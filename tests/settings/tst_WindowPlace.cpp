@@ -1,4 +1,4 @@
-#include "settings/WindowPlace.h"
+#include "rules/WindowPlace.h"
 #include "support/TestMain.h"
 
 /// Where windows may stand again.

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Service.h"
+#include "base/Service.h"
 #include "support/TestClock.h"
 
 #include <QStringList>

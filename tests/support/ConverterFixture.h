@@ -1,8 +1,8 @@
 #pragma once
 
+#include "rules/Conversions.h"
 #include "support/Find.h"
 #include "support/TestServices.h"
-#include "tools/Conversions.h"
 #include "tools/Converter.h"
 #include "tools/NumberField.h"
 

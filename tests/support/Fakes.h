@@ -1,10 +1,10 @@
 #pragma once
 
-#include "platform/Desktop.h"
-#include "platform/DesktopNotifications.h"
-#include "platform/OpenPanel.h"
-#include "platform/ScreenBlanking.h"
-#include "platform/Sound.h"
+#include "base/Desktop.h"
+#include "base/DesktopNotifications.h"
+#include "base/OpenPanel.h"
+#include "base/ScreenBlanking.h"
+#include "base/Sound.h"
 #include "platform/StatusItem.h"
 
 #include <QHash>

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "rules/GatheredNotifications.h"
 #include "support/ClockFixture.h"
 #include "support/Fakes.h"
-#include "timer/GatheredNotifications.h"
 
 #include <memory>
 #include <vector>

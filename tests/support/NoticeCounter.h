@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/NotificationCenter.h"
+#include "base/NotificationCenter.h"
 
 /// Counts the notices of one name while it lives.
 class NoticeCounter final : public QObject

@@ -6,7 +6,7 @@
 
 Preferences &PreferencesFixture::open()
 {
-    preferences = std::make_unique<Preferences>(window, muteMenu);
+    preferences = std::make_unique<Preferences>(window, muteMenu, &WufferApplication::isQuitting);
     return *preferences;
 }
 

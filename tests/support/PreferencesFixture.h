@@ -5,11 +5,11 @@
 #include "controls/PlayButton.h"
 #include "controls/WebbyComboBox.h"
 #include "preferences/Preferences.h"
-#include "settings/WufferWindow.h"
 #include "support/Find.h"
 #include "support/NoticeCounter.h"
 #include "support/TestServices.h"
 #include "timer/Wuffer.h"
+#include "timer/WufferWindow.h"
 
 #include <QAction>
 #include <QCheckBox>

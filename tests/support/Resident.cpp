@@ -1,7 +1,7 @@
 #include "support/Resident.h"
 
 #include "app/PresetsMenu.h"
-#include "platform/NotificationCenter.h"
+#include "base/NotificationCenter.h"
 #include "timer/TargetTimeSheet.h"
 
 #include <QAction>

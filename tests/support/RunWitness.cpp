@@ -1,12 +1,12 @@
 #include "support/RunWitness.h"
 
 #include "app/WufferApplication.h"
+#include "base/NotificationCenter.h"
 #include "controls/DisplayLabel.h"
-#include "platform/NotificationCenter.h"
-#include "settings/WufferWindow.h"
+#include "rules/TimerTexts.h"
 #include "support/Find.h"
-#include "timer/TimerTexts.h"
 #include "timer/Wuffer.h"
+#include "timer/WufferWindow.h"
 
 #include <QPushButton>
 #include <QRegularExpression>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/UserDefaults.h"
+#include "base/UserDefaults.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Sound.h"
+#include "base/Sound.h"
 
 #include <QElapsedTimer>
 #include <QTest>

@@ -1,8 +1,8 @@
 #include "support/TestServices.h"
 
 #include "app/WufferApplication.h"
-#include "settings/WufferWindow.h"
 #include "timer/Wuffer.h"
+#include "timer/WufferWindow.h"
 
 #include <QCoreApplication>
 

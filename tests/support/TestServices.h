@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/Service.h"
-#include "platform/UserDefaults.h"
+#include "base/Service.h"
+#include "base/UserDefaults.h"
 #include "support/Fakes.h"
 #include "support/TestClock.h"
 

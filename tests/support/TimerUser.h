@@ -5,9 +5,9 @@
 #include "controls/DisplayLabel.h"
 #include "controls/PopUpComboBox.h"
 #include "controls/WebbyComboBox.h"
-#include "settings/WufferWindow.h"
 #include "support/Find.h"
 #include "timer/Wuffer.h"
+#include "timer/WufferWindow.h"
 
 #include <QCheckBox>
 #include <QHash>

@@ -1,4 +1,4 @@
-#include "timer/BeepSchedule.h"
+#include "rules/BeepSchedule.h"
 
 #include <QTest>
 

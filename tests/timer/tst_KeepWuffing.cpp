@@ -1,5 +1,5 @@
+#include "rules/KeepWuffing.h"
 #include "support/TestMain.h"
-#include "timer/KeepWuffing.h"
 
 /// What the keep-wuffing box says of itself.
 class tst_KeepWuffing final : public Test

@@ -1,5 +1,5 @@
+#include "rules/NameText.h"
 #include "support/TestMain.h"
-#include "timer/NameText.h"
 
 #include <QWindow>
 

@@ -1,4 +1,4 @@
-#include "timer/NumberText.h"
+#include "rules/NumberText.h"
 
 #include <QTest>
 

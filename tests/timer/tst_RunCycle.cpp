@@ -1,4 +1,4 @@
-#include "platform/Date.h"
+#include "base/Date.h"
 #include "support/TestMain.h"
 #include "support/TimerFixture.h"
 

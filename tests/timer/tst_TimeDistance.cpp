@@ -1,5 +1,5 @@
+#include "rules/TimeDistance.h"
 #include "support/TestMain.h"
-#include "timer/TimeDistance.h"
 
 #include <limits>
 

@@ -1,4 +1,4 @@
-#include "timer/TimeFields.h"
+#include "rules/TimeFields.h"
 
 #include <QTest>
 

@@ -1,4 +1,4 @@
-#include "timer/TimeFormat.h"
+#include "rules/TimeFormat.h"
 
 #include <QTest>
 

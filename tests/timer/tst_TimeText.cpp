@@ -1,5 +1,5 @@
+#include "rules/TimeText.h"
 #include "support/TestMain.h"
-#include "timer/TimeText.h"
 
 using TimeText::Unit;
 

@@ -1,4 +1,4 @@
-#include "tools/Conversions.h"
+#include "rules/Conversions.h"
 
 #include <QTest>
 

@@ -1,4 +1,4 @@
-#include "tools/FigureText.h"
+#include "rules/FigureText.h"
 
 #include <QRegularExpression>
 #include <QTest>

@@ -1,5 +1,5 @@
+#include "rules/HelpSearch.h"
 #include "support/TestMain.h"
-#include "tools/HelpSearch.h"
 
 /// Where words are found in a text.
 class tst_HelpSearch final : public Test

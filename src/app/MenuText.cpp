@@ -1,8 +1,0 @@
-#include "app/MenuText.h"
-
-#include "timer/NameText.h"
-
-QString menuText(const QString &text)
-{
-    return NameText::inOneLine(text).replace(QLatin1Char('&'), QStringLiteral("&&"));
-}

@@ -1,0 +1,116 @@
+#include "audio/Playing.h"
+
+#include "audio/AudioFile.h"
+#include "audio/Outputs.h"
+#include "audio/Voice.h"
+
+#include <utility>
+
+namespace
+{
+std::unique_ptr<AudioFile> openFile(const OpenSoundBytes &open)
+{
+    return open ? AudioFile::open(open()) : nullptr;
+}
+} // namespace
+
+Playing::Playing(OpenSoundBytes open, OpenSoundBytes standIn,
+                 std::shared_ptr<const SoundControls> controls, std::shared_ptr<Outputs> outputs,
+                 Workers workers) :
+    _open(std::move(open)),
+    _standIn(std::move(standIn)), _controls(std::move(controls)), _outputs(std::move(outputs)),
+    _workers(std::move(workers))
+{}
+
+void Playing::start(int sampleRate)
+{
+    const std::shared_ptr<Voice> voice = makeVoice(sampleRate);
+    _voice = voice;
+    // From here on the current voice may be another one at any time. The first is played already
+    // now, so that the device is opened while the file is.
+    if (_workers.start([self = shared_from_this(), voice] { self->playFile(voice); }))
+        _outputs->play(voice);
+    else
+        voice->finish();
+}
+
+bool Playing::isPlaying() const
+{
+    // While the lock is held, the voice cannot be one that has been replaced and ended.
+    const std::lock_guard lock(_mutex);
+    return _voice->isPlaying();
+}
+
+void Playing::stop()
+{
+    const std::lock_guard lock(_mutex);
+    _isStopped = true;
+    _voice->stop();
+}
+
+std::shared_ptr<Voice> Playing::makeVoice(int sampleRate)
+{
+    return std::make_shared<Voice>(sampleRate, _controls, [playing = weak_from_this()] {
+        if (const std::shared_ptr<Playing> self = playing.lock())
+            self->missFile();
+    });
+}
+
+std::shared_ptr<Voice> Playing::currentVoice() const
+{
+    const std::lock_guard lock(_mutex);
+    return _voice;
+}
+
+/// Reads the file into this voice, or into one of the right rate.
+void Playing::playFile(std::shared_ptr<Voice> voice)
+{
+    const std::unique_ptr<AudioFile> file = openFile(_open);
+    if (file && file->sampleRate() != voice->sampleRate())
+        voice = makeVoice(file->sampleRate());
+    const bool canBeHeard = file && voice->begin(*file);
+    if (!decide())
+        return;
+    if (canBeHeard)
+        readOn(*file, voice);
+    else
+        playStandIn();
+}
+
+/// The file has not answered. For the mixing thread.
+void Playing::missFile()
+{
+    if (decide() && !_workers.start([self = shared_from_this()] { self->playStandIn(); }))
+        currentVoice()->finish();
+}
+
+void Playing::playStandIn()
+{
+    const std::unique_ptr<AudioFile> file = openFile(_standIn);
+    // Not the first voice: a file that answers late may still be read into that.
+    const std::shared_ptr<Voice> voice = file ? makeVoice(file->sampleRate()) : nullptr;
+    if (voice && voice->begin(*file))
+        readOn(*file, voice);
+    else
+        currentVoice()->finish();
+}
+
+void Playing::readOn(AudioFile &file, const std::shared_ptr<Voice> &voice)
+{
+    if (voice != currentVoice())
+        goOnWith(voice);
+    voice->readOn(file);
+}
+
+void Playing::goOnWith(const std::shared_ptr<Voice> &voice)
+{
+    std::shared_ptr<Voice> last = voice;
+    {
+        const std::lock_guard lock(_mutex);
+        std::swap(_voice, last);
+        if (_isStopped)
+            voice->stop();
+    }
+    _outputs->play(voice);
+    last->finish();
+}

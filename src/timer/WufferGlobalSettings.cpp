@@ -1,0 +1,86 @@
+#include "base/NotificationCenter.h"
+#include "base/UserDefaults.h"
+#include "controls/ToolTip.h"
+#include "rules/PreferenceTexts.h"
+#include "rules/TimerTexts.h"
+#include "sounds/SoundCombos.h"
+#include "sounds/SoundPreviews.h"
+#include "timer/Wuffer.h"
+#include "ui_Wuffer.h"
+
+#include <QSignalBlocker>
+
+namespace
+{
+/// Fills the combo anew, keeping its selection where that is still listed. Before there was one,
+/// the sound of the preferences is selected.
+void refill(WebbyComboBox &combo, QStringView builtInSound, const QString &globalPath)
+{
+    const QSignalBlocker quiet(combo);
+    const std::optional<QString> selected = combo.dataObjectOfSelectedItem();
+    SoundCombos::fill(combo, builtInSound, {kManageSounds});
+    combo.selectItemWithDataObjectValue(builtInSound.toString());
+    if (!globalPath.isEmpty())
+        combo.selectItemWithDataObjectValue(globalPath);
+    if (selected && !selected->isEmpty())
+        combo.selectItemWithDataObjectValue(*selected);
+}
+} // namespace
+
+void Wuffer::loadGlobalSettings()
+{
+    const UserDefaults &defaults = UserDefaults::standardUserDefaults();
+    _soundOff = defaults.boolForKey(QStringLiteral("soundOff"));
+    _suppressCountdown = defaults.boolForKey(QStringLiteral("suppressCountdown"));
+    _autoStartPresets = defaults.boolForKey(QStringLiteral("autoStartPresets"));
+    _disableGrowl = defaults.boolForKey(QStringLiteral("growlDisabled"));
+    _energySaverActive = defaults.boolForKey(QStringLiteral("energySaverMode"));
+    // It may have been let off ticks that it would work at now.
+    _checkTimer.letOff(0);
+
+    const QString text = defaults.stringForKey(QStringLiteral("finishedText")).value_or(QString());
+    _finishedText = text.isEmpty() ? kFinishedTextDefault.toString() : text;
+
+    if (_soundOff) {
+        for (Sound *sound : {_doneSound.get(), _beepSound.get()}) {
+            if (sound)
+                sound->stop();
+        }
+    }
+    _ui->_soundOffImage->setImage(_soundOff ? QStringLiteral("sound_mute.png")
+                                            : QStringLiteral("sound_high.png"));
+    _ui->_soundOffImage->setAccessibleName(_soundOff ? tr("Sound is off") : tr("Sound is on"));
+    ToolTip::set(*_ui->_soundOffImage,
+                 _soundOff ? tr("Let all timers be heard again") : tr("Mute all timers"));
+    handleFinishedComboChange();
+    refreshSoundComboEnabledness();
+    populateSoundCombos();
+}
+
+void Wuffer::populateSoundCombos()
+{
+    const UserDefaults &defaults = UserDefaults::standardUserDefaults();
+    const auto path = [&](const QString &key) {
+        return defaults.stringForKey(key).value_or(QString());
+    };
+    refill(*_ui->_alarmSoundCombo, kWuffSound, path(QStringLiteral("alarmPath")));
+    refill(*_ui->_countdownSoundCombo, kCrowSound, path(QStringLiteral("countdownPath")));
+    _previews->followChoices();
+}
+
+void Wuffer::handleManageSounds(WebbyComboBox &combo)
+{
+    if (combo.dataObjectOfSelectedItem() != kManageSounds)
+        return;
+    combo.setCurrentIndex(0);
+    NotificationCenter::defaultCenter().postNotificationName(
+        QStringLiteral("manageSoundsNotification"));
+}
+
+void Wuffer::refreshSoundComboEnabledness()
+{
+    const bool audible = !_soundOff && !_stopwatch;
+    _ui->_alarmSoundCombo->setEnabled(audible);
+    _ui->_countdownSoundCombo->setEnabled(audible && !_suppressCountdown);
+    _previews->setEnabled(audible, audible && !_suppressCountdown);
+}

@@ -1,0 +1,137 @@
+#include "base/ScreenBlanking.h"
+#include "base/Service.h"
+#include "platform/WindowOrder.h"
+#include "rules/TimerTexts.h"
+#include "timer/DisplayFont.h"
+#include "timer/Wuffer.h"
+#include "timer/WufferWindow.h"
+#include "ui_Wuffer.h"
+
+#include <QAction>
+#include <QGuiApplication>
+#include <QLayout>
+#include <QScreen>
+#include <QWindow>
+
+namespace
+{
+/// The screen that the user is looking at: that of the window with the focus.
+QScreen &mainScreen(const QWidget &window)
+{
+    const QWindow *focused = QGuiApplication::focusWindow();
+    return focused ? *focused->screen() : *window.screen();
+}
+
+QString drawerTitle(bool open)
+{
+    return (open ? kHideOptions : kMoreOptions).toString();
+}
+} // namespace
+
+void Wuffer::setFullScreenMode(bool fullScreen)
+{
+    if (fullScreen == _ui->_displayBox->isInFullScreenMode())
+        return;
+    // The name is edited in the window and only shown on the full screen. The label for that
+    // stays visible afterwards, but says nothing beside the field.
+    _ui->_titleField->setVisible(!fullScreen);
+    _ui->_fullTitleField->setText(fullScreen ? title() : QString());
+    if (fullScreen) {
+        _ui->_displayBox->enterFullScreenMode(mainScreen(*_window));
+        setFullScreenFontSizes(true);
+        _ui->_fullTitleField->setVisible(true);
+        QGuiApplication::setOverrideCursor(Qt::BlankCursor);
+        Service<ScreenBlanking>::current().inhibit(*this, tr("A timer fills the screen"));
+    } else {
+        // It comes back with its large fonts, by which the window must not be stretched.
+        _window->layout()->setEnabled(false);
+        _ui->_displayBox->exitFullScreenModeWithOptions();
+        setFullScreenFontSizes(false);
+        _window->layout()->setEnabled(true);
+        QGuiApplication::restoreOverrideCursor();
+        Service<ScreenBlanking>::current().release(*this);
+    }
+}
+
+void Wuffer::setFullScreenFontSizes(bool fullScreen)
+{
+    DisplayFont::apply(*_ui->_resultLabel, fullScreen ? 200 : 24);
+    setResultLabelText(_ui->_resultLabel->text());
+    DisplayFont::apply(*_ui->_msLabel, DisplayFont::smallSize(fullScreen));
+    DisplayFont::apply(*_ui->_elapsedLabel, DisplayFont::smallSize(fullScreen));
+    DisplayFont::apply(*_ui->_fullTitleField, DisplayFont::smallSize(fullScreen));
+}
+
+void Wuffer::startStopFullScreen()
+{
+    setFullScreenMode(!_ui->_displayBox->isInFullScreenMode());
+}
+
+bool Wuffer::setWindowed()
+{
+    if (!_ui->_displayBox->isInFullScreenMode())
+        return false;
+    setFullScreenMode(false);
+    return true;
+}
+
+bool Wuffer::giveUpFullScreen()
+{
+    const bool gaveUp = setWindowed();
+    if (gaveUp)
+        _alarmNotification.expectActivation();
+    return gaveUp;
+}
+
+void Wuffer::showHideAdvanced()
+{
+    // Asked before the drawer moves: one that is still closing opens again under the title of
+    // an open one.
+    const bool closed = _ui->_drawer->state() == Drawer::State::Closed;
+    _ui->_finishedDrawerButton->setText(drawerTitle(closed));
+    _ui->_drawer->toggle();
+}
+
+void Wuffer::showWufferWindow()
+{
+    _alarmNotification.answer();
+    bringToFront(*_window);
+}
+
+void Wuffer::windowHidden()
+{
+    // The window manager turns to another window then, and the user has not.
+    if (!_window->isActiveWindow())
+        _alarmNotification.expectActivation();
+}
+
+void Wuffer::comeForward()
+{
+    // The window system does not tell of one that is the active window already.
+    if (!_window->isActiveWindow())
+        _alarmNotification.expectActivation();
+    bringToFront(*_window);
+}
+
+bool Wuffer::validateMenuItem(QAction &item, Operation action) const
+{
+    if (_closed)
+        return false;
+    if (action == &Wuffer::stopwatch) {
+        item.setText(_stopwatch ? QStringLiteral("Timer") : kStopwatchString.toString());
+        return !_timerStarted;
+    }
+    if (action == &Wuffer::toggleKeepWuffing)
+        return _ui->_keepWuffingBox->isEnabled();
+    if (action == &Wuffer::targetTime)
+        return !_timerStarted;
+    if (action == &Wuffer::showHideAdvanced) {
+        const Drawer::State drawer = _ui->_drawer->state();
+        item.setText(
+            drawerTitle(drawer == Drawer::State::Opening || drawer == Drawer::State::Open));
+        return true;
+    }
+    if (action == &Wuffer::startStopFullScreen)
+        return _timerStarted;
+    return action == &Wuffer::resetWuffer || action == &Wuffer::showWufferWindow;
+}

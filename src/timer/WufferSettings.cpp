@@ -1,0 +1,111 @@
+#include "base/UserDefaults.h"
+#include "rules/NameText.h"
+#include "rules/TimerSettings.h"
+#include "rules/TimerTexts.h"
+#include "timer/TimeEntry.h"
+#include "timer/TimerHost.h"
+#include "timer/Wuffer.h"
+#include "timer/WufferWindow.h"
+#include "ui_Wuffer.h"
+
+namespace
+{
+/// Where the settings for the next launch are kept. All other keys are those of presets.
+const QString kDefaultKey = QStringLiteral("defaultWufferSettings");
+
+/// Far more than the places of a cascade on any screen; without it, windows that stand at each of
+/// them would keep a new one moving for ever.
+constexpr int kMostMoves = 202;
+
+void select(DataComboBox &combo, const std::optional<QString> &path)
+{
+    if (path)
+        combo.selectItemWithDataObjectValue(*path);
+}
+} // namespace
+
+TimerSettings Wuffer::settings() const
+{
+    TimerSettings settings;
+    settings.title = _ui->_titleField->text();
+    settings.hours = hours();
+    settings.minutes = minutes();
+    settings.seconds = seconds();
+    settings.keepWuffing = _ui->_keepWuffingBox->isChecked();
+    settings.fullScreen = _ui->_fullScreenBox->isChecked();
+    const QString option = _ui->_finishedCombo->currentText();
+    if (!option.isEmpty() && option != kWufferFinishedWuffer)
+        settings.finishOption = option;
+    if (option == kWufferFinishedPreset)
+        settings.presetSelection = _ui->_finishedPicker->currentIndex();
+    return settings;
+}
+
+void Wuffer::storeSettingsInDefaultsWithKey(const QString &key)
+{
+    _timeEntry->settle();
+    TimerSettings kept = settings();
+    if (key != kDefaultKey) {
+        kept.individualAlarmPath = _ui->_alarmSoundCombo->dataObjectOfSelectedItem();
+        kept.individualCountdownPath = _ui->_countdownSoundCombo->dataObjectOfSelectedItem();
+    }
+    UserDefaults::standardUserDefaults().setObject(kept.record(), key);
+    _window->saveFrameUsingName(key);
+}
+
+void Wuffer::saveSettingsToDefaultKey()
+{
+    storeSettingsInDefaultsWithKey(kDefaultKey);
+}
+
+void Wuffer::loadSettingsFromDefaultsWithKey(const QString &key, bool moveWindow)
+{
+    const QVariantMap record = UserDefaults::standardUserDefaults().dictionaryForKey(key);
+    if (record.isEmpty()) {
+        handleFinishedComboChange();
+    } else {
+        const TimerSettings stored = TimerSettings::fromRecord(record);
+        takeOver(stored);
+        if (key != kDefaultKey)
+            showAsPreset(stored, key);
+        if (moveWindow)
+            restorePlace(key);
+    }
+    comeForward();
+}
+
+void Wuffer::takeOver(const TimerSettings &settings)
+{
+    _ui->_titleField->setText(settings.title);
+    if (!settings.title.isEmpty())
+        _window->setWindowTitle(NameText::asWindowTitle(settings.title));
+    _ui->_hoursField->setText(QString::number(settings.hours));
+    _ui->_minutesField->setText(QString::number(settings.minutes));
+    _ui->_secondsField->setText(QString::number(settings.seconds));
+    _ui->_keepWuffingBox->setChecked(settings.keepWuffing);
+    _ui->_fullScreenBox->setChecked(settings.fullScreen);
+    selectFinishOption(settings.finishOption.value_or(QString()));
+    handleFinishedComboChange();
+    if (_ui->_finishedCombo->currentText() == kWufferFinishedPreset)
+        _ui->_finishedPicker->setCurrentIndex(settings.presetSelection.value_or(0));
+    _timeEntry->makeReady();
+}
+
+void Wuffer::showAsPreset(const TimerSettings &settings, const QString &key)
+{
+    showPresetMark(_ui->_titleField->text(), key);
+    select(*_ui->_alarmSoundCombo, settings.individualAlarmPath);
+    select(*_ui->_countdownSoundCombo, settings.individualCountdownPath);
+}
+
+void Wuffer::restorePlace(const QString &key)
+{
+    _window->setFrameUsingName(key);
+    for (int move = 0; move < kMostMoves; ++move) {
+        const WufferWindow *other = _host.windowSharingOrigin(*_window);
+        if (!other)
+            return;
+        const QPoint next = _window->cascadeTopLeftFromPoint(other->pos());
+        _window->cascadeTopLeftFromPoint(next);
+    }
+}

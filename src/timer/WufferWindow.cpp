@@ -1,0 +1,125 @@
+#include "timer/WufferWindow.h"
+
+#include "base/PropertyList.h"
+#include "base/UserDefaults.h"
+#include "rules/WindowPlace.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QDrag>
+#include <QLayout>
+#include <QScreen>
+#include <QShortcut>
+
+namespace
+{
+/// One step of a cascade in device-independent pixels: enough to leave the title bar of the
+/// window below in sight.
+constexpr int kCascadeStep = 28;
+
+/// The places of windows are kept beside what they belong to, under the same names.
+const QString kPlacesKey = QStringLiteral("windowFrames");
+
+/// How much the window manager adds to a window: what it adds to those that it shows already.
+QSize decorations()
+{
+    for (const QWidget *window : QApplication::topLevelWidgets()) {
+        if (qobject_cast<const WufferWindow *>(window) && window->isVisible())
+            return window->frameGeometry().size() - window->size();
+    }
+    return {0, 0};
+}
+} // namespace
+
+WufferWindow::WufferWindow(Wuffer &delegate) :
+    _delegate(delegate), _return(new QShortcut(Qt::Key_Return, this)),
+    _enter(new QShortcut(Qt::Key_Enter, this))
+{
+    // As large as its contents, which grow and shrink with the drawer.
+    layout()->setSizeConstraint(QLayout::SetFixedSize);
+    setAcceptDrops(true);
+    for (QShortcut *shortcut : {_return, _enter}) {
+        shortcut->setAutoRepeat(false);
+        connect(shortcut, &QShortcut::activated, this, &WufferWindow::returnPressed);
+    }
+}
+
+void WufferWindow::setReturnShortcutEnabled(bool enabled)
+{
+    _return->setEnabled(enabled);
+    _enter->setEnabled(enabled);
+}
+
+void WufferWindow::setVisible(bool visible)
+{
+    if (visible && !isVisible())
+        fitToContents();
+    QMainWindow::setVisible(visible);
+}
+
+QPoint WufferWindow::cascadeTopLeftFromPoint(QPoint topLeft)
+{
+    fitToContents();
+    move(topLeft);
+    return nextCascadePoint(topLeft, size() + decorations(), screen()->availableGeometry());
+}
+
+QPoint WufferWindow::nextCascadePoint(QPoint topLeft, QSize window, const QRect &room)
+{
+    const QPoint next = topLeft + QPoint(kCascadeStep, kCascadeStep);
+    return room.contains(QRect(next, window)) ? next : room.topLeft();
+}
+
+void WufferWindow::saveFrameUsingName(const QString &name) const
+{
+    UserDefaults &defaults = UserDefaults::standardUserDefaults();
+    QVariantMap places = defaults.dictionaryForKey(kPlacesKey);
+    places[name] = WindowPlace::record(pos());
+    defaults.setObject(places, kPlacesKey);
+}
+
+void WufferWindow::setFrameUsingName(const QString &name)
+{
+    const QVariantMap places = UserDefaults::standardUserDefaults().dictionaryForKey(kPlacesKey);
+    const std::optional<QPoint> place =
+        WindowPlace::fromRecord(PropertyList::dictionaryFrom(places[name]));
+    if (!place)
+        return;
+    QList<QRect> rooms;
+    for (const QScreen *each : QGuiApplication::screens())
+        rooms.append(each->availableGeometry());
+    fitToContents();
+    move(WindowPlace::reachable(*place, size() + decorations(), rooms));
+}
+
+bool WufferWindow::event(QEvent *event)
+{
+    // A sheet that comes up meanwhile keeps the release to itself.
+    if (event->type() == QEvent::WindowBlocked)
+        _pressedAt.reset();
+    return QMainWindow::event(event);
+}
+
+bool WufferWindow::focusNextPrevChild(bool next)
+{
+    const QWidget *left = focusWidget();
+    const bool lost = left && !(left->isEnabled() && left->isVisibleTo(this));
+    const bool moved = QMainWindow::focusNextPrevChild(next);
+    return moved && lost && focusWidget() == _spared ? QMainWindow::focusNextPrevChild(next)
+                                                     : moved;
+}
+
+void WufferWindow::closeEvent(QCloseEvent *event)
+{
+    // A drag does not survive the window that it comes from, nor the one that it is over.
+    if (_drag || _hovering)
+        QDrag::cancel();
+    Q_EMIT willClose();
+    event->accept();
+}
+
+void WufferWindow::fitToContents()
+{
+    ensurePolished();
+    layout()->activate();
+}
