@@ -19,12 +19,12 @@ double Clock::inSteps(double seconds)
     return std::isnan(seconds) ? 0.0 : std::floor(seconds * stepsPerSecond) / stepsPerSecond;
 }
 
-int Clock::Group::ticksLetOff() const
+int Clock::Group::ticksToSkip() const
 {
     int ticks = std::numeric_limits<int>::max();
     for (const ClockTimer *member : members) {
         if (member)
-            ticks = std::min(ticks, std::max(0, member->_letOff));
+            ticks = std::min(ticks, std::max(0, member->_toSkip));
     }
     return ticks == std::numeric_limits<int>::max() ? 0 : ticks;
 }
@@ -35,7 +35,7 @@ void Clock::Group::count(int ticks)
         if (!member)
             continue;
         member->_ticks += ticks;
-        member->_letOff -= ticks;
+        member->_toSkip -= ticks;
     }
 }
 
@@ -62,7 +62,7 @@ void Clock::fireDueTimers()
         // An event loop inside an action has given the others their turn.
         if (group->due() > moment)
             continue;
-        const int ticks = group->ticksLetOff() + 1;
+        const int ticks = group->ticksToSkip() + 1;
         group->tick = tickAfter(*group, moment);
         group->count(ticks);
         nextDueChanged();
@@ -78,7 +78,7 @@ double Clock::tickAfter(const Group &group, double moment)
         return std::numeric_limits<double>::infinity();
     // A tick that was missed is not made up for: the next one is the first still to come.
     const double passed = std::floor((moment - group.tick) / group.interval);
-    const double ticks = std::max<double>(passed, group.ticksLetOff()) + 1;
+    const double ticks = std::max<double>(passed, group.ticksToSkip()) + 1;
     return group.tick + ticks * group.interval;
 }
 
@@ -89,8 +89,8 @@ void Clock::countTicksSlept(Group &group) const
         return;
     // Only those that nobody was to be woken for; a tick that is late has yet to come.
     const double passed = std::floor((moment - group.tick) / group.interval) + 1;
-    const int letOff = group.ticksLetOff();
-    const int ticks = passed < letOff ? static_cast<int>(passed) : letOff;
+    const int toSkip = group.ticksToSkip();
+    const int ticks = passed < toSkip ? static_cast<int>(passed) : toSkip;
     group.tick += ticks * group.interval;
     group.count(ticks);
 }
@@ -101,9 +101,9 @@ void Clock::fire(Group &group)
     const std::size_t count = group.members.size();
     for (std::size_t i = 0; i < count; ++i) {
         ClockTimer *timer = group.members[i];
-        if (!timer || timer->_letOff >= 0)
+        if (!timer || timer->_toSkip >= 0)
             continue;
-        timer->_letOff = 0;
+        timer->_toSkip = 0;
         timer->_ticksOfFiring = std::exchange(timer->_ticks, 0);
         if (group.interval == kOnce)
             remove(*timer);
@@ -136,18 +136,18 @@ void Clock::remove(ClockTimer &timer)
     for (Group &group : _groups)
         std::ranges::replace(group.members, &timer, static_cast<ClockTimer *>(nullptr));
     timer._active = false;
-    timer._letOff = 0;
+    timer._toSkip = 0;
     timer._ticks = 0;
     tidy();
 }
 
-void Clock::letOff(ClockTimer &timer, int ticks)
+void Clock::skipTicks(ClockTimer &timer, int ticks)
 {
     Group *group = groupOf(timer);
-    if (!group || group->interval == kOnce || timer._letOff == ticks)
+    if (!group || group->interval == kOnce || timer._toSkip == ticks)
         return;
     countTicksSlept(*group);
-    timer._letOff = ticks;
+    timer._toSkip = ticks;
     if (_firing == 0)
         nextDueChanged();
 }

@@ -48,14 +48,14 @@ private:
     /// that whatever a timer does to the others leaves the walk over them intact.
     struct Group
     {
-        /// The next tick of the beat, which all members may have let off.
+        /// The next tick, which all members may be about to skip.
         double tick;
         double interval;
         std::vector<ClockTimer *> members;
 
         /// How many ticks pass until the first at which a member is to fire.
-        [[nodiscard]] int ticksLetOff() const;
-        [[nodiscard]] double due() const { return tick + ticksLetOff() * interval; }
+        [[nodiscard]] int ticksToSkip() const;
+        [[nodiscard]] double due() const { return tick + ticksToSkip() * interval; }
         /// Counts so many ticks for every member.
         void count(int ticks);
     };
@@ -63,7 +63,7 @@ private:
     void addRepeating(ClockTimer &timer, double interval);
     void addOneShot(ClockTimer &timer, double delay);
     void remove(ClockTimer &timer);
-    void letOff(ClockTimer &timer, int ticks);
+    void skipTicks(ClockTimer &timer, int ticks);
     [[nodiscard]] Group *groupOf(const ClockTimer &timer);
     [[nodiscard]] static double tickAfter(const Group &group, double moment);
     void countTicksSlept(Group &group) const;

@@ -18,10 +18,10 @@ void ClockTimer::startOnce(double delay)
     Service<Clock>::current().addOneShot(*this, delay > 0 ? delay : 0);
 }
 
-void ClockTimer::letOff(int ticks)
+void ClockTimer::skipTicks(int ticks)
 {
     if (_active)
-        Service<Clock>::current().letOff(*this, std::max(0, ticks));
+        Service<Clock>::current().skipTicks(*this, std::max(0, ticks));
 }
 
 void ClockTimer::invalidate()

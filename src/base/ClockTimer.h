@@ -23,13 +23,12 @@ public:
     /// Fires once, so many seconds from now; at the next opportunity if that is not positive.
     void startOnce(double delay);
 
-    /// Lets the timer off so many of the next ticks of its beat, in place of those that it was let
-    /// off before; 0 calls it back for the next one. The process sleeps over ticks that all timers
-    /// of the interval are let off. Nothing happens to a timer that is not repeating.
-    void letOff(int ticks);
+    /// Skips so many of the next ticks of its interval, in place of those that it was to skip
+    /// before; with 0 it fires at the next one. The process sleeps through ticks that all timers
+    /// of the interval skip. Nothing happens to a timer that is not repeating.
+    void skipTicks(int ticks);
 
-    /// How many ticks of the beat the last firing stands for: itself and those that the timer was
-    /// let off before it.
+    /// How many ticks the last firing stands for: its own and those that were skipped before it.
     [[nodiscard]] int ticks() const { return _ticksOfFiring; }
 
     /// Makes the timer idle. Harmless when it is.
@@ -44,7 +43,7 @@ private:
     std::function<void()> _action;
     bool _active = false;
     /// How many ticks are yet to pass before it fires; below 0 while it is about to.
-    int _letOff = 0;
+    int _toSkip = 0;
     /// Ticks since it last fired.
     int _ticks = 0;
     int _ticksOfFiring = 0;

@@ -1,6 +1,7 @@
 #include "rules/Preset.h"
 
 #include "base/Integers.h"
+#include "rules/FinishActions.h"
 #include "rules/TimeFormat.h"
 #include "rules/TimerSettings.h"
 #include "rules/TimerTexts.h"
@@ -17,7 +18,8 @@ QVariantMap Preset::defaultRecord(qint32 number)
         {QStringLiteral("hours"), 0},
         {QStringLiteral("minutes"), wrappedToInteger(number * minutesPerNumber)},
         {QStringLiteral("seconds"), 0},
-        {QStringLiteral("finishOption"), kWufferFinishedNothing.toString()},
+        {QStringLiteral("finishOption"),
+         FinishActions::row(FinishAction::Nothing).stored.toString()},
         {QStringLiteral("title"), QStringLiteral("Preset %1").arg(number)},
     };
 }
