@@ -13,6 +13,7 @@ class QLineEdit;
 class QMainWindow;
 class SoundPreviews;
 class WebbyComboBox;
+enum class SoundEntry;
 
 namespace Ui
 {
@@ -100,7 +101,10 @@ private:
     void selectStoredSound(const Kind &kind);
     void selectAndReport(WebbyComboBox &combo, const QString &dataObject);
     void selectAnotherSound(const Kind &kind);
-    void storeSound(const Kind &kind);
+    /// Carries out what one of the entries stands for that are not files.
+    void carryOut(SoundEntry entry, const Kind &kind);
+    /// Makes the file the sound in use, if it is in the library and can be played.
+    void storeFile(const Kind &kind, const QString &path);
 
     QWidget *_window;
     std::unique_ptr<Ui::Preferences> _ui;

@@ -4,8 +4,6 @@
 #include "base/Sound.h"
 #include "base/UserDefaults.h"
 #include "preferences/Preferences.h"
-#include "rules/PreferenceTexts.h"
-#include "rules/TimerTexts.h"
 #include "sounds/SoundCombos.h"
 #include "sounds/SoundPreviews.h"
 #include "ui_Preferences.h"
@@ -39,24 +37,20 @@ struct Preferences::Kind
     ElidedLabel &label;
     QLabel &missingWord;
     ElidedLabel &missingLabel;
-    QStringView builtInSound;
+    SoundEntry builtInSound;
     QString key;
 };
 
 Preferences::Kind Preferences::alarm() const
 {
     return {*_ui->_alarmCombo,        *_ui->_alarmLabel, *_ui->_alarmMissingWord,
-            *_ui->_alarmMissingLabel, kWuffSound,        QStringLiteral("alarmPath")};
+            *_ui->_alarmMissingLabel, SoundEntry::Wuff,  QStringLiteral("alarmPath")};
 }
 
 Preferences::Kind Preferences::countdown() const
 {
-    return {*_ui->_countdownCombo,
-            *_ui->_countdownLabel,
-            *_ui->_countdownMissingWord,
-            *_ui->_countdownMissingLabel,
-            kCrowSound,
-            QStringLiteral("countdownPath")};
+    return {*_ui->_countdownCombo,        *_ui->_countdownLabel, *_ui->_countdownMissingWord,
+            *_ui->_countdownMissingLabel, SoundEntry::Crow,      QStringLiteral("countdownPath")};
 }
 
 Preferences::Kind Preferences::kindAt(QPoint place) const
@@ -157,7 +151,7 @@ void Preferences::refreshSoundTitles()
 {
     for (const Kind &kind : {alarm(), countdown()}) {
         const QString path = storedPath(kind.key);
-        kind.label.setText(path.isEmpty() ? kind.builtInSound.toString()
+        kind.label.setText(path.isEmpty() ? SoundEntries::shownText(kind.builtInSound)
                                           : SoundHistory::displayTitle(path));
         kind.label.setToolTip(SoundCombos::toolTip(path));
     }
@@ -168,7 +162,8 @@ void Preferences::populateComboBoxes()
     const QSignalBlocker quietAlarm(_ui->_alarmCombo);
     const QSignalBlocker quietCountdown(_ui->_countdownCombo);
     for (const Kind &kind : {alarm(), countdown()})
-        SoundCombos::fill(kind.combo, kind.builtInSound, {kSelectAnotherSound, kClearCustomSounds});
+        SoundCombos::fill(kind.combo, kind.builtInSound,
+                          {SoundEntry::SelectAnother, SoundEntry::ClearCustom});
     for (const Kind &kind : {alarm(), countdown()})
         selectStoredSound(kind);
 }
@@ -189,7 +184,7 @@ void Preferences::selectStoredSound(const Kind &kind)
         showSoundTab();
         Service<Desktop>::current().beep();
     }
-    kind.combo.selectItemWithDataObjectValue(kind.builtInSound.toString());
+    SoundCombos::select(kind.combo, kind.builtInSound);
 }
 
 void Preferences::comboBoxSelectionDidChange(WebbyComboBox *combo)
@@ -198,24 +193,39 @@ void Preferences::comboBoxSelectionDidChange(WebbyComboBox *combo)
         return;
     _previews->stop();
     const Kind kind = combo == _ui->_alarmCombo ? alarm() : countdown();
-    // Not by the text that is shown: a file may be called like anything.
-    const QString selected = combo->dataObjectOfSelectedItem().value_or(QString());
-    UserDefaults &defaults = UserDefaults::standardUserDefaults();
     const QString before = storedPath(kind.key);
-    if (selected == kSelectAnotherSound)
-        selectAnotherSound(kind);
-    else if (selected == kClearCustomSounds)
-        clearSoundHistory();
-    else if (selected == kCrowSound)
-        defaults.removeObjectForKey(QStringLiteral("countdownPath"));
-    else if (selected == kWuffSound)
-        defaults.removeObjectForKey(QStringLiteral("alarmPath"));
-    else if (SoundCombos::storedHistory().contains(selected) && soundFileIsValid(selected))
-        defaults.setObject(selected, kind.key);
+    if (const std::optional<SoundEntry> entry = SoundCombos::selectedEntry(*combo))
+        carryOut(*entry, kind);
+    else
+        storeFile(kind, combo->dataObjectOfSelectedItem().value_or(QString()));
     if (storedPath(kind.key) != before)
         showMissing(kind, {});
     sendChangedNotification();
     refreshSoundTitles();
+}
+
+void Preferences::carryOut(SoundEntry entry, const Kind &kind)
+{
+    UserDefaults &defaults = UserDefaults::standardUserDefaults();
+    switch (entry) {
+    case SoundEntry::Wuff:
+        return defaults.removeObjectForKey(QStringLiteral("alarmPath"));
+    case SoundEntry::Crow:
+        return defaults.removeObjectForKey(QStringLiteral("countdownPath"));
+    case SoundEntry::SelectAnother:
+        return selectAnotherSound(kind);
+    case SoundEntry::ClearCustom:
+        return clearSoundHistory();
+    case SoundEntry::Manage:
+        // Only the timers offer it.
+        return;
+    }
+}
+
+void Preferences::storeFile(const Kind &kind, const QString &path)
+{
+    if (SoundCombos::storedHistory().contains(path) && soundFileIsValid(path))
+        UserDefaults::standardUserDefaults().setObject(path, kind.key);
 }
 
 void Preferences::selectAnotherSound(const Kind &kind)
@@ -225,7 +235,7 @@ void Preferences::selectAnotherSound(const Kind &kind)
         selectAndReport(kind.combo, *path);
     } else if (!_programEnds()) {
         // The end of the program closes the panel, too, and is no choice of a sound.
-        selectAndReport(kind.combo, kind.builtInSound.toString());
+        selectAndReport(kind.combo, SoundEntries::row(kind.builtInSound).stored.toString());
     }
 }
 

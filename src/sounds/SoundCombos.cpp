@@ -17,17 +17,33 @@ QString SoundCombos::toolTip(const QString &path)
     return path.isEmpty() ? QString() : Qt::convertFromPlainText(path);
 }
 
-void SoundCombos::fill(WebbyComboBox &combo, QStringView builtInSound,
-                       std::initializer_list<QStringView> commands)
+/// Appends the entry: what stands for it is stored, what is shown may be translated.
+static void append(WebbyComboBox &combo, SoundEntry entry)
+{
+    combo.addDataObject(SoundEntries::row(entry).stored.toString(), SoundEntries::shownText(entry));
+}
+
+void SoundCombos::fill(WebbyComboBox &combo, SoundEntry builtInSound,
+                       std::initializer_list<SoundEntry> commands)
 {
     combo.removeAllItems();
-    combo.addItemWithObjectValue(builtInSound.toString());
+    append(combo, builtInSound);
     const SoundHistory history = storedHistory();
     for (const QString &path : history.paths()) {
         combo.addDataObject(path, SoundHistory::displayTitle(path));
         // Files of the same name are told apart by where they lie.
         combo.setItemData(combo.count() - 1, toolTip(path), Qt::ToolTipRole);
     }
-    for (const QStringView command : commands)
-        combo.addItemWithObjectValue(command.toString());
+    for (const SoundEntry command : commands)
+        append(combo, command);
+}
+
+void SoundCombos::select(WebbyComboBox &combo, SoundEntry builtInSound)
+{
+    combo.selectItemWithDataObjectValue(SoundEntries::row(builtInSound).stored.toString());
+}
+
+std::optional<SoundEntry> SoundCombos::selectedEntry(const WebbyComboBox &combo)
+{
+    return SoundEntries::fromStored(combo.dataObjectOfSelectedItem().value_or(QString()));
 }

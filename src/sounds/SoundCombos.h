@@ -1,10 +1,10 @@
 #pragma once
 
+#include "rules/SoundEntries.h"
 #include "rules/SoundHistory.h"
 
-#include <QStringView>
-
 #include <initializer_list>
+#include <optional>
 
 class WebbyComboBox;
 
@@ -19,6 +19,12 @@ namespace SoundCombos
 
 /// Empties the box and lists the built-in sound, the user's own, newest first, and the commands.
 /// Nothing is selected afterwards.
-void fill(WebbyComboBox &combo, QStringView builtInSound,
-          std::initializer_list<QStringView> commands);
+void fill(WebbyComboBox &combo, SoundEntry builtInSound,
+          std::initializer_list<SoundEntry> commands);
+
+/// Selects a built-in sound. Nothing happens where it is not listed.
+void select(WebbyComboBox &combo, SoundEntry builtInSound);
+
+/// The built-in sound or the command that is selected; nothing for a file and for no selection.
+[[nodiscard]] std::optional<SoundEntry> selectedEntry(const WebbyComboBox &combo);
 } // namespace SoundCombos
