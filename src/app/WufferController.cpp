@@ -17,6 +17,7 @@
 #include "platform/StatusItem.h"
 #include "platform/WindowOrder.h"
 #include "preferences/Preferences.h"
+#include "rules/LaunchChoices.h"
 #include "rules/PreferenceTexts.h"
 #include "timer/Wuffer.h"
 #include "timer/WufferWindow.h"
@@ -64,31 +65,31 @@ void WufferController::awakeFromNib(LaunchOrder order)
 }
 
 /// What opens at this launch.
-static QString launchChoice(LaunchOrder order)
+static const LaunchChoices::Row &launchChoice(LaunchOrder order)
 {
     switch (order) {
     case LaunchOrder::NewTimer:
-        return kLaunchTimer.toString();
+        return LaunchChoices::fromStored(kLaunchTimer);
     case LaunchOrder::Preferences:
     case LaunchOrder::Converter:
-        return kLaunchNothing.toString();
+        return LaunchChoices::fromStored(kLaunchNothing);
     default:
-        return UserDefaults::standardUserDefaults()
-            .stringForKey(QStringLiteral("launchBehavior"))
-            .value_or(QString());
+        return LaunchChoices::fromStored(UserDefaults::standardUserDefaults()
+                                             .stringForKey(QStringLiteral("launchBehavior"))
+                                             .value_or(QString()));
     }
 }
 
 void WufferController::openAtLaunch(LaunchOrder order)
 {
-    const QString choice = launchChoice(order);
-    if (choice == kLaunchNothing)
+    const LaunchChoices::Row &choice = launchChoice(order);
+    if (!choice.opensTimer)
         return;
-    const bool preset = choice == kLaunchPreset || choice == kLaunchAndStartPreset;
     createNewWuffer();
     newestWuffer()->loadSettingsFromDefaultsWithKey(
-        preset ? Wuffer::keyForPreset(1) : QStringLiteral("defaultWufferSettings"), true);
-    if (choice == kLaunchAndStartPreset)
+        choice.takesPreset ? Wuffer::keyForPreset(1) : QStringLiteral("defaultWufferSettings"),
+        true);
+    if (choice.starts)
         newestWuffer()->goPressed();
 }
 

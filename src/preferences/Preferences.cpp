@@ -5,6 +5,7 @@
 #include "controls/PickFromList.h"
 #include "platform/WindowOrder.h"
 #include "preferences/SoundDrop.h"
+#include "rules/LaunchChoices.h"
 #include "rules/PreferenceTexts.h"
 #include "sounds/SoundPreviews.h"
 #include "ui_Preferences.h"
@@ -46,9 +47,8 @@ void Preferences::awakeFromNib()
     NotificationCenter &center = NotificationCenter::defaultCenter();
     center.addObserver(*this, QStringLiteral("manageSoundsNotification"),
                        [this](QObject *) { showSoundTab(); });
-    for (const QStringView choice :
-         {kLaunchTimer, kLaunchNothing, kLaunchPreset, kLaunchAndStartPreset})
-        _ui->_launchCombobox->addItemWithObjectValue(choice.toString());
+    for (const LaunchChoices::Row &row : LaunchChoices::rows())
+        _ui->_launchCombobox->addDataObject(row.stored.toString(), LaunchChoices::shownText(row));
     center.addObserver(*this, QStringLiteral("ClickableImageViewClicked"),
                        [this](QObject *) { toggleMute(); });
     loadPreferences();
@@ -88,9 +88,9 @@ void Preferences::loadPreferences()
     load(*_ui->_disableMenuBarCheckbox, QStringLiteral("noStatusBar"));
 
     const UserDefaults &defaults = UserDefaults::standardUserDefaults();
-    _ui->_launchCombobox->selectItemWithDataObjectValue(kLaunchTimer.toString());
-    _ui->_launchCombobox->selectItemWithDataObjectValue(
+    const LaunchChoices::Row &launch = LaunchChoices::fromStored(
         defaults.stringForKey(QStringLiteral("launchBehavior")).value_or(QString()));
+    _ui->_launchCombobox->selectItemWithDataObjectValue(launch.stored.toString());
 
     const QString text = defaults.stringForKey(QStringLiteral("finishedText")).value_or(QString());
     _ui->_finishedText->setText(text.isEmpty() ? kFinishedTextDefault.toString() : text);
@@ -107,7 +107,8 @@ void Preferences::savePreferences()
     save(*_ui->_autoStartPresetsCheckbox, QStringLiteral("autoStartPresets"));
     save(*_ui->_disableGrowlCheckbox, QStringLiteral("growlDisabled"));
     save(*_ui->_disableMenuBarCheckbox, QStringLiteral("noStatusBar"));
-    defaults.setObject(_ui->_launchCombobox->currentText(), QStringLiteral("launchBehavior"));
+    defaults.setObject(_ui->_launchCombobox->dataObjectOfSelectedItem().value_or(QString()),
+                       QStringLiteral("launchBehavior"));
     sendChangedNotification();
 }
 
