@@ -3,7 +3,6 @@
 #include "base/NotificationCenter.h"
 #include "controls/PickFromList.h"
 #include "controls/PressThrough.h"
-#include "rules/RunTimes.h"
 #include "rules/TimeFormat.h"
 #include "rules/TimerTexts.h"
 #include "sounds/SoundPreviews.h"
@@ -154,8 +153,8 @@ QString Wuffer::statusString() const
 {
     if (!_displayRest.isResting())
         return _ui->_resultLabel->text();
-    const RunTimes times = timesAt(Date::now().addingTimeInterval(-kRunTick));
-    return TimeFormat::stringForTime(_stopwatch ? times.elapsed : times.remaining);
+    const RunTimes times = _run.timesAt(Date::now().addingTimeInterval(-kRunTick));
+    return TimeFormat::stringForTime(_run.counted(times));
 }
 
 QAbstractButton &Wuffer::goButton() const

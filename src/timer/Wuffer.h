@@ -1,10 +1,11 @@
 #pragma once
 
 #include "base/ClockTimer.h"
-#include "base/Date.h"
 #include "base/Sound.h"
 #include "rules/AlarmNotification.h"
 #include "rules/DisplayRest.h"
+#include "rules/FinishActions.h"
+#include "rules/TimerRun.h"
 #include "timer/TimerColors.h"
 
 #include <QObject>
@@ -18,7 +19,6 @@ class QAbstractButton;
 class QAction;
 class QComboBox;
 class QLineEdit;
-struct RunTimes;
 class SoundPreviews;
 class TargetTimeSheet;
 class TimeEntry;
@@ -50,9 +50,9 @@ public:
 
     [[nodiscard]] WufferWindow *window() const { return _window.get(); }
     /// Started and not closed; a timer in its alarm phase counts as running.
-    [[nodiscard]] bool isRunning() const { return _timerStarted && !_closed; }
+    [[nodiscard]] bool isRunning() const { return _run.isStarted() && !_closed; }
     /// When the run ends: the distant future for a stopwatch, nothing before the first start.
-    [[nodiscard]] std::optional<Date> targetDate() const { return _targetDate; }
+    [[nodiscard]] std::optional<Date> targetDate() const { return _run.targetDate(); }
     /// The name typed by the user, or "Wuffer".
     [[nodiscard]] QString title() const;
     /// The name with the duration set: "Tea - 0h 5m 0s".
@@ -123,7 +123,7 @@ public:
     /// Posts the desktop notification that tells of the end.
     void showGrowlNotification();
 
-    // Full screen and windows: app/WufferPresentation.cpp.
+    // Full screen and windows: WufferPresentation.cpp.
 
     /// Moves the display onto the screen that the user looks at, the pointer hidden, or back.
     void setFullScreenMode(bool fullScreen);
@@ -144,7 +144,7 @@ public:
     /// Whether the menu item with this operation is enabled; retitles what follows the state.
     [[nodiscard]] bool validateMenuItem(QAction &item, Operation action) const;
 
-    // Settings: settings/WufferSettings.cpp.
+    // Settings: WufferSettings.cpp.
 
     /// Keeps the settings of this timer and the place of its window under the key.
     void storeSettingsInDefaultsWithKey(const QString &key);
@@ -154,7 +154,7 @@ public:
     /// never exactly onto another timer's, if that is asked for, and shows it.
     void loadSettingsFromDefaultsWithKey(const QString &key, bool moveWindow);
 
-    // Presets: settings/WufferPresets.cpp.
+    // Presets: WufferPresets.cpp.
 
     /// The key of a preset in the settings: "Preset 3". Any number will do.
     [[nodiscard]] static QString keyForPreset(quint32 number);
@@ -166,7 +166,7 @@ public:
     void setPresetColor();
     void removePresetColor();
 
-    // Finish actions: settings/WufferFinishActions.cpp.
+    // Finish actions: WufferFinishActions.cpp.
 
     /// Fills the finish combo with what can follow the end, and selects "Do Nothing".
     void populateFinishedCombo();
@@ -181,7 +181,7 @@ public:
     /// Explains the finish actions.
     void getFinishingHelp();
 
-    // Chains, known to both ends of each link and never a circle: settings/WufferChain.cpp.
+    // Chains, known to both ends of each link and never a circle: WufferChain.cpp.
 
     /// The timer that this one starts when it has finished, and the one that starts it; or null.
     [[nodiscard]] Wuffer *getTargetWuffer() const { return _targetWuffer; }
@@ -204,7 +204,7 @@ public:
     void refreshChainStatus();
     void refreshChainStatusForAllChainedWuffers();
 
-    // Global settings: preferences/WufferGlobalSettings.cpp.
+    // Global settings: WufferGlobalSettings.cpp.
 
     /// Takes over the settings that hold for all timers.
     void loadGlobalSettings();
@@ -235,8 +235,7 @@ private:
     void timerDone();
     void wuffLoop();
     void beepIfDue(double remaining);
-    void letOffIdleTicks();
-    [[nodiscard]] RunTimes timesAt(Date moment) const;
+    void skipIdleTicks();
     void setRunningControls(bool running, const QString &goTitle);
     void postStatusChanged();
     void windowWillClose();
@@ -250,14 +249,17 @@ private:
     void disableReturnShortcut();
     void comboBoxSelectionDidChange(QComboBox &combo);
     void handleManageSounds(WebbyComboBox &combo);
-    [[nodiscard]] QString repeatSuffix() const;
+    /// How long the run was meant to last, with its pass where it loops.
+    [[nodiscard]] QString durationText() const;
     void setElapsedColor(TextColor color);
     [[nodiscard]] TimerSettings settings() const;
     void takeOver(const TimerSettings &settings);
     void showAsPreset(const TimerSettings &settings, const QString &key);
     void showPresetMark(const QString &name, const QString &origin);
     void restorePlace(const QString &key);
-    void selectFinishOption(QStringView option);
+    [[nodiscard]] const FinishActions::Row &finishAction() const;
+    void selectFinishAction(FinishAction action);
+    void fillFinishedPicker(FinishActions::Picker picker);
     void showLinks();
     void refreshKeepWuffingBox();
     void startChosenPreset();
@@ -274,12 +276,8 @@ private:
     std::unique_ptr<TimeEntry> _timeEntry;
     TextColor _titleColor = TextColor::Black;
     TextColor _elapsedColor = TextColor::Black;
-    bool _timerStarted = false;
-    std::optional<Date> _targetDate;
-    std::optional<Date> _startDate;
+    TimerRun _run;
     DisplayRest _displayRest;
-    /// Seconds that were left at the last countdown beep.
-    double _lastBeep = 0;
     ClockTimer _checkTimer{[this] { timerLoop(); }};
     ClockTimer _wuffTimer{[this] { wuffLoop(); }};
     /// Gives the Return key back a moment after it has ended the editing of the name.
@@ -289,19 +287,12 @@ private:
     AlarmNotification _alarmNotification{*this, [this] { return !_soundOff && !_disableGrowl; }};
     QString _finishedText;
     bool _energySaverActive = false;
-    bool _stopwatch = false;
     bool _soundOff = false;
     bool _suppressCountdown = false;
     /// Loaded with the others; who opens presets reads the setting itself.
     bool _autoStartPresets = false;
     bool _disableGrowl = false;
     bool _closed = false;
-    /// Which pass of a looping timer this is, from 1.
-    quint32 _repeatCount = 1;
-    /// Run ticks since the timer was made.
-    quint32 _refreshCount = 0;
-    /// The duration of the last countdown start, in whole seconds.
-    double _initialTimeLeft = 0;
     /// The timer that this one starts, and the one that starts it. Closing a window cuts the links.
     QPointer<Wuffer> _targetWuffer;
     QPointer<Wuffer> _reverseTargetWuffer;

@@ -23,12 +23,12 @@ void Wuffer::timerDone()
     _previews->stop();
     playDone();
     _checkTimer.invalidate();
+    _run.beginAlarm();
     _displayRest.setResting(false);
     setColorForDisplayText(TextColor::Red, true);
     setResultLabelText(_finishedText);
     _ui->_msLabel->setText({});
-    const double duration = _targetDate->timeIntervalSinceDate(*_startDate);
-    _ui->_elapsedLabel->setText(TimeFormat::stringForTime(duration) + repeatSuffix());
+    _ui->_elapsedLabel->setText(durationText());
     _wuffTimer.startRepeating(kAlarmTick);
     _ui->_goButton->setText(kGoButtonReset.toString());
     // What cannot be heard must be seen.
@@ -42,21 +42,20 @@ void Wuffer::timerDone()
 
 void Wuffer::wuffLoop()
 {
-    if (_soundOff && -_targetDate->timeIntervalSinceNow() < kMutedAlarm)
+    if (_soundOff && -_run.targetDate()->timeIntervalSinceNow() < kMutedAlarm)
         return;
     // In this phase the box alone decides, so that it can still be ticked and unticked.
     if (_doneSound)
         _doneSound->setLoops(_ui->_keepWuffingBox->isChecked());
 
-    const bool nothingFollows =
-        _ui->_finishedCombo->currentText() == kWufferFinishedNothing && !isChained();
+    const bool nothingFollows = finishAction().action == FinishAction::Nothing && !isChained();
     // A muted timer with nothing to do next waits, red, until the user has seen it.
     if (nothingFollows && _soundOff)
         return;
     if (!_soundOff && _doneSound && _doneSound->isPlaying())
         return;
     _wuffTimer.invalidate();
-    if (!_timerStarted)
+    if (!_run.isStarted())
         return;
 
     _alarmNotification.alarmEnded();
@@ -64,7 +63,7 @@ void Wuffer::wuffLoop()
     // Whoever was told of the stop may have closed the window.
     if (_closed)
         return;
-    if (_ui->_finishedCombo->currentText() != kWufferFinishedRestart)
+    if (finishAction().runs != FinishActions::Runs::ThisTimer)
         giveUpFullScreen();
     if (!nothingFollows)
         handleFinishedBehaviour();
@@ -72,7 +71,7 @@ void Wuffer::wuffLoop()
     Q_EMIT stateChanged();
 }
 
-QString Wuffer::repeatSuffix() const
+QString Wuffer::durationText() const
 {
-    return _repeatCount > 1 ? QStringLiteral(" (x%1)").arg(_repeatCount) : QString();
+    return TimeFormat::stringForTime(_run.duration()) + _run.repeatSuffix();
 }

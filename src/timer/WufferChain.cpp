@@ -41,7 +41,7 @@ void Wuffer::setTargetWuffer(Wuffer *timer)
     _targetWuffer = timer;
     if (timer) {
         timer->setTargeted(*this);
-        selectFinishOption(kWufferFinishedWuffer);
+        selectFinishAction(FinishAction::Wuffer);
         populateFinishedPickerComboWithChosenTargetWuffer();
         // An alarm that goes on would keep the chain waiting.
         refreshKeepWuffingBox();
@@ -66,8 +66,8 @@ void Wuffer::removeTargetWuffer()
 {
     if (const QPointer<Wuffer> old = std::exchange(_targetWuffer, nullptr))
         old->removeTargetingWuffer();
-    if (_ui->_finishedCombo->currentText() == kWufferFinishedWuffer) {
-        selectFinishOption(kWufferFinishedNothing);
+    if (finishAction().action == FinishAction::Wuffer) {
+        selectFinishAction(FinishAction::Nothing);
         handleFinishedComboChange();
     }
     refreshChainStatusForAllChainedWuffers();
@@ -94,7 +94,7 @@ void Wuffer::showLinks()
 void Wuffer::refreshChainStatus()
 {
     showLinks();
-    if (_timerStarted)
+    if (_run.isStarted())
         return;
     if (!isChained()) {
         setDefaultDisplayValues();

@@ -13,9 +13,9 @@ void Wuffer::windowWillClose()
             sound->stop();
     }
     // A running timer closes without a trace.
-    if (_timerStarted) {
+    if (_run.isStarted()) {
         _checkTimer.invalidate();
-        _timerStarted = false;
+        _run.stop(Date::now());
     } else {
         saveSettingsToDefaultKey();
         UserDefaults::standardUserDefaults().synchronize();

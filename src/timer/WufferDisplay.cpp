@@ -1,5 +1,4 @@
 #include "BuildInfo.h"
-#include "rules/RunTimes.h"
 #include "rules/TimeFormat.h"
 #include "rules/TimerTexts.h"
 #include "timer/DisplayFont.h"
@@ -30,7 +29,7 @@ void Wuffer::refreshDisplay(double remaining, double timeElapsed)
         setDefaultDisplayValues();
         return;
     }
-    if (_stopwatch) {
+    if (_run.isStopwatch()) {
         setResultLabelText(TimeFormat::stringForTime(timeElapsed));
         _ui->_elapsedLabel->setText(kStopwatchString.toString());
     } else {
@@ -38,13 +37,14 @@ void Wuffer::refreshDisplay(double remaining, double timeElapsed)
         _ui->_elapsedLabel->setText(timeElapsed == 0 ? QString()
                                                      : QStringLiteral("Elapsed: ") +
                                                            TimeFormat::stringForTime(timeElapsed) +
-                                                           repeatSuffix());
+                                                           _run.repeatSuffix());
     }
-    const double shown = _stopwatch ? timeElapsed : remaining;
-    _ui->_msLabel->setText(_energySaverActive ? QString() : TimeFormat::msStringForTime(shown));
+    const double counted = _run.counted({remaining, timeElapsed});
+    _ui->_msLabel->setText(_energySaverActive ? QString() : TimeFormat::msStringForTime(counted));
 
     // The text is looked at after it was written, so it is the name only if a time reads so.
-    const bool black = remaining > kRedSeconds || _stopwatch || statusString() == BuildInfo::name();
+    const bool black =
+        remaining > kRedSeconds || _run.isStopwatch() || statusString() == BuildInfo::name();
     setColorForDisplayText(black ? TextColor::Black : TextColor::Red, true);
 }
 
@@ -84,8 +84,8 @@ void Wuffer::windowExposed()
     const bool unseen = place != nullptr && !place->isExposed();
     if (!_displayRest.setUnseen(unseen))
         return;
-    _checkTimer.letOff(0);
-    const RunTimes times = timesAt(Date::now());
+    _checkTimer.skipTicks(0);
+    const RunTimes times = _run.timesAt(Date::now());
     refreshDisplay(times.remaining, times.elapsed);
 }
 

@@ -7,41 +7,32 @@
 #include "timer/Wuffer.h"
 #include "ui_Wuffer.h"
 
-#include <array>
-
-namespace
-{
-/// What can follow the end of a countdown, in the order of the list.
-constexpr std::array kFinishOptions{kWufferFinishedNothing, kWufferFinishedRestart,
-                                    kWufferFinishedPreset, kWufferFinishedWuffer};
-} // namespace
-
 void Wuffer::populateFinishedCombo()
 {
-    for (const QStringView option : kFinishOptions)
-        _ui->_finishedCombo->addItem(option.toString());
-    selectFinishOption(kWufferFinishedNothing);
+    for (const FinishActions::Row &row : FinishActions::rows())
+        _ui->_finishedCombo->addItem(FinishActions::shownText(row), int(row.action));
+    selectFinishAction(FinishAction::Nothing);
 }
 
-void Wuffer::selectFinishOption(QStringView option)
+const FinishActions::Row &Wuffer::finishAction() const
 {
-    // An unknown text is not found, and leaves nothing selected.
-    _ui->_finishedCombo->setCurrentIndex(_ui->_finishedCombo->findText(
-        option.toString(), Qt::MatchExactly | Qt::MatchCaseSensitive));
+    // With nothing selected the data is missing, and reads as the action None.
+    return FinishActions::row(FinishAction(_ui->_finishedCombo->currentData().toInt()));
+}
+
+void Wuffer::selectFinishAction(FinishAction action)
+{
+    // None is not found, and leaves nothing selected.
+    _ui->_finishedCombo->setCurrentIndex(_ui->_finishedCombo->findData(int(action)));
 }
 
 void Wuffer::handleFinishedComboChange()
 {
-    const QString option = _ui->_finishedCombo->currentText();
-    const bool linkWanted = option == kWufferFinishedWuffer;
-    if (option == kWufferFinishedPreset)
-        populateFinishedPickerComboWithPresets();
-    else if (linkWanted)
-        populateFinishedPickerComboWithChosenTargetWuffer();
-    else
-        _ui->_finishedPicker->hide();
+    const FinishActions::Picker picker = finishAction().picker;
+    const bool linkWanted = picker == FinishActions::Picker::Target;
+    fillFinishedPicker(picker);
     _ui->_linkButton->setVisible(linkWanted);
-    _ui->_linkButton->setEnabled(!_stopwatch);
+    _ui->_linkButton->setEnabled(!_run.isStopwatch());
 
     if (_ui->_finishedPicker->count() > 0 && _ui->_finishedPicker->currentIndex() < 0)
         _ui->_finishedPicker->setCurrentIndex(0);
@@ -52,14 +43,27 @@ void Wuffer::handleFinishedComboChange()
     Q_EMIT stateChanged();
 }
 
+void Wuffer::fillFinishedPicker(FinishActions::Picker picker)
+{
+    switch (picker) {
+    case FinishActions::Picker::None:
+        return _ui->_finishedPicker->hide();
+    case FinishActions::Picker::Presets:
+        return populateFinishedPickerComboWithPresets();
+    case FinishActions::Picker::Target:
+        return populateFinishedPickerComboWithChosenTargetWuffer();
+    }
+}
+
 void Wuffer::refreshKeepWuffingBox()
 {
     const bool mayKeepWuffing = shouldKeepWuffing() && !_soundOff;
     _ui->_keepWuffingBox->setEnabled(mayKeepWuffing);
     if (!mayKeepWuffing)
         _ui->_keepWuffingBox->setChecked(false);
-    const bool somethingFollows = _ui->_finishedCombo->currentText() != kWufferFinishedNothing;
-    ToolTip::set(*_ui->_keepWuffingBox, KeepWuffing::hint(_stopwatch, somethingFollows, _soundOff));
+    ToolTip::set(
+        *_ui->_keepWuffingBox,
+        KeepWuffing::hint(_run.isStopwatch(), !finishAction().allowsKeepWuffing, _soundOff));
 }
 
 void Wuffer::populateFinishedPickerComboWithPresets()
@@ -97,17 +101,21 @@ void Wuffer::populateFinishedPickerComboWithChosenTargetWuffer()
 
 void Wuffer::handleFinishedBehaviour()
 {
-    const QString option = _ui->_finishedCombo->currentText();
-    if (option == kWufferFinishedRestart) {
-        ++_repeatCount;
-        toggleRun();
+    const FinishActions::Runs runs = finishAction().runs;
+    if (runs == FinishActions::Runs::ThisTimer)
+        _run.countRepeat();
+    else
+        _run.resetRepeatCount();
+    switch (runs) {
+    case FinishActions::Runs::Nothing:
         return;
+    case FinishActions::Runs::ThisTimer:
+        return toggleRun();
+    case FinishActions::Runs::ChosenPreset:
+        return startChosenPreset();
+    case FinishActions::Runs::TargetTimer:
+        return startTargetWuffer();
     }
-    _repeatCount = 1;
-    if (option == kWufferFinishedPreset)
-        startChosenPreset();
-    else if (option == kWufferFinishedWuffer)
-        startTargetWuffer();
 }
 
 void Wuffer::startChosenPreset()

@@ -14,12 +14,12 @@ namespace
 {
 /// Fills the combo anew, keeping its selection where that is still listed. Before there was one,
 /// the sound of the preferences is selected.
-void refill(WebbyComboBox &combo, QStringView builtInSound, const QString &globalPath)
+void refill(WebbyComboBox &combo, SoundEntry builtInSound, const QString &globalPath)
 {
     const QSignalBlocker quiet(combo);
     const std::optional<QString> selected = combo.dataObjectOfSelectedItem();
-    SoundCombos::fill(combo, builtInSound, {kManageSounds});
-    combo.selectItemWithDataObjectValue(builtInSound.toString());
+    SoundCombos::fill(combo, builtInSound, {SoundEntry::Manage});
+    SoundCombos::select(combo, builtInSound);
     if (!globalPath.isEmpty())
         combo.selectItemWithDataObjectValue(globalPath);
     if (selected && !selected->isEmpty())
@@ -35,8 +35,8 @@ void Wuffer::loadGlobalSettings()
     _autoStartPresets = defaults.boolForKey(QStringLiteral("autoStartPresets"));
     _disableGrowl = defaults.boolForKey(QStringLiteral("growlDisabled"));
     _energySaverActive = defaults.boolForKey(QStringLiteral("energySaverMode"));
-    // It may have been let off ticks that it would work at now.
-    _checkTimer.letOff(0);
+    // It may be about to skip ticks at which it has to work now.
+    _checkTimer.skipTicks(0);
 
     const QString text = defaults.stringForKey(QStringLiteral("finishedText")).value_or(QString());
     _finishedText = text.isEmpty() ? kFinishedTextDefault.toString() : text;
@@ -63,14 +63,14 @@ void Wuffer::populateSoundCombos()
     const auto path = [&](const QString &key) {
         return defaults.stringForKey(key).value_or(QString());
     };
-    refill(*_ui->_alarmSoundCombo, kWuffSound, path(QStringLiteral("alarmPath")));
-    refill(*_ui->_countdownSoundCombo, kCrowSound, path(QStringLiteral("countdownPath")));
+    refill(*_ui->_alarmSoundCombo, SoundEntry::Wuff, path(QStringLiteral("alarmPath")));
+    refill(*_ui->_countdownSoundCombo, SoundEntry::Crow, path(QStringLiteral("countdownPath")));
     _previews->followChoices();
 }
 
 void Wuffer::handleManageSounds(WebbyComboBox &combo)
 {
-    if (combo.dataObjectOfSelectedItem() != kManageSounds)
+    if (SoundCombos::selectedEntry(combo) != SoundEntry::Manage)
         return;
     combo.setCurrentIndex(0);
     NotificationCenter::defaultCenter().postNotificationName(
@@ -79,7 +79,7 @@ void Wuffer::handleManageSounds(WebbyComboBox &combo)
 
 void Wuffer::refreshSoundComboEnabledness()
 {
-    const bool audible = !_soundOff && !_stopwatch;
+    const bool audible = !_soundOff && !_run.isStopwatch();
     _ui->_alarmSoundCombo->setEnabled(audible);
     _ui->_countdownSoundCombo->setEnabled(audible && !_suppressCountdown);
     _previews->setEnabled(audible, audible && !_suppressCountdown);

@@ -118,13 +118,13 @@ bool Wuffer::validateMenuItem(QAction &item, Operation action) const
     if (_closed)
         return false;
     if (action == &Wuffer::stopwatch) {
-        item.setText(_stopwatch ? QStringLiteral("Timer") : kStopwatchString.toString());
-        return !_timerStarted;
+        item.setText(_run.isStopwatch() ? QStringLiteral("Timer") : kStopwatchString.toString());
+        return !_run.isStarted();
     }
     if (action == &Wuffer::toggleKeepWuffing)
         return _ui->_keepWuffingBox->isEnabled();
     if (action == &Wuffer::targetTime)
-        return !_timerStarted;
+        return !_run.isStarted();
     if (action == &Wuffer::showHideAdvanced) {
         const Drawer::State drawer = _ui->_drawer->state();
         item.setText(
@@ -132,6 +132,6 @@ bool Wuffer::validateMenuItem(QAction &item, Operation action) const
         return true;
     }
     if (action == &Wuffer::startStopFullScreen)
-        return _timerStarted;
+        return _run.isStarted();
     return action == &Wuffer::resetWuffer || action == &Wuffer::showWufferWindow;
 }

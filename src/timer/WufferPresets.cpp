@@ -6,6 +6,13 @@
 #include "timer/Wuffer.h"
 #include "ui_Wuffer.h"
 
+/// Whether the elapsed line tells of a preset. Both texts that do, the key and "Saved to Preset 3",
+/// have the word in them.
+static bool tellsOfPreset(const QString &elapsedLine)
+{
+    return elapsedLine.contains(QStringLiteral("Preset"));
+}
+
 QString Wuffer::keyForPreset(quint32 number)
 {
     return Preset::key(number);
@@ -25,7 +32,7 @@ QString Wuffer::stringForPreset(qint32 number)
 
 void Wuffer::setPreset(qint32 number)
 {
-    if (_timerStarted || _stopwatch)
+    if (_run.isStarted() || _run.isStopwatch())
         return;
     const QString name = title();
     _ui->_titleField->setText(name);
@@ -55,7 +62,6 @@ void Wuffer::removePresetColor()
         if (_elapsedColor == TextColor::Blue)
             setElapsedColor(TextColor::Black);
     }
-    // Either text that tells of a preset has the word in it.
-    if (_ui->_elapsedLabel->text().contains(QStringLiteral("Preset")))
+    if (tellsOfPreset(_ui->_elapsedLabel->text()))
         _ui->_elapsedLabel->setText({});
 }

@@ -1,7 +1,5 @@
 #include "base/NotificationCenter.h"
-#include "rules/BeepSchedule.h"
 #include "rules/NumberText.h"
-#include "rules/RunTimes.h"
 #include "rules/TimeFields.h"
 #include "rules/TimerTexts.h"
 #include "sounds/SoundPreviews.h"
@@ -10,23 +8,16 @@
 #include "timer/WufferWindow.h"
 #include "ui_Wuffer.h"
 
-#include <cmath>
-
 namespace
 {
-/// Every so many run ticks the rest of the program is told, and an energy-saving timer works.
-constexpr quint32 kTicksPerStatus = 5;
 /// With fewer seconds left than this, every tick counts: for the beeps, and for the end.
 constexpr double kLastSeconds = 13.0;
 
-/// When a stopwatch that goes on from so many milliseconds must have begun.
-Date beginningOf(qint64 milliseconds, Date now)
+/// The number that the milliseconds label shows, from which a stopwatch goes on; 0 for the version
+/// and for nothing.
+qint32 shownMilliseconds(const Ui::Wuffer &controls)
 {
-    // Rounded up to whole steps of the clock: any earlier moment would do for the stopwatch, but
-    // a later one would show a millisecond less than it stopped at.
-    constexpr double stepsPerSecond = 1 << 20;
-    const double steps = std::ceil(static_cast<double>(milliseconds) / 1000.0 * stepsPerSecond);
-    return now.addingTimeInterval(-steps / stepsPerSecond);
+    return NumberText::integerFrom(controls._msLabel->text());
 }
 } // namespace
 
@@ -38,7 +29,7 @@ void Wuffer::goPressed()
 
 void Wuffer::toggleRun()
 {
-    if (_timerStarted)
+    if (_run.isStarted())
         stopRun();
     else
         startRun();
@@ -59,28 +50,16 @@ void Wuffer::startRun()
     _previews->stop();
     _wuffTimer.invalidate();
     setColorForDisplayText(TextColor::Black, false);
-    _timerStarted = true;
 
     _timeEntry->settle();
-    const qint32 total = TimeFields::total(hours(), minutes(), seconds());
     const Date now = Date::now();
-    if (_stopwatch) {
-        const qint64 milliseconds = NumberText::integerFrom(_ui->_msLabel->text());
-        _startDate = beginningOf(qint64(total) * 1000 + milliseconds, now);
-        _targetDate = Date::distantFuture();
-    } else {
-        _startDate = now;
-        _targetDate = now.addingTimeInterval(total);
-        _initialTimeLeft = total;
-    }
-
+    _run.start(TimeFields::total(hours(), minutes(), seconds()), shownMilliseconds(*_ui), now);
     setRunningControls(true, kGoButtonStop.toString());
     _checkTimer.startRepeating(kRunTick);
-    _lastBeep = BeepSchedule::kNoBeepYet;
-    const RunTimes times = timesAt(now);
+    const RunTimes times = _run.timesAt(now);
     refreshDisplay(times.remaining, times.elapsed);
     // A looping timer fills the screen on its first pass only.
-    if (_ui->_fullScreenBox->isChecked() && _repeatCount < 2) {
+    if (_ui->_fullScreenBox->isChecked() && _run.repeatCount() < 2) {
         _alarmNotification.expectActivation();
         setFullScreenMode(true);
     }
@@ -90,32 +69,28 @@ void Wuffer::stopRun()
 {
     _wuffTimer.invalidate();
     setColorForDisplayText(TextColor::Black, false);
-    _timerStarted = false;
-
-    const RunTimes times = timesAt(Date::now());
-    const double value = _stopwatch ? times.elapsed : times.remaining;
-    refreshDisplay(value, times.elapsed);
+    const TimerRun::Rest rest = _run.stop(Date::now());
+    refreshDisplay(rest.value, rest.times.elapsed);
     _checkTimer.invalidate();
     // What is left stays in the fields, so that the next start goes on from here.
-    if (value > 0)
-        setFieldsWithTimeLeft(value);
+    if (rest.value > 0)
+        setFieldsWithTimeLeft(rest.value);
     setRunningControls(false, kGoButtonStart.toString());
 }
 
 void Wuffer::timerLoop()
 {
-    _refreshCount += static_cast<quint32>(_checkTimer.ticks());
-    if (_refreshCount % kTicksPerStatus == 0) {
+    if (_run.countTicks(_checkTimer.ticks())) {
         postStatusChanged();
     } else if (_energySaverActive) {
-        letOffIdleTicks();
+        skipIdleTicks();
         return;
     }
     // Whoever was told may have stopped the timer.
     if (!_checkTimer.isValid())
         return;
 
-    const RunTimes times = timesAt(Date::now());
+    const RunTimes times = _run.timesAt(Date::now());
     if (_doneSound)
         _doneSound->setLoops(_ui->_keepWuffingBox->isChecked() && shouldKeepWuffing());
     if (times.remaining <= 0) {
@@ -124,54 +99,52 @@ void Wuffer::timerLoop()
     }
     beepIfDue(times.remaining);
     refreshDisplay(times.remaining, times.elapsed);
-    letOffIdleTicks();
+    skipIdleTicks();
 }
 
-RunTimes Wuffer::timesAt(Date moment) const
+void Wuffer::skipIdleTicks()
 {
-    return {_targetDate->timeIntervalSinceDate(moment), moment.timeIntervalSinceDate(*_startDate)};
-}
-
-void Wuffer::letOffIdleTicks()
-{
-    const bool rests = _displayRest.isUnseen() && timesAt(Date::now()).remaining > kLastSeconds;
+    const bool rests =
+        _displayRest.isUnseen() && _run.timesAt(Date::now()).remaining > kLastSeconds;
     _displayRest.setResting(rests && !_energySaverActive);
-    const quint32 others = kTicksPerStatus - 1 - _refreshCount % kTicksPerStatus;
-    _checkTimer.letOff(rests || _energySaverActive ? static_cast<int>(others) : 0);
+    _checkTimer.skipTicks(rests || _energySaverActive ? _run.ticksBeforeStatus() : 0);
 }
 
 void Wuffer::beepIfDue(double remaining)
 {
-    if (_suppressCountdown || !BeepSchedule::isDue(remaining, _lastBeep))
+    if (_suppressCountdown)
+        return;
+    const std::optional<float> volume = _run.takeBeep(remaining);
+    if (!volume)
         return;
     if (_beepSound)
-        _beepSound->setVolume(BeepSchedule::volume(remaining));
-    _lastBeep = remaining;
+        _beepSound->setVolume(*volume);
     playBeep();
 }
 
 void Wuffer::resetWuffer()
 {
     _alarmNotification.answer();
-    if (_timerStarted)
+    if (_run.isStarted())
         goPressed();
-    if (_stopwatch) {
+    if (_run.isStopwatch()) {
         setFieldsWithTimeLeft(0);
         // Out of the mode and into it again, which is what clears the display.
         stopwatch();
         stopwatch();
     } else {
-        setFieldsWithTimeLeft(_initialTimeLeft);
+        setFieldsWithTimeLeft(_run.initialTimeLeft());
         setDefaultDisplayValues();
     }
 }
 
 void Wuffer::stopwatch()
 {
-    if (_timerStarted)
+    if (_run.isStarted())
         return;
-    _stopwatch = !_stopwatch;
-    if (_stopwatch) {
+    const bool stopwatch = !_run.isStopwatch();
+    _run.setStopwatch(stopwatch);
+    if (stopwatch) {
         setFieldsWithTimeLeft(0);
         _ui->_elapsedLabel->setText(kStopwatchString.toString());
         _ui->_msLabel->setText({});
@@ -179,8 +152,8 @@ void Wuffer::stopwatch()
     } else {
         _ui->_elapsedLabel->setText({});
     }
-    _ui->_finishedCombo->setEnabled(!_stopwatch);
-    _ui->_finishedPicker->setEnabled(!_stopwatch);
+    _ui->_finishedCombo->setEnabled(!stopwatch);
+    _ui->_finishedPicker->setEnabled(!stopwatch);
     setColorForDisplayText(TextColor::Black, true);
     handleFinishedComboChange();
     refreshSoundComboEnabledness();
@@ -189,7 +162,7 @@ void Wuffer::stopwatch()
 
 bool Wuffer::shouldKeepWuffing() const
 {
-    return !_stopwatch && _ui->_finishedCombo->currentText() == kWufferFinishedNothing;
+    return !_run.isStopwatch() && finishAction().allowsKeepWuffing;
 }
 
 void Wuffer::toggleKeepWuffing()

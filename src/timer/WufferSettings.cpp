@@ -33,10 +33,10 @@ TimerSettings Wuffer::settings() const
     settings.seconds = seconds();
     settings.keepWuffing = _ui->_keepWuffingBox->isChecked();
     settings.fullScreen = _ui->_fullScreenBox->isChecked();
-    const QString option = _ui->_finishedCombo->currentText();
-    if (!option.isEmpty() && option != kWufferFinishedWuffer)
-        settings.finishOption = option;
-    if (option == kWufferFinishedPreset)
+    const FinishActions::Row &action = finishAction();
+    if (action.isStored)
+        settings.finishOption = action.stored.toString();
+    if (action.picker == FinishActions::Picker::Presets)
         settings.presetSelection = _ui->_finishedPicker->currentIndex();
     return settings;
 }
@@ -84,9 +84,9 @@ void Wuffer::takeOver(const TimerSettings &settings)
     _ui->_secondsField->setText(QString::number(settings.seconds));
     _ui->_keepWuffingBox->setChecked(settings.keepWuffing);
     _ui->_fullScreenBox->setChecked(settings.fullScreen);
-    selectFinishOption(settings.finishOption.value_or(QString()));
+    selectFinishAction(FinishActions::fromStored(settings.finishOption.value_or(QString())));
     handleFinishedComboChange();
-    if (_ui->_finishedCombo->currentText() == kWufferFinishedPreset)
+    if (finishAction().picker == FinishActions::Picker::Presets)
         _ui->_finishedPicker->setCurrentIndex(settings.presetSelection.value_or(0));
     _timeEntry->makeReady();
 }

@@ -1,5 +1,5 @@
 #include "rules/NotificationText.h"
-#include "rules/TimerTexts.h"
+#include "rules/SoundEntries.h"
 #include "sounds/SoundChoice.h"
 #include "timer/Wuffer.h"
 #include "ui_Wuffer.h"
@@ -16,14 +16,15 @@ bool asksForOther(const std::optional<QString> &path, const std::unique_ptr<Soun
 /// that cannot be opened leaves the last good sound in its place, or else the built-in one is
 /// taken, which also stands in for a file that breaks later.
 std::unique_ptr<Sound> newSound(const Wuffer &timer, const std::optional<QString> &path,
-                                QStringView builtIn, const std::unique_ptr<Sound> &last)
+                                SoundEntry builtIn, const std::unique_ptr<Sound> &last)
 {
     if (!asksForOther(path, last))
         return nullptr;
+    const SoundEntries::Row &row = SoundEntries::row(builtIn);
     std::unique_ptr<Sound> sound = timer.createSoundWithPath(*path);
     if (!sound || sound->duration() == 0)
-        return last ? nullptr : timer.createSoundWithPath(builtIn.toString());
-    sound->setStandIn(builtInSoundFile(builtIn));
+        return last ? nullptr : timer.createSoundWithPath(row.stored.toString());
+    sound->setStandIn(row.fileName.toString());
     return sound;
 }
 
@@ -46,7 +47,7 @@ void Wuffer::playDone()
     if (_soundOff)
         return;
     const std::optional<QString> path = _ui->_alarmSoundCombo->dataObjectOfSelectedItem();
-    if (std::unique_ptr<Sound> sound = newSound(*this, path, kWuffSound, _doneSound))
+    if (std::unique_ptr<Sound> sound = newSound(*this, path, SoundEntry::Wuff, _doneSound))
         _doneSound = std::move(sound);
     if (_doneSound)
         _doneSound->play();
@@ -59,7 +60,7 @@ void Wuffer::playBeep()
     if (_soundOff)
         return;
     const std::optional<QString> path = _ui->_countdownSoundCombo->dataObjectOfSelectedItem();
-    if (std::unique_ptr<Sound> sound = newSound(*this, path, kCrowSound, _beepSound)) {
+    if (std::unique_ptr<Sound> sound = newSound(*this, path, SoundEntry::Crow, _beepSound)) {
         _beepSound = std::move(sound);
         _beepSound->setVolume(volume);
     }
@@ -86,14 +87,14 @@ void Wuffer::showGrowlNotification()
 {
     const QString name = NotificationText::line(title());
     _alarmNotification.alarmBegan({.title = NotificationText::line(_finishedText),
-                                   .text = name + QStringLiteral(": ") + _ui->_elapsedLabel->text(),
+                                   .text = name + QStringLiteral(": ") + durationText(),
                                    .name = QStringLiteral("wuff"),
                                    .subject = name,
                                    .show = [this] { showWufferWindow(); },
                                    .stop =
                                        [this] {
                                            // Nothing to stop once the alarm is over.
-                                           if (_wuffTimer.isValid())
+                                           if (_run.state() == TimerRun::State::Alarm)
                                                goPressed();
                                        }});
 }

@@ -7,7 +7,7 @@
 
 void Wuffer::targetTime()
 {
-    if (_timerStarted)
+    if (_run.isStarted())
         return;
     if (!_targetTimeWindow) {
         _targetTimeWindow = std::make_unique<TargetTimeSheet>(*_window);

@@ -176,11 +176,11 @@ void tst_ClockTimer::ticksThatAllAreLetOffWakeNobody()
     ClockFixture f;
     ClockTimer first([&] {
         f.diary << QStringLiteral("first");
-        first.letOff(4);
+        first.skipTicks(4);
     });
     ClockTimer second([&] {
         f.diary << QStringLiteral("second");
-        second.letOff(9);
+        second.skipTicks(9);
     });
     first.startRepeating(0.1);
     second.startRepeating(0.1);
@@ -196,7 +196,7 @@ void tst_ClockTimer::aTimerThatIsLetOffFiresAtItsTickWhateverTheOthersNeed()
     ClockFixture f;
     ClockTimer rare([&] {
         f.diary << QStringLiteral("rare");
-        rare.letOff(2);
+        rare.skipTicks(2);
     });
     ClockTimer steady(f.writes("steady"));
     rare.startRepeating(0.1);
@@ -213,11 +213,11 @@ void tst_ClockTimer::aTimerThatIsCalledBackFiresAtTheNextTick()
     ClockFixture f;
     ClockTimer timer(f.writes("fired"));
     timer.startRepeating(0.1);
-    timer.letOff(8);
+    timer.skipTicks(8);
     f.clock.advance(0.35);
     QVERIFY(f.diary.isEmpty());
 
-    timer.letOff(0);
+    timer.skipTicks(0);
 
     f.clock.advance(0.04);
     QVERIFY(f.diary.isEmpty());
@@ -232,7 +232,7 @@ void tst_ClockTimer::aTimerThatJoinsSleepersTakesUpTheirBeat()
     ClockTimer sleeper(f.writes("sleeper"));
     ClockTimer joiner(f.writes("joiner"));
     sleeper.startRepeating(0.1);
-    sleeper.letOff(3);
+    sleeper.skipTicks(3);
     f.clock.advance(0.25);
 
     joiner.startRepeating(0.1);
@@ -250,7 +250,7 @@ void tst_ClockTimer::aFiringStandsForTheTicksBeforeIt()
     ClockFixture f;
     ClockTimer rare([&] {
         f.diary << QString::number(rare.ticks());
-        rare.letOff(static_cast<int>(f.diary.size()));
+        rare.skipTicks(static_cast<int>(f.diary.size()));
     });
     rare.startRepeating(0.1);
 
@@ -264,7 +264,7 @@ void tst_ClockTimer::aLateFiringStandsForTheTicksThatItWasLetOff()
     ClockFixture f;
     ClockTimer timer(f.writes("fired"));
     timer.startRepeating(0.1);
-    timer.letOff(2);
+    timer.skipTicks(2);
 
     f.clock.sleep(10);
 
@@ -277,7 +277,7 @@ void tst_ClockTimer::aTimerThatStartsAgainIsLetOffNothing()
     ClockFixture f;
     ClockTimer timer(f.writes("fired"));
     timer.startRepeating(0.1);
-    timer.letOff(100);
+    timer.skipTicks(100);
     f.clock.advance(1);
 
     timer.startRepeating(0.1);
@@ -293,7 +293,7 @@ void tst_ClockTimer::aOneShotIsNotLetOff()
     ClockTimer timer(f.writes("fired"));
     timer.startOnce(0.1);
 
-    timer.letOff(5);
+    timer.skipTicks(5);
 
     f.clock.advance(0.11);
     QCOMPARE(f.diary.size(), 1);
@@ -306,7 +306,7 @@ void tst_ClockTimer::aTimerThatStartsAgainCountsFromNothing()
     ClockTimer steady([] {});
     timer.startRepeating(0.1);
     steady.startRepeating(0.1);
-    timer.letOff(100);
+    timer.skipTicks(100);
     f.clock.advance(0.55);
 
     timer.startRepeating(0.1);
