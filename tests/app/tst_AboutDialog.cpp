@@ -1,5 +1,6 @@
 #include "BuildInfo.h"
 #include "app/AboutDialog.h"
+#include "app/WufferApplication.h"
 #include "app/WufferController.h"
 #include "support/Menus.h"
 #include "support/TestMain.h"
@@ -159,5 +160,5 @@ void tst_AboutDialog::itComesBackAndThereIsOneOnly()
              WufferApplication::getWuffers().front()->window()->windowHandle());
 }
 
-WUFFER_TEST_MAIN(tst_AboutDialog)
+WUFFER_TEST(tst_AboutDialog)
 #include "tst_AboutDialog.moc"

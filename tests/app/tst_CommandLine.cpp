@@ -152,5 +152,5 @@ void tst_CommandLine::whatIsNoQuestionNeedsADisplay()
     }
 }
 
-WUFFER_TEST_MAIN(tst_CommandLine)
+WUFFER_TEST(tst_CommandLine)
 #include "tst_CommandLine.moc"

@@ -3,6 +3,7 @@
 #include "support/TestMain.h"
 #include "timer/TargetTimeSheet.h"
 
+#include <QRegularExpression>
 #include <QSet>
 #include <QTabBar>
 #include <QTextTable>
@@ -218,5 +219,5 @@ void tst_HelpTexts::everyNameInTheTextStandsInAWindow()
         QVERIFY2(names.contains(name), qPrintable(name));
 }
 
-WUFFER_TEST_MAIN(tst_HelpTexts)
+WUFFER_TEST(tst_HelpTexts)
 #include "tst_HelpTexts.moc"

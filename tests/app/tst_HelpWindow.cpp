@@ -1,3 +1,4 @@
+#include "app/WufferApplication.h"
 #include "support/HelpReader.h"
 #include "support/TestMain.h"
 
@@ -288,5 +289,5 @@ void tst_HelpWindow::theMenusWorkInIt()
     QCOMPARE(WufferApplication::getWuffers().size(), std::size_t(2));
 }
 
-WUFFER_TEST_MAIN(tst_HelpWindow)
+WUFFER_TEST(tst_HelpWindow)
 #include "tst_HelpWindow.moc"

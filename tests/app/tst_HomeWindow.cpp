@@ -1,4 +1,5 @@
 #include "app/HomeWindow.h"
+#include "app/WufferApplication.h"
 #include "app/WufferController.h"
 #include "base/NotificationCenter.h"
 #include "support/TestMain.h"
@@ -255,5 +256,5 @@ void tst_HomeWindow::itHasTheMenus()
     QCOMPARE(WufferApplication::getWuffers().size(), std::size_t(1));
 }
 
-WUFFER_TEST_MAIN(tst_HomeWindow)
+WUFFER_TEST(tst_HomeWindow)
 #include "tst_HomeWindow.moc"

@@ -1,5 +1,6 @@
 #include "app/HomeWindow.h"
 #include "app/StatusDescription.h"
+#include "app/WufferApplication.h"
 #include "app/WufferController.h"
 #include "base/NotificationCenter.h"
 #include "support/Menus.h"
@@ -263,5 +264,5 @@ void tst_HostileNames::itIsKeptAsItWasWritten()
     QCOMPARE(record.value(QStringLiteral("title")).toString(), name);
 }
 
-WUFFER_TEST_MAIN(tst_HostileNames)
+WUFFER_TEST(tst_HostileNames)
 #include "tst_HostileNames.moc"

@@ -1,5 +1,6 @@
 #include "app/HomeWindow.h"
 #include "app/LaunchOrders.h"
+#include "app/WufferApplication.h"
 #include "app/WufferController.h"
 #include "platform/SingleInstance.h"
 #include "support/TestMain.h"
@@ -295,5 +296,5 @@ void tst_LaunchOrders::everyLaunchForANewTimerOpensOne()
     QCOMPARE(timers(), std::size_t(4));
 }
 
-WUFFER_TEST_MAIN(tst_LaunchOrders)
+WUFFER_TEST(tst_LaunchOrders)
 #include "tst_LaunchOrders.moc"

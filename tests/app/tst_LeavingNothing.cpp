@@ -1,3 +1,4 @@
+#include "app/WufferApplication.h"
 #include "app/WufferController.h"
 #include "support/TestMain.h"
 #include "support/TestServices.h"
@@ -152,5 +153,5 @@ void tst_LeavingNothing::writingTheSettingsLeavesNoFileOpen()
     QCOMPARE(QDir(openFiles.path()).count(), before);
 }
 
-WUFFER_TEST_MAIN(tst_LeavingNothing)
+WUFFER_TEST(tst_LeavingNothing)
 #include "tst_LeavingNothing.moc"

@@ -1,3 +1,4 @@
+#include "app/WufferApplication.h"
 #include "app/WufferController.h"
 #include "support/Menus.h"
 #include "support/TestMain.h"
@@ -181,5 +182,5 @@ void tst_LinkMenu::aTimerAloneIsOfferedNoOther()
     list.close();
 }
 
-WUFFER_TEST_MAIN(tst_LinkMenu)
+WUFFER_TEST(tst_LinkMenu)
 #include "tst_LinkMenu.moc"

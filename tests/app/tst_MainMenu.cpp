@@ -1,3 +1,4 @@
+#include "app/WufferApplication.h"
 #include "app/WufferController.h"
 #include "support/TestMain.h"
 #include "support/TimerFixture.h"
@@ -5,6 +6,7 @@
 #include <QAction>
 #include <QMenu>
 #include <QMenuBar>
+#include <QRegularExpression>
 
 /// The menus: what is in them, on whom they act, and when.
 class tst_MainMenu final : public Test
@@ -256,5 +258,5 @@ void tst_MainMenu::muteIsRenamedWithEveryChange()
     QVERIFY(!services.defaults.boolForKey(QStringLiteral("soundOff")));
 }
 
-WUFFER_TEST_MAIN(tst_MainMenu)
+WUFFER_TEST(tst_MainMenu)
 #include "tst_MainMenu.moc"

@@ -1,3 +1,4 @@
+#include "app/WufferApplication.h"
 #include "app/WufferController.h"
 #include "support/Menus.h"
 #include "support/TestMain.h"
@@ -5,6 +6,7 @@
 
 #include <QAbstractButton>
 #include <QFile>
+#include <QRegularExpression>
 #include <QSet>
 
 /// What stands in the menus, and the items that show the state of a timer.
@@ -250,5 +252,5 @@ void tst_MainMenuTable::renameSelectsANameThatIsBeingEdited()
     QCOMPARE(name(newest()).selectedText(), QStringLiteral("Tea"));
 }
 
-WUFFER_TEST_MAIN(tst_MainMenuTable)
+WUFFER_TEST(tst_MainMenuTable)
 #include "tst_MainMenuTable.moc"

@@ -1,3 +1,4 @@
+#include "app/WufferApplication.h"
 #include "app/WufferController.h"
 #include "platform/Keyboard.h"
 #include "support/Menus.h"
@@ -264,5 +265,5 @@ void tst_PresetKeys::withoutATimerNothingIsSaved()
     QCOMPARE(newest().description(), QStringLiteral("Preset 1 - 0h 10m 0s"));
 }
 
-WUFFER_TEST_MAIN(tst_PresetKeys)
+WUFFER_TEST(tst_PresetKeys)
 #include "tst_PresetKeys.moc"

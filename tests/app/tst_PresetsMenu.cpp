@@ -1,3 +1,4 @@
+#include "app/WufferApplication.h"
 #include "app/WufferController.h"
 #include "platform/Keyboard.h"
 #include "support/Menus.h"
@@ -258,5 +259,5 @@ void tst_PresetsMenu::aHeldKeyOpensOneTimer()
     QCOMPARE(count(), std::size_t(2));
 }
 
-WUFFER_TEST_MAIN(tst_PresetsMenu)
+WUFFER_TEST(tst_PresetsMenu)
 #include "tst_PresetsMenu.moc"

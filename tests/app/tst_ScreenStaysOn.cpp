@@ -69,5 +69,5 @@ void tst_ScreenStaysOn::itStaysOnFromOneTimersFullScreenToTheNext()
     QVERIFY(!t.screenBlanking.isInhibited);
 }
 
-WUFFER_TEST_MAIN(tst_ScreenStaysOn)
+WUFFER_TEST(tst_ScreenStaysOn)
 #include "tst_ScreenStaysOn.moc"

@@ -1,4 +1,5 @@
 #include "app/StatusPresenter.h"
+#include "app/WufferApplication.h"
 #include "app/WufferController.h"
 #include "support/TestMain.h"
 #include "support/TimerFixture.h"
@@ -443,5 +444,5 @@ void tst_StatusPresenter::theItemIsEmptyWhenTheControllerHasGone()
     QVERIFY(!t.statusItem.target());
 }
 
-WUFFER_TEST_MAIN(tst_StatusPresenter)
+WUFFER_TEST(tst_StatusPresenter)
 #include "tst_StatusPresenter.moc"

@@ -1,3 +1,4 @@
+#include "app/WufferApplication.h"
 #include "app/WufferController.h"
 #include "support/Menus.h"
 #include "support/TestMain.h"
@@ -170,5 +171,5 @@ void tst_TimerList::withoutAWindowManagerNothingIsKeptOnTop()
     QVERIFY(item.shortcuts().isEmpty());
 }
 
-WUFFER_TEST_MAIN(tst_TimerList)
+WUFFER_TEST(tst_TimerList)
 #include "tst_TimerList.moc"

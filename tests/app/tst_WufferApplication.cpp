@@ -1,3 +1,4 @@
+#include "app/WufferApplication.h"
 #include "support/TestMain.h"
 #include "support/TimerFixture.h"
 
@@ -388,5 +389,5 @@ void tst_WufferApplication::aHeldKeyThatRepeatsIsNotLetGo()
     QCOMPARE(t.fields(), QStringLiteral("0 0 0"));
 }
 
-WUFFER_TEST_MAIN(tst_WufferApplication)
+WUFFER_TEST(tst_WufferApplication)
 #include "tst_WufferApplication.moc"

@@ -1,4 +1,5 @@
 #include "app/AuxiliaryWindow.h"
+#include "app/WufferApplication.h"
 #include "app/WufferController.h"
 #include "support/TestMain.h"
 #include "support/TimerFixture.h"
@@ -302,5 +303,5 @@ void tst_WufferController::everyItemOfTheControllerIsEnabled()
     QVERIFY(controller.validateMenuItem(&WufferController::startAllWuffers));
 }
 
-WUFFER_TEST_MAIN(tst_WufferController)
+WUFFER_TEST(tst_WufferController)
 #include "tst_WufferController.moc"

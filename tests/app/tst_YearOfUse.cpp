@@ -1,4 +1,5 @@
 #include "app/HomeKeeper.h"
+#include "app/WufferApplication.h"
 #include "rules/TimerSettings.h"
 #include "support/ChainRules.h"
 #include "support/Resident.h"
@@ -125,5 +126,5 @@ void tst_YearOfUse::itIsSoundOnEveryDay()
     QVERIFY(witness.beeps > 0);
 }
 
-WUFFER_TEST_MAIN(tst_YearOfUse)
+WUFFER_TEST(tst_YearOfUse)
 #include "tst_YearOfUse.moc"

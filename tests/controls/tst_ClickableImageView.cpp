@@ -179,5 +179,5 @@ void tst_ClickableImageView::theFocusIsSeen()
     QVERIFY(f.view.grab().toImage() != without);
 }
 
-WUFFER_TEST_MAIN(tst_ClickableImageView)
+WUFFER_TEST(tst_ClickableImageView)
 #include "tst_ClickableImageView.moc"

@@ -271,5 +271,5 @@ void tst_DataComboBox::aTextWithoutRoomIsShortened()
     QCOMPARE(box.currentText(), text);
 }
 
-WUFFER_TEST_MAIN(tst_DataComboBox)
+WUFFER_TEST(tst_DataComboBox)
 #include "tst_DataComboBox.moc"

@@ -284,5 +284,5 @@ void tst_DisplayBox::theColoursAreItsOwn()
     QVERIFY(middle.lightness() > 230);
 }
 
-WUFFER_TEST_MAIN(tst_DisplayBox)
+WUFFER_TEST(tst_DisplayBox)
 #include "tst_DisplayBox.moc"

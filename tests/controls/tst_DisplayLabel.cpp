@@ -240,5 +240,5 @@ void tst_DisplayLabel::whatIsLeftAloneIsWhatAWholePaintWouldShow()
     }
 }
 
-WUFFER_TEST_MAIN(tst_DisplayLabel)
+WUFFER_TEST(tst_DisplayLabel)
 #include "tst_DisplayLabel.moc"

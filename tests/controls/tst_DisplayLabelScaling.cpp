@@ -120,5 +120,5 @@ void tst_DisplayLabelScaling::everyStrokeOfAScaledTextIsSeen()
     QCOMPARE(strokes, count);
 }
 
-WUFFER_TEST_MAIN(tst_DisplayLabelScaling)
+WUFFER_TEST(tst_DisplayLabelScaling)
 #include "tst_DisplayLabelScaling.moc"

@@ -293,5 +293,5 @@ void tst_Drawer::theStateIsTrueWhenItIsAnnounced()
     QCOMPARE(visible, (QList{true, true, true, false}));
 }
 
-WUFFER_TEST_MAIN(tst_Drawer)
+WUFFER_TEST(tst_Drawer)
 #include "tst_Drawer.moc"

@@ -63,5 +63,5 @@ void tst_ElidedLabel::tagsAreLetters()
     QVERIFY(painted(label, 200) != tags);
 }
 
-WUFFER_TEST_MAIN(tst_ElidedLabel)
+WUFFER_TEST(tst_ElidedLabel)
 #include "tst_ElidedLabel.moc"

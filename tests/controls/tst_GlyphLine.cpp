@@ -54,5 +54,5 @@ void tst_GlyphLine::everyCharacterHasItsPlace()
     QVERIFY(run.glyphIndexes().at(0) != run.glyphIndexes().at(1));
 }
 
-WUFFER_TEST_MAIN(tst_GlyphLine)
+WUFFER_TEST(tst_GlyphLine)
 #include "tst_GlyphLine.moc"

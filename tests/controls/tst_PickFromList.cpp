@@ -106,5 +106,5 @@ void tst_PickFromList::anEntryIsPickedFromTheOpenList()
     QCOMPARE(f.activated, 1);
 }
 
-WUFFER_TEST_MAIN(tst_PickFromList)
+WUFFER_TEST(tst_PickFromList)
 #include "tst_PickFromList.moc"

@@ -89,5 +89,5 @@ void tst_PlayButton::theTabKeyReachesIt()
     QVERIFY(button.focusPolicy() & Qt::TabFocus);
 }
 
-WUFFER_TEST_MAIN(tst_PlayButton)
+WUFFER_TEST(tst_PlayButton)
 #include "tst_PlayButton.moc"

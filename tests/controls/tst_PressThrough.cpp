@@ -102,5 +102,5 @@ void tst_PressThrough::theButtonsOwnToolTipStays()
     QCOMPARE(shown(), QStringList{QStringLiteral("why not")});
 }
 
-WUFFER_TEST_MAIN(tst_PressThrough)
+WUFFER_TEST(tst_PressThrough)
 #include "tst_PressThrough.moc"

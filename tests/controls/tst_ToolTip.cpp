@@ -54,5 +54,5 @@ void tst_ToolTip::anEmptyTextIsNoToolTip()
     QCOMPARE(widget.accessibleDescription(), QString());
 }
 
-WUFFER_TEST_MAIN(tst_ToolTip)
+WUFFER_TEST(tst_ToolTip)
 #include "tst_ToolTip.moc"

@@ -137,5 +137,5 @@ void tst_WebbyComboBox::aDisabledBoxStaysClosed()
     QVERIFY(!f.box.view()->isVisible());
 }
 
-WUFFER_TEST_MAIN(tst_WebbyComboBox)
+WUFFER_TEST(tst_WebbyComboBox)
 #include "tst_WebbyComboBox.moc"

@@ -1,7 +1,7 @@
 #include "platform/DBusMenu.h"
 #include "support/BusPeer.h"
 #include "support/Fakes.h"
-#include "support/SessionBus.h"
+#include "support/PrivateBus.h"
 #include "support/TestMain.h"
 
 #include <optional>
@@ -37,9 +37,11 @@ class tst_DBusMenu final : public Test
     Q_OBJECT
 
 public:
-    explicit tst_DBusMenu(QString address) : _address(std::move(address)) {}
+    explicit tst_DBusMenu(const OnPrivateBus &surroundings) : _address(surroundings.bus().address())
+    {}
 
 private Q_SLOTS:
+    void initTestCase() { DBusMenuTypes::registerAll(); }
     void init();
     void cleanup();
     void theLayoutIsTheListOfLines();
@@ -410,12 +412,5 @@ void tst_DBusMenu::aGroupThatIsAboutToShowIsToldWhatHasChanged()
     QCOMPARE(qdbus_cast<QList<int>>(changed.arguments().value(1)), QList<int>());
 }
 
-int main(int argc, char *argv[])
-{
-    const SessionBus bus;
-    WufferApplication application(argc, argv);
-    DBusMenuTypes::registerAll();
-    tst_DBusMenu test(bus.address());
-    return QTest::qExec(&test, argc, argv);
-}
+WUFFER_TEST(tst_DBusMenu, OnPrivateBus)
 #include "tst_DBusMenu.moc"

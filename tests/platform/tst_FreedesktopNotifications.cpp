@@ -1,6 +1,6 @@
 #include "platform/FreedesktopNotifications.h"
 #include "support/NotificationServer.h"
-#include "support/SessionBus.h"
+#include "support/PrivateBus.h"
 #include "support/TestMain.h"
 
 #include <QElapsedTimer>
@@ -24,7 +24,9 @@ class tst_FreedesktopNotifications final : public Test
     Q_OBJECT
 
 public:
-    explicit tst_FreedesktopNotifications(QString address) : _address(std::move(address)) {}
+    explicit tst_FreedesktopNotifications(const OnPrivateBus &surroundings) :
+        _address(surroundings.bus().address())
+    {}
 
 private Q_SLOTS:
     void theServerIsToldWhatToShow();
@@ -310,11 +312,5 @@ void tst_FreedesktopNotifications::withoutABusNothingIsAskedFor()
     QTRY_COMPARE(server.shown.size(), 1U);
 }
 
-int main(int argc, char *argv[])
-{
-    const SessionBus bus;
-    WufferApplication application(argc, argv);
-    tst_FreedesktopNotifications test(bus.address());
-    return QTest::qExec(&test, argc, argv);
-}
+WUFFER_TEST(tst_FreedesktopNotifications, OnPrivateBus)
 #include "tst_FreedesktopNotifications.moc"

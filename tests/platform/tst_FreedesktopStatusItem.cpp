@@ -2,7 +2,7 @@
 #include "platform/StatusNotifierTypes.h"
 #include "support/BusPeer.h"
 #include "support/Fakes.h"
-#include "support/SessionBus.h"
+#include "support/PrivateBus.h"
 #include "support/StatusWatcher.h"
 #include "support/TestMain.h"
 
@@ -39,9 +39,12 @@ class tst_FreedesktopStatusItem final : public Test
     Q_OBJECT
 
 public:
-    explicit tst_FreedesktopStatusItem(QString address) : _address(std::move(address)) {}
+    explicit tst_FreedesktopStatusItem(const OnPrivateBus &surroundings) :
+        _address(surroundings.bus().address())
+    {}
 
 private Q_SLOTS:
+    void initTestCase() { StatusNotifier::registerTypes(); }
     void init();
     void cleanup();
     void theItemRegistersUnderTheNameThatTheBusHasGiven();
@@ -408,12 +411,5 @@ void tst_FreedesktopStatusItem::aPanelThatIsReplacedHasNoMenuOpen()
     QTRY_VERIFY(!peer.property(QStringLiteral("ItemIsMenu")).toBool());
 }
 
-int main(int argc, char *argv[])
-{
-    const SessionBus bus;
-    WufferApplication application(argc, argv);
-    StatusNotifier::registerTypes();
-    tst_FreedesktopStatusItem test(bus.address());
-    return QTest::qExec(&test, argc, argv);
-}
+WUFFER_TEST(tst_FreedesktopStatusItem, OnPrivateBus)
 #include "tst_FreedesktopStatusItem.moc"

@@ -1,4 +1,5 @@
 #include "platform/HeldKey.h"
+#include "support/TestMain.h"
 
 #include <QKeyEvent>
 #include <QtTest/QTest>
@@ -58,5 +59,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(tst_HeldKey)
+WUFFER_TEST(tst_HeldKey, WithoutApplication)
 #include "tst_HeldKey.moc"

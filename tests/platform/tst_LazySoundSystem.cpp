@@ -1,4 +1,5 @@
 #include "platform/LazySoundSystem.h"
+#include "support/TestMain.h"
 
 #include <QFile>
 #include <QTest>
@@ -51,5 +52,5 @@ void tst_LazySoundSystem::withoutTheModuleThereAreNoSounds()
     QVERIFY(!sound->isPlaying());
 }
 
-QTEST_GUILESS_MAIN(tst_LazySoundSystem)
+WUFFER_TEST(tst_LazySoundSystem, WithoutWindows)
 #include "tst_LazySoundSystem.moc"

@@ -1,6 +1,6 @@
 #include "platform/FreedesktopNotifications.h"
 #include "support/NotificationServer.h"
-#include "support/SessionBus.h"
+#include "support/PrivateBus.h"
 #include "support/TestMain.h"
 
 #include <optional>
@@ -19,7 +19,9 @@ class tst_NotificationActions final : public Test
     Q_OBJECT
 
 public:
-    explicit tst_NotificationActions(QString address) : _address(std::move(address)) {}
+    explicit tst_NotificationActions(const OnPrivateBus &surroundings) :
+        _address(surroundings.bus().address())
+    {}
 
 private Q_SLOTS:
     void init()
@@ -407,11 +409,5 @@ void tst_NotificationActions::anotherServersAnswerThatIsNoNumberIsDoneWithout()
     QCOMPARE(_diary, QStringList());
 }
 
-int main(int argc, char *argv[])
-{
-    const SessionBus bus;
-    WufferApplication application(argc, argv);
-    tst_NotificationActions test(bus.address());
-    return QTest::qExec(&test, argc, argv);
-}
+WUFFER_TEST(tst_NotificationActions, OnPrivateBus)
 #include "tst_NotificationActions.moc"

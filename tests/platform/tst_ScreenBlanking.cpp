@@ -1,6 +1,6 @@
 #include "platform/FreedesktopScreenBlanking.h"
+#include "support/PrivateBus.h"
 #include "support/ScreenSaverService.h"
-#include "support/SessionBus.h"
 #include "support/TestMain.h"
 
 #include <QElapsedTimer>
@@ -20,7 +20,9 @@ class tst_ScreenBlanking final : public Test
     Q_OBJECT
 
 public:
-    explicit tst_ScreenBlanking(QString address) : _address(std::move(address)) {}
+    explicit tst_ScreenBlanking(const OnPrivateBus &surroundings) :
+        _address(surroundings.bus().address())
+    {}
 
 private Q_SLOTS:
     void cleanup() { _screenSaver.reset(); }
@@ -274,11 +276,5 @@ void tst_ScreenBlanking::aScreenSaverThatIsRestartedBeforeItHasAnsweredIsAskedAg
     QTRY_COMPARE(after.diary, QStringList({kAsked, QStringLiteral("release 7")}));
 }
 
-int main(int argc, char *argv[])
-{
-    const SessionBus bus;
-    WufferApplication application(argc, argv);
-    tst_ScreenBlanking test(bus.address());
-    return QTest::qExec(&test, argc, argv);
-}
+WUFFER_TEST(tst_ScreenBlanking, OnPrivateBus)
 #include "tst_ScreenBlanking.moc"

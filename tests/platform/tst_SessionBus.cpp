@@ -130,5 +130,5 @@ void tst_SessionBus::aBusThatTakesNobodyInIsDoneWithout()
     QVERIFY(!SessionBus::isPresent());
 }
 
-WUFFER_TEST_MAIN(tst_SessionBus)
+WUFFER_TEST(tst_SessionBus)
 #include "tst_SessionBus.moc"

@@ -1,7 +1,7 @@
 #include "platform/BusProbe.h"
 #include "platform/SingleInstance.h"
 #include "support/BusPeer.h"
-#include "support/SessionBus.h"
+#include "support/PrivateBus.h"
 #include "support/TestMain.h"
 
 #include <QDBusConnectionInterface>
@@ -16,7 +16,7 @@ class tst_SingleInstance final : public Test
     Q_OBJECT
 
 public:
-    explicit tst_SingleInstance(SessionBus &bus) : _bus(bus) {}
+    explicit tst_SingleInstance(const OnPrivateBus &surroundings) : _bus(surroundings.bus()) {}
 
 private Q_SLOTS:
     void theFirstOwnsTheName();
@@ -36,7 +36,7 @@ private Q_SLOTS:
     void whereNobodyListensNothingHangs();
 
 private:
-    SessionBus &_bus;
+    const PrivateBus &_bus;
 };
 
 namespace
@@ -227,13 +227,5 @@ void tst_SingleInstance::withoutABusEveryLaunchIsTheFirst()
     QVERIFY(first);
 }
 
-int main(int argc, char *argv[])
-{
-    SessionBus bus;
-    QStandardPaths::setTestModeEnabled(true);
-    WufferApplication application(argc, argv);
-    tst_SingleInstance test(bus);
-    return QTest::qExec(&test, argc, argv);
-}
-
+WUFFER_TEST(tst_SingleInstance, OnPrivateBus)
 #include "tst_SingleInstance.moc"

@@ -197,5 +197,5 @@ void tst_StatusIcon::equalIconsAreEqual()
             StatusIcon::of({}, {QStringLiteral("5s "), Qt::black}, light()));
 }
 
-WUFFER_TEST_MAIN(tst_StatusIcon)
+WUFFER_TEST(tst_StatusIcon)
 #include "tst_StatusIcon.moc"

@@ -2,6 +2,7 @@
 #include "base/Date.h"
 #include "base/Service.h"
 #include "platform/SystemClock.h"
+#include "support/TestMain.h"
 
 #include <QAbstractEventDispatcher>
 #include <QEventLoop>
@@ -151,5 +152,5 @@ void tst_SystemClock::nothingWakesTheProcessOnceNoTimerIsActive()
     QVERIFY(wakeUpsIn(60) <= unavoidable);
 }
 
-QTEST_GUILESS_MAIN(tst_SystemClock)
+WUFFER_TEST(tst_SystemClock, WithoutWindows)
 #include "tst_SystemClock.moc"

@@ -32,5 +32,5 @@ void tst_SystemDesktop::anAddressIsOpenedByTheDesktop()
     QCOMPARE(_opened, QList<QUrl>{address});
 }
 
-WUFFER_TEST_MAIN(tst_SystemDesktop)
+WUFFER_TEST(tst_SystemDesktop)
 #include "tst_SystemDesktop.moc"

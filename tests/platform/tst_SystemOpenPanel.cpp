@@ -5,6 +5,7 @@
 #include <QFile>
 #include <QFileDialog>
 #include <QLineEdit>
+#include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTimer>
 
@@ -196,5 +197,5 @@ void tst_SystemOpenPanel::whatAllProgramsShareIsReadAndNotWritten()
     QCOMPARE(QDir(inHome(QStringLiteral("config"))).entryList(QDir::Files).size(), 1);
 }
 
-WUFFER_TEST_MAIN(tst_SystemOpenPanel)
+WUFFER_TEST(tst_SystemOpenPanel)
 #include "tst_SystemOpenPanel.moc"

@@ -159,5 +159,5 @@ void tst_MissingSounds::clearingEndsItToo()
     QCOMPARE(p.missing("countdown"), QString());
 }
 
-WUFFER_TEST_MAIN(tst_MissingSounds)
+WUFFER_TEST(tst_MissingSounds)
 #include "tst_MissingSounds.moc"

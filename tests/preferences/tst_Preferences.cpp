@@ -532,5 +532,5 @@ void tst_Preferences::everyControlHasANameAndAKeyOfItsOwn()
     QVERIFY(keys.size() > 14);
 }
 
-WUFFER_TEST_MAIN(tst_Preferences)
+WUFFER_TEST(tst_Preferences)
 #include "tst_Preferences.moc"

@@ -248,5 +248,5 @@ void tst_SoundDrop::aTimerRefusesFiles()
     QVERIFY(!enter.isAccepted());
 }
 
-WUFFER_TEST_MAIN(tst_SoundDrop)
+WUFFER_TEST(tst_SoundDrop)
 #include "tst_SoundDrop.moc"

@@ -212,5 +212,5 @@ void tst_SoundFiles::withoutTheModuleNoFileIsAccepted()
     QCOMPARE(p.defaults.stringForKey(QStringLiteral("alarmPath")), p.kBell);
 }
 
-WUFFER_TEST_MAIN(tst_SoundFiles)
+WUFFER_TEST(tst_SoundFiles)
 #include "tst_SoundFiles.moc"

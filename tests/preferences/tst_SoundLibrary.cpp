@@ -1,3 +1,4 @@
+#include "app/WufferApplication.h"
 #include "sounds/SoundCombos.h"
 #include "support/PreferencesFixture.h"
 #include "support/TestMain.h"
@@ -749,5 +750,5 @@ void tst_SoundLibrary::theEndOfTheProgramChoosesNoSound()
     QCOMPARE(p.path("alarmPath"), kBell);
 }
 
-WUFFER_TEST_MAIN(tst_SoundLibrary)
+WUFFER_TEST(tst_SoundLibrary)
 #include "tst_SoundLibrary.moc"

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/WufferApplication.h"
 #include "app/WufferController.h"
 #include "support/Menus.h"
 #include "support/TimerFixture.h"

@@ -1,6 +1,7 @@
 #include "support/Resident.h"
 
 #include "app/PresetsMenu.h"
+#include "app/WufferApplication.h"
 #include "base/NotificationCenter.h"
 #include "timer/TargetTimeSheet.h"
 

@@ -325,5 +325,5 @@ void tst_AlarmAnswer::theUserAnswersOnTheFullScreen()
     QVERIFY(t.isFullScreen());
 }
 
-WUFFER_TEST_MAIN(tst_AlarmAnswer)
+WUFFER_TEST(tst_AlarmAnswer)
 #include "tst_AlarmAnswer.moc"

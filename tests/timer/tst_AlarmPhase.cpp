@@ -1,3 +1,4 @@
+#include "app/WufferApplication.h"
 #include "support/TestMain.h"
 #include "support/TimerFixture.h"
 
@@ -450,5 +451,5 @@ void tst_AlarmPhase::aMutedAlarmLastsFiveSecondsAndNoMore()
     QVERIFY(t.go() != QStringLiteral("Reset"));
 }
 
-WUFFER_TEST_MAIN(tst_AlarmPhase)
+WUFFER_TEST(tst_AlarmPhase)
 #include "tst_AlarmPhase.moc"

@@ -1,3 +1,4 @@
+#include "app/WufferApplication.h"
 #include "support/TestMain.h"
 #include "support/TimerFixture.h"
 
@@ -170,7 +171,7 @@ void tst_Closing::aClosedTimerIsGoneWhenTheRestIsTold()
 void tst_Closing::aTimerThatIsDestroyedInSightGoesQuietly()
 {
     const TestServices services;
-    auto timer = std::make_unique<Wuffer>();
+    auto timer = std::make_unique<Wuffer>(WufferApplication::instance());
     const QPointer<QWidget> window(timer->window());
     window->show();
     window->activateWindow();
@@ -183,5 +184,5 @@ void tst_Closing::aTimerThatIsDestroyedInSightGoesQuietly()
     QVERIFY(!window);
 }
 
-WUFFER_TEST_MAIN(tst_Closing)
+WUFFER_TEST(tst_Closing)
 #include "tst_Closing.moc"

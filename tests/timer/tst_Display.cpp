@@ -190,5 +190,5 @@ void tst_Display::theStatusIsTheBigText()
     QCOMPARE(t.timer.statusString(), QStringLiteral("Wuff!"));
 }
 
-WUFFER_TEST_MAIN(tst_Display)
+WUFFER_TEST(tst_Display)
 #include "tst_Display.moc"

@@ -207,5 +207,5 @@ void tst_DrawerSounds::aTimerThatHasPlayedTicksNoMore()
     QVERIFY(!t.alarm().isPlaying());
 }
 
-WUFFER_TEST_MAIN(tst_DrawerSounds)
+WUFFER_TEST(tst_DrawerSounds)
 #include "tst_DrawerSounds.moc"

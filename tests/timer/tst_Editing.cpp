@@ -264,5 +264,5 @@ void tst_Editing::aNameTypedOnAtOnceKeepsReturn()
     QVERIFY(!t.timer.isRunning());
 }
 
-WUFFER_TEST_MAIN(tst_Editing)
+WUFFER_TEST(tst_Editing)
 #include "tst_Editing.moc"

@@ -187,5 +187,5 @@ void tst_GatheredAnswers::newsAmongThoseThatComeBackIsNews()
     QVERIFY(t.only().occasion == Occasion::News);
 }
 
-WUFFER_TEST_MAIN(tst_GatheredAnswers)
+WUFFER_TEST(tst_GatheredAnswers)
 #include "tst_GatheredAnswers.moc"

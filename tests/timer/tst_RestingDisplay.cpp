@@ -197,5 +197,5 @@ void tst_RestingDisplay::anEndThatWasSleptThroughRingsAtOnce()
     QCOMPARE(t.timer.statusString(), QStringLiteral("Wuff!"));
 }
 
-WUFFER_TEST_MAIN(tst_RestingDisplay)
+WUFFER_TEST(tst_RestingDisplay)
 #include "tst_RestingDisplay.moc"

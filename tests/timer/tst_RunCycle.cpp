@@ -1,3 +1,4 @@
+#include "app/WufferApplication.h"
 #include "base/Date.h"
 #include "support/TestMain.h"
 #include "support/TimerFixture.h"
@@ -407,5 +408,5 @@ void tst_RunCycle::whoeverIsToldMayStopTheTimer()
     QVERIFY(t.clock.isIdle());
 }
 
-WUFFER_TEST_MAIN(tst_RunCycle)
+WUFFER_TEST(tst_RunCycle)
 #include "tst_RunCycle.moc"

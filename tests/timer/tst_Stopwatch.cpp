@@ -200,5 +200,5 @@ void tst_Stopwatch::aStopwatchMayFillTheScreen()
     QVERIFY(t.isFullScreen());
 }
 
-WUFFER_TEST_MAIN(tst_Stopwatch)
+WUFFER_TEST(tst_Stopwatch)
 #include "tst_Stopwatch.moc"

@@ -251,5 +251,5 @@ void tst_Suspend::aStopwatchHasCountedOn()
     QCOMPARE(t.fields(), QStringLiteral("1 0 10.19"));
 }
 
-WUFFER_TEST_MAIN(tst_Suspend)
+WUFFER_TEST(tst_Suspend)
 #include "tst_Suspend.moc"

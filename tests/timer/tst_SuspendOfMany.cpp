@@ -103,5 +103,5 @@ void tst_SuspendOfMany::manyShortSleepsLoseNothing()
     QCOMPARE(rings, 2);
 }
 
-WUFFER_TEST_MAIN(tst_SuspendOfMany)
+WUFFER_TEST(tst_SuspendOfMany)
 #include "tst_SuspendOfMany.moc"

@@ -291,5 +291,5 @@ void tst_TargetTime::theHourIsSelectedOnlyOnce()
     QCOMPARE(field(t).currentSection(), QDateTimeEdit::MinuteSection);
 }
 
-WUFFER_TEST_MAIN(tst_TargetTime)
+WUFFER_TEST(tst_TargetTime)
 #include "tst_TargetTime.moc"

@@ -376,5 +376,5 @@ void tst_TimeEntry::aNumberTypedOnAButtonWhileItRunsGoesNowhere()
     QCOMPARE(t.fields(), QStringLiteral("0 4 57"));
 }
 
-WUFFER_TEST_MAIN(tst_TimeEntry)
+WUFFER_TEST(tst_TimeEntry)
 #include "tst_TimeEntry.moc"

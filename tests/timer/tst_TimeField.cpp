@@ -354,5 +354,5 @@ void tst_TimeField::whatTheProgramWritesStaysAsItIs()
     QVERIFY(!field.isModified());
 }
 
-WUFFER_TEST_MAIN(tst_TimeField)
+WUFFER_TEST(tst_TimeField)
 #include "tst_TimeField.moc"

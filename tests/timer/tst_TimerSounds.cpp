@@ -1,3 +1,4 @@
+#include "app/WufferApplication.h"
 #include "controls/ClickableImageView.h"
 #include "support/TestMain.h"
 #include "support/TimerFixture.h"
@@ -304,5 +305,5 @@ void tst_TimerSounds::suppressionLeavesTheScheduleAlone()
     QCOMPARE(t.sounds.diary(QStringLiteral("play")).size(), 1);
 }
 
-WUFFER_TEST_MAIN(tst_TimerSounds)
+WUFFER_TEST(tst_TimerSounds)
 #include "tst_TimerSounds.moc"

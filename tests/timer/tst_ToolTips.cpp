@@ -190,5 +190,5 @@ void tst_ToolTips::theEnergySaverSaysWhatItCosts()
         QVERIFY2(text.contains(QString::fromLatin1(part)), part);
 }
 
-WUFFER_TEST_MAIN(tst_ToolTips)
+WUFFER_TEST(tst_ToolTips)
 #include "tst_ToolTips.moc"

@@ -336,5 +336,5 @@ void tst_TypingReplaces::theWheelChangesNoClosedBox()
     }
 }
 
-WUFFER_TEST_MAIN(tst_TypingReplaces)
+WUFFER_TEST(tst_TypingReplaces)
 #include "tst_TypingReplaces.moc"

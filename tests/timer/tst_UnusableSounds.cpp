@@ -107,5 +107,5 @@ void tst_UnusableSounds::anUnusableFileKeepsTheLastGoodBeep()
     QCOMPARE(t.sounds.diary(QStringLiteral("play crow.wav")).size(), 2);
 }
 
-WUFFER_TEST_MAIN(tst_UnusableSounds)
+WUFFER_TEST(tst_UnusableSounds)
 #include "tst_UnusableSounds.moc"

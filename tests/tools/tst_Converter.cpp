@@ -237,5 +237,5 @@ void tst_Converter::aSourceOfAnotherGroupConvertsNothing()
     QCOMPARE(f.window.volumes(), QStringLiteral("0 0 0 0 0"));
 }
 
-WUFFER_TEST_MAIN(tst_Converter)
+WUFFER_TEST(tst_Converter)
 #include "tst_Converter.moc"

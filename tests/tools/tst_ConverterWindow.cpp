@@ -180,5 +180,5 @@ void tst_ConverterWindow::theTabKeyGoesThroughTheFieldsInOrder()
     }
 }
 
-WUFFER_TEST_MAIN(tst_ConverterWindow)
+WUFFER_TEST(tst_ConverterWindow)
 #include "tst_ConverterWindow.moc"

@@ -134,5 +134,5 @@ void tst_HelpBrowser::newColorsKeepThePlace()
     QCOMPARE(browser.currentPage(), 0);
 }
 
-WUFFER_TEST_MAIN(tst_HelpBrowser)
+WUFFER_TEST(tst_HelpBrowser)
 #include "tst_HelpBrowser.moc"

@@ -2,6 +2,7 @@
 #include "tools/HelpPages.h"
 
 #include <QDir>
+#include <QRegularExpression>
 #include <QSet>
 
 /// The pages of the help by themselves.
@@ -108,5 +109,5 @@ void tst_HelpPages::theKeysOfTheMenusAreListed()
     QCOMPARE(html.count(QStringLiteral("<table")), html.count(QStringLiteral("</table>")));
 }
 
-WUFFER_TEST_MAIN(tst_HelpPages)
+WUFFER_TEST(tst_HelpPages)
 #include "tst_HelpPages.moc"

@@ -323,5 +323,5 @@ void tst_Measurements::itFollowsADarkPalette()
     QVERIFY(light > 500);
 }
 
-WUFFER_TEST_MAIN(tst_Measurements)
+WUFFER_TEST(tst_Measurements)
 #include "tst_Measurements.moc"

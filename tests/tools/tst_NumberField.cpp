@@ -229,5 +229,5 @@ void tst_NumberField::anEmptiedFieldStaysEmpty()
     QCOMPARE(f.shown(), QStringLiteral("|"));
 }
 
-WUFFER_TEST_MAIN(tst_NumberField)
+WUFFER_TEST(tst_NumberField)
 #include "tst_NumberField.moc"
