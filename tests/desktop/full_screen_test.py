@@ -5,7 +5,6 @@ Usage: full_screen_test.py WUFFER FOLDER [unittest arguments]
 """
 
 import os
-import subprocess
 import time
 
 from support import pointer
@@ -13,6 +12,7 @@ from support.case import DesktopTest, main
 from support.display import Rect
 from support.picture import Picture
 from support.waiting import wait_until
+from support.x_server import WindowGone
 
 PANEL = (0xfb, 0xfa, 0xf5)
 
@@ -43,7 +43,7 @@ class FullScreenTest(DesktopTest):
             try:
                 if self.screen.frame(window) == whole == self.screen.geometry(window):
                     return window
-            except subprocess.CalledProcessError:
+            except WindowGone:
                 # It has gone since it was listed.
                 continue
         return None
@@ -65,7 +65,7 @@ class FullScreenTest(DesktopTest):
         wait_until(lambda: self.screen.focused_window() == self.window, 5,
                    "the timer's window has the focus")
         self.assertEqual(self.screen.frame(self.window), self.place)
-        self.assertTrue(pointer.is_visible(self.screen))
+        wait_until(lambda: pointer.is_visible(self.screen), 2, "the pointer shows")
         self.program.find("button", "Stop")
 
     def test_any_key_ends_it_and_is_typed_nowhere(self):

@@ -84,7 +84,7 @@ class WakeupsTest(DesktopTest):
         windows = program.windows()
         for window in windows:
             self.display.act("windowminimize", window)
-        wait_until(lambda: all("HIDDEN" in self.display.state(window) for window in windows), 3,
+        wait_until(lambda: all("_NET_WM_STATE_HIDDEN" in self.display.state(window) for window in windows), 3,
                    "the windows are minimised")
         time.sleep(0.5)
         rate = self.wakeups(program, 2)

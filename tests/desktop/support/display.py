@@ -9,6 +9,9 @@ from typing import NamedTuple
 
 from support import processes
 from support.waiting import wait_until
+from support.x_server import XServer
+
+URGENT = 1 << 8  # XUrgencyHint of Xlib
 
 
 class Rect(NamedTuple):
@@ -30,7 +33,7 @@ class Display:
     """One display, free of all others."""
 
     def __init__(self, environment, size):
-        processes.require("Xvfb", "openbox", "xprop", "xwininfo", "xdotool", "wmctrl", "import")
+        processes.require("Xvfb", "openbox", "xprop", "xwininfo", "xdotool", "wmctrl")
         self.width, self.height = size
         reader, writer = os.pipe()
         self.server = processes.start(
@@ -42,6 +45,7 @@ class Display:
         if not number:
             raise RuntimeError("Xvfb did not start")
         self.environment = dict(environment, DISPLAY=f":{number}")
+        self.x = XServer(self.environment["DISPLAY"])
         self.manager = None
 
     def start_manager(self):
@@ -49,11 +53,13 @@ class Display:
         self.manager = processes.start(
             ["openbox", "--startup", "xprop -root -format MANAGED 8s -set MANAGED yes"],
             self.environment)
-        wait_until(lambda: self.property("MANAGED") == '"yes"', 10, "the window manager is ready")
+        wait_until(lambda: self.x.text(self.x.root, "MANAGED") == "yes", 10,
+                   "the window manager is ready")
 
     def close(self):
         if self.manager:
             processes.end(self.manager)
+        self.x.close()
         processes.end(self.server)
 
     # Mouse and keys
@@ -71,7 +77,7 @@ class Display:
         self.act("mousemove", x, y, "click", button)
 
     def move_pointer(self, x, y):
-        self.act("mousemove", x, y)
+        self.x.move_pointer(x, y)
 
     @contextlib.contextmanager
     def dragging(self, start, end, button=1, key=None):
@@ -127,43 +133,35 @@ class Display:
 
     def windows(self, process_id):
         """The windows of a process that the window manager shows, oldest first."""
-        listed = re.findall("0x[0-9a-f]+", self.property("_NET_CLIENT_LIST"))
-        return [int(window, 16) for window in listed
-                if self.property("_NET_WM_PID", int(window, 16)) == str(process_id)]
+        return [window for window in self.x.property(self.x.root, "_NET_CLIENT_LIST")
+                if self.x.property(window, "_NET_WM_PID") == [process_id]]
 
     def active_window(self):
-        numbers = re.findall("0x[0-9a-f]+", self.property("_NET_ACTIVE_WINDOW"))
-        return int(numbers[0], 16) if numbers else 0
+        return next(iter(self.x.property(self.x.root, "_NET_ACTIVE_WINDOW")), 0)
 
     def focused_window(self):
         """The window with the focus; 0 in the moment in which none has it."""
-        result = subprocess.run(["xdotool", "getwindowfocus"], env=self.environment, check=False,
-                                timeout=10, capture_output=True, text=True)
-        return int(result.stdout) if result.returncode == 0 else 0
+        return self.x.focus()
 
     def title(self, window):
-        return self.property("_NET_WM_NAME", window).strip('"')
+        return self.x.text(window, "_NET_WM_NAME")
 
     def state(self, window):
-        return self.property("_NET_WM_STATE", window)
+        """The names of its states."""
+        return self.x.names(window, "_NET_WM_STATE")
 
     def is_urgent(self, window):
-        return ("_NET_WM_STATE_DEMANDS_ATTENTION" in self.state(window)
-                or "urgency hint bit is set" in processes.run(
-                    ["xprop", "-id", str(window), "WM_HINTS"], self.environment))
+        flags, = self.x.property(window, "WM_HINTS")[:1] or [0]
+        return "_NET_WM_STATE_DEMANDS_ATTENTION" in self.state(window) or bool(flags & URGENT)
 
     def information(self, window, *options):
         return processes.run(["xwininfo", "-id", str(window), *options], self.environment)
 
     def geometry(self, window):
         """The place of a window without its decorations."""
-        text = self.information(window)
-        fields = ("Absolute upper-left X", "Absolute upper-left Y", "Width", "Height")
-        return Rect(*(int(re.search(f"{field}: +(-?[0-9]+)", text)[1]) for field in fields))
+        return Rect(*self.x.geometry(window))
 
     def frame(self, window):
         """The place of a window with its decorations."""
-        root, parent = (int(re.search(f"{name} window id: (0x[0-9a-f]+)",
-                                      self.information(window, "-tree"))[1], 16)
-                        for name in ("Root", "Parent"))
-        return self.geometry(window if parent == root else parent)
+        parent = self.x.parent(window)
+        return self.geometry(window if parent == self.x.root else parent)

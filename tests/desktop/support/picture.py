@@ -1,20 +1,14 @@
 """Pictures of what a display shows."""
 
-import subprocess
+import struct
+import zlib
 
 
 class Picture:
     """Takes a picture of a whole display, or of a part of it."""
 
-    def __init__(self, display, window="root"):
-        data = subprocess.run(["import", "-silent", "-window", str(window), "-depth", "8", "ppm:-"],
-                              env=display.environment, check=True, timeout=20,
-                              stdout=subprocess.PIPE).stdout
-        header, size, depth, pixels = data.split(b"\n", 3)
-        if header != b"P6" or depth != b"255":
-            raise RuntimeError("the picture has an unexpected form")
-        self.width, self.height = map(int, size.split())
-        self.pixels = pixels
+    def __init__(self, display, window=None):
+        self.width, self.height, self.pixels = display.x.pixels(window)
 
     def at(self, x, y):
         start = (y * self.width + x) * 3
@@ -43,5 +37,17 @@ class Picture:
         return found
 
     def save(self, path):
-        subprocess.run(["convert", "ppm:-", path], check=True, timeout=20,
-                       input=f"P6\n{self.width} {self.height}\n255\n".encode() + self.pixels)
+        """Writes it as PNG."""
+        size = 3 * self.width
+        rows = b"".join(b"\0" + self.pixels[start:start + size]
+                        for start in range(0, size * self.height, size))
+        header = struct.pack(">IIBBBBB", self.width, self.height, 8, 2, 0, 0, 0)
+        with open(path, "wb") as file:
+            file.write(b"\x89PNG\r\n\x1a\n" + chunk(b"IHDR", header)
+                       + chunk(b"IDAT", zlib.compress(rows, 1)) + chunk(b"IEND", b""))
+
+
+def chunk(kind, data):
+    """A part of a PNG file."""
+    return (struct.pack(">I", len(data)) + kind + data
+            + struct.pack(">I", zlib.crc32(kind + data)))
