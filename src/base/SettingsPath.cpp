@@ -6,6 +6,7 @@
 
 #include <fcntl.h>
 #include <filesystem>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -88,6 +89,19 @@ bool moveAway(const QString &path)
     fs::rename(native(path), native(freeNameBeside(path)), error);
     return !error;
 }
+
+/// Removes a lock without its owner's number: the process that made it was killed before it could
+/// write that, and QSettings would wait half a minute for it. A living owner holds the lock from
+/// before it writes.
+void removeUnsignedLock(const QString &lock)
+{
+    const Opened opened = openRegularFile(lock, O_WRONLY);
+    struct stat status = {};
+    const bool isUnsigned =
+        opened.isOpen() && ::fstat(opened.descriptor(), &status) == 0 && status.st_size == 0;
+    if (isUnsigned && ::flock(opened.descriptor(), LOCK_EX | LOCK_NB) == 0)
+        QFile::remove(lock);
+}
 } // namespace
 
 QString SettingsPath::cleared(const QString &path)
@@ -98,6 +112,7 @@ QString SettingsPath::cleared(const QString &path)
     // Whoever may write the settings, but cannot open a lock, waits for it in vain.
     if (!isUsable(lock, O_WRONLY) && !moveAway(lock) && isUsable(path, O_RDWR))
         return kNowhere;
+    removeUnsignedLock(lock);
     return path;
 }
 

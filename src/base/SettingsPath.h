@@ -13,8 +13,9 @@ class QIODevice;
 namespace SettingsPath
 {
 /// The path to keep the settings at, after a folder, a pipe, a device or a file that may not be
-/// read has been set aside there, and a lock that could never be taken. When that fails, a path at
-/// which nothing can be kept, so that the settings last only as long as the program.
+/// read has been set aside there, and a lock that could never be taken. A lock that a killed
+/// process left without its number is removed. When setting aside fails, a path at which nothing
+/// can be kept, so that the settings last only as long as the program.
 [[nodiscard]] QString cleared(const QString &path);
 
 /// Renames what lies at the path to "<path>.unreadable", with a number when that exists too;

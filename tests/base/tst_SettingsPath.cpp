@@ -4,6 +4,7 @@
 
 #include <QFileInfo>
 
+#include <sys/file.h>
 #include <sys/stat.h>
 
 namespace
@@ -18,6 +19,15 @@ constexpr auto kOnlyTheOwner = QFile::ReadOwner | QFile::WriteOwner;
 QFile::Permissions permissionsOf(const QString &path)
 {
     return QFileInfo(path).permissions() & ~(QFile::ReadUser | QFile::WriteUser | QFile::ExeUser);
+}
+
+/// Makes the lock of the file without saying whose it is; gives its path.
+QString emptyLock(const SettingsFile &file)
+{
+    QFile lock(file.path() + QStringLiteral(".lock"));
+    if (!lock.open(QIODevice::WriteOnly))
+        qFatal("the lock could not be made");
+    return lock.fileName();
 }
 
 void changeASetting(const QString &path, int value)
@@ -42,6 +52,8 @@ private Q_SLOTS:
     void aFileThatGrowsTooLargeMeanwhileIsSetAside();
     void aLockThatCanNeverBeTakenIsNotWaitedFor();
     void aLockThatSomebodyWhoWasKilledLeftBehindIsNotWaitedFor();
+    void aLockThatAKilledProcessHadNotSignedYetIsNotWaitedFor();
+    void aLockThatIsHeldAndNotSignedYetStays();
     void anEarlierFileSetAsideIsNotOverwritten();
     void onlyTheOwnerMayReadANewFile();
     void onlyTheOwnerMayReadARewrittenFile();
@@ -161,6 +173,30 @@ void tst_SettingsPath::aLockThatSomebodyWhoWasKilledLeftBehindIsNotWaitedFor()
 
     QCOMPARE(file.object(), (QJsonObject{{kKey, 2}}));
     QCOMPARE(file.folder(), QStringList{kFileName});
+}
+
+void tst_SettingsPath::aLockThatAKilledProcessHadNotSignedYetIsNotWaitedFor()
+{
+    const SettingsFile file;
+    const QString lock = emptyLock(file);
+
+    QCOMPARE(SettingsPath::cleared(file.path()), file.path());
+    QVERIFY(!QFile::exists(lock));
+}
+
+void tst_SettingsPath::aLockThatIsHeldAndNotSignedYetStays()
+{
+    const SettingsFile file;
+    QFile lock(emptyLock(file));
+    QVERIFY(lock.open(QIODevice::ReadWrite));
+    QCOMPARE(flock(lock.handle(), LOCK_EX), 0);
+
+    QCOMPARE(SettingsPath::cleared(file.path()), file.path());
+    QVERIFY(lock.exists());
+
+    lock.close();
+    QCOMPARE(SettingsPath::cleared(file.path()), file.path());
+    QVERIFY(!lock.exists());
 }
 
 void tst_SettingsPath::anEarlierFileSetAsideIsNotOverwritten()
