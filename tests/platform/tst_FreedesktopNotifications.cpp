@@ -1,6 +1,7 @@
 #include "platform/FreedesktopNotifications.h"
 #include "support/NotificationServer.h"
 #include "support/PrivateBus.h"
+#include "support/RoundTrip.h"
 #include "support/TestMain.h"
 
 #include <QElapsedTimer>
@@ -15,6 +16,12 @@ const QString kMarkup = QStringLiteral("body-markup");
 DesktopNotification saying(const QString &text)
 {
     return {QStringLiteral("Tea"), text, QStringLiteral("wuff")};
+}
+
+/// Lets pass what is on its way.
+void settleWithServer()
+{
+    settleWith(QStringLiteral("org.freedesktop.Notifications"));
 }
 } // namespace
 
@@ -201,7 +208,7 @@ void tst_FreedesktopNotifications::ofSeveralQuickOnesTheFirstAndTheLatestAreShow
     server.answerAgain();
 
     QTRY_COMPARE(server.shown.size(), 2U);
-    QTest::qWait(20);
+    settleWithServer();
     QCOMPARE(server.shown.size(), 2U);
     QCOMPARE(server.shown[0].text, QStringLiteral("first"));
     QCOMPARE(server.shown[1].text, QStringLiteral("fourth"));
@@ -221,7 +228,7 @@ void tst_FreedesktopNotifications::aSenderMayBeDestroyedBeforeTheAnswer()
     server.answerAgain();
 
     // It leaves nothing behind.
-    QTest::qWait(20);
+    settleWithServer();
     QCOMPARE(server.shown.size(), 0U);
 }
 
@@ -237,7 +244,7 @@ void tst_FreedesktopNotifications::theServiceMayBeDestroyedBeforeTheAnswer()
     }
     server.answerAgain();
 
-    QTest::qWait(20);
+    settleWithServer();
     QCOMPARE(server.shown.size(), 0U);
 }
 
@@ -247,8 +254,9 @@ void tst_FreedesktopNotifications::aMissingServerIsNoMatterAndIsFoundWhenItAppea
     FreedesktopNotifications notifications;
     const QObject sender;
     notifications.notify(sender, saying(QStringLiteral("unheard")));
-    // Time for the bus to answer that there is nobody; if it takes longer, the first is heard too.
-    QTest::qWait(50);
+    // The bus answers that there is none. Where it can start one it answers later, and then the
+    // first is heard, too.
+    settleWithBus();
 
     const NotificationServer &server = serve();
     notifications.notify(sender, saying(QStringLiteral("heard")));
@@ -274,7 +282,7 @@ void tst_FreedesktopNotifications::aServerThatNeverAnswersBlocksNothing()
     QVERIFY(elapsed.elapsed() < 500);
     // One question for each, however much there is to say.
     QTRY_COMPARE(server.heldBack(), 2U);
-    QTest::qWait(20);
+    settleWithServer();
     QCOMPARE(server.heldBack(), 2U);
 }
 
@@ -304,12 +312,13 @@ void tst_FreedesktopNotifications::withoutABusNothingIsAskedFor()
     qputenv("XDG_RUNTIME_DIR", runtimeDir.path().toUtf8());
 
     notifications.notify(sender, saying(QStringLiteral("done")));
-    QTest::qWait(50);
+    settleWithServer();
 
     qputenv("DBUS_SESSION_BUS_ADDRESS", _address.toUtf8());
     QCOMPARE(server.shown.size(), 0U);
     notifications.notify(sender, saying(QStringLiteral("with a bus")));
     QTRY_COMPARE(server.shown.size(), 1U);
+    QCOMPARE(server.shown.front().text, QStringLiteral("with a bus"));
 }
 
 WUFFER_TEST(tst_FreedesktopNotifications, OnPrivateBus)

@@ -3,6 +3,7 @@
 #include "support/BusPeer.h"
 #include "support/Fakes.h"
 #include "support/PrivateBus.h"
+#include "support/RoundTrip.h"
 #include "support/StatusWatcher.h"
 #include "support/TestMain.h"
 
@@ -106,7 +107,7 @@ void tst_FreedesktopStatusItem::theItemRegistersWithEveryWatcherThatComes()
     watch();
     for (int i = 0; i < 3; ++i) {
         _watcher.reset();
-        QTest::qWait(20);
+        settleWithBus();
         watch();
     }
 }
@@ -349,7 +350,7 @@ void tst_FreedesktopStatusItem::withoutAWatcherNothingIsSaid()
 void tst_FreedesktopStatusItem::aWatcherThatComesLateGetsWhatIsShown()
 {
     _item->setAttributedTitle(title("5m 3s "));
-    QTest::qWait(20);
+    settleWithBus();
     watch();
     BusPeer peer = panel();
     QCOMPARE(peer.property(QStringLiteral("XAyatanaLabel")), QStringLiteral("5m 3s "));
@@ -364,9 +365,9 @@ void tst_FreedesktopStatusItem::aMissingBusIsNoMatter()
     qputenv("XDG_RUNTIME_DIR", nowhere.path().toUtf8());
     _item.emplace();
     _item->setAttributedTitle(title("5m 3s "));
-    QTest::qWait(20);
+    settleWithBus();
     _item->setTitle({});
-    QTest::qWait(20);
+    settleWithBus();
     QCOMPARE(QDir(nowhere.path()).entryList(QDir::NoDotAndDotDot | QDir::AllEntries),
              QStringList());
     qputenv("DBUS_SESSION_BUS_ADDRESS", _address.toUtf8());
@@ -388,7 +389,7 @@ void tst_FreedesktopStatusItem::anOpenMenuStaysUntilItCloses()
     QTRY_VERIFY(isMenu());
     event("opened");
     _item->setMenu(nullptr);
-    QTest::qWait(20);
+    settleWithBus();
     QVERIFY(isMenu());
     event("closed");
     QTRY_VERIFY(!isMenu());

@@ -1,6 +1,7 @@
 #include "platform/FreedesktopNotifications.h"
 #include "support/NotificationServer.h"
 #include "support/PrivateBus.h"
+#include "support/RoundTrip.h"
 #include "support/TestMain.h"
 
 #include <optional>
@@ -80,7 +81,7 @@ private:
         settle();
     }
     /// Lets pass what is on its way.
-    static void settle() { QTest::qWait(30); }
+    static void settle() { settleWith(QStringLiteral("org.freedesktop.Notifications")); }
 
     const QString _address;
     std::optional<NotificationServer> _server;
@@ -169,7 +170,7 @@ void tst_NotificationActions::aPressThatSomebodyElseTellsOfDoesNothing()
         QStringLiteral("org.freedesktop.Notifications"), QStringLiteral("ActionInvoked"));
     signal.setArguments({100U, kStop});
     QVERIFY(other.send(signal));
-    settle();
+    settleWith(other.baseService());
     QDBusConnection::disconnectFromBus(QStringLiteral("other"));
     QCOMPARE(_diary, QStringList());
     QVERIFY(server.closed.empty());

@@ -1,5 +1,6 @@
 #include "platform/FreedesktopScreenBlanking.h"
 #include "support/PrivateBus.h"
+#include "support/RoundTrip.h"
 #include "support/ScreenSaverService.h"
 #include "support/TestMain.h"
 
@@ -12,6 +13,12 @@ namespace
 {
 const QString kReason = QStringLiteral("to be read from afar");
 const QString kAsked = QStringLiteral("inhibit Wuffer: to be read from afar");
+
+/// Lets pass what is on its way.
+void settleWithScreenSaver()
+{
+    settleWith(QStringLiteral("org.freedesktop.ScreenSaver"));
+}
 } // namespace
 
 /// Runs on a session bus of its own, where the test is the desktop.
@@ -58,7 +65,7 @@ void tst_ScreenBlanking::theScreenSaverIsAskedAndReleased()
     blanking.inhibit(asker, kReason);
     QTRY_COMPARE(server.diary, QStringList({kAsked}));
     // The answer is on its way back.
-    QTest::qWait(20);
+    settleWithScreenSaver();
     blanking.release(asker);
 
     QTRY_COMPARE(server.diary, QStringList({kAsked, QStringLiteral("release 7")}));
@@ -70,7 +77,7 @@ void tst_ScreenBlanking::nothingIsAskedBefore()
     FreedesktopScreenBlanking blanking;
     const QObject asker;
     blanking.release(asker);
-    QTest::qWait(30);
+    settleWithScreenSaver();
     QCOMPARE(server.diary, QStringList());
 }
 
@@ -85,7 +92,7 @@ void tst_ScreenBlanking::twoAskersAreOneQuestionAndTheLastReleases()
     blanking.inhibit(other, kReason);
     QTRY_COMPARE(server.diary, QStringList({kAsked}));
     blanking.release(one);
-    QTest::qWait(30);
+    settleWithScreenSaver();
     QCOMPARE(server.diary, QStringList({kAsked}));
     blanking.release(other);
 
@@ -105,7 +112,7 @@ void tst_ScreenBlanking::askingTwiceIsReleasedOnce()
     blanking.release(asker);
 
     QTRY_COMPARE(server.diary.size(), 2);
-    QTest::qWait(20);
+    settleWithScreenSaver();
     QCOMPARE(server.diary.size(), 2);
 }
 
@@ -146,7 +153,7 @@ void tst_ScreenBlanking::aReleaseBeforeTheAnswerReleasesWhenItComes()
     blanking.inhibit(asker, kReason);
     QTRY_COMPARE(server.heldBack(), 1U);
     blanking.release(asker);
-    QTest::qWait(20);
+    settleWithScreenSaver();
     QCOMPARE(server.diary, QStringList({kAsked}));
     server.answerAgain();
 
@@ -165,7 +172,7 @@ void tst_ScreenBlanking::anAnswerThatIsWantedAgainIsKept()
     blanking.inhibit(asker, kReason);
     QTRY_COMPARE(server.heldBack(), 1U);
     server.answerAgain();
-    QTest::qWait(30);
+    settleWithScreenSaver();
     QCOMPARE(server.diary, QStringList({kAsked}));
     blanking.release(asker);
 
@@ -188,7 +195,7 @@ void tst_ScreenBlanking::aFrozenScreenSaverBlocksNothing()
 
     QVERIFY(elapsed.elapsed() < 500);
     QTRY_COMPARE(server.heldBack(), 1U);
-    QTest::qWait(20);
+    settleWithScreenSaver();
     QCOMPARE(server.heldBack(), 1U);
 }
 
@@ -199,13 +206,13 @@ void tst_ScreenBlanking::aScreenSaverThatIsRestartedIsAskedAgain()
     const QObject asker;
     blanking.inhibit(asker, kReason);
     QTRY_COMPARE(before.diary.size(), 1);
-    QTest::qWait(20);
+    settleWithScreenSaver();
 
     _screenSaver.reset();
     const ScreenSaverService &after = serve();
 
     QTRY_COMPARE(after.diary, QStringList({kAsked}));
-    QTest::qWait(20);
+    settleWithScreenSaver();
     blanking.release(asker);
     QTRY_COMPARE(after.diary, QStringList({kAsked, QStringLiteral("release 7")}));
 }
@@ -217,7 +224,7 @@ void tst_ScreenBlanking::aScreenSaverThatIsRestartedIsNotToldTheNumbersOfTheOldO
     const QObject asker;
     blanking.inhibit(asker, kReason);
     QTRY_COMPARE(before.diary.size(), 1);
-    QTest::qWait(20);
+    settleWithScreenSaver();
 
     _screenSaver.reset();
     ScreenSaverService &after = serve();
@@ -225,7 +232,7 @@ void tst_ScreenBlanking::aScreenSaverThatIsRestartedIsNotToldTheNumbersOfTheOldO
     blanking.release(asker);
 
     // It may have been asked when it came, but what it has not granted it is not given back.
-    QTest::qWait(50);
+    settleWithScreenSaver();
     QVERIFY(!after.diary.contains(QStringLiteral("release 7")));
 }
 
@@ -234,10 +241,10 @@ void tst_ScreenBlanking::withoutAnybodyNothingHappens()
     FreedesktopScreenBlanking blanking;
     const QObject asker;
     blanking.inhibit(asker, kReason);
-    QTest::qWait(50);
+    settleWithBus();
     blanking.release(asker);
     const ScreenSaverService &server = serve();
-    QTest::qWait(30);
+    settleWithScreenSaver();
     QCOMPARE(server.diary, QStringList());
 }
 
@@ -252,7 +259,7 @@ void tst_ScreenBlanking::withoutABusNothingIsAskedFor()
 
     blanking.inhibit(asker, kReason);
     blanking.release(asker);
-    QTest::qWait(30);
+    settleWithScreenSaver();
 
     qputenv("DBUS_SESSION_BUS_ADDRESS", _address.toUtf8());
     QCOMPARE(server.diary, QStringList());
@@ -271,7 +278,7 @@ void tst_ScreenBlanking::aScreenSaverThatIsRestartedBeforeItHasAnsweredIsAskedAg
     const ScreenSaverService &after = serve();
 
     QTRY_COMPARE(after.diary, QStringList({kAsked}));
-    QTest::qWait(20);
+    settleWithScreenSaver();
     blanking.release(asker);
     QTRY_COMPARE(after.diary, QStringList({kAsked, QStringLiteral("release 7")}));
 }
