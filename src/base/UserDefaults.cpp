@@ -12,25 +12,15 @@
 #include <algorithm>
 #include <limits>
 
-UserDefaults::UserDefaults(const QString &path)
-{
-#ifdef Q_OS_MACOS
-    _settings = std::make_unique<QSettings>(path, QSettings::NativeFormat);
-#else
-    _settings =
-        std::make_unique<QSettings>(SettingsPath::cleared(path), JsonSettingsFormat::format());
-#endif
-}
+UserDefaults::UserDefaults(const QString &path) :
+    _settings(
+        std::make_unique<QSettings>(SettingsPath::cleared(path), JsonSettingsFormat::format()))
+{}
 
 QString UserDefaults::standardPath()
 {
-#ifdef Q_OS_MACOS
-    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
-           QStringLiteral("/wuffer.plist");
-#else
     return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
            QStringLiteral("/wuffer/wuffer.json");
-#endif
 }
 
 UserDefaults &UserDefaults::standardUserDefaults()

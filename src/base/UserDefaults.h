@@ -10,7 +10,7 @@
 
 /// The settings of this user: texts, numbers, lists and dictionaries, each under a key.
 ///
-/// On Linux they live in one readable JSON file, written as a whole or not at all, within a
+/// They live in one readable JSON file, written as a whole or not at all, within a
 /// second of a change. A value of another type than the one asked for reads as missing, and keys
 /// that nobody asks for are kept. What cannot be read or understood is set aside beside the new
 /// file, never overwritten; where nothing can be written the settings last as long as the program.

@@ -1,17 +1,16 @@
 #pragma once
 
+#include <QOperatingSystemVersion>
 #include <Qt>
 
 /// The two modifier keys that the program's own shortcuts and drags ask for.
 namespace Keyboard
 {
-#ifdef Q_OS_MACOS
-/// The Command key of macOS, which Qt calls Control there.
-inline constexpr Qt::KeyboardModifier kCommand = Qt::ControlModifier;
-inline constexpr Qt::KeyboardModifier kControl = Qt::MetaModifier;
-#else
-/// Alt stands in for the Command key that other keyboards do not have.
-inline constexpr Qt::KeyboardModifier kCommand = Qt::AltModifier;
-inline constexpr Qt::KeyboardModifier kControl = Qt::ControlModifier;
-#endif
+inline constexpr bool kIsMac =
+    QOperatingSystemVersion::currentType() == QOperatingSystemVersion::MacOS;
+
+/// The Command key of macOS, which Qt calls Control there. Alt stands in for it on keyboards that
+/// have none.
+inline constexpr Qt::KeyboardModifier kCommand = kIsMac ? Qt::ControlModifier : Qt::AltModifier;
+inline constexpr Qt::KeyboardModifier kControl = kIsMac ? Qt::MetaModifier : Qt::ControlModifier;
 } // namespace Keyboard
