@@ -1,8 +1,8 @@
-#include "app/ProcessTuning.h"
 #include "app/SystemServices.h"
 #include "app/WufferApplication.h"
 #include "app/WufferController.h"
 #include "base/Date.h"
+#include "platform/ProcessTuning.h"
 #include "timer/Wuffer.h"
 #include "timer/WufferWindow.h"
 

@@ -1,17 +1,20 @@
 # A layer: the library wuffer_<name> of the current folder of src, which is called like the layer.
 #
-#   wuffer_layer(<name> SOURCES <file>... LINKS <library>... [PRIVATE_LINKS <library>...])
+#   wuffer_layer(<name> SOURCES <file>... LINKS <library>... [PRIVATE_LINKS <library>...]
+#       [LINUX_SOURCES <file>...] [GENERIC_SOURCES <file>...])
 #
+# Of the last two lists, the one for WUFFER_PLATFORM is taken.
 # Its headers are included as "<name>/<header>". Each layer has an include folder of its own, which
 # only those see that link the layer, so that nothing can include what it does not link.
 function(wuffer_layer name)
-    cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LINKS;PRIVATE_LINKS")
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LINKS;PRIVATE_LINKS;LINUX_SOURCES;GENERIC_SOURCES")
+    string(TOUPPER "${WUFFER_PLATFORM}" system)
     set(target "wuffer_${name}")
     set(include_folder "${PROJECT_BINARY_DIR}/layers/${name}")
     file(MAKE_DIRECTORY "${include_folder}")
     file(CREATE_LINK "${CMAKE_CURRENT_SOURCE_DIR}" "${include_folder}/${name}" SYMBOLIC)
 
-    add_library(${target} ${arg_SOURCES})
+    add_library(${target} ${arg_SOURCES} ${arg_${system}_SOURCES})
     target_include_directories(${target} PUBLIC "${include_folder}")
     target_link_libraries(${target}
         PUBLIC ${arg_LINKS} wuffer_build_options

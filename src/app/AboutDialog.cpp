@@ -2,6 +2,7 @@
 
 #include "BuildInfo.h"
 #include "app/MainMenu.h"
+#include "platform/SystemLibraries.h"
 #include "platform/WindowOrder.h"
 #include "ui_About.h"
 
@@ -14,20 +15,11 @@
 
 namespace
 {
-struct Library
-{
-    const char *name;
-    const char *use;
-    const char *licence;
-};
-
-/// What the program and its sound module are linked with.
-constexpr std::array kLibraries{
-    Library{"Qt %1", QT_TRANSLATE_NOOP("AboutDialog", "windows, session bus"), "LGPL 3"},
+/// What the sound module is linked with.
+constexpr std::array kSoundLibraries{
     Library{"cubeb", QT_TRANSLATE_NOOP("AboutDialog", "sound output"), "ISC"},
     Library{"libsndfile", QT_TRANSLATE_NOOP("AboutDialog", "sound files"), "LGPL 2.1"},
     Library{"libmpg123", QT_TRANSLATE_NOOP("AboutDialog", "MP3 files"), "LGPL 2.1"},
-    Library{"libxcb", QT_TRANSLATE_NOOP("AboutDialog", "X Window System"), "MIT"},
 };
 
 /// With the version that is loaded, which need not be that of the build, where there is a place
@@ -50,8 +42,10 @@ QString rowOf(const Library &library)
 
 QString libraryTable()
 {
-    QString rows;
-    for (const Library &each : kLibraries)
+    QString rows = rowOf({"Qt %1", SystemLibraries::useOfQt(), "LGPL 3"});
+    for (const Library &each : kSoundLibraries)
+        rows += rowOf(each);
+    for (const Library &each : SystemLibraries::besideQt())
         rows += rowOf(each);
     return QStringLiteral("<table cellspacing=\"0\">%1</table>").arg(rows);
 }

@@ -21,7 +21,7 @@ Qt::KeyboardModifiers modifierOf(const QKeyEvent &press)
 std::optional<int> digitOf(const QKeyEvent &press)
 {
     const std::optional<int> digit = DigitRow::digitOfKey(press.key());
-    const quint32 number = press.nativeScanCode();
+    const quint32 number = KeyboardLayout::numberOf(press);
     if (digit || !DigitRow::contains(number))
         return digit;
     return DigitRow::digitAt(number, [state = press.nativeModifiers()](quint32 key) {

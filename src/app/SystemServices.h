@@ -1,11 +1,12 @@
 #pragma once
 
+#include "base/DesktopNotifications.h"
+#include "base/ScreenBlanking.h"
 #include "base/Service.h"
 #include "base/UserDefaults.h"
-#include "platform/FreedesktopNotifications.h"
-#include "platform/FreedesktopScreenBlanking.h"
-#include "platform/FreedesktopStatusItem.h"
 #include "platform/LazySoundSystem.h"
+#include "platform/PlatformServices.h"
+#include "platform/StatusItem.h"
 #include "platform/SystemClock.h"
 #include "platform/SystemDesktop.h"
 #include "platform/SystemOpenPanel.h"
@@ -25,18 +26,19 @@ private:
     Service<Clock> _clockService{_clock};
     UserDefaults _defaults{UserDefaults::standardPath()};
     LazySoundSystem _sounds;
-    FreedesktopNotifications _notifications;
-    GatheredNotifications _gatheredNotifications{_notifications};
-    FreedesktopScreenBlanking _screenBlanking;
+    const std::unique_ptr<DesktopNotifications> _notifications =
+        PlatformServices::desktopNotifications();
+    GatheredNotifications _gatheredNotifications{*_notifications};
+    const std::unique_ptr<ScreenBlanking> _screenBlanking = PlatformServices::screenBlanking();
     SystemDesktop _desktop;
     SystemOpenPanel _openPanel;
-    FreedesktopStatusItem _statusItem;
+    const std::unique_ptr<StatusItem> _statusItem = PlatformServices::statusItem();
 
     Service<UserDefaults> _defaultsService{_defaults};
     Service<SoundSystem> _soundService{_sounds};
     Service<DesktopNotifications> _notificationService{_gatheredNotifications};
-    Service<ScreenBlanking> _screenBlankingService{_screenBlanking};
+    Service<ScreenBlanking> _screenBlankingService{*_screenBlanking};
     Service<Desktop> _desktopService{_desktop};
     Service<OpenPanel> _openPanelService{_openPanel};
-    Service<StatusItem> _statusItemService{_statusItem};
+    Service<StatusItem> _statusItemService{*_statusItem};
 };

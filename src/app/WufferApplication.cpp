@@ -1,7 +1,7 @@
 #include "app/WufferApplication.h"
 
 #include "BuildInfo.h"
-#include "app/ProcessTuning.h"
+#include "platform/ProcessTuning.h"
 #include "timer/Wuffer.h"
 #include "timer/WufferWindow.h"
 

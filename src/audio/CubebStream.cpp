@@ -1,22 +1,6 @@
 #include "audio/CubebStream.h"
 
-#include "audio/PulseServer.h"
-
-namespace
-{
-/// The way out that the sound library is to take. Left to itself it tries each that it knows, also
-/// when the one it was told fails; and to ask for a JACK server leaves files in shared memory when
-/// there is none. So only a way is named that is known to be open. (ALSA always is; the library
-/// tells later if there is no device.)
-const char *backEnd()
-{
-#ifdef Q_OS_LINUX
-    return PulseServer::answers() ? "pulse" : "alsa";
-#else
-    return nullptr;
-#endif
-}
-} // namespace
+#include "audio/BackEnd.h"
 
 std::unique_ptr<CubebStream> CubebStream::open(int sampleRate, const QByteArray &title,
                                                Render render, std::function<void()> lost)
@@ -38,7 +22,7 @@ void CubebStream::Destroy::operator()(cubeb_stream *stream) const
 bool CubebStream::start(int sampleRate, const QByteArray &title)
 {
     cubeb *context = nullptr;
-    if (cubeb_init(&context, title.constData(), backEnd()) != CUBEB_OK)
+    if (cubeb_init(&context, title.constData(), soundBackEnd()) != CUBEB_OK)
         return false;
     _context.reset(context);
 

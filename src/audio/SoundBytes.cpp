@@ -1,22 +1,15 @@
 #include "audio/SoundBytes.h"
 
+#include "base/RegularFile.h"
+
 #include <QFile>
 #include <QFileInfo>
 #include <QtNumeric>
 
 #include <cstdio>
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
 namespace
 {
-bool isRegularFile(int descriptor)
-{
-    struct stat status = {};
-    return ::fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode);
-}
-
 /// The size of the ID3 tag at this offset, with its header and footer; 0 when there is none.
 qint64 id3TagSize(QIODevice &bytes, qint64 offset)
 {
@@ -35,21 +28,7 @@ qint64 id3TagSize(QIODevice &bytes, qint64 offset)
 
 std::unique_ptr<QIODevice> openSoundFile(const QString &path)
 {
-    // Opened first and looked at afterwards, so that nobody can exchange it in between.
-    const int descriptor =
-        ::open(QFile::encodeName(path).constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
-    if (descriptor < 0)
-        return nullptr;
-    if (!isRegularFile(descriptor)) {
-        ::close(descriptor);
-        return nullptr;
-    }
-    auto file = std::make_unique<QFile>();
-    if (!file->open(descriptor, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle)) {
-        ::close(descriptor);
-        return nullptr;
-    }
-    return file;
+    return RegularFile(path, RegularFile::Access::Read).takeDevice();
 }
 
 std::unique_ptr<QIODevice> openSoundResource(const QString &fileName)

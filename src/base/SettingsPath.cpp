@@ -1,10 +1,12 @@
 #include "base/SettingsPath.h"
 
+#include "base/RegularFile.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QProcess>
 
-#include <fcntl.h>
 #include <filesystem>
 #include <sys/file.h>
 #include <sys/stat.h>
@@ -17,56 +19,19 @@ namespace fs = std::filesystem;
 /// A thousand times as much as anybody has, in bytes.
 constexpr qint64 kLargest = 16LL * 1024 * 1024;
 /// A path at which nothing can be.
-const QString kNowhere = QStringLiteral("/dev/null/settings");
+const QString kNowhere = QProcess::nullDevice() + QStringLiteral("/settings");
 
 fs::path native(const QString &path)
 {
-    return {QFile::encodeName(path).toStdString()};
-}
-
-/// A descriptor of a regular file, which is closed with its scope, or why there is none.
-class Opened final
-{
-public:
-    static Opened file(int descriptor) { return {descriptor, false}; }
-    static Opened nothing(bool isMissing) { return {-1, isMissing}; }
-    ~Opened()
-    {
-        if (_descriptor >= 0)
-            ::close(_descriptor);
-    }
-    Q_DISABLE_COPY_MOVE(Opened)
-
-    [[nodiscard]] bool isOpen() const { return _descriptor >= 0; }
-    [[nodiscard]] bool isMissing() const { return _isMissing; }
-    [[nodiscard]] int descriptor() const { return _descriptor; }
-
-private:
-    Opened(int descriptor, bool isMissing) : _descriptor(descriptor), _isMissing(isMissing) {}
-
-    int _descriptor;
-    bool _isMissing;
-};
-
-Opened openRegularFile(const QString &path, int access)
-{
-    // A pipe must not be waited for.
-    const int flags = access | O_NONBLOCK | O_NOCTTY | O_CLOEXEC;
-    const int descriptor = ::open(QFile::encodeName(path).constData(), flags);
-    if (descriptor < 0)
-        return Opened::nothing(errno == ENOENT);
-    struct stat status = {};
-    if (::fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode))
-        return Opened::file(descriptor);
-    ::close(descriptor);
-    return Opened::nothing(false);
+    const QByteArray text = path.toUtf8();
+    return {std::u8string(text.cbegin(), text.cend())};
 }
 
 /// Whether a regular file lies there that may be opened so, or nothing.
-bool isUsable(const QString &path, int access)
+bool isUsable(const QString &path, RegularFile::Access access)
 {
-    const Opened opened = openRegularFile(path, access);
-    return opened.isOpen() || opened.isMissing();
+    const RegularFile file(path, access);
+    return file.isOpen() || file.isMissing();
 }
 
 QString freeNameBeside(const QString &path)
@@ -106,11 +71,12 @@ void removeUnsignedLock(const QString &lock)
 
 QString SettingsPath::cleared(const QString &path)
 {
+    using Access = RegularFile::Access;
     const QString lock = path + QStringLiteral(".lock");
-    if (!isUsable(path, O_RDONLY) && !setAside(path))
+    if (!isUsable(path, Access::Read) && !setAside(path))
         return kNowhere;
     // Whoever may write the settings, but cannot open a lock, waits for it in vain.
-    if (!isUsable(lock, O_WRONLY) && !moveAway(lock) && isUsable(path, O_RDWR))
+    if (!isUsable(lock, Access::Write) && !moveAway(lock) && isUsable(path, Access::ReadAndWrite))
         return kNowhere;
     removeUnsignedLock(lock);
     return path;
@@ -125,7 +91,7 @@ bool SettingsPath::setAside(const QString &path)
 
 bool SettingsPath::isFree(const QString &path)
 {
-    return openRegularFile(path, O_RDONLY).isMissing();
+    return RegularFile(path, RegularFile::Access::Read).isMissing();
 }
 
 std::optional<QByteArray> SettingsPath::textOf(QIODevice &file)
@@ -141,12 +107,8 @@ std::optional<QByteArray> SettingsPath::textOf(QIODevice &file)
 
 std::optional<QByteArray> SettingsPath::textAt(const QString &path)
 {
-    const Opened opened = openRegularFile(path, O_RDONLY);
-    QFile file;
-    if (!opened.isOpen() ||
-        !file.open(opened.descriptor(), QIODevice::ReadOnly, QFileDevice::DontCloseHandle))
-        return {};
-    return textOf(file);
+    const auto file = RegularFile(path, RegularFile::Access::Read).takeDevice();
+    return file ? textOf(*file) : std::nullopt;
 }
 
 void SettingsPath::makePrivateFolder(const QString &path)

@@ -8,7 +8,8 @@
 ///
 /// It answers to the org.freedesktop.Application interface of the Desktop Entry Specification, by
 /// which a desktop starts a program over the bus and runs the actions of its entry. What an action
-/// means it leaves to others. Without a bus every start is the first. Main thread.
+/// means it leaves to others. Without a bus, and on systems that have none, every start is the
+/// first. Main thread.
 class SingleInstance final : public QObject
 {
     Q_OBJECT
@@ -18,11 +19,9 @@ public:
     /// an application object, which takes it out of the environment.
     [[nodiscard]] static QVariantMap thisLaunch();
 
-    /// Takes its name from the name of the desktop entry.
     SingleInstance();
-    ~SingleInstance() override;
 
-    /// Tries to own the name; whether it does.
+    /// Tries to own the name, which is that of the desktop entry; whether it does.
     [[nodiscard]] bool claim();
 
     /// Tells the one that owns the name what this one was started for; an empty action only
@@ -36,12 +35,4 @@ Q_SIGNALS:
     /// Somebody wants the program to do this; an empty action only brings it to the front. An
     /// action may be one that nobody knows.
     void asked(const QString &action);
-
-private:
-    class Interface;
-
-    void handle(const QString &action, const QVariantMap &platformData);
-
-    const QString _name;
-    const QString _path;
 };

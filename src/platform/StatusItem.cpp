@@ -1,5 +1,7 @@
 #include "platform/StatusItem.h"
 
+#include <QGuiApplication>
+
 void StatusItem::setImage(const QIcon &image)
 {
     if (image.cacheKey() == _image.cacheKey())
@@ -21,6 +23,12 @@ void StatusItem::setTitle(const QString &text)
     StatusTitle title = _title;
     title.text = text;
     setAttributedTitle(title);
+}
+
+QString StatusItem::titleWithProgram(const QString &text)
+{
+    const QString program = QGuiApplication::applicationDisplayName();
+    return text.isEmpty() ? program : program + QStringLiteral(": ") + text.trimmed();
 }
 
 void StatusItem::setTarget(QObject *target, std::function<void()> action)

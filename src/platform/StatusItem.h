@@ -40,6 +40,9 @@ public:
     /// Replaces the text and leaves its attributes.
     void setTitle(const QString &text);
 
+    /// The name of the program with the text of a title, where there is one.
+    [[nodiscard]] static QString titleWithProgram(const QString &text);
+
     [[nodiscard]] bool isEmpty() const { return _image.isNull() && _title.text.isEmpty(); }
 
     /// Whom a press is meant for; null when there is nobody, also once it is destroyed.

@@ -1,28 +1,15 @@
 #include "platform/SystemClock.h"
 
+#include "platform/BootTime.h"
+
 #include <algorithm>
-#include <chrono>
 #include <cmath>
-#include <ctime>
 
 namespace
 {
 /// The longest wait asked of QTimer, in milliseconds. It takes at most 24.8 days; a wait that
 /// is longer is made of several.
 constexpr double kLongestWait = 86'400'000.0;
-
-double secondsSinceBoot()
-{
-#ifdef CLOCK_BOOTTIME
-    // The one clock of Linux that counts through suspend and that nobody can set.
-    timespec time{};
-    clock_gettime(CLOCK_BOOTTIME, &time);
-    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) * 1e-9;
-#else
-    const auto time = std::chrono::steady_clock::now().time_since_epoch();
-    return std::chrono::duration<double>(time).count();
-#endif
-}
 } // namespace
 
 SystemClock::SystemClock() :

@@ -5,8 +5,8 @@
 #include <QTimer>
 
 /// The clock of the running program: the computer's time since it was started, mapped to
-/// calendar time once. Setting the computer's clock moves no timer, and a suspended computer
-/// finds its timers where they ought to be when it wakes.
+/// calendar time once. Setting the computer's clock moves no timer. Where the system counts the
+/// time of a suspend (secondsSinceBoot()), timers are where they ought to be after one.
 class SystemClock final : public Clock
 {
 public:

@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QProcess>
 #include <QScopeGuard>
 #include <QSettings>
 #include <QStandardPaths>
@@ -38,7 +39,7 @@ void keepSharedSettingsIn(const QString &folder)
 /// toolkit show files when it is made, and writes that back when it is destroyed.
 void forgetWhatTheDialogRemembers()
 {
-    keepSharedSettingsIn(QStringLiteral("/dev/null"));
+    keepSharedSettingsIn(QProcess::nullDevice());
 }
 
 void goBackToTheSharedSettings()

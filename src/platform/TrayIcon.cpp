@@ -3,7 +3,6 @@
 #include "platform/StatusItem.h"
 
 #include <QCursor>
-#include <QGuiApplication>
 #include <QSystemTrayIcon>
 #include <QTextDocument>
 
@@ -54,10 +53,9 @@ void TrayIcon::press()
 
 void TrayIcon::prepare()
 {
-    // Where there are no X windows, no tray takes one in.
-    if (_tray || QGuiApplication::platformName() != QLatin1String("xcb"))
+    if (_tray)
         return;
-    // Qt asks the bus in here, and waits for the answer.
+    // On a desktop with a session bus, Qt asks that in here, and waits for the answer.
     _tray = std::make_unique<QSystemTrayIcon>();
     connect(_tray.get(), &QSystemTrayIcon::activated, this,
             [this](QSystemTrayIcon::ActivationReason reason) {

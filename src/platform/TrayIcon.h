@@ -11,8 +11,8 @@
 class QSystemTrayIcon;
 class StatusItem;
 
-/// The status item in a tray that takes X windows in: the picture, with the title as its tooltip.
-/// It is there only while it has been given something to show.
+/// The status item in the tray of the system, as one of X11 that takes windows in: the picture,
+/// with the title as its tooltip. It is there only while it has been given something to show.
 class TrayIcon final : public QObject
 {
     Q_OBJECT

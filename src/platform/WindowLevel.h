@@ -6,7 +6,7 @@ class QWidget;
 /// with the window; it is not the program's, which only asks for it and reads it.
 namespace WindowLevel
 {
-/// Whether the window manager does it. It does not under Wayland.
+/// Whether the window manager does it. It does so on X11.
 [[nodiscard]] bool canKeepOnTop();
 
 /// Whether this window, which has been shown, is kept above the others now.

@@ -1,4 +1,4 @@
-#include "platform/DBusMenu.h"
+#include "platform/linux/DBusMenu.h"
 #include "support/BusPeer.h"
 #include "support/Fakes.h"
 #include "support/PrivateBus.h"

@@ -1,4 +1,4 @@
-#include "platform/FreedesktopNotifications.h"
+#include "platform/linux/FreedesktopNotifications.h"
 #include "support/NotificationServer.h"
 #include "support/PrivateBus.h"
 #include "support/RoundTrip.h"

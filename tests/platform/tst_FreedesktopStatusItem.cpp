@@ -1,5 +1,5 @@
-#include "platform/FreedesktopStatusItem.h"
-#include "platform/StatusNotifierTypes.h"
+#include "platform/linux/FreedesktopStatusItem.h"
+#include "platform/linux/StatusNotifierTypes.h"
 #include "support/BusPeer.h"
 #include "support/Fakes.h"
 #include "support/PrivateBus.h"

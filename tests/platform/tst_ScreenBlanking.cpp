@@ -1,4 +1,4 @@
-#include "platform/FreedesktopScreenBlanking.h"
+#include "platform/linux/FreedesktopScreenBlanking.h"
 #include "support/PrivateBus.h"
 #include "support/RoundTrip.h"
 #include "support/ScreenSaverService.h"

@@ -1,5 +1,5 @@
-#include "platform/BusProbe.h"
 #include "platform/SingleInstance.h"
+#include "platform/linux/BusProbe.h"
 #include "support/BusPeer.h"
 #include "support/PrivateBus.h"
 #include "support/TestMain.h"

@@ -1,0 +1,6 @@
+#include "audio/BackEnd.h"
+
+const char *soundBackEnd()
+{
+    return nullptr;
+}

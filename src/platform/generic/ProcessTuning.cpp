@@ -1,0 +1,5 @@
+#include "platform/ProcessTuning.h"
+
+void tuneProcess() {}
+
+void returnFreeMemory() {}

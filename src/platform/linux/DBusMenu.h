@@ -1,0 +1,89 @@
+#pragma once
+
+#include "platform/StatusMenu.h"
+#include "platform/linux/DBusMenuTypes.h"
+
+#include <QDBusContext>
+#include <QDBusServiceWatcher>
+#include <QObject>
+#include <QPointer>
+#include <QTimer>
+
+#include <functional>
+#include <vector>
+
+/// The list of a status item as panels read it over the session bus: the interface
+/// com.canonical.dbusmenu. The root is item 0; the lines have the numbers that the list gives them.
+///
+/// While the menu is closed, the bus carries nothing but that there are other lines; their texts
+/// go out when a panel is about to show them. While it is open, texts follow a few times a second,
+/// and the lines stay as they are so that nothing moves under the pointer. Properties, slots and
+/// signals that begin with a capital are the protocol's.
+class DBusMenu final : public QObject, protected QDBusContext
+{
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "com.canonical.dbusmenu")
+    Q_PROPERTY(uint Version READ version)
+    Q_PROPERTY(QString TextDirection READ textDirection)
+    Q_PROPERTY(QString Status READ status)
+    Q_PROPERTY(QStringList IconThemePath READ iconThemePath)
+
+public:
+    /// Calls back whenever the menu has been closed.
+    explicit DBusMenu(std::function<void()> whenClosed);
+
+    /// Shows the lines of this list from now on; null for none. A menu that is open keeps its
+    /// lines until it closes.
+    void setMenu(StatusMenu *menu);
+
+    /// Whether a panel has it open, as far as panels tell.
+    [[nodiscard]] bool isOpen() const { return _open; }
+
+    /// Takes the menu as closed: the panel that had it open is there no longer.
+    void forgetPanel();
+
+    [[nodiscard]] static uint version() { return 3; }
+    [[nodiscard]] static QString textDirection();
+    [[nodiscard]] static QString status() { return QStringLiteral("normal"); }
+    [[nodiscard]] static QStringList iconThemePath() { return {}; }
+
+public Q_SLOTS:
+    uint GetLayout(int parentId, int recursionDepth, const QStringList &propertyNames,
+                   DBusMenuTypes::Layout &layout);
+    DBusMenuTypes::Items GetGroupProperties(const QList<int> &ids,
+                                            const QStringList &propertyNames);
+    QDBusVariant GetProperty(int id, const QString &name);
+    void Event(int id, const QString &eventId, const QDBusVariant &data, uint timestamp);
+    QList<int> EventGroup(const DBusMenuTypes::Events &events);
+    bool AboutToShow(int id);
+    QList<int> AboutToShowGroup(const QList<int> &ids, QList<int> &idErrors);
+
+Q_SIGNALS:
+    void ItemsPropertiesUpdated(const DBusMenuTypes::Items &updated,
+                                const DBusMenuTypes::Removals &removed);
+    void LayoutUpdated(uint revision, int parent);
+
+private:
+    [[nodiscard]] std::vector<StatusMenu::Line> currentLines() const;
+    [[nodiscard]] bool hasLine(int id) const;
+    void handle(int id, const QString &eventId);
+    void open();
+    void close();
+    void updateWhileOpen();
+    void updateLines();
+    bool bringUpToDate();
+    bool tellTexts(const std::vector<StatusMenu::Line> &lines);
+
+    std::function<void()> _whenClosed;
+    QPointer<StatusMenu> _menu;
+    /// Where the lines that the panel knows come from, also when they are shown no longer.
+    QPointer<StatusMenu> _source;
+    /// What the panel knows, or is about to ask for.
+    std::vector<StatusMenu::Line> _told;
+    uint _revision = 1;
+    bool _open = false;
+    /// Tells when the panel that has it open has gone.
+    QDBusServiceWatcher _panelWatcher;
+    QTimer _textTimer;
+    QTimer _linesTimer;
+};

@@ -1,0 +1,268 @@
+#include "platform/linux/FreedesktopNotifications.h"
+
+#include "platform/linux/ActivationToken.h"
+#include "platform/linux/SessionBus.h"
+
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
+#include <QGuiApplication>
+#include <QVariantMap>
+
+#include <algorithm>
+#include <array>
+#include <limits>
+#include <optional>
+
+/// What has been said to the server, and is still to say, on behalf of one sender.
+struct FreedesktopNotifications::Conversation
+{
+    /// The server's number for the notification shown last; 0 when there is none.
+    uint id = 0;
+    /// The unique name of the server that gave the number. To another one it means nothing.
+    QString server;
+    /// True from the first question until the server has numbered the notification.
+    bool underWay = false;
+    /// The latest that has not been sent. Whatever came before it would only be replaced.
+    std::optional<DesktopNotification> next;
+    /// The latest that has been sent; nothing when that has been withdrawn or is gone.
+    std::optional<DesktopNotification> shown;
+};
+
+namespace
+{
+const QString kInterface = QStringLiteral("org.freedesktop.Notifications");
+const QString kPath = QStringLiteral("/org/freedesktop/Notifications");
+
+using Action = std::function<void()> DesktopNotification::*;
+
+/// A button; the default one is a click on the notification itself.
+struct Button
+{
+    QLatin1String key;
+    const char *label;
+    Action action;
+};
+
+constexpr std::array kButtons{
+    Button{QLatin1String("default"), QT_TRANSLATE_NOOP("FreedesktopNotifications", "Show"),
+           &DesktopNotification::show},
+    Button{QLatin1String("show"), QT_TRANSLATE_NOOP("FreedesktopNotifications", "Show"),
+           &DesktopNotification::show},
+    Button{QLatin1String("stop"), QT_TRANSLATE_NOOP("FreedesktopNotifications", "Stop"),
+           &DesktopNotification::stop},
+};
+
+QDBusMessage call(const QString &server, const QString &method, const QVariantList &arguments = {})
+{
+    QDBusMessage message = QDBusMessage::createMethodCall(server, kPath, kInterface, method);
+    message.setArguments(arguments);
+    return message;
+}
+
+/// The keys and labels of the buttons, in turn.
+QStringList buttons(const DesktopNotification &notification)
+{
+    QStringList keysAndLabels;
+    for (const Button &button : kButtons) {
+        if (notification.*button.action)
+            keysAndLabels << button.key << FreedesktopNotifications::tr(button.label);
+    }
+    return keysAndLabels;
+}
+
+/// The icon is installed under the name of the program.
+QString iconName()
+{
+    return QGuiApplication::applicationName();
+}
+
+QVariantMap hintsFor(const DesktopNotification &notification)
+{
+    QVariantMap hints{
+        {QStringLiteral("desktop-entry"), QGuiApplication::desktopFileName()},
+        {QStringLiteral("category"), QString(QStringLiteral("x-wuffer.") + notification.name)},
+        // The program plays its own alarm.
+        {QStringLiteral("suppress-sound"), true},
+    };
+    // Nor does the desktop list each return of one among what was missed.
+    constexpr uchar low = 0;
+    if (notification.occasion == DesktopNotification::Occasion::Reminder)
+        hints[QStringLiteral("urgency")] = QVariant::fromValue(low);
+    return hints;
+}
+
+/// The arguments of Notify, in the order of the protocol.
+QVariantList notifyArguments(const DesktopNotification &notification, uint replacedId,
+                             const QStringList &capabilities)
+{
+    const bool markup = capabilities.contains(QStringLiteral("body-markup"));
+    const bool actions = capabilities.contains(QStringLiteral("actions"));
+    constexpr int serversOwnTimeout = -1;
+    return {QGuiApplication::applicationDisplayName(),
+            replacedId,
+            iconName(),
+            notification.title,
+            markup ? notification.text.toHtmlEscaped() : notification.text,
+            actions ? buttons(notification) : QStringList(),
+            hintsFor(notification),
+            serversOwnTimeout};
+}
+
+/// How a notification has gone by the number that its server gives as the reason.
+DesktopNotification::End endSaidBy(const QVariant &reason)
+{
+    constexpr uint expired = 1;
+    return reason.typeId() == QMetaType::UInt && reason.toUInt() == expired
+               ? DesktopNotification::End::Expired
+               : DesktopNotification::End::Dismissed;
+}
+
+template<class Function>
+void whenAnswered(const QDBusMessage &question, QObject &context, Function &&function)
+{
+    // A server that was frozen shows late what it has been told, and must then still be asked for
+    // its number, by which to withdraw it.
+    constexpr int howeverLong = std::numeric_limits<int>::max();
+    auto *watcher = new QDBusPendingCallWatcher(
+        QDBusConnection::sessionBus().asyncCall(question, howeverLong), &context);
+    QObject::connect(watcher, &QDBusPendingCallWatcher::finished, watcher, &QObject::deleteLater);
+    QObject::connect(watcher, &QDBusPendingCallWatcher::finished, &context,
+                     std::forward<Function>(function));
+}
+} // namespace
+
+void FreedesktopNotifications::notify(const QObject &sender,
+                                      const DesktopNotification &notification)
+{
+    if (!SessionBus::isPresent() || !QDBusConnection::sessionBus().isConnected())
+        return;
+    listen();
+    const std::shared_ptr<Conversation> conversation = conversationWith(sender);
+    conversation->next = notification;
+    if (!conversation->underWay)
+        askCapabilities(conversation);
+}
+
+void FreedesktopNotifications::withdraw(const QObject &sender)
+{
+    const std::shared_ptr<Conversation> conversation = _conversations.value(&sender);
+    if (!conversation)
+        return;
+    conversation->next.reset();
+    conversation->shown.reset();
+    const uint id = std::exchange(conversation->id, 0);
+    if (id != 0) {
+        QDBusConnection::sessionBus().asyncCall(
+            call(conversation->server, QStringLiteral("CloseNotification"), {id}));
+    }
+}
+
+std::shared_ptr<FreedesktopNotifications::Conversation>
+FreedesktopNotifications::conversationWith(const QObject &sender)
+{
+    std::shared_ptr<Conversation> &conversation = _conversations[&sender];
+    if (!conversation) {
+        conversation = std::make_shared<Conversation>();
+        connect(&sender, &QObject::destroyed, this, &FreedesktopNotifications::forget);
+    }
+    return conversation;
+}
+
+void FreedesktopNotifications::forget(const QObject *sender)
+{
+    withdraw(*sender);
+    _conversations.remove(sender);
+}
+
+void FreedesktopNotifications::listen()
+{
+    if (_listening)
+        return;
+    // To anybody: for the signals of one name, Qt would ask the bus who has it, and wait.
+    _listening = QDBusConnection::sessionBus().connect({}, kPath, kInterface, {}, this,
+                                                       SLOT(hear(QDBusMessage)));
+}
+
+void FreedesktopNotifications::hear(const QDBusMessage &signal)
+{
+    const QVariantList arguments = signal.arguments();
+    if (arguments.size() != 2 || arguments.front().typeId() != QMetaType::UInt)
+        return;
+    const auto conversation = conversationAbout(arguments.front().toUInt(), signal.service());
+    if (!conversation)
+        return;
+    std::function<void()> action;
+    if (signal.member() == QLatin1String("ActionInvoked")) {
+        const auto *button = std::ranges::find(kButtons, arguments.back().toString(), &Button::key);
+        if (button != std::end(kButtons))
+            action = (*conversation->shown).*(button->action);
+    } else if (signal.member() == QLatin1String("ActivationToken")) {
+        // It comes right before the button that it is for.
+        useActivationToken(arguments.back().toString());
+    } else if (signal.member() == QLatin1String("NotificationClosed")) {
+        conversation->id = 0;
+        if (const auto closed = std::exchange(conversation->shown, {})->closed)
+            action = [closed, end = endSaidBy(arguments.back())] { closed(end); };
+    }
+    if (action)
+        action();
+}
+
+std::shared_ptr<FreedesktopNotifications::Conversation>
+FreedesktopNotifications::conversationAbout(uint id, const QString &server) const
+{
+    const auto found =
+        std::find_if(_conversations.begin(), _conversations.end(), [&](const auto &each) {
+            return each->id != 0 && each->id == id && each->server == server && !each->underWay &&
+                   each->shown;
+        });
+    return found == _conversations.end() ? nullptr : *found;
+}
+
+void FreedesktopNotifications::askCapabilities(const std::shared_ptr<Conversation> &conversation)
+{
+    conversation->underWay = true;
+    whenAnswered(call(kInterface, QStringLiteral("GetCapabilities")), *this,
+                 [this, conversation](QDBusPendingCallWatcher *answer) {
+                     const QDBusPendingReply<QStringList> capabilities = *answer;
+                     // A server that was restarted counts anew: its number for ours is another's.
+                     if (answer->reply().service() != conversation->server)
+                         conversation->id = 0;
+                     if (conversation->next)
+                         send(conversation,
+                              capabilities.isValid() ? capabilities.value() : QStringList());
+                     else
+                         conversation->underWay = false;
+                 });
+}
+
+void FreedesktopNotifications::send(const std::shared_ptr<Conversation> &conversation,
+                                    const QStringList &capabilities)
+{
+    const uint replacedId = std::exchange(conversation->id, 0);
+    conversation->shown = std::exchange(conversation->next, {});
+    whenAnswered(call(kInterface, QStringLiteral("Notify"),
+                      notifyArguments(*conversation->shown, replacedId, capabilities)),
+                 *this, [this, conversation](QDBusPendingCallWatcher *answer) {
+                     sent(conversation, answer->reply());
+                 });
+}
+
+void FreedesktopNotifications::sent(const std::shared_ptr<Conversation> &conversation,
+                                    const QDBusMessage &answer)
+{
+    conversation->underWay = false;
+    conversation->server = answer.service();
+    const bool numbered =
+        answer.type() == QDBusMessage::ReplyMessage && answer.signature() == QLatin1String("u");
+    const uint id = numbered ? answer.arguments().constFirst().toUInt() : 0;
+    if (conversation->next || conversation->shown)
+        conversation->id = id;
+    else if (id != 0)
+        QDBusConnection::sessionBus().asyncCall(
+            call(conversation->server, QStringLiteral("CloseNotification"), {id}));
+    if (conversation->next)
+        askCapabilities(conversation);
+}

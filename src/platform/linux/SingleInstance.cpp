@@ -1,0 +1,128 @@
+#include "platform/SingleInstance.h"
+
+#include "platform/linux/ActivationToken.h"
+#include "platform/linux/SessionBus.h"
+#include "platform/linux/StartupNotification.h"
+
+#include <QDBusAbstractAdaptor>
+#include <QDBusConnection>
+#include <QDBusConnectionInterface>
+#include <QDBusMessage>
+#include <QGuiApplication>
+
+namespace
+{
+constexpr int kPatienceMs = 2000;
+const QString kInterface = QStringLiteral("org.freedesktop.Application");
+/// By these names a desktop says which start this is: on X and on Wayland.
+const QString kStartupId = QStringLiteral("desktop-startup-id");
+const QString kActivationToken = QStringLiteral("activation-token");
+constexpr auto kStartupIdVariable = "DESKTOP_STARTUP_ID";
+constexpr auto kActivationTokenVariable = "XDG_ACTIVATION_TOKEN";
+
+/// The text of this name, which goes on to the environment or the X server; one that is longer
+/// than any desktop makes it is none.
+QString shortText(const QVariantMap &platformData, const QString &name)
+{
+    constexpr qsizetype longest = 1024;
+    const QString text = platformData.value(name).toString();
+    return text.length() <= longest ? text : QString();
+}
+
+QString busName()
+{
+    return QGuiApplication::desktopFileName();
+}
+
+QString objectPath()
+{
+    return QLatin1Char('/') + busName().replace(QLatin1Char('.'), QLatin1Char('/'));
+}
+} // namespace
+
+/// What is seen of the program on the bus.
+class BusInterface final : public QDBusAbstractAdaptor
+{
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Application")
+
+public:
+    explicit BusInterface(SingleInstance &instance) :
+        QDBusAbstractAdaptor(&instance), _instance(instance)
+    {}
+
+public Q_SLOTS:
+    void Activate(const QVariantMap &platform_data) { handle({}, platform_data); }
+
+    /// Timers have no files; whoever brings some means the program.
+    void Open(const QStringList & /*uris*/, const QVariantMap &platform_data)
+    {
+        handle({}, platform_data);
+    }
+
+    void ActivateAction(const QString &action_name, const QVariantList & /*parameter*/,
+                        const QVariantMap &platform_data)
+    {
+        handle(action_name, platform_data);
+    }
+
+private:
+    void handle(const QString &action, const QVariantMap &platformData)
+    {
+        useActivationToken(shortText(platformData, kActivationToken));
+        Q_EMIT _instance.asked(action);
+        endStartupNotification(shortText(platformData, kStartupId));
+    }
+
+    SingleInstance &_instance;
+};
+
+QVariantMap SingleInstance::thisLaunch()
+{
+    QVariantMap data;
+    if (qEnvironmentVariableIsSet(kStartupIdVariable))
+        data.insert(kStartupId, qEnvironmentVariable(kStartupIdVariable));
+    if (qEnvironmentVariableIsSet(kActivationTokenVariable))
+        data.insert(kActivationToken, qEnvironmentVariable(kActivationTokenVariable));
+    return data;
+}
+
+SingleInstance::SingleInstance()
+{
+    new BusInterface(*this);
+}
+
+bool SingleInstance::claim()
+{
+    if (!SessionBus::isPresent() || !QDBusConnection::sessionBus().isConnected())
+        return true;
+    QDBusConnection bus = QDBusConnection::sessionBus();
+    // Before the name: whoever waits for the name asks at once.
+    bus.registerObject(objectPath(), this);
+    const QDBusReply<QDBusConnectionInterface::RegisterServiceReply> owner =
+        bus.interface()->registerService(busName());
+    // A bus that forbids names forbids them to everybody.
+    return !owner.isValid() || owner.value() == QDBusConnectionInterface::ServiceRegistered;
+}
+
+bool SingleInstance::forward(const QString &action, const QVariantMap &launch) const
+{
+    QDBusMessage call = QDBusMessage::createMethodCall(
+        busName(), objectPath(), kInterface,
+        action.isEmpty() ? QStringLiteral("Activate") : QStringLiteral("ActivateAction"));
+    if (action.isEmpty())
+        call.setArguments({launch});
+    else
+        call.setArguments({action, QVariantList(), launch});
+    call.setAutoStartService(false);
+    const QDBusMessage answer = QDBusConnection::sessionBus().call(call, QDBus::Block, kPatienceMs);
+    return answer.type() == QDBusMessage::ReplyMessage;
+}
+
+void SingleInstance::inherit()
+{
+    QDBusConnection::sessionBus().interface()->registerService(
+        busName(), QDBusConnectionInterface::QueueService);
+}
+
+#include "SingleInstance.moc"

@@ -1,0 +1,102 @@
+#pragma once
+
+#include "platform/StatusIcon.h"
+#include "platform/StatusItem.h"
+#include "platform/linux/StatusNotifierTypes.h"
+
+#include <QDBusObjectPath>
+#include <QObject>
+
+#include <functional>
+
+/// What panels read and call of a status item on the session bus: the interface
+/// org.kde.StatusNotifierItem, with the label that the Ayatana panels add to it.
+///
+/// Properties, slots and signals that begin with a capital are the protocol's. A signal is sent
+/// for what has changed and nothing else; the panel then asks for it. The item is passive, which
+/// is how panels call one that is not to be seen, while it has neither icon nor label.
+class StatusNotifierItem final : public QObject
+{
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.kde.StatusNotifierItem")
+    Q_PROPERTY(QString Category READ category)
+    Q_PROPERTY(QString Id READ id)
+    Q_PROPERTY(QString Title READ title)
+    Q_PROPERTY(QString Status READ status)
+    Q_PROPERTY(int WindowId READ windowId)
+    Q_PROPERTY(QString IconName READ noName)
+    Q_PROPERTY(StatusNotifier::Pixmaps IconPixmap READ iconPixmap)
+    Q_PROPERTY(QString OverlayIconName READ noName)
+    Q_PROPERTY(StatusNotifier::Pixmaps OverlayIconPixmap READ noPixmap)
+    Q_PROPERTY(QString AttentionIconName READ noName)
+    Q_PROPERTY(StatusNotifier::Pixmaps AttentionIconPixmap READ noPixmap)
+    Q_PROPERTY(QString AttentionMovieName READ noName)
+    Q_PROPERTY(StatusNotifier::ToolTip ToolTip READ toolTip)
+    Q_PROPERTY(QString IconThemePath READ noName)
+    Q_PROPERTY(bool ItemIsMenu READ itemIsMenu)
+    Q_PROPERTY(QDBusObjectPath Menu READ menu)
+    Q_PROPERTY(QString XAyatanaLabel READ label)
+    Q_PROPERTY(QString XAyatanaLabelGuide READ noName)
+    Q_PROPERTY(uint XAyatanaOrderingIndex READ orderingIndex)
+
+public:
+    /// What is to be seen.
+    struct Content
+    {
+        StatusIcon icon;
+        QString label;
+        bool hasMenu = false;
+
+        [[nodiscard]] bool isEmpty() const { return icon.isNull() && label.isEmpty(); }
+    };
+
+    using Handler = std::function<void()>;
+
+    /// The item whose menu lies at this path of the bus while it has one. A press with the left
+    /// button asks for the first; a panel that leaves the showing of menus to programs, for the
+    /// second.
+    StatusNotifierItem(QString menuPath, Handler activate, Handler showMenu);
+
+    /// Shows this in place of what was shown before.
+    void show(const Content &content);
+
+    [[nodiscard]] static QString category() { return QStringLiteral("ApplicationStatus"); }
+    [[nodiscard]] static QString id();
+    [[nodiscard]] QString title() const { return StatusItem::titleWithProgram(_content.label); }
+    [[nodiscard]] QString status() const;
+    [[nodiscard]] static int windowId() { return 0; }
+    [[nodiscard]] StatusNotifier::Pixmaps iconPixmap() const { return _pixmaps; }
+    [[nodiscard]] StatusNotifier::ToolTip toolTip() const;
+    [[nodiscard]] bool itemIsMenu() const { return _content.hasMenu; }
+    /// The path of the menu, or the one that says that there is none.
+    [[nodiscard]] QDBusObjectPath menu() const;
+    [[nodiscard]] QString label() const { return _content.label; }
+    [[nodiscard]] static uint orderingIndex() { return 0; }
+    [[nodiscard]] static QString noName() { return {}; }
+    [[nodiscard]] static StatusNotifier::Pixmaps noPixmap() { return {}; }
+
+public Q_SLOTS:
+    void Activate(int, int) { _activate(); }
+    void ContextMenu(int, int) { _showMenu(); }
+    // The protocol asks for these; the middle button and the wheel mean nothing here.
+    void SecondaryActivate(int, int) {}
+    void Scroll(int, const QString &) {}
+    /// What lets the next window come to the front where only a press of the user may do that.
+    void ProvideXdgActivationToken(const QString &token);
+
+Q_SIGNALS:
+    void NewTitle();
+    void NewIcon();
+    void NewToolTip();
+    void NewStatus(const QString &status);
+    void NewMenu();
+    void XAyatanaNewLabel(const QString &label, const QString &guide);
+
+private:
+    Content _content;
+    /// Kept, because some panels ask for everything whenever anything changes.
+    StatusNotifier::Pixmaps _pixmaps;
+    QString _menuPath;
+    Handler _activate;
+    Handler _showMenu;
+};

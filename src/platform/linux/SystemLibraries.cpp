@@ -1,0 +1,22 @@
+#include "platform/SystemLibraries.h"
+
+#include <QtGlobal>
+
+#include <array>
+
+namespace
+{
+constexpr std::array kBesideQt{
+    Library{"libxcb", QT_TRANSLATE_NOOP("AboutDialog", "X Window System"), "MIT"},
+};
+} // namespace
+
+const char *SystemLibraries::useOfQt()
+{
+    return QT_TRANSLATE_NOOP("AboutDialog", "windows, session bus");
+}
+
+std::span<const Library> SystemLibraries::besideQt()
+{
+    return kBesideQt;
+}
