@@ -26,7 +26,7 @@ StatusPresenter::~StatusPresenter()
 
 void StatusPresenter::refreshStatusItem()
 {
-    if (UserDefaults::standardUserDefaults().boolForKey(QStringLiteral("noStatusBar"))) {
+    if (UserDefaults::standardUserDefaults().value(Keys::kNoStatusBar)) {
         removeStatusBar();
         return;
     }

@@ -50,14 +50,13 @@ void WufferController::awakeFromNib(LaunchOrder order)
 {
     NotificationCenter &center = NotificationCenter::defaultCenter();
     populatePresetsMenu();
-    center.addObserver(*this, QStringLiteral("presetsChangedNotification"),
+    center.addObserver(*this, Notices::kPresetsChanged,
                        [this](QObject *) { populatePresetsMenu(); });
     openAtLaunch(order);
     // While the window of the timer is still on its way to the screen, this costs no time.
     makePreferences();
     // Last, so that what started at launch shows at its first tick and not before.
-    center.addObserver(*this, QStringLiteral("statusChanged"),
-                       [this](QObject *) { refreshStatusItem(); });
+    center.addObserver(*this, Notices::kStatusChanged, [this](QObject *) { refreshStatusItem(); });
     // What opens for the other two is open, and on its way to the front.
     if (order != LaunchOrder::Activate && order != LaunchOrder::NewTimer)
         carryOut(order);
@@ -74,9 +73,8 @@ static const LaunchChoices::Row &launchChoice(LaunchOrder order)
     case LaunchOrder::Converter:
         return LaunchChoices::fromStored(kLaunchNothing);
     default:
-        return LaunchChoices::fromStored(UserDefaults::standardUserDefaults()
-                                             .stringForKey(QStringLiteral("launchBehavior"))
-                                             .value_or(QString()));
+        return LaunchChoices::fromStored(
+            UserDefaults::standardUserDefaults().value(Keys::kLaunchBehavior));
     }
 }
 
@@ -87,8 +85,7 @@ void WufferController::openAtLaunch(LaunchOrder order)
         return;
     createNewWuffer();
     newestWuffer()->loadSettingsFromDefaultsWithKey(
-        choice.takesPreset ? Wuffer::keyForPreset(1) : QStringLiteral("defaultWufferSettings"),
-        true);
+        choice.takesPreset ? Wuffer::keyForPreset(1) : Keys::kDefaultWufferSettings.text(), true);
     if (choice.starts)
         newestWuffer()->goPressed();
 }
@@ -261,7 +258,7 @@ void WufferController::preset(const QAction *sender)
     createNewWuffer();
     const auto number = static_cast<quint32>(PresetsMenu::presetNumber(*sender));
     newestWuffer()->loadSettingsFromDefaultsWithKey(Wuffer::keyForPreset(number), true);
-    if (UserDefaults::standardUserDefaults().boolForKey(QStringLiteral("autoStartPresets")))
+    if (UserDefaults::standardUserDefaults().value(Keys::kAutoStartPresets))
         newestWuffer()->goPressed();
 }
 

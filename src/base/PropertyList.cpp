@@ -1,8 +1,7 @@
 #include "base/PropertyList.h"
 
-#include <algorithm>
-#include <cmath>
-#include <limits>
+#include "base/Integers.h"
+#include "base/SinglePrecision.h"
 
 std::optional<QString> PropertyList::stringFrom(const QVariant &value)
 {
@@ -26,11 +25,7 @@ std::optional<double> PropertyList::numberFrom(const QVariant &value)
 
 qint32 PropertyList::integerFrom(const QVariant &value)
 {
-    using Limits = std::numeric_limits<qint32>;
-    const double number = numberFrom(value).value_or(0.0);
-    if (std::isnan(number))
-        return 0;
-    return static_cast<qint32>(std::clamp<double>(number, Limits::min(), Limits::max()));
+    return cutToInteger(numberFrom(value).value_or(0.0));
 }
 
 bool PropertyList::boolFrom(const QVariant &value)
@@ -38,7 +33,64 @@ bool PropertyList::boolFrom(const QVariant &value)
     return numberFrom(value).value_or(0.0) != 0.0;
 }
 
+float PropertyList::floatFrom(const QVariant &value)
+{
+    return toSinglePrecision(numberFrom(value).value_or(0.0));
+}
+
 QVariantMap PropertyList::dictionaryFrom(const QVariant &value)
 {
     return value.typeId() == QMetaType::QVariantMap ? value.toMap() : QVariantMap();
+}
+
+QStringList PropertyList::stringArrayFrom(const QVariant &value)
+{
+    QStringList texts;
+    if (value.typeId() != QMetaType::QVariantList)
+        return texts;
+    for (const QVariant &member : value.toList()) {
+        if (const std::optional<QString> text = stringFrom(member))
+            texts.append(*text);
+    }
+    return texts;
+}
+
+template<> bool PropertyList::valueFrom(const QVariant &value)
+{
+    return boolFrom(value);
+}
+
+template<> float PropertyList::valueFrom(const QVariant &value)
+{
+    return floatFrom(value);
+}
+
+template<> qint32 PropertyList::valueFrom(const QVariant &value)
+{
+    return integerFrom(value);
+}
+
+template<> QString PropertyList::valueFrom(const QVariant &value)
+{
+    return stringFrom(value).value_or(QString());
+}
+
+template<> QStringList PropertyList::valueFrom(const QVariant &value)
+{
+    return stringArrayFrom(value);
+}
+
+template<> QVariantMap PropertyList::valueFrom(const QVariant &value)
+{
+    return dictionaryFrom(value);
+}
+
+template<> std::optional<qint32> PropertyList::valueFrom(const QVariant &value)
+{
+    return numberFrom(value) ? std::optional(integerFrom(value)) : std::nullopt;
+}
+
+template<> std::optional<QString> PropertyList::valueFrom(const QVariant &value)
+{
+    return stringFrom(value);
 }

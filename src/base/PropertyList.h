@@ -1,11 +1,14 @@
 #pragma once
 
-#include <QString>
+#include "base/Keys.h"
+
+#include <QStringList>
 #include <QVariant>
 
 #include <optional>
+#include <type_traits>
 
-/// How values that were stored by somebody, perhaps by hand, read as the type that is expected.
+/// How values that were stored, perhaps by hand in an editor, read as the type that is expected.
 /// A value of another type reads as missing.
 namespace PropertyList
 {
@@ -21,6 +24,42 @@ namespace PropertyList
 /// True when the value is a number other than 0, or a true.
 [[nodiscard]] bool boolFrom(const QVariant &value);
 
+/// The number rounded to single precision and limited to it; 0 when the value is none.
+[[nodiscard]] float floatFrom(const QVariant &value);
+
 /// The dictionary; empty when the value is none.
 [[nodiscard]] QVariantMap dictionaryFrom(const QVariant &value);
+
+/// The list without the members that are not texts; empty when the value is none.
+[[nodiscard]] QStringList stringArrayFrom(const QVariant &value);
+
+/// The value as the type of a SettingsKey.
+template<class Value> [[nodiscard]] Value valueFrom(const QVariant &value);
+
+/// What stands in the record under the key.
+template<class Value>
+[[nodiscard]] Value valueIn(const QVariantMap &record, const SettingsKey<Value> &key)
+{
+    return valueFrom<Value>(record.value(key.text()));
+}
+
+/// The value as it is stored: a truth as 1 or 0, a number of single precision as one of double.
+template<class Value> [[nodiscard]] QVariant stored(const Value &value)
+{
+    if constexpr (std::is_same_v<Value, bool>)
+        return int(value);
+    else if constexpr (std::is_same_v<Value, float>)
+        return static_cast<double>(value);
+    else
+        return value;
+}
 } // namespace PropertyList
+
+template<> bool PropertyList::valueFrom(const QVariant &value);
+template<> float PropertyList::valueFrom(const QVariant &value);
+template<> qint32 PropertyList::valueFrom(const QVariant &value);
+template<> QString PropertyList::valueFrom(const QVariant &value);
+template<> QStringList PropertyList::valueFrom(const QVariant &value);
+template<> QVariantMap PropertyList::valueFrom(const QVariant &value);
+template<> std::optional<qint32> PropertyList::valueFrom(const QVariant &value);
+template<> std::optional<QString> PropertyList::valueFrom(const QVariant &value);

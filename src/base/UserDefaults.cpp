@@ -1,16 +1,12 @@
 #include "base/UserDefaults.h"
 
 #include "base/JsonSettingsFormat.h"
-#include "base/PropertyList.h"
 #include "base/Service.h"
 #include "base/SettingsPath.h"
 
 #include <QFileInfo>
 #include <QJsonValue>
 #include <QStandardPaths>
-
-#include <algorithm>
-#include <limits>
 
 UserDefaults::UserDefaults(const QString &path) :
     _settings(
@@ -45,9 +41,7 @@ bool UserDefaults::boolForKey(const QString &key) const
 
 float UserDefaults::floatForKey(const QString &key) const
 {
-    constexpr double largest = std::numeric_limits<float>::max();
-    const double number = PropertyList::numberFrom(_settings->value(key)).value_or(0.0);
-    return static_cast<float>(std::clamp(number, -largest, largest));
+    return PropertyList::floatFrom(_settings->value(key));
 }
 
 QVariantMap UserDefaults::dictionaryForKey(const QString &key) const
@@ -57,15 +51,7 @@ QVariantMap UserDefaults::dictionaryForKey(const QString &key) const
 
 QStringList UserDefaults::stringArrayForKey(const QString &key) const
 {
-    const QVariant value = _settings->value(key);
-    QStringList texts;
-    if (value.typeId() != QMetaType::QVariantList)
-        return texts;
-    for (const QVariant &member : value.toList()) {
-        if (const std::optional<QString> text = PropertyList::stringFrom(member))
-            texts.append(*text);
-    }
-    return texts;
+    return PropertyList::stringArrayFrom(_settings->value(key));
 }
 
 void UserDefaults::setObject(const QVariant &value, const QString &key)

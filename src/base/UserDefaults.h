@@ -1,5 +1,8 @@
 #pragma once
 
+#include "base/Keys.h"
+#include "base/PropertyList.h"
+
 #include <QSettings>
 #include <QString>
 #include <QStringList>
@@ -7,6 +10,7 @@
 
 #include <memory>
 #include <optional>
+#include <type_traits>
 
 /// The settings of this user: texts, numbers, lists and dictionaries, each under a key.
 ///
@@ -26,6 +30,26 @@ public:
 
     /// The settings in force: those installed as Service<UserDefaults>.
     [[nodiscard]] static UserDefaults &standardUserDefaults();
+
+    /// What stands under the key, as its type.
+    template<class Value> [[nodiscard]] Value value(const SettingsKey<Value> &key) const
+    {
+        return PropertyList::valueFrom<Value>(_settings->value(key.text()));
+    }
+
+    /// Replaces whatever stood under the key.
+    template<class Value>
+    void setValue(const std::type_identity_t<Value> &value, const SettingsKey<Value> &key)
+    {
+        setObject(PropertyList::stored(value), key.text());
+    }
+
+    template<class Value> void removeValue(const SettingsKey<Value> &key)
+    {
+        removeObjectForKey(key.text());
+    }
+
+    // The same for keys that are known when the program runs only.
 
     /// The text under the key; nothing when there is none.
     [[nodiscard]] std::optional<QString> stringForKey(const QString &key) const;

@@ -1,5 +1,6 @@
 #include "controls/ClickableImageView.h"
 
+#include "base/Keys.h"
 #include "base/NotificationCenter.h"
 
 #include <QKeyEvent>
@@ -49,6 +50,6 @@ void ClickableImageView::paintEvent(QPaintEvent *event)
 
 void ClickableImageView::announceClick()
 {
-    NotificationCenter::defaultCenter().postNotificationName(
-        QStringLiteral("ClickableImageViewClicked"), this);
+    NotificationCenter::defaultCenter().postNotificationName(Notices::kClickableImageViewClicked,
+                                                             this);
 }

@@ -2,8 +2,8 @@
 
 #include <QLabel>
 
-/// An image that announces every click with the notice "ClickableImageViewClicked", whose object
-/// is the view. The space bar clicks it too, when it has the focus.
+/// An image that announces every click with the notice Notices::kClickableImageViewClicked, whose
+/// object is the view. The space bar clicks it too, when it has the focus.
 class ClickableImageView final : public QLabel
 {
     Q_OBJECT

@@ -15,14 +15,15 @@
 
 namespace
 {
-void load(QCheckBox &box, const QString &key)
+void load(QCheckBox &box, const SettingsKey<bool> &key)
 {
-    box.setChecked(UserDefaults::standardUserDefaults().integerForKey(key) != 0);
+    // As a whole number, so that a half is no 1.
+    box.setChecked(UserDefaults::standardUserDefaults().integerForKey(key.text()) != 0);
 }
 
-void save(const QCheckBox &box, const QString &key)
+void save(const QCheckBox &box, const SettingsKey<bool> &key)
 {
-    UserDefaults::standardUserDefaults().setObject(box.isChecked() ? 1 : 0, key);
+    UserDefaults::standardUserDefaults().setValue(box.isChecked(), key);
 }
 } // namespace
 
@@ -45,11 +46,10 @@ Preferences::~Preferences() = default;
 void Preferences::awakeFromNib()
 {
     NotificationCenter &center = NotificationCenter::defaultCenter();
-    center.addObserver(*this, QStringLiteral("manageSoundsNotification"),
-                       [this](QObject *) { showSoundTab(); });
+    center.addObserver(*this, Notices::kManageSounds, [this](QObject *) { showSoundTab(); });
     for (const LaunchChoices::Row &row : LaunchChoices::rows())
         _ui->_launchCombobox->addDataObject(row.stored.toString(), LaunchChoices::shownText(row));
-    center.addObserver(*this, QStringLiteral("ClickableImageViewClicked"),
+    center.addObserver(*this, Notices::kClickableImageViewClicked,
                        [this](QObject *) { toggleMute(); });
     loadPreferences();
 }
@@ -80,19 +80,19 @@ void Preferences::loadPreferences()
 {
     populateComboBoxes();
     refreshSoundTitles();
-    load(*_ui->_energySaverCheckbox, QStringLiteral("energySaverMode"));
-    load(*_ui->_suppressCountdownCheckbox, QStringLiteral("suppressCountdown"));
-    load(*_ui->_autoStartPresetsCheckbox, QStringLiteral("autoStartPresets"));
-    load(*_ui->_turnOffSoundCheckbox, QStringLiteral("soundOff"));
-    load(*_ui->_disableGrowlCheckbox, QStringLiteral("growlDisabled"));
-    load(*_ui->_disableMenuBarCheckbox, QStringLiteral("noStatusBar"));
+    load(*_ui->_energySaverCheckbox, Keys::kEnergySaverMode);
+    load(*_ui->_suppressCountdownCheckbox, Keys::kSuppressCountdown);
+    load(*_ui->_autoStartPresetsCheckbox, Keys::kAutoStartPresets);
+    load(*_ui->_turnOffSoundCheckbox, Keys::kSoundOff);
+    load(*_ui->_disableGrowlCheckbox, Keys::kGrowlDisabled);
+    load(*_ui->_disableMenuBarCheckbox, Keys::kNoStatusBar);
 
     const UserDefaults &defaults = UserDefaults::standardUserDefaults();
-    const LaunchChoices::Row &launch = LaunchChoices::fromStored(
-        defaults.stringForKey(QStringLiteral("launchBehavior")).value_or(QString()));
+    const LaunchChoices::Row &launch =
+        LaunchChoices::fromStored(defaults.value(Keys::kLaunchBehavior));
     _ui->_launchCombobox->selectItemWithDataObjectValue(launch.stored.toString());
 
-    const QString text = defaults.stringForKey(QStringLiteral("finishedText")).value_or(QString());
+    const QString text = defaults.value(Keys::kFinishedText);
     _ui->_finishedText->setText(text.isEmpty() ? kFinishedTextDefault.toString() : text);
     turnOffSound();
 }
@@ -100,22 +100,21 @@ void Preferences::loadPreferences()
 void Preferences::savePreferences()
 {
     UserDefaults &defaults = UserDefaults::standardUserDefaults();
-    save(*_ui->_energySaverCheckbox, QStringLiteral("energySaverMode"));
-    save(*_ui->_suppressCountdownCheckbox, QStringLiteral("suppressCountdown"));
-    defaults.setObject(_ui->_finishedText->text(), QStringLiteral("finishedText"));
-    save(*_ui->_turnOffSoundCheckbox, QStringLiteral("soundOff"));
-    save(*_ui->_autoStartPresetsCheckbox, QStringLiteral("autoStartPresets"));
-    save(*_ui->_disableGrowlCheckbox, QStringLiteral("growlDisabled"));
-    save(*_ui->_disableMenuBarCheckbox, QStringLiteral("noStatusBar"));
-    defaults.setObject(_ui->_launchCombobox->dataObjectOfSelectedItem().value_or(QString()),
-                       QStringLiteral("launchBehavior"));
+    save(*_ui->_energySaverCheckbox, Keys::kEnergySaverMode);
+    save(*_ui->_suppressCountdownCheckbox, Keys::kSuppressCountdown);
+    defaults.setValue(_ui->_finishedText->text(), Keys::kFinishedText);
+    save(*_ui->_turnOffSoundCheckbox, Keys::kSoundOff);
+    save(*_ui->_autoStartPresetsCheckbox, Keys::kAutoStartPresets);
+    save(*_ui->_disableGrowlCheckbox, Keys::kGrowlDisabled);
+    save(*_ui->_disableMenuBarCheckbox, Keys::kNoStatusBar);
+    defaults.setValue(_ui->_launchCombobox->dataObjectOfSelectedItem().value_or(QString()),
+                      Keys::kLaunchBehavior);
     sendChangedNotification();
 }
 
 void Preferences::sendChangedNotification()
 {
-    NotificationCenter::defaultCenter().postNotificationName(
-        QStringLiteral("prefsChangedNotification"), this);
+    NotificationCenter::defaultCenter().postNotificationName(Notices::kPrefsChanged, this);
 }
 
 void Preferences::turnOffSound()

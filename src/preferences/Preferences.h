@@ -24,7 +24,7 @@ class Preferences;
 /// choose from.
 ///
 /// The window shows what the settings hold. Every change goes to the settings at once and is
-/// announced with the notice "prefsChangedNotification", so there is nothing to apply. The
+/// announced with the notice Notices::kPrefsChanged, so there is nothing to apply. The
 /// controller is made when the program starts, its window is shown when somebody asks for it.
 class Preferences final : public QObject
 {

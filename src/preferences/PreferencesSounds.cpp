@@ -15,12 +15,12 @@ namespace
 {
 void store(const SoundHistory &history)
 {
-    UserDefaults::standardUserDefaults().setObject(history.paths(), QStringLiteral("soundHistory"));
+    UserDefaults::standardUserDefaults().setValue(history.paths(), Keys::kSoundHistory);
 }
 
-QString storedPath(const QString &key)
+QString storedPath(const SettingsKey<QString> &key)
 {
-    return UserDefaults::standardUserDefaults().stringForKey(key).value_or(QString());
+    return UserDefaults::standardUserDefaults().value(key);
 }
 
 /// True when the file cannot be judged, because what opens sounds is missing. It may be a good one.
@@ -38,19 +38,19 @@ struct Preferences::Kind
     QLabel &missingWord;
     ElidedLabel &missingLabel;
     SoundEntry builtInSound;
-    QString key;
+    SettingsKey<QString> key;
 };
 
 Preferences::Kind Preferences::alarm() const
 {
     return {*_ui->_alarmCombo,        *_ui->_alarmLabel, *_ui->_alarmMissingWord,
-            *_ui->_alarmMissingLabel, SoundEntry::Wuff,  QStringLiteral("alarmPath")};
+            *_ui->_alarmMissingLabel, SoundEntry::Wuff,  Keys::kAlarmPath};
 }
 
 Preferences::Kind Preferences::countdown() const
 {
     return {*_ui->_countdownCombo,        *_ui->_countdownLabel, *_ui->_countdownMissingWord,
-            *_ui->_countdownMissingLabel, SoundEntry::Crow,      QStringLiteral("countdownPath")};
+            *_ui->_countdownMissingLabel, SoundEntry::Crow,      Keys::kCountdownPath};
 }
 
 Preferences::Kind Preferences::kindAt(QPoint place) const
@@ -142,8 +142,9 @@ void Preferences::removeSound(const QString &path)
 void Preferences::clearSoundHistory()
 {
     UserDefaults &defaults = UserDefaults::standardUserDefaults();
-    for (const char *key : {"soundHistory", "alarmPath", "countdownPath"})
-        defaults.removeObjectForKey(QString::fromLatin1(key));
+    defaults.removeValue(Keys::kSoundHistory);
+    defaults.removeValue(Keys::kAlarmPath);
+    defaults.removeValue(Keys::kCountdownPath);
     populateComboBoxes();
 }
 
@@ -209,9 +210,9 @@ void Preferences::carryOut(SoundEntry entry, const Kind &kind)
     UserDefaults &defaults = UserDefaults::standardUserDefaults();
     switch (entry) {
     case SoundEntry::Wuff:
-        return defaults.removeObjectForKey(QStringLiteral("alarmPath"));
+        return defaults.removeValue(Keys::kAlarmPath);
     case SoundEntry::Crow:
-        return defaults.removeObjectForKey(QStringLiteral("countdownPath"));
+        return defaults.removeValue(Keys::kCountdownPath);
     case SoundEntry::SelectAnother:
         return selectAnotherSound(kind);
     case SoundEntry::ClearCustom:
@@ -225,7 +226,7 @@ void Preferences::carryOut(SoundEntry entry, const Kind &kind)
 void Preferences::storeFile(const Kind &kind, const QString &path)
 {
     if (SoundCombos::storedHistory().contains(path) && soundFileIsValid(path))
-        UserDefaults::standardUserDefaults().setObject(path, kind.key);
+        UserDefaults::standardUserDefaults().setValue(path, kind.key);
 }
 
 void Preferences::selectAnotherSound(const Kind &kind)

@@ -1,6 +1,6 @@
 #include "rules/Conversions.h"
 
-#include "rules/SinglePrecision.h"
+#include "base/SinglePrecision.h"
 
 #include <QtGlobal>
 

@@ -1,6 +1,6 @@
 #include "rules/FigureText.h"
 
-#include "rules/SinglePrecision.h"
+#include "base/SinglePrecision.h"
 
 #include <algorithm>
 #include <cmath>

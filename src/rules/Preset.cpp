@@ -1,6 +1,7 @@
 #include "rules/Preset.h"
 
 #include "base/Integers.h"
+#include "base/Keys.h"
 #include "rules/FinishActions.h"
 #include "rules/TimeFormat.h"
 #include "rules/TimerSettings.h"
@@ -8,19 +9,19 @@
 
 QString Preset::key(quint32 number)
 {
-    return QStringLiteral("Preset %1").arg(number);
+    return Keys::kPresetPrefix.toString() + QString::number(number);
 }
 
 QVariantMap Preset::defaultRecord(qint32 number)
 {
     constexpr qint64 minutesPerNumber = 10;
     return {
-        {QStringLiteral("hours"), 0},
-        {QStringLiteral("minutes"), wrappedToInteger(number * minutesPerNumber)},
-        {QStringLiteral("seconds"), 0},
-        {QStringLiteral("finishOption"),
+        {TimerKeys::kHours.text(), 0},
+        {TimerKeys::kMinutes.text(), wrappedToInteger(number * minutesPerNumber)},
+        {TimerKeys::kSeconds.text(), 0},
+        {TimerKeys::kFinishOption.text(),
          FinishActions::row(FinishAction::Nothing).stored.toString()},
-        {QStringLiteral("title"), QStringLiteral("Preset %1").arg(number)},
+        {TimerKeys::kTitle.text(), QStringLiteral("Preset %1").arg(number)},
     };
 }
 

@@ -4,53 +4,50 @@
 
 namespace
 {
-const QString kTitle = QStringLiteral("title");
-const QString kHours = QStringLiteral("hours");
-const QString kMinutes = QStringLiteral("minutes");
-const QString kSeconds = QStringLiteral("seconds");
-const QString kKeepWuffing = QStringLiteral("keepWuffing");
-const QString kFullScreen = QStringLiteral("fullScreen");
-const QString kFinishOption = QStringLiteral("finishOption");
-const QString kPresetSelection = QStringLiteral("presetSelection");
-const QString kIndividualAlarmPath = QStringLiteral("individualAlarmPath");
-const QString kIndividualCountdownPath = QStringLiteral("individualCountdownPath");
+template<class Value>
+void put(QVariantMap &record, const SettingsKey<Value> &key,
+         const std::type_identity_t<Value> &value)
+{
+    record[key.text()] = PropertyList::stored(value);
+}
 
 template<class Value>
-void put(QVariantMap &record, const QString &key, const std::optional<Value> &value)
+void put(QVariantMap &record, const SettingsKey<std::optional<Value>> &key,
+         const std::optional<Value> &value)
 {
     if (value)
-        record[key] = *value;
+        record[key.text()] = *value;
 }
 } // namespace
 
 TimerSettings TimerSettings::fromRecord(const QVariantMap &record)
 {
-    using namespace PropertyList;
+    using namespace TimerKeys;
+    using PropertyList::valueIn;
     TimerSettings settings;
-    settings.title = stringFrom(record[kTitle]).value_or(QString());
-    settings.hours = integerFrom(record[kHours]);
-    settings.minutes = integerFrom(record[kMinutes]);
-    settings.seconds = integerFrom(record[kSeconds]);
-    settings.keepWuffing = boolFrom(record[kKeepWuffing]);
-    settings.fullScreen = boolFrom(record[kFullScreen]);
-    settings.finishOption = stringFrom(record[kFinishOption]);
-    if (numberFrom(record[kPresetSelection]))
-        settings.presetSelection = integerFrom(record[kPresetSelection]);
-    settings.individualAlarmPath = stringFrom(record[kIndividualAlarmPath]);
-    settings.individualCountdownPath = stringFrom(record[kIndividualCountdownPath]);
+    settings.title = valueIn(record, kTitle);
+    settings.hours = valueIn(record, kHours);
+    settings.minutes = valueIn(record, kMinutes);
+    settings.seconds = valueIn(record, kSeconds);
+    settings.keepWuffing = valueIn(record, kKeepWuffing);
+    settings.fullScreen = valueIn(record, kFullScreen);
+    settings.finishOption = valueIn(record, kFinishOption);
+    settings.presetSelection = valueIn(record, kPresetSelection);
+    settings.individualAlarmPath = valueIn(record, kIndividualAlarmPath);
+    settings.individualCountdownPath = valueIn(record, kIndividualCountdownPath);
     return settings;
 }
 
 QVariantMap TimerSettings::record() const
 {
-    QVariantMap record{
-        {kTitle, title},
-        {kHours, hours},
-        {kMinutes, minutes},
-        {kSeconds, seconds},
-        {kKeepWuffing, int(keepWuffing)},
-        {kFullScreen, int(fullScreen)},
-    };
+    using namespace TimerKeys;
+    QVariantMap record;
+    put(record, kTitle, title);
+    put(record, kHours, hours);
+    put(record, kMinutes, minutes);
+    put(record, kSeconds, seconds);
+    put(record, kKeepWuffing, keepWuffing);
+    put(record, kFullScreen, fullScreen);
     put(record, kFinishOption, finishOption);
     put(record, kPresetSelection, presetSelection);
     put(record, kIndividualAlarmPath, individualAlarmPath);

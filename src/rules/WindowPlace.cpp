@@ -6,9 +6,6 @@
 
 namespace
 {
-const QString kX = QStringLiteral("x");
-const QString kY = QStringLiteral("y");
-
 /// As far as any desktop reaches, with room to calculate.
 constexpr int kFarthest = 1 << 20;
 
@@ -34,15 +31,16 @@ QPoint nearestIn(const QRect &room, QPoint origin, QSize size)
 
 QVariantMap WindowPlace::record(QPoint origin)
 {
-    return {{kX, origin.x()}, {kY, origin.y()}};
+    return {{PlaceKeys::kX.text(), origin.x()}, {PlaceKeys::kY.text(), origin.y()}};
 }
 
 std::optional<QPoint> WindowPlace::fromRecord(const QVariantMap &record)
 {
-    if (!PropertyList::numberFrom(record[kX]) || !PropertyList::numberFrom(record[kY]))
+    const std::optional<qint32> x = PropertyList::valueIn(record, PlaceKeys::kX);
+    const std::optional<qint32> y = PropertyList::valueIn(record, PlaceKeys::kY);
+    if (!x || !y)
         return std::nullopt;
-    return QPoint(std::clamp(PropertyList::integerFrom(record[kX]), -kFarthest, kFarthest),
-                  std::clamp(PropertyList::integerFrom(record[kY]), -kFarthest, kFarthest));
+    return QPoint(std::clamp(*x, -kFarthest, kFarthest), std::clamp(*y, -kFarthest, kFarthest));
 }
 
 QPoint WindowPlace::reachable(QPoint origin, QSize size, const QList<QRect> &rooms)

@@ -7,8 +7,7 @@
 
 SoundHistory SoundCombos::storedHistory()
 {
-    return SoundHistory(
-        UserDefaults::standardUserDefaults().stringArrayForKey(QStringLiteral("soundHistory")));
+    return SoundHistory(UserDefaults::standardUserDefaults().value(Keys::kSoundHistory));
 }
 
 QString SoundCombos::toolTip(const QString &path)

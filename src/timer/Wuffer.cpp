@@ -1,5 +1,6 @@
 #include "timer/Wuffer.h"
 
+#include "base/Keys.h"
 #include "base/NotificationCenter.h"
 #include "controls/PickFromList.h"
 #include "controls/PressThrough.h"
@@ -64,8 +65,7 @@ void Wuffer::awakeFromNib()
     enableReturnShortcut();
     populateFinishedCombo();
     loadGlobalSettings();
-    NotificationCenter::defaultCenter().addObserver(*this,
-                                                    QStringLiteral("prefsChangedNotification"),
+    NotificationCenter::defaultCenter().addObserver(*this, Notices::kPrefsChanged,
                                                     [this](QObject *) { loadGlobalSettings(); });
 }
 

@@ -30,15 +30,15 @@ void refill(WebbyComboBox &combo, SoundEntry builtInSound, const QString &global
 void Wuffer::loadGlobalSettings()
 {
     const UserDefaults &defaults = UserDefaults::standardUserDefaults();
-    _soundOff = defaults.boolForKey(QStringLiteral("soundOff"));
-    _suppressCountdown = defaults.boolForKey(QStringLiteral("suppressCountdown"));
-    _autoStartPresets = defaults.boolForKey(QStringLiteral("autoStartPresets"));
-    _disableGrowl = defaults.boolForKey(QStringLiteral("growlDisabled"));
-    _energySaverActive = defaults.boolForKey(QStringLiteral("energySaverMode"));
+    _soundOff = defaults.value(Keys::kSoundOff);
+    _suppressCountdown = defaults.value(Keys::kSuppressCountdown);
+    _autoStartPresets = defaults.value(Keys::kAutoStartPresets);
+    _disableGrowl = defaults.value(Keys::kGrowlDisabled);
+    _energySaverActive = defaults.value(Keys::kEnergySaverMode);
     // It may be about to skip ticks at which it has to work now.
     _checkTimer.skipTicks(0);
 
-    const QString text = defaults.stringForKey(QStringLiteral("finishedText")).value_or(QString());
+    const QString text = defaults.value(Keys::kFinishedText);
     _finishedText = text.isEmpty() ? kFinishedTextDefault.toString() : text;
 
     if (_soundOff) {
@@ -60,11 +60,8 @@ void Wuffer::loadGlobalSettings()
 void Wuffer::populateSoundCombos()
 {
     const UserDefaults &defaults = UserDefaults::standardUserDefaults();
-    const auto path = [&](const QString &key) {
-        return defaults.stringForKey(key).value_or(QString());
-    };
-    refill(*_ui->_alarmSoundCombo, SoundEntry::Wuff, path(QStringLiteral("alarmPath")));
-    refill(*_ui->_countdownSoundCombo, SoundEntry::Crow, path(QStringLiteral("countdownPath")));
+    refill(*_ui->_alarmSoundCombo, SoundEntry::Wuff, defaults.value(Keys::kAlarmPath));
+    refill(*_ui->_countdownSoundCombo, SoundEntry::Crow, defaults.value(Keys::kCountdownPath));
     _previews->followChoices();
 }
 
@@ -73,8 +70,7 @@ void Wuffer::handleManageSounds(WebbyComboBox &combo)
     if (SoundCombos::selectedEntry(combo) != SoundEntry::Manage)
         return;
     combo.setCurrentIndex(0);
-    NotificationCenter::defaultCenter().postNotificationName(
-        QStringLiteral("manageSoundsNotification"));
+    NotificationCenter::defaultCenter().postNotificationName(Notices::kManageSounds);
 }
 
 void Wuffer::refreshSoundComboEnabledness()

@@ -38,8 +38,7 @@ void Wuffer::setPreset(qint32 number)
     _ui->_titleField->setText(name);
     storeSettingsInDefaultsWithKey(keyForPreset(static_cast<quint32>(number)));
     showPresetMark(name, QStringLiteral("Saved to Preset %1").arg(number));
-    NotificationCenter::defaultCenter().postNotificationName(
-        QStringLiteral("presetsChangedNotification"), this);
+    NotificationCenter::defaultCenter().postNotificationName(Notices::kPresetsChanged, this);
 }
 
 void Wuffer::showPresetMark(const QString &name, const QString &origin)

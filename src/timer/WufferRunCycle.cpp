@@ -1,3 +1,4 @@
+#include "base/Keys.h"
 #include "base/NotificationCenter.h"
 #include "rules/NumberText.h"
 #include "rules/TimeFields.h"
@@ -183,5 +184,5 @@ void Wuffer::setRunningControls(bool running, const QString &goTitle)
 
 void Wuffer::postStatusChanged()
 {
-    NotificationCenter::defaultCenter().postNotificationName(QStringLiteral("statusChanged"), this);
+    NotificationCenter::defaultCenter().postNotificationName(Notices::kStatusChanged, this);
 }

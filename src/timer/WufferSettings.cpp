@@ -10,8 +10,11 @@
 
 namespace
 {
-/// Where the settings for the next launch are kept. All other keys are those of presets.
-const QString kDefaultKey = QStringLiteral("defaultWufferSettings");
+/// Whether the settings under this key are for the next launch. All other keys are of presets.
+bool isForNextLaunch(const QString &key)
+{
+    return key == Keys::kDefaultWufferSettings.name;
+}
 
 /// Far more than the places of a cascade on any screen; without it, windows that stand at each of
 /// them would keep a new one moving for ever.
@@ -45,7 +48,7 @@ void Wuffer::storeSettingsInDefaultsWithKey(const QString &key)
 {
     _timeEntry->settle();
     TimerSettings kept = settings();
-    if (key != kDefaultKey) {
+    if (!isForNextLaunch(key)) {
         kept.individualAlarmPath = _ui->_alarmSoundCombo->dataObjectOfSelectedItem();
         kept.individualCountdownPath = _ui->_countdownSoundCombo->dataObjectOfSelectedItem();
     }
@@ -55,7 +58,7 @@ void Wuffer::storeSettingsInDefaultsWithKey(const QString &key)
 
 void Wuffer::saveSettingsToDefaultKey()
 {
-    storeSettingsInDefaultsWithKey(kDefaultKey);
+    storeSettingsInDefaultsWithKey(Keys::kDefaultWufferSettings.text());
 }
 
 void Wuffer::loadSettingsFromDefaultsWithKey(const QString &key, bool moveWindow)
@@ -66,7 +69,7 @@ void Wuffer::loadSettingsFromDefaultsWithKey(const QString &key, bool moveWindow
     } else {
         const TimerSettings stored = TimerSettings::fromRecord(record);
         takeOver(stored);
-        if (key != kDefaultKey)
+        if (!isForNextLaunch(key))
             showAsPreset(stored, key);
         if (moveWindow)
             restorePlace(key);

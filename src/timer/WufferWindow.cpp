@@ -17,9 +17,6 @@ namespace
 /// window below in sight.
 constexpr int kCascadeStep = 28;
 
-/// The places of windows are kept beside what they belong to, under the same names.
-const QString kPlacesKey = QStringLiteral("windowFrames");
-
 /// How much the window manager adds to a window: what it adds to those that it shows already.
 QSize decorations()
 {
@@ -73,14 +70,14 @@ QPoint WufferWindow::nextCascadePoint(QPoint topLeft, QSize window, const QRect 
 void WufferWindow::saveFrameUsingName(const QString &name) const
 {
     UserDefaults &defaults = UserDefaults::standardUserDefaults();
-    QVariantMap places = defaults.dictionaryForKey(kPlacesKey);
+    QVariantMap places = defaults.value(Keys::kWindowFrames);
     places[name] = WindowPlace::record(pos());
-    defaults.setObject(places, kPlacesKey);
+    defaults.setValue(places, Keys::kWindowFrames);
 }
 
 void WufferWindow::setFrameUsingName(const QString &name)
 {
-    const QVariantMap places = UserDefaults::standardUserDefaults().dictionaryForKey(kPlacesKey);
+    const QVariantMap places = UserDefaults::standardUserDefaults().value(Keys::kWindowFrames);
     const std::optional<QPoint> place =
         WindowPlace::fromRecord(PropertyList::dictionaryFrom(places[name]));
     if (!place)

@@ -12,18 +12,14 @@
 
 namespace
 {
-const QString kFahrenheitValue = QStringLiteral("fahrenheitValue");
-const QString kGramsValue = QStringLiteral("gramsValue");
-const QString kMilliliterValue = QStringLiteral("mLValue");
-
-float stored(const QString &key)
+float stored(const SettingsKey<float> &key)
 {
-    return UserDefaults::standardUserDefaults().floatForKey(key);
+    return UserDefaults::standardUserDefaults().value(key);
 }
 
-void store(float value, const QString &key)
+void store(float value, const SettingsKey<float> &key)
 {
-    UserDefaults::standardUserDefaults().setObject(static_cast<double>(value), key);
+    UserDefaults::standardUserDefaults().setValue(value, key);
 }
 } // namespace
 
@@ -50,14 +46,14 @@ void Converter::setConverterWindow(QMainWindow *window)
 
 void Converter::awakeFromNib()
 {
-    _ui->_fField->setFloatValue(stored(kFahrenheitValue));
+    _ui->_fField->setFloatValue(stored(Keys::kFahrenheitValue));
     convertTemperature(*_ui->_fField);
     _ui->_fField->selectText();
 
-    _ui->_gramsField->setFloatValue(stored(kGramsValue));
+    _ui->_gramsField->setFloatValue(stored(Keys::kGramsValue));
     convertWeight(*_ui->_gramsField);
 
-    _ui->_millilitersField->setFloatValue(stored(kMilliliterValue));
+    _ui->_millilitersField->setFloatValue(stored(Keys::kMilliliterValue));
     convertVolume(*_ui->_millilitersField);
     _ui->_millilitersField->selectText();
 }
@@ -91,7 +87,7 @@ void Converter::convertVolume(const NumberField &source)
     }
     for (const auto &[field, unit] : volumeFields())
         field->setFloatValue(Conversions::fromMilliliters(milliliters, unit));
-    store(milliliters, kMilliliterValue);
+    store(milliliters, Keys::kMilliliterValue);
 }
 
 void Converter::convertWeight(const NumberField &source)
@@ -104,7 +100,7 @@ void Converter::convertWeight(const NumberField &source)
         grams = Conversions::gramsFromOunces(ounces);
         _ui->_gramsField->setFloatValue(grams);
     }
-    store(grams, kGramsValue);
+    store(grams, Keys::kGramsValue);
 }
 
 void Converter::convertTemperature(const NumberField &source)
@@ -117,7 +113,7 @@ void Converter::convertTemperature(const NumberField &source)
     } else if (&source == _ui->_fField) {
         _ui->_cField->setFloatValue(Conversions::celsiusFromFahrenheit(fahrenheit));
     }
-    store(fahrenheit, kFahrenheitValue);
+    store(fahrenheit, Keys::kFahrenheitValue);
 }
 
 std::array<Converter::VolumeField, 5> Converter::volumeFields() const

@@ -38,6 +38,9 @@ private Q_SLOTS:
     void unknownKeysAreKept();
     void nestedValuesAreKept();
     void anInfiniteNumberDoesNoHarm();
+    void aKeyOfTheProgramIsReadAsItsType();
+    void whatIsMissingUnderAKeyOfTheProgramReadsAsNothing();
+    void aSwitchIsStoredAsANumber();
     void theSettingsInForceAreThoseInstalled();
 };
 
@@ -244,6 +247,57 @@ void tst_UserDefaults::anInfiniteNumberDoesNoHarm()
     QCOMPARE(defaults.integerForKey(kKey), 0);
     QCOMPARE(defaults.floatForKey(QStringLiteral("nan")), 0.0F);
     QCOMPARE(UserDefaults(file.path()).integerForKey(QStringLiteral("other")), 1);
+}
+
+void tst_UserDefaults::aKeyOfTheProgramIsReadAsItsType()
+{
+    SettingsFile file;
+    const QStringList sounds{QStringLiteral("/b.wav"), QStringLiteral("/a.wav")};
+    const QVariantMap timer{{QStringLiteral("hours"), 2}};
+    const auto check = [&](const UserDefaults &defaults) {
+        QCOMPARE(defaults.value(Keys::kSoundOff), true);
+        QCOMPARE(defaults.value(Keys::kFinishedText), QStringLiteral("Tea!"));
+        QCOMPARE(defaults.value(Keys::kGramsValue), 0.1F);
+        QCOMPARE(defaults.value(Keys::kSoundHistory), sounds);
+        QCOMPARE(defaults.value(Keys::kDefaultWufferSettings).value(QStringLiteral("hours")), 2);
+    };
+    UserDefaults defaults(file.path());
+    defaults.setValue(true, Keys::kSoundOff);
+    defaults.setValue(QStringLiteral("Tea!"), Keys::kFinishedText);
+    defaults.setValue(0.1F, Keys::kGramsValue);
+    defaults.setValue(sounds, Keys::kSoundHistory);
+    defaults.setValue(timer, Keys::kDefaultWufferSettings);
+    check(defaults);
+    defaults.synchronize();
+    check(UserDefaults(file.path()));
+}
+
+void tst_UserDefaults::whatIsMissingUnderAKeyOfTheProgramReadsAsNothing()
+{
+    const SettingsFile file;
+    UserDefaults defaults(file.path());
+    defaults.setObject(QStringLiteral("a text"), QStringLiteral("soundOff"));
+    defaults.setObject(7, QStringLiteral("finishedText"));
+    defaults.setValue(QStringLiteral("/a.wav"), Keys::kAlarmPath);
+    defaults.removeValue(Keys::kAlarmPath);
+
+    QCOMPARE(defaults.value(Keys::kSoundOff), false);
+    QCOMPARE(defaults.value(Keys::kFinishedText), QString());
+    QCOMPARE(defaults.value(Keys::kAlarmPath), QString());
+    QCOMPARE(defaults.value(Keys::kGramsValue), 0.0F);
+    QVERIFY(defaults.value(Keys::kSoundHistory).isEmpty());
+    QVERIFY(defaults.value(Keys::kWindowFrames).isEmpty());
+}
+
+void tst_UserDefaults::aSwitchIsStoredAsANumber()
+{
+    const SettingsFile file;
+    UserDefaults defaults(file.path());
+    defaults.setValue(true, Keys::kSoundOff);
+    defaults.setValue(false, Keys::kNoStatusBar);
+    defaults.synchronize();
+    QCOMPARE(file.object().value(QStringLiteral("soundOff")), QJsonValue(1));
+    QCOMPARE(file.object().value(QStringLiteral("noStatusBar")), QJsonValue(0));
 }
 
 void tst_UserDefaults::theSettingsInForceAreThoseInstalled()

@@ -10,35 +10,71 @@
 
 namespace
 {
-const QString kTimer = QStringLiteral("defaultWufferSettings");
-const QString kPlaces = QStringLiteral("windowFrames");
 const QString kChanged = QStringLiteral("a key of the fuzzer's");
+
+QString textOf(bool value)
+{
+    return QString::number(value);
+}
+
+QString textOf(qint32 value)
+{
+    return QString::number(value);
+}
+
+QString textOf(float value)
+{
+    return QString::number(value);
+}
+
+QString textOf(const QString &value)
+{
+    return value;
+}
+
+QString textOf(const QStringList &value)
+{
+    return value.join(QLatin1Char('\n'));
+}
+
+template<class Value> QString textOf(const std::optional<Value> &value)
+{
+    return value ? textOf(*value) : QStringLiteral("none");
+}
+
+/// What the program reads of a record: of one with the settings of a timer, and of one that holds
+/// the places of windows, because either may lie under any key.
+QString textOf(const QVariantMap &record)
+{
+    QStringList all{Preset::text(TimerSettings::fromRecord(record))};
+    for (const QVariant &member : record) {
+        const QPoint place =
+            WindowPlace::fromRecord(PropertyList::dictionaryFrom(member)).value_or(QPoint());
+        all << textOf(place.x()) << textOf(place.y());
+    }
+    for (const AnySettingsKey &each : TimerKeys::kAll)
+        std::visit([&](const auto &key) { all << textOf(PropertyList::valueIn(record, key)); },
+                   each);
+    return textOf(all);
+}
 
 /// Everything that the program reads of its settings, as one text.
 QString everythingIn(const UserDefaults &defaults)
 {
     QStringList all;
-    for (const char *key : {"finishedText", "launchBehavior", "alarmPath", "beepPath"})
-        all += defaults.stringForKey(QString::fromLatin1(key)).value_or(QStringLiteral("none"));
-    for (const char *key : {"soundOff", "growlDisabled", "noStatusBar", "milliliters"}) {
-        all += QString::number(defaults.integerForKey(QString::fromLatin1(key)));
-        all += QString::number(defaults.floatForKey(QString::fromLatin1(key)));
-        all += QString::number(defaults.boolForKey(QString::fromLatin1(key)));
+    for (const AnySettingsKey &each : Keys::kAll) {
+        std::visit(
+            [&](const auto &key) {
+                all << textOf(defaults.value(key)) << textOf(defaults.integerForKey(key.text()));
+            },
+            each);
     }
-    all += defaults.stringArrayForKey(QStringLiteral("soundHistory"));
-    for (const QVariant &place : defaults.dictionaryForKey(kPlaces)) {
-        const QPoint point = WindowPlace::fromRecord(place.toMap()).value_or(QPoint());
-        all += QString::number(point.x()) + QLatin1Char(',') + QString::number(point.y());
-    }
-    for (const int number : Preset::kNumbers) {
-        const QVariantMap record = defaults.dictionaryForKey(Preset::key(quint32(number)));
-        all += Preset::text(TimerSettings::fromRecord(record));
-    }
-    all += Preset::text(TimerSettings::fromRecord(defaults.dictionaryForKey(kTimer)));
-    return all.join(QLatin1Char('\n'));
+    for (const int number : Preset::kNumbers)
+        all << textOf(defaults.dictionaryForKey(Preset::key(quint32(number))));
+    return textOf(all);
 }
 
-QByteArray textOf(const QString &path)
+QByteArray contentsOf(const QString &path)
 {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
@@ -47,7 +83,7 @@ QByteArray textOf(const QString &path)
 /// What a timer takes over and keeps again reads as the same.
 void checkTimer(const UserDefaults &defaults)
 {
-    const auto settings = TimerSettings::fromRecord(defaults.dictionaryForKey(kTimer));
+    const auto settings = TimerSettings::fromRecord(defaults.value(Keys::kDefaultWufferSettings));
     const QVariantMap record = settings.record();
     check(TimerSettings::fromRecord(record).record() == record, "a record reads as it was kept");
 }
@@ -63,7 +99,7 @@ void checkFile(const QString &path, const QByteArray &text)
         defaults.synchronize();
         check(everythingIn(defaults) == before, "writing changes nothing else");
     }
-    const QByteArray aside = textOf(path + QStringLiteral(".unreadable"));
+    const QByteArray aside = contentsOf(path + QStringLiteral(".unreadable"));
     check(aside.isEmpty() || aside == text, "what is set aside is what was there");
     const UserDefaults again(path);
     check(again.integerForKey(kChanged) == 7, "a change is kept");
