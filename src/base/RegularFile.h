@@ -17,6 +17,10 @@ public:
     /// True when nothing lies at the path, not even at the end of a link.
     [[nodiscard]] bool isMissing() const { return _isMissing; }
 
+    /// Whether the open file is empty and no process holds a lock on it. Says no on systems where
+    /// that cannot be found out.
+    [[nodiscard]] bool isEmptyAndUnlocked() const;
+
     /// Gives the file away for reading from its beginning, once; null when it is not open.
     [[nodiscard]] std::unique_ptr<QIODevice> takeDevice() { return std::move(_file); }
 

@@ -8,9 +8,6 @@
 #include <QProcess>
 
 #include <filesystem>
-#include <sys/file.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
 namespace
 {
@@ -60,11 +57,8 @@ bool moveAway(const QString &path)
 /// before it writes.
 void removeUnsignedLock(const QString &lock)
 {
-    const Opened opened = openRegularFile(lock, O_WRONLY);
-    struct stat status = {};
-    const bool isUnsigned =
-        opened.isOpen() && ::fstat(opened.descriptor(), &status) == 0 && status.st_size == 0;
-    if (isUnsigned && ::flock(opened.descriptor(), LOCK_EX | LOCK_NB) == 0)
+    const RegularFile file(lock, RegularFile::Access::Write);
+    if (file.isOpen() && file.isEmptyAndUnlocked())
         QFile::remove(lock);
 }
 } // namespace

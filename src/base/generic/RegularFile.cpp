@@ -40,3 +40,8 @@ RegularFile::RegularFile(const QString &path, Access access)
     if (file->open(modeFor(access) | QIODevice::ExistingOnly))
         _file = std::move(file);
 }
+
+bool RegularFile::isEmptyAndUnlocked() const
+{
+    return false;
+}

@@ -2,6 +2,7 @@
 
 #include <cerrno>
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -48,4 +49,10 @@ RegularFile::RegularFile(const QString &path, Access access)
         _file = std::move(file);
     else
         ::close(descriptor);
+}
+
+bool RegularFile::isEmptyAndUnlocked() const
+{
+    Q_ASSERT(_file);
+    return _file->size() == 0 && ::flock(_file->handle(), LOCK_EX | LOCK_NB) == 0;
 }
