@@ -43,7 +43,7 @@ private:
 };
 
 /// What the other process does.
-int writeSettings(int argc, char *argv[])
+int writeSettings(int argc, char **argv)
 {
     QCoreApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
@@ -178,7 +178,7 @@ void tst_SettingsDurability::aKillAtAnyMomentLeavesAWholeFile()
     QVERIFY(file.textBeside(QStringLiteral("settings.json.unreadable")).isNull());
 }
 
-static int writeOrTest(int argc, char *argv[])
+static int writeOrTest(int argc, char **argv)
 {
     if (argc == 4 && qstrcmp(argv[1], "--write") == 0)
         return writeSettings(argc, argv);

@@ -39,7 +39,7 @@ private:
 class OnPrivateBus final
 {
 public:
-    OnPrivateBus(int &argc, char *argv[]) : _application(argc, argv) {}
+    OnPrivateBus(int &argc, char **argv) : _application(argc, argv) {}
 
     [[nodiscard]] const PrivateBus &bus() const { return _bus; }
 

@@ -36,7 +36,7 @@ void Test::init()
     QTest::failOnWarning(QRegularExpression(unexpected));
 }
 
-InApplication::InApplication(int &argc, char *argv[])
+InApplication::InApplication(int &argc, char **argv)
 {
     QStandardPaths::setTestModeEnabled(true);
     _application = std::make_unique<WufferApplication>(argc, argv);

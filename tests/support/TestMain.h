@@ -19,7 +19,7 @@ protected Q_SLOTS:
 class InApplication final
 {
 public:
-    InApplication(int &argc, char *argv[]);
+    InApplication(int &argc, char **argv);
     ~InApplication();
     Q_DISABLE_COPY_MOVE(InApplication)
 
@@ -31,7 +31,7 @@ private:
 class WithoutWindows final
 {
 public:
-    WithoutWindows(int &argc, char *argv[]) : _application(argc, argv) {}
+    WithoutWindows(int &argc, char **argv) : _application(argc, argv) {}
 
 private:
     QCoreApplication _application;
@@ -41,11 +41,11 @@ private:
 class WithoutApplication final
 {
 public:
-    WithoutApplication(int & /*argc*/, char * /*argv*/[]) {}
+    WithoutApplication(int & /*argc*/, char ** /*argv*/) {}
 };
 
 /// Runs the tests of a class in its surroundings, which are given to a class that takes them.
-template<typename Class, typename Surroundings = InApplication> int runTest(int argc, char *argv[])
+template<typename Class, typename Surroundings = InApplication> int runTest(int argc, char **argv)
 {
     [[maybe_unused]] const Surroundings surroundings(argc, argv);
     if constexpr (std::is_constructible_v<Class, const Surroundings &>) {
@@ -63,7 +63,7 @@ template<typename Class, typename Surroundings = InApplication> int runTest(int 
 class KnownTest final
 {
 public:
-    using Run = int (*)(int argc, char *argv[]);
+    using Run = int (*)(int argc, char **argv);
     KnownTest(const char *className, Run run);
 };
 
