@@ -54,3 +54,15 @@ if(WUFFER_COVERAGE)
     target_compile_options(wuffer_build_options INTERFACE --coverage)
     target_link_options(wuffer_build_options INTERFACE --coverage)
 endif()
+
+# The parts of the program as libraries, so that no test program is linked with a copy of them.
+if(BUILD_SHARED_LIBS)
+    # An installed program of such a build finds its parts in the build.
+    set(CMAKE_LIBRARY_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/libraries")
+    set(CMAKE_INSTALL_RPATH "${CMAKE_LIBRARY_OUTPUT_DIRECTORY}")
+    set(CMAKE_BUILD_WITH_INSTALL_RPATH ON)
+    # Each library links all that it uses. Clang's sanitizers are known to programs only.
+    if(CMAKE_SYSTEM_NAME STREQUAL "Linux" AND NOT WUFFER_SANITIZE)
+        string(APPEND CMAKE_SHARED_LINKER_FLAGS " -Wl,-z,defs")
+    endif()
+endif()

@@ -1,13 +1,14 @@
 # A layer: the library wuffer_<name> of the current folder of src, which is called like the layer.
 #
 #   wuffer_layer(<name> SOURCES <file>... LINKS <library>... [PRIVATE_LINKS <library>...]
-#       [LINUX_SOURCES <file>...] [GENERIC_SOURCES <file>...])
+#       [LINUX_SOURCES <file>...] [GENERIC_SOURCES <file>...] PRECOMPILED_HEADERS <set>)
 #
 # Of the last two lists, the one for WUFFER_PLATFORM is taken.
 # Its headers are included as "<name>/<header>". Each layer has an include folder of its own, which
 # only those see that link the layer, so that nothing can include what it does not link.
 function(wuffer_layer name)
-    cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LINKS;PRIVATE_LINKS;LINUX_SOURCES;GENERIC_SOURCES")
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "PRECOMPILED_HEADERS"
+        "SOURCES;LINKS;PRIVATE_LINKS;LINUX_SOURCES;GENERIC_SOURCES")
     string(TOUPPER "${WUFFER_PLATFORM}" system)
     set(target "wuffer_${name}")
     set(include_folder "${PROJECT_BINARY_DIR}/layers/${name}")
@@ -22,4 +23,5 @@ function(wuffer_layer name)
     set_target_properties(${target} PROPERTIES
         AUTOUIC ON
         AUTOUIC_SEARCH_PATHS "${PROJECT_SOURCE_DIR}/resources")
+    wuffer_use_precompiled_headers(${target} "${arg_PRECOMPILED_HEADERS}")
 endfunction()
