@@ -7,7 +7,6 @@ Usage: chain_test.py WUFFER FOLDER [unittest arguments]
 import time
 
 from support.case import DesktopTest, main
-from support.picture import Picture
 from support.waiting import wait_until
 
 WHITE = (255, 255, 255)
@@ -46,12 +45,12 @@ class ChainTest(DesktopTest):
     def is_lit(self, window):
         x, y = self.margin(window)
         # Not where the dragged picture is.
-        return Picture(self.display).at(x + 300, y) == WHITE
+        return self.display.color_at(x + 300, y) == WHITE
 
     def shown_in(self, window):
         """What the elapsed line of the window on the screen says."""
         place = self.display.geometry(window)
-        found = [label.get_name() for label in self.program.all("display",
+        found = [label.name for label in self.program.all("display",
                                                                 description="Elapsed time")
                  if place.x <= self.program.place(label).x < place.right
                  and place.y <= self.program.place(label).y < place.bottom]
@@ -126,7 +125,7 @@ class ChainTest(DesktopTest):
             wait_until(lambda: self.is_lit(first) and self.is_lit(second), 3, "both are lit")
         self.wait_for_chain(first, second)
         self.assertIn("Wuffer - 0h 0m 2s",
-                      [choice.get_name() for choice in self.program.all("choice")])
+                      [choice.name for choice in self.program.all("choice")])
         self.quit(self.program)
 
     def label_in(self, window):

@@ -159,12 +159,12 @@ class FullScreenTest(DesktopTest):
         picture = Picture(self.screen)
         picture.save(os.path.join(self.output, f"{name} {picture.width}x{picture.height}.png"))
         labels = [label for label in self.program.all("display")
-                  if label.get_name() and label.get_description()]
+                  if label.name and label.description]
         self.assertEqual(len(labels), 4)
         for label in labels:
             area = self.program.place(label)
-            self.assertEqual(picture.border(area), {PANEL}, label.get_name())
-            self.assertGreater(len(picture.colors(area)), 1, label.get_name())
+            self.assertEqual(picture.border(area), {PANEL}, label.name)
+            self.assertGreater(len(picture.colors(area)), 1, label.name)
 
     def check_looks(self):
         self.enter()

@@ -10,7 +10,6 @@ import time
 
 from support import processes
 from support.case import DesktopTest, main
-from support.picture import Picture
 from support.waiting import wait_until
 
 RED = (230, 0, 0)
@@ -133,7 +132,7 @@ class NotificationTest(DesktopTest):
         self.quit(program)
 
     def is_red(self, window):
-        return RED in Picture(self.display).colors(self.display.geometry(window))
+        return RED in self.display.colors(self.display.geometry(window))
 
     def test_a_muted_timer_asks_for_attention_and_opens_no_stream(self):
         self.session.start_sound()

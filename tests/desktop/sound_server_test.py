@@ -16,6 +16,7 @@ import unittest
 import wave
 
 from support.moments import measures_moments
+from support.processor import Waits
 from support.samples import (RATE, frequency, largest_step, longest_silence, loudest, rms,
                              strength)
 from support.sound_server import Server
@@ -94,6 +95,7 @@ class SoundServerTest(unittest.TestCase):
 
     def setUp(self):
         self.player = Player(self.server.environment)
+        self.waited = self.waits()
 
     def tearDown(self):
         if self.player:
@@ -101,10 +103,11 @@ class SoundServerTest(unittest.TestCase):
 
     def quit_player(self):
         player, self.player = self.player, None
+        waited = self.waited.seconds()
         seconds, status = player.quit()
         self.assertEqual(status, 0)
         self.assertLess(seconds, 1.5)
-        self.assertLess(player.slowest, 0.1, "no order waits for the server")
+        self.assertLess(player.slowest, 0.1 + waited, "no order waits for the server")
         return seconds
 
     @property
@@ -124,8 +127,19 @@ class SoundServerTest(unittest.TestCase):
                 for i in range(round(seconds * rate))))
         self.assertAlmostEqual(self.player.order("load", name, path), seconds)
 
+    def hear(self, seconds):
+        return self.recorder.hear_undisturbed(seconds, self.player.process.pid,
+                                              self.server.process.pid)
+
     def wait_for_silence(self):
         wait_until(lambda: self.server.streams() == 0, 2, "no stream is left")
+
+    def check_end(self, name, moment):
+        """The sound ends at the moment, whatever the server does."""
+        self.player.wait_for_end(name, 2)
+        late = time.monotonic() - moment
+        self.assertGreater(late, -0.2)
+        self.assertLess(late, 0.2 + self.waited.seconds())
 
     def start_loop(self, name, **tone):
         self.load(name, **tone)
@@ -133,17 +147,21 @@ class SoundServerTest(unittest.TestCase):
         moment = self.player.play(name)
         wait_until(lambda: self.recorder.first_sound_after(moment), 1, f"{name} is heard")
 
+    def waits(self):
+        """Counts from now on how long this test, the player and the server have waited for a
+        processor."""
+        return Waits(os.getpid(), self.player.process.pid, self.server.process.pid)
+
     def report(self, text):
         print(f"{self.id().rsplit('.', 1)[1]}: {text}", flush=True)
 
     # What is heard
 
-    @measures_moments
     def test_a_sound_is_heard_as_recorded_and_then_its_stream_is_closed(self):
         self.load("tone", seconds=2)
         self.player.play("tone")
         time.sleep(0.3)
-        heard = self.recorder.hear_undisturbed(0.5)
+        heard = self.hear(0.5)
         self.assertAlmostEqual(frequency(heard), 1000, delta=3)
         self.assertAlmostEqual(rms(heard) / (32767 * 0.5 / math.sqrt(2)), 1, delta=0.03)
         self.assertEqual(self.server.streams(), 1)
@@ -151,89 +169,90 @@ class SoundServerTest(unittest.TestCase):
         self.wait_for_silence()
         wait_until(lambda: self.player.status("Threads") == "1", 1, "no thread is left")
 
-    @measures_moments
     def test_a_sound_of_another_rate_is_heard_as_recorded(self):
         self.start_loop("tone", tone=700, rate=44100)
-        heard = self.recorder.hear_undisturbed(0.5)
+        heard = self.hear(0.5)
         self.assertAlmostEqual(frequency(heard), 700, delta=3)
         self.assertLess(longest_silence(heard), 0.5)
 
-    @measures_moments
     def test_a_sound_begins_at_once(self):
         self.load("tone", seconds=0.2)
         onsets = []
         for _ in range(5):
+            waits = self.waits()
             moment = self.player.play("tone")
             self.player.wait_for_end("tone", 1)
             wait_until(lambda m=moment: self.recorder.first_sound_after(m), 1, "it is heard")
-            onsets.append((self.recorder.first_sound_after(moment) - moment) * 1000)
+            onset = self.recorder.first_sound_after(moment) - moment
+            onsets.append(onset * 1000)
+            self.assertLess(onset, 0.1 + waits.seconds())
             self.wait_for_silence()
         self.report("onset after " + ", ".join(f"{onset:.0f}" for onset in onsets) + " ms")
-        self.assertLess(max(onsets), 100)
 
-    @measures_moments
     def test_a_sound_plays_until_its_end_has_been_heard(self):
         self.load("tone", seconds=0.5)
+        waits = self.waits()
         moment = self.player.play("tone")
         self.player.wait_for_end("tone", 1)
         end = time.monotonic()
+        waited = waits.seconds()
         time.sleep(0.2)
         last = self.recorder.last_sound()
         length = last - self.recorder.first_sound_after(moment)
         self.report(f"heard for {length * 1000:.0f} ms, end told {(end - last) * 1000:.0f} ms later")
         self.assertAlmostEqual(length, 0.5, delta=0.03)
-        self.assertLess(abs(end - last), 0.06)
+        self.assertGreater(end - last, -0.06)
+        self.assertLess(end - last, 0.06 + waited)
 
-    @measures_moments
     def test_a_stop_is_heard_at_once(self):
         self.start_loop("tone")
         time.sleep(0.2)
+        waits = self.waits()
         moment = time.monotonic()
         self.player.order("stop", "tone")
         self.assertFalse(self.player.is_playing("tone"))
         time.sleep(0.2)
         delay = self.recorder.last_sound() - moment
         self.report(f"silent after {delay * 1000:.0f} ms")
-        self.assertLess(delay, 0.05)
+        self.assertLess(delay, 0.05 + waits.seconds())
         self.wait_for_silence()
 
-    @measures_moments
     def test_a_destroyed_sound_falls_silent(self):
         self.start_loop("tone")
+        waits = self.waits()
         moment = time.monotonic()
         self.player.order("destroy", "tone")
         time.sleep(0.2)
-        self.assertLess(self.recorder.last_sound() - moment, 0.05)
+        self.assertLess(self.recorder.last_sound() - moment, 0.05 + waits.seconds())
         self.wait_for_silence()
 
-    @measures_moments
     def test_a_stop_before_the_sound_began_keeps_it_silent(self):
         self.load("tone")
         time.sleep(0.1)
         moment = time.monotonic()
         self.player.orders("play tone", "stop tone")
         time.sleep(0.3)
+        self.recorder.catch_up()
         self.assertIsNone(self.recorder.first_sound_after(moment))
         self.wait_for_silence()
 
     # Loops
 
-    @measures_moments
     def test_a_loop_has_no_gap(self):
         self.start_loop("tone", seconds=0.1)
-        heard = self.recorder.hear_undisturbed(1)
+        heard = self.hear(1)
         self.assertLess(longest_silence(heard), 0.5)
         # The steepest there is in the sine: nothing was left out or played twice.
         steepest = 32767 * 0.5 * 2 * math.pi * 1000 / RATE
         self.assertLess(largest_step(heard), steepest * 1.05)
         self.assertAlmostEqual(frequency(heard), 1000, delta=2)
 
-    @measures_moments
     def test_a_loop_told_to_end_ends_with_its_pass(self):
         self.load("tone", seconds=0.5)
         self.player.order("loops", "tone", 1)
         moment = self.player.play("tone")
-        time.sleep(0.9)
+        # In the middle of the second pass.
+        time.sleep(0.75)
         self.player.order("loops", "tone", 0)
         self.player.wait_for_end("tone", 1)
         time.sleep(0.1)
@@ -242,6 +261,7 @@ class SoundServerTest(unittest.TestCase):
 
     @measures_moments
     def test_a_sound_told_to_loop_in_its_last_moments_goes_on(self):
+        # The test must itself do something at a moment, and on a busy computer it comes too late.
         self.load("tone", seconds=0.5)
         moment = self.player.play("tone")
         time.sleep(0.42)
@@ -255,15 +275,14 @@ class SoundServerTest(unittest.TestCase):
 
     # Volume
 
-    @measures_moments
     def test_the_volume_changes_while_the_sound_plays(self):
         self.start_loop("tone")
         time.sleep(0.1)
-        loud = rms(self.recorder.hear(0.3))
+        loud = rms(self.hear(0.3))
         for volume in (0.5, 0.1, 0.75):
             self.player.order("volume", "tone", volume)
             time.sleep(0.1)
-            ratio = rms(self.recorder.hear(0.3)) / loud
+            ratio = rms(self.hear(0.3)) / loud
             self.assertAlmostEqual(ratio / volume, 1, delta=0.03)
         self.player.order("volume", "tone", 0)
         time.sleep(0.1)
@@ -272,13 +291,13 @@ class SoundServerTest(unittest.TestCase):
 
     # Many
 
-    @measures_moments
     def test_forty_sounds_are_heard_at_once_and_stop_one_by_one(self):
         tones = {f"tone{i}": 300 + 50 * i for i in range(40)}
         for name, tone in tones.items():
             self.load(name, tone=tone, amplitude=0.02)
             self.player.order("loops", name, 1)
         memory = int(self.player.status("RssAnon"))
+        waits = self.waits()
         moment = time.monotonic()
         for name in tones:
             self.player.order("play", name)
@@ -290,14 +309,14 @@ class SoundServerTest(unittest.TestCase):
         more = int(self.player.status("RssAnon")) - memory
         self.report(f"onset {onset * 1000:.0f} ms (40 orders took {(asked - moment) * 1000:.0f}), "
                     f"{threads} threads, {more} KiB more")
-        self.assertLess(onset, 0.1)
-        heard = self.recorder.hear(0.2)
+        self.assertLess(onset, 0.1 + waits.seconds())
+        heard = self.hear(0.2)
         for name, tone in tones.items():
             self.assertAlmostEqual(strength(heard, tone) / 655, 1, delta=0.1, msg=name)
         self.player.order("stop", "tone7")
         self.player.order("destroy", "tone8")
         time.sleep(0.1)
-        heard = self.recorder.hear(0.2)
+        heard = self.hear(0.2)
         for name, tone in tones.items():
             expected = 0 if name in ("tone7", "tone8") else 1
             self.assertAlmostEqual(strength(heard, tone) / 655, expected, delta=0.1, msg=name)
@@ -309,35 +328,34 @@ class SoundServerTest(unittest.TestCase):
         self.player.order("standin", name, OWN_SOUND)
         os.truncate(os.path.join(self.folder, f"{name}.wav"), 0)
 
-    @measures_moments
     def test_the_stand_in_is_heard_at_the_volume_of_the_sound_while_that_loops(self):
         self.load_and_break("tone", rate=44100)
         self.player.order("loops", "tone", 1)
         self.player.order("volume", "tone", 0.5)
+        waits = self.waits()
         moment = self.player.play("tone")
         wait_until(lambda: self.recorder.first_sound_after(moment), 1, "it is heard")
-        onset = (self.recorder.first_sound_after(moment) - moment) * 1000
-        self.report(f"onset after {onset:.0f} ms")
-        self.assertLess(onset, 100)
+        onset = self.recorder.first_sound_after(moment) - moment
+        self.report(f"onset after {onset * 1000:.0f} ms")
+        self.assertLess(onset, 0.1 + waits.seconds())
         time.sleep(0.1)
-        heard = self.recorder.hear_undisturbed(0.6)
+        heard = self.hear(0.6)
         self.assertAlmostEqual(frequency(heard), OWN_TONE, delta=5)
         self.assertAlmostEqual(rms(heard) / OWN_RMS, 0.5, delta=0.02)
         self.player.order("loops", "tone", 0)
         self.player.wait_for_end("tone", 1)
         self.wait_for_silence()
 
-    @measures_moments
     def test_a_stop_before_the_stand_in_began_keeps_it_silent(self):
         self.load_and_break("tone")
         time.sleep(0.1)
         moment = time.monotonic()
         self.player.orders("play tone", "stop tone")
         time.sleep(0.3)
+        self.recorder.catch_up()
         self.assertIsNone(self.recorder.first_sound_after(moment))
         self.wait_for_silence()
 
-    @measures_moments
     def test_a_file_that_took_the_place_of_another_is_heard_at_its_own_rate(self):
         self.load("tone", tone=700, rate=44100)
         shutil.copy(os.path.join(self.folder, "tone.wav"), os.path.join(self.folder, "kept.wav"))
@@ -346,11 +364,10 @@ class SoundServerTest(unittest.TestCase):
         moment = self.player.play("other")
         wait_until(lambda: self.recorder.first_sound_after(moment), 1, "it is heard")
         time.sleep(0.1)
-        self.assertAlmostEqual(frequency(self.recorder.hear_undisturbed(0.5)), 700, delta=5)
+        self.assertAlmostEqual(frequency(self.hear(0.5)), 700, delta=5)
 
     # Hard times
 
-    @measures_moments
     def test_a_server_that_dies_and_comes_back(self):
         self.load("short", seconds=1.0)
         self.start_loop("loop")
@@ -358,18 +375,15 @@ class SoundServerTest(unittest.TestCase):
         time.sleep(0.2)
         self.server.kill()
         try:
-            self.player.wait_for_end("short", 2)
-            self.assertAlmostEqual(time.monotonic() - moment, 1.0, delta=0.2)
+            self.check_end("short", moment + 1.0)
             self.assertTrue(self.player.is_playing("loop"))
             moment = self.player.play("short")
-            self.player.wait_for_end("short", 2)
-            self.assertAlmostEqual(time.monotonic() - moment, 1.0, delta=0.2)
+            self.check_end("short", moment + 1.0)
         finally:
             self.server.start()
         moment = time.monotonic()
         wait_until(lambda: self.recorder.first_sound_after(moment), 4, "heard again")
 
-    @measures_moments
     def test_a_sink_that_goes_away_and_comes_back(self):
         self.load("short", seconds=1.0)
         self.start_loop("loop")
@@ -377,15 +391,13 @@ class SoundServerTest(unittest.TestCase):
         time.sleep(0.2)
         self.server.remove_sink()
         try:
-            self.player.wait_for_end("short", 2)
-            self.assertAlmostEqual(time.monotonic() - moment, 1.0, delta=0.2)
+            self.check_end("short", moment + 1.0)
             self.assertTrue(self.player.is_playing("loop"))
         finally:
             self.server.add_sink()
         moment = time.monotonic()
         wait_until(lambda: self.recorder.first_sound_after(moment), 4, "heard again")
 
-    @measures_moments
     def test_a_server_that_freezes_and_thaws(self):
         self.load("short", seconds=1.0)
         self.load("late", seconds=0.5)
@@ -394,18 +406,15 @@ class SoundServerTest(unittest.TestCase):
         time.sleep(0.2)
         self.server.freeze()
         try:
-            self.player.wait_for_end("short", 2)
-            self.assertAlmostEqual(time.monotonic() - moment, 1.0, delta=0.2)
+            self.check_end("short", moment + 1.0)
             moment = self.player.play("late")
-            self.player.wait_for_end("late", 2)
-            self.assertAlmostEqual(time.monotonic() - moment, 0.5, delta=0.2)
+            self.check_end("late", moment + 0.5)
             self.assertTrue(self.player.is_playing("loop"))
         finally:
             self.server.thaw()
         moment = time.monotonic() + 0.5
         wait_until(lambda: self.recorder.first_sound_after(moment), 4, "heard again")
 
-    @measures_moments
     def test_the_program_ends_while_the_server_is_frozen(self):
         self.start_loop("loop")
         self.server.freeze()
@@ -415,14 +424,12 @@ class SoundServerTest(unittest.TestCase):
         finally:
             self.server.thaw()
 
-    @measures_moments
     def test_a_sound_begins_and_ends_at_a_frozen_server(self):
         self.load("tone", seconds=0.5)
         self.server.freeze()
         try:
             moment = self.player.play("tone")
-            self.player.wait_for_end("tone", 2)
-            self.assertAlmostEqual(time.monotonic() - moment, 0.5, delta=0.2)
+            self.check_end("tone", moment + 0.5)
             self.report(f"ended after {self.quit_player() * 1000:.0f} ms")
         finally:
             self.server.thaw()

@@ -88,7 +88,7 @@ class TracesTest(DesktopTest):
         self.display.key("alt+s")
         wait_until(lambda: program.shown("Alarm sound in use"), 5, "the sounds are in sight")
         tone = os.path.join(program.home, TONE)
-        write_tone(tone, 1000, 1)
+        write_tone(tone, 1000, 20)
         self.choose_file(program, tone)
         wait_until(lambda: program.shown("Alarm sound in use") == "tone", 5, "it is in use")
         self.play(program)

@@ -7,7 +7,7 @@ Usage: wakeups_test.py WUFFER FOLDER [unittest arguments]
 import time
 
 from support.case import DesktopTest, main
-from support.moments import measures_moments
+from support.processor import Waits
 from support.waiting import wait_until
 
 TICKS = 1 / 0.037
@@ -23,6 +23,16 @@ class WakeupsTest(DesktopTest):
         time.sleep(seconds)
         return (program.wakeups() - before) / (time.monotonic() - start)
 
+    def rate(self, program):
+        """The same in a time in which the program hardly had to wait for a processor, if there is
+        one: the ticks of a program that may not run are too few."""
+        for _ in range(5):
+            waits = Waits(program.process.pid)
+            rate = self.wakeups(program, 2)
+            if waits.seconds() < 0.05:
+                break
+        return rate
+
     def wait_until_calm(self, program):
         wait_until(lambda: self.wakeups(program, 0.5) == 0, 10, "the program has come to rest")
 
@@ -33,7 +43,6 @@ class WakeupsTest(DesktopTest):
         self.assertEqual(self.wakeups(program, 3), 0)
         self.quit(program)
 
-    @measures_moments
     def test_an_idle_program_sleeps_after_a_run_with_sound(self):
         self.session.start_sound()
         program = self.launch(accessible=False)
@@ -52,12 +61,11 @@ class WakeupsTest(DesktopTest):
         self.display.key("ctrl+t")
         self.display.key("Return")
 
-    @measures_moments
     def test_ten_running_timers_wake_the_program_no_more_often_than_one(self):
         program = self.launch(accessible=False)
         self.start_stopwatch()
         time.sleep(0.5)
-        seen = self.wakeups(program, 2)
+        seen = self.rate(program)
         # What nobody sees is not drawn. Drawing is an exchange with the X server, of which each
         # answer is another wake-up.
         rates = [self.wakeups_unseen(program)]
@@ -77,7 +85,7 @@ class WakeupsTest(DesktopTest):
         self.assertGreater(seen, TICKS * 0.8)
         self.assertLess(seen, TICKS * 4.5)
         # One of them is seen again.
-        self.assertGreater(self.wakeups(program, 2), TICKS * 0.8)
+        self.assertGreater(self.rate(program), TICKS * 0.8)
         self.quit(program)
 
     def wakeups_unseen(self, program):
@@ -87,7 +95,7 @@ class WakeupsTest(DesktopTest):
         wait_until(lambda: all("_NET_WM_STATE_HIDDEN" in self.display.state(window) for window in windows), 3,
                    "the windows are minimised")
         time.sleep(0.5)
-        rate = self.wakeups(program, 2)
+        rate = self.rate(program)
         self.display.act("windowactivate", "--sync", windows[-1])
         return rate
 

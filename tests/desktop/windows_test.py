@@ -97,7 +97,7 @@ class WindowsTest(DesktopTest):
         self.display.key("ctrl+shift+s")
         wait_until(lambda: len(program.all("button", "Stop")) == 3, 5, "three timers run")
         for label in program.all("display", description="Time"):
-            self.assertIn(label.get_name(), ("4m 59s", "4m 58s"))
+            self.assertIn(label.name, ("4m 59s", "4m 58s"))
         # Those that run go on when it is said again.
         self.display.key("ctrl+shift+s")
         time.sleep(0.2)

@@ -6,6 +6,7 @@ import time
 import unittest
 
 from support.picture import Picture
+from support.processor import Waits
 from support.program import Program
 from support.session import Session
 
@@ -69,6 +70,14 @@ class DesktopTest(unittest.TestCase):
         seconds, status = program.wait_for_end(start)
         self.assertEqual(status, 0)
         self.assertLess(seconds, 1.5)
+
+    def waits(self, program):
+        """Counts from now on how long all have waited for a processor on the way from a key to
+        what is seen and heard of it."""
+        servers = [self.display.server, self.display.manager]
+        if self.session.sound:
+            servers.append(self.session.sound.process)
+        return Waits(os.getpid(), program.process.pid, *(server.pid for server in servers))
 
     def heard(self):
         return self.session.sound.recorder

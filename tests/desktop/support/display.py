@@ -98,6 +98,17 @@ class Display:
             if key:
                 self.act("keyup", key)
 
+    # Colours
+
+    def colors(self, area):
+        """The colours that a part of the screen shows now."""
+        pixels = set(memoryview(self.x.pixels(*area)).cast("I"))
+        return {(pixel >> 16 & 255, pixel >> 8 & 255, pixel & 255) for pixel in pixels}
+
+    def color_at(self, x, y):
+        color, = self.colors(Rect(x, y, 1, 1))
+        return color
+
     # Windows
 
     def move_window(self, window, x, y):

@@ -84,7 +84,7 @@ class Panel:
         wait_until(lambda: self.item() is None, 5, "the panel is empty", 0.1)
 
     def colors(self):
-        return Picture(self.display).colors(self.strip)
+        return self.display.colors(self.strip)
 
     def press(self):
         item = self.wait_for_item()
@@ -137,7 +137,7 @@ class Tint2(Panel):
         with open(configuration, "w", encoding="ascii") as file:
             file.write(TINT2_CONFIGURATION.format(height=HEIGHT))
         self.process = processes.start(["tint2", "-c", configuration], session.environment)
-        wait_until(lambda: Picture(self.display).at(5, self.strip.bottom - 5) != (0, 0, 0), 10,
+        wait_until(lambda: self.display.color_at(5, self.strip.bottom - 5) != (0, 0, 0), 10,
                    "the panel shows", 0.05)
 
     def close(self):

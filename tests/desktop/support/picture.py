@@ -5,10 +5,15 @@ import zlib
 
 
 class Picture:
-    """Takes a picture of a whole display, or of a part of it."""
+    """Takes a picture of a whole display."""
 
-    def __init__(self, display, window=None):
-        self.width, self.height, self.pixels = display.x.pixels(window)
+    def __init__(self, display):
+        self.width, self.height = display.width, display.height
+        data = display.x.pixels(0, 0, self.width, self.height)
+        pixels = bytearray(3 * self.width * self.height)
+        for channel in range(3):
+            pixels[channel::3] = data[2 - channel::4]
+        self.pixels = bytes(pixels)
 
     def at(self, x, y):
         start = (y * self.width + x) * 3

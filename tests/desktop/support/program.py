@@ -5,27 +5,10 @@ import subprocess
 import tempfile
 import time
 
-import gi
-
-gi.require_version("Atspi", "2.0")
-from gi.repository import Atspi, GLib  # noqa: E402
-
-from support import processes
-from support.display import Rect
+from support import accessibility, processes
+from support.accessibility import Atspi
+from support.processor import Waits
 from support.waiting import wait_until
-
-ROLES = {
-    "window": Atspi.Role.FRAME,
-    "field": Atspi.Role.TEXT,
-    "button": Atspi.Role.PUSH_BUTTON,
-    "box": Atspi.Role.CHECK_BOX,
-    "image": Atspi.Role.IMAGE,
-    "display": Atspi.Role.LABEL,
-    "choice": Atspi.Role.COMBO_BOX,
-}
-
-# What holds many objects and none of these. A look must not take longer than what it looks at.
-WITHOUT_CONTROLS = (Atspi.Role.MENU_BAR, Atspi.Role.LIST)
 
 # Between two looks at the program, each of which makes it work.
 PAUSE = 0.02
@@ -79,16 +62,9 @@ class Program:
                                             stdin=subprocess.DEVNULL, stdout=log, stderr=log)
 
     def find_application(self):
-        desktop = Atspi.get_desktop(0)
-        desktop.clear_cache()
-        for i in range(desktop.get_child_count()):
-            application = desktop.get_child_at_index(i)
-            if application and application.get_process_id() == self.process.pid:
-                # What is read must be what is there now.
-                application.set_cache_mask(Atspi.Cache.NONE)
-                self.application = application
-                return application.get_child_count() > 0
-        return False
+        self.application = accessibility.find_program(self.session.accessibility_bus,
+                                                      self.process.pid)
+        return self.application is not None
 
     def has_focus(self):
         return self.display.active_window() in self.windows()
@@ -106,19 +82,12 @@ class Program:
 
     def all(self, role, name=None, description=None, within=None):
         """All controls that a person could see, by role, name and description."""
-        found = []
-        for child in children(within or self.application):
-            its_role = child.get_role()
-            if (its_role == ROLES[role] and name in (None, child.get_name())
-                    and description in (None, child.get_description())):
-                found.append(child)
-            if its_role not in WITHOUT_CONTROLS:
-                found.extend(self.all(role, name, description, child))
-        return found
+        return [control for control in self.application.controls(role, within)
+                if name in (None, control.name) and description in (None, control.description)]
 
     def find(self, role, name=None, description=None, within=None):
         found = [control for control in self.all(role, name, description, within)
-                 if control.get_state_set().contains(Atspi.StateType.SHOWING)]
+                 if control.has_state(Atspi.StateType.SHOWING)]
         if len(found) != 1:
             raise AssertionError(
                 f"{len(found)} of {role} {name or ''} {description or ''} instead of one")
@@ -127,15 +96,15 @@ class Program:
     def has(self, role, name=None, description=None, within=None):
         try:
             self.find(role, name, description, within)
-        except (AssertionError, GLib.Error):
+        except AssertionError:
             return False
         return True
 
     def shown(self, what, within=None):
         """The text of one of the labels of the display."""
         try:
-            return self.find("display", description=what, within=within).get_name()
-        except (AssertionError, GLib.Error):
+            return self.find("display", description=what, within=within).name
+        except AssertionError:
             # In the moment in which the display moves to another window.
             return None
 
@@ -143,12 +112,11 @@ class Program:
         return self.text_of(self.find("field", field, within=within))
 
     def text_of(self, field):
-        return Atspi.Text.get_text(field, 0, Atspi.Text.get_character_count(field))
+        return field.text()
 
     def place(self, control):
         """Where a control is on the screen."""
-        area = Atspi.Component.get_extents(control, Atspi.CoordType.SCREEN)
-        return Rect(area.x, area.y, area.width, area.height)
+        return control.place()
 
     def wait_for_text(self, what, text, seconds=5):
         wait_until(lambda: self.shown(what) == text, seconds, f"{what} is “{text}”", PAUSE)
@@ -158,8 +126,8 @@ class Program:
                    f"there is a button “{name}”", PAUSE)
 
     def focused_field(self):
-        focused = [field.get_name() for field in self.all("field")
-                   if field.get_state_set().contains(Atspi.StateType.FOCUSED)]
+        focused = [field.name for field in self.all("field")
+                   if field.has_state(Atspi.StateType.FOCUSED)]
         return focused[0] if len(focused) == 1 else focused
 
     def wait_for_focus_in(self, field):
@@ -168,7 +136,7 @@ class Program:
     def answers(self):
         """Gives how many seconds the program took to answer; fails when it hangs."""
         start = time.monotonic()
-        if self.application.get_child_count() < 1:
+        if self.application.windows() < 1:
             raise AssertionError("the program has no window")
         return time.monotonic() - start
 
@@ -212,8 +180,18 @@ class Program:
         return self.wait_for_end(start)
 
     def wait_for_end(self, start):
-        status = self.process.wait(timeout=10)
-        return time.monotonic() - start, status
+        """Gives the seconds from the start to the end, without those in which the program waited
+        for a processor, and the exit status."""
+        waits = Waits(self.process.pid)
+        waited = 0
+
+        def has_ended():
+            nonlocal waited
+            waited = max(waited, waits.seconds())
+            return self.process.poll() is not None
+
+        wait_until(has_ended, 10, "the program ends", 0.005)
+        return time.monotonic() - start - waited, self.process.returncode
 
     def kill(self):
         self.process.kill()
@@ -230,12 +208,3 @@ class Program:
 
     def wakeups(self):
         return processes.wakeups(self.process.pid)
-
-
-def children(control):
-    try:
-        return [child for i in range(control.get_child_count())
-                if (child := control.get_child_at_index(i))]
-    except GLib.Error:
-        # It has gone in the meantime.
-        return []

@@ -1,14 +1,19 @@
 """A sound server of the test's own, and a recorder of what is heard there."""
 
 import array
+import math
 import os
 import signal
 import subprocess
 import threading
 import time
 
+from support.processor import Waits
 from support.samples import AUDIBLE, RATE, longest_silence, loudest
 from support.waiting import wait_until
+
+# What is played must be ready so many seconds before, so this much waiting makes no gap.
+LONGEST_WAIT = 0.005
 
 
 class Server:
@@ -40,8 +45,10 @@ class Server:
                               stderr=subprocess.DEVNULL, check=False).returncode == 0
 
     def add_sink(self):
+        # Without "norewinds", the sink has two seconds ready before anything listens.
         self.sink = self.ask("load-module", "module-null-sink", "sink_name=test",
-                             f"rate={RATE}", "channels=2", "format=float32le").strip()
+                             f"rate={RATE}", "channels=2", "format=float32le",
+                             "norewinds=1").strip()
         self.recorder = Recorder(self.environment)
 
     def remove_sink(self):
@@ -71,56 +78,91 @@ class Server:
 
 
 class Recorder:
-    """Records what the sink plays, each piece with the moment at which it came."""
+    """Records what the sink plays, and when.
+
+    The sink plays by the clock of the computer. So the place of a sample in the recording tells
+    when it was heard, however late a busy computer let the recorder read it.
+    """
+
+    # The first ones come while the sink still finds its pace.
+    PIECES_TO_SKIP = 10
+    # The samples of ten milliseconds: what is looked through at a time.
+    STRETCH = RATE // 100
 
     def __init__(self, environment):
-        self.pieces = []
+        self.skipped = 0
+        self.samples = array.array("h")
+        # The moment of the first sample, by the piece that was read with the least delay.
+        self.began = math.inf
         self.process = subprocess.Popen(
             ["parec", "-d", "test.monitor", "--format=s16le", f"--rate={RATE}", "--channels=1",
              "--latency-msec=10", "--raw"],
             env=environment, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL)
         self.thread = threading.Thread(target=self.run, daemon=True)
         self.thread.start()
-        # The sink works in blocks of two seconds until somebody listens.
-        wait_until(lambda: len(self.pieces) > 20, 10, "the recorder hears the sink")
+        wait_until(lambda: self.samples, 10, "the recorder hears the sink")
 
     def run(self):
+        rest = b""
         while data := os.read(self.process.stdout.fileno(), 4096):
-            self.pieces.append((time.monotonic(), array.array("h", data[:len(data) // 2 * 2])))
+            moment = time.monotonic()
+            data = rest + data
+            whole = len(data) // 2 * 2
+            rest = data[whole:]
+            if self.skipped < self.PIECES_TO_SKIP:
+                self.skipped += 1
+                continue
+            self.samples.frombytes(data[:whole])
+            self.began = min(self.began, moment - len(self.samples) / RATE)
+
+    def moment(self, place):
+        return self.began + place / RATE
+
+    def place(self, moment):
+        return max(0, round((moment - self.began) * RATE))
+
+    def catch_up(self):
+        """Waits until all that has been played up to now is recorded."""
+        now = time.monotonic()
+        wait_until(lambda: self.moment(len(self.samples)) >= now, 10, "the sink plays on")
 
     def between(self, start, end):
-        """The samples that came in between two moments."""
-        samples = array.array("h")
-        for moment, piece in list(self.pieces):
-            if start <= moment <= end:
-                samples.extend(piece)
-        return samples
+        """The samples that were heard between two moments."""
+        return self.samples[self.place(start):self.place(end)]
 
     def hear(self, seconds):
         """The samples of the next so many seconds."""
         start = time.monotonic()
         time.sleep(seconds)
+        self.catch_up()
         return self.between(start, start + seconds)
 
-    def hear_undisturbed(self, seconds):
-        """The same without gaps. A busy computer may tear one now and then, so there are three
-        attempts; what the program itself leaves out, it leaves out each time."""
-        for _ in range(3):
+    def hear_undisturbed(self, seconds, *process_ids):
+        """The same of what these processes play while the computer is not too busy for them: it
+        listens again when there is a gap, and they have waited for a processor meanwhile."""
+        for _ in range(20):
+            waits = Waits(*process_ids)
             samples = self.hear(seconds)
-            if longest_silence(samples) < 0.5:
+            if longest_silence(samples) < 0.5 or waits.seconds() < LONGEST_WAIT:
                 break
         return samples
 
     def first_sound_after(self, start):
-        for moment, piece in list(self.pieces):
-            if moment >= start and loudest(piece) > AUDIBLE:
-                return moment
+        for place in range(self.place(start), len(self.samples), self.STRETCH):
+            stretch = self.samples[place:place + self.STRETCH]
+            if loudest(stretch) > AUDIBLE:
+                return self.moment(place + next(i for i, sample in enumerate(stretch)
+                                                if abs(sample) > AUDIBLE))
         return None
 
     def last_sound(self):
-        for moment, piece in reversed(list(self.pieces)):
-            if loudest(piece) > AUDIBLE:
-                return moment
+        """The moment of the last sound until now."""
+        self.catch_up()
+        for end in range(len(self.samples), 0, -self.STRETCH):
+            stretch = self.samples[max(0, end - self.STRETCH):end]
+            if loudest(stretch) > AUDIBLE:
+                return self.moment(end - next(i for i, sample in enumerate(reversed(stretch), 1)
+                                              if abs(sample) > AUDIBLE))
         return 0.0
 
     def close(self):
