@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <limits>
 
-/// The number in single precision. What is too large, infinity included, becomes the largest
-/// float; leaving that to the language would be undefined.
+/// The number in single precision, limited to the range of a float, infinity included. Without the
+/// limit the conversion would be undefined behaviour.
 [[nodiscard]] constexpr float toSinglePrecision(double number)
 {
     constexpr double largest = std::numeric_limits<float>::max();

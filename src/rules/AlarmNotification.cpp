@@ -6,10 +6,10 @@
 
 namespace
 {
-/// Seconds between the last appearance of a notification and its return.
-constexpr double kPause = 5.0;
-/// Seconds within which a window system, also a busy one, tells of an activation.
-constexpr double kActivationTime = 2.0;
+/// Seconds from the moment a notification is shown until it may be shown again.
+constexpr double kReturnDelay = 5.0;
+/// A busy window system may report an activation this many seconds late.
+constexpr double kActivationDelay = 2.0;
 } // namespace
 
 AlarmNotification::AlarmNotification(const QObject &timer, std::function<bool()> mayComeBack) :
@@ -27,10 +27,10 @@ void AlarmNotification::alarmBegan(DesktopNotification notification)
 void AlarmNotification::alarmEnded()
 {
     _comeBackTimer.invalidate();
-    if (!std::exchange(_alarmIsOn, false) || !_standing)
+    if (!std::exchange(_alarmIsOn, false) || !_isShown)
         return;
     _notification.stop = {};
-    // What came back quietly stays quiet.
+    // A reminder was shown silently, so its change is silent too.
     if (_notification.occasion != DesktopNotification::Occasion::Reminder)
         _notification.occasion = DesktopNotification::Occasion::Change;
     show(_notification.occasion);
@@ -40,13 +40,13 @@ void AlarmNotification::answer()
 {
     _comeBackTimer.invalidate();
     _alarmIsOn = false;
-    if (std::exchange(_standing, false))
+    if (std::exchange(_isShown, false))
         Service<DesktopNotifications>::current().withdraw(_timer);
 }
 
 void AlarmNotification::expectActivation()
 {
-    _activationExpectedUntil = Date::now().addingTimeInterval(kActivationTime);
+    _activationExpectedUntil = Date::now().addingTimeInterval(kActivationDelay);
 }
 
 void AlarmNotification::windowActivated()
@@ -58,7 +58,7 @@ void AlarmNotification::windowActivated()
 void AlarmNotification::show(DesktopNotification::Occasion occasion)
 {
     _comeBackTimer.invalidate();
-    _standing = true;
+    _isShown = true;
     _shownAt = Date::now();
     _notification.occasion = occasion;
     Service<DesktopNotifications>::current().notify(_timer, _notification);
@@ -66,9 +66,9 @@ void AlarmNotification::show(DesktopNotification::Occasion occasion)
 
 void AlarmNotification::closed(DesktopNotification::End end)
 {
-    _standing = false;
+    _isShown = false;
     if (_alarmIsOn && end == DesktopNotification::End::Expired)
-        _comeBackTimer.startOnce(_shownAt->addingTimeInterval(kPause).timeIntervalSinceNow());
+        _comeBackTimer.startOnce(_shownAt->addingTimeInterval(kReturnDelay).timeIntervalSinceNow());
 }
 
 void AlarmNotification::comeBack()

@@ -10,32 +10,33 @@
 /// The notification of a timer's alarm, from the beginning of the alarm until the user has answered
 /// it.
 ///
-/// While the alarm is on it can be ended by the notification: one that the desktop has taken away
-/// by itself comes back, quietly and every few seconds at most. An alarm that has ended by itself
-/// leaves a trace, which the desktop keeps for as long as it likes. What is an answer is for the
-/// timer to say; this only tells the user's activation of a window from the program's own. A
-/// member of the timer, on the main thread.
+/// While the alarm is on, the user can stop it from the notification. A notification that the
+/// desktop has removed by itself is therefore shown again, silently and every few seconds at most.
+/// When the alarm ends by itself, the notification stays, without Stop, for as long as the desktop
+/// keeps it. The timer decides what counts as an answer; this class only distinguishes whether the
+/// user or the program has activated a window. A member of the timer; main thread.
 class AlarmNotification final
 {
 public:
-    /// For this timer. What would come back when the function says no does not, from then on.
+    /// The function says whether a removed notification may be shown again. Once it says no, the
+    /// notification stays away until the next alarm.
     AlarmNotification(const QObject &timer, std::function<bool()> mayComeBack);
 
-    /// The alarm begins: shows the notification, in place of what an earlier alarm has left.
+    /// The alarm begins: shows the notification, which replaces one left from an earlier alarm.
     void alarmBegan(DesktopNotification notification);
 
-    /// The alarm has ended by itself, and there is nothing to stop any more.
+    /// The alarm has ended by itself: the notification no longer offers Stop.
     void alarmEnded();
 
-    /// The user has answered: whatever stands is withdrawn, and nothing comes back.
+    /// The user has answered: withdraws the notification, which does not come back.
     void answer();
 
-    /// The program itself is about to make a window of the timer the active one, of which the
-    /// window system will tell a while later.
+    /// The program is about to activate a window of the timer. The window system will report that
+    /// later; it is no answer by the user.
     void expectActivation();
 
-    /// The window with the timer's display has become the active one: the user's answer, unless
-    /// the program expects it.
+    /// The window with the timer's display has been activated. This is an answer by the user,
+    /// unless the program has expected it.
     void windowActivated();
 
 private:
@@ -45,12 +46,12 @@ private:
 
     const QObject &_timer;
     const std::function<bool()> _mayComeBack;
-    /// What was shown last.
+    /// The notification shown last.
     DesktopNotification _notification;
     std::optional<Date> _shownAt;
     /// Whether the desktop still shows it, as far as is known.
-    bool _standing = false;
-    /// Whether the alarm that it tells of is on, and not yet answered.
+    bool _isShown = false;
+    /// Whether its alarm is on and not yet answered.
     bool _alarmIsOn = false;
     std::optional<Date> _activationExpectedUntil;
     ClockTimer _comeBackTimer{[this] { comeBack(); }};

@@ -3,14 +3,14 @@
 /// When a countdown beeps in its last seconds, and how loudly.
 namespace BeepSchedule
 {
-/// What a start sets as the remaining time at the last beep: earlier than every beep.
+/// The value of lastBeep before the first beep of a run: larger than at any beep.
 constexpr double kNoBeepYet = 100.0;
 
-/// Whether a beep is due with so many seconds left, the last one having sounded with lastBeep
-/// left: in the last 12 seconds, a second or more after the one before.
+/// Whether a beep is due with this many seconds remaining: in the last 12 seconds, and more than a
+/// second after the last beep, which sounded with lastBeep seconds remaining.
 [[nodiscard]] bool isDue(double remaining, double lastBeep);
 
-/// The volume of the beep, from 0 to 0.33: silent before 11 seconds are left, so that the first
-/// beep only sets the pace, then rising to the end.
+/// The volume of the beep, from 0 to 0.33. Silent with more than 11 seconds remaining, when
+/// a beep only sets the rhythm; then louder towards the end.
 [[nodiscard]] float volume(double remaining);
 } // namespace BeepSchedule

@@ -7,20 +7,20 @@
 #include <algorithm>
 #include <vector>
 
-/// The walk along timers that start one another, over anything that is linked in both directions.
+/// Chains of timers that start one another. Works on any type that is linked in both directions.
 namespace Chain
 {
-/// All that hangs together with this member, from the one that nobody starts to the one that
-/// starts nobody. The functions answer the one before and the one after, or null. Each member is
-/// visited once, so the walk ends even where the links run in a circle.
+/// All members of this member's chain, from the first to the last. The functions return the member
+/// before and the member after, or null. Each member is visited once, so the function returns even
+/// if the links form a circle.
 template<class Link, class Before, class After>
 [[nodiscard]] std::vector<Link *> membersThrough(Link &member, Before before, After after)
 {
-    QSet<Link *> met;
-    const auto isNew = [&met](Link *link) {
-        if (!link || met.contains(link))
+    QSet<Link *> visited;
+    const auto isNew = [&visited](Link *link) {
+        if (!link || visited.contains(link))
             return false;
-        met.insert(link);
+        visited.insert(link);
         return true;
     };
     std::vector<Link *> forward;
@@ -40,8 +40,8 @@ template<class Link, class Before, class After>
     return QStringLiteral("Wuffer Chain - %1 of %2").arg(position).arg(length);
 }
 
-/// “Started by “Eggs”; starts “Tea””, of the names of the timers before and after; of one of them
-/// alone where the other is empty, and nothing where both are.
+/// “Started by “Eggs”; starts “Tea””, from the names of the timers before and after. An empty name
+/// is left out; two empty names give an empty text.
 [[nodiscard]] inline QString links(const QString &startedBy, const QString &starts)
 {
     const auto tr = [](const char *text) { return QCoreApplication::translate("Chain", text); };

@@ -17,7 +17,7 @@ struct Factors
 
 using enum Conversions::Volume;
 
-// In the order of the units.
+// In the order of the enumeration.
 constexpr std::array kVolumes{
     Factors{Milliliters, 1.0, 1.0},
     Factors{FluidOunces, 29.5735296, 0.0338140227},
@@ -40,7 +40,7 @@ float product(float value, double factor)
     return toSinglePrecision(static_cast<double>(value) * factor);
 }
 
-/// A product in single precision may have become infinite.
+/// Limits a result that has become infinite in single precision.
 float finite(float value)
 {
     return toSinglePrecision(static_cast<double>(value));

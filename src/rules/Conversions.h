@@ -1,20 +1,19 @@
 #pragma once
 
-/// Conversions between kitchen units, in single precision. Pure functions; any float will do, and
-/// what is too large for a float becomes the largest there is.
+/// Conversions between kitchen units, in single precision. Pure functions for any float; a result
+/// that is too large becomes the largest float.
 ///
-/// The factors of volume and weight have nine digits and are applied in double precision; only
-/// the result is rounded. Those of the two directions are separate constants, so there and back
-/// may end one step of precision beside where it began. Temperatures are in single precision
-/// throughout.
+/// The factors for volume and weight have nine digits and are applied in double precision; only the
+/// result is rounded. Each direction has its own factor, so a value converted there and back may
+/// differ in its last place. Temperatures are computed in single precision throughout.
 namespace Conversions
 {
 enum class Volume { Milliliters, FluidOunces, Cups, Tablespoons, Teaspoons };
 
-/// The milliliters in so much of a unit. Ounces, cups and spoons are those of the US.
+/// Converts an amount of the unit to milliliters. Ounces, cups and spoons are US units.
 [[nodiscard]] float millilitersFrom(Volume unit, float value);
 
-/// How much of a unit so many milliliters are.
+/// Converts milliliters to an amount of the unit.
 [[nodiscard]] float fromMilliliters(float milliliters, Volume unit);
 
 [[nodiscard]] float ouncesFromGrams(float grams);

@@ -7,8 +7,8 @@
 
 namespace
 {
-/// The numbers of the keys of the row, from the left. Where there is one more at the left end, it
-/// has a number far off.
+/// The scan codes of the row, from the left. The key left of 1, where there is one, has a code out
+/// of sequence.
 constexpr std::array<quint32, 13> kRow{49, 10, 11, 12, 13, 14, 15, 16, 17, 18, 19, 20, 21};
 
 bool isDigit(quint32 symbol)
@@ -23,11 +23,11 @@ std::optional<int> ownDigit(const std::vector<quint32> &symbols)
     return own == symbols.end() ? std::nullopt : std::optional(static_cast<int>(*own - '0'));
 }
 
-/// The digit that is usual at the place of a key.
-std::optional<int> usualDigit(quint32 keyNumber)
+/// The digit at this position of the row on most layouts.
+std::optional<int> usualDigit(quint32 scanCode)
 {
     constexpr auto places = 10;
-    const auto place = std::ranges::find(kRow, keyNumber) - kRow.begin();
+    const auto place = std::ranges::find(kRow, scanCode) - kRow.begin();
     return place < 1 || place > places ? std::nullopt : std::optional(int(place) % places);
 }
 } // namespace
@@ -39,16 +39,16 @@ std::optional<int> DigitRow::digitOfKey(int key)
     return key - Qt::Key_0;
 }
 
-bool DigitRow::contains(quint32 keyNumber)
+bool DigitRow::contains(quint32 scanCode)
 {
-    return std::ranges::count(kRow, keyNumber) > 0;
+    return std::ranges::count(kRow, scanCode) > 0;
 }
 
-std::optional<int> DigitRow::digitAt(quint32 keyNumber, const SymbolsOf &symbolsOf)
+std::optional<int> DigitRow::digitAt(quint32 scanCode, const SymbolsOf &symbolsOf)
 {
-    if (const std::optional<int> own = ownDigit(symbolsOf(keyNumber)))
+    if (const std::optional<int> own = ownDigit(symbolsOf(scanCode)))
         return own;
-    const std::optional<int> usual = usualDigit(keyNumber);
+    const std::optional<int> usual = usualDigit(scanCode);
     const auto isElsewhere = [&](quint32 key) { return ownDigit(symbolsOf(key)) == usual; };
     return usual && std::ranges::none_of(kRow, isElsewhere) ? usual : std::nullopt;
 }

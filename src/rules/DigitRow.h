@@ -6,23 +6,23 @@
 #include <optional>
 #include <vector>
 
-/// Which digit a press means on keyboards where a digit takes Shift, or where Shift makes something
-/// else of it. Pure functions.
+/// Which digit a key press means on layouts where typing a digit needs Shift, or where Shift
+/// changes a digit into another character. Pure functions.
 namespace DigitRow
 {
-/// The digit that the key says as it is pressed, of type Qt::Key: from the row or the keypad.
+/// The digit of this Qt::Key, from the row or the keypad; nothing for other keys.
 [[nodiscard]] std::optional<int> digitOfKey(int key);
 
-/// Whether the key of this number, as X11 and Wayland count keys, is in the uppermost row of
-/// characters, which holds the digits on every layout.
-[[nodiscard]] bool contains(quint32 keyNumber);
+/// Whether the key with this native scan code (X11 and Wayland) is in the top row of characters,
+/// which has the digits on every layout.
+[[nodiscard]] bool contains(quint32 scanCode);
 
-/// Gives what the layout has on a key, alone and with Shift, as X11 calls it; nothing where that is
+/// Returns the X11 keysyms that the layout has on a key, without and with Shift; empty if they are
 /// unknown.
-using SymbolsOf = std::function<std::vector<quint32>(quint32 keyNumber)>;
+using SymbolsOf = std::function<std::vector<quint32>(quint32 scanCode)>;
 
-/// The digit of a key of the row: the one that the layout has on that key, alone or with Shift; if
-/// it has none, the one that is usual at that place, unless the layout has that one on another key
-/// of the row. Nothing for a key that stands for no digit.
-[[nodiscard]] std::optional<int> digitAt(quint32 keyNumber, const SymbolsOf &symbolsOf);
+/// The digit of a key in the row: the one that the layout has on the key, without or with Shift. If
+/// it has none, the digit at this position on most layouts, unless the layout has that digit on
+/// another key of the row. Otherwise nothing.
+[[nodiscard]] std::optional<int> digitAt(quint32 scanCode, const SymbolsOf &symbolsOf);
 } // namespace DigitRow

@@ -2,23 +2,23 @@
 
 #include <utility>
 
-/// Whether the display of a timer is kept up to date. While nobody sees it it may rest, and says
-/// what was so before.
+/// Whether the display of a timer is kept up to date. A display that is out of sight may rest: it
+/// is not refreshed and keeps its last texts.
 class DisplayRest final
 {
 public:
     [[nodiscard]] bool isUnseen() const { return _unseen; }
     [[nodiscard]] bool isResting() const { return _resting; }
 
-    /// Whether the window system has said that nothing is seen of the display. Answers whether
-    /// that has ended a rest: what is seen again must catch up.
+    /// Records whether the window system reports the display as out of sight. Returns true if this
+    /// ends a rest: the display must then be refreshed.
     [[nodiscard]] bool setUnseen(bool unseen)
     {
         _unseen = unseen;
         return !unseen && std::exchange(_resting, false);
     }
 
-    /// Lets an unseen display rest, or be up to date from now on.
+    /// Starts or ends the rest. A display in sight does not rest.
     void setResting(bool resting) { _resting = resting && _unseen; }
 
 private:

@@ -8,18 +8,18 @@
 
 namespace
 {
-/// More characters than any number needs; what is pasted may have millions.
+/// More characters than any number needs. Limits the work on a pasted text, which may be huge.
 constexpr qsizetype kLongestNumber = 100;
 
-/// Any float can be told from its neighbours by so many significant digits.
+/// This many significant digits distinguish any two floats.
 constexpr int kMostDigits = 9;
 
-/// The text as a number with the locale's own marks.
+/// The number in the text, written with the locale's own marks.
 std::optional<double> strictNumberIn(const QString &number, const QLocale &locale)
 {
     bool valid = false;
     const double value = locale.toDouble(number, &valid);
-    // "inf" and "nan" are words.
+    // toDouble() also accepts "inf" and "nan".
     if (!valid || !std::isfinite(value))
         return std::nullopt;
     return value;
@@ -27,13 +27,13 @@ std::optional<double> strictNumberIn(const QString &number, const QLocale &local
 
 std::optional<double> numberIn(const QString &text, const QLocale &locale)
 {
-    // Some locales do not know the small e.
+    // Some locales accept only an upper-case E.
     QString number = text;
     number.replace(QLatin1Char('e'), QLatin1Char('E'));
     if (const std::optional<double> value = strictNumberIn(number, locale))
         return value;
-    // The other decimal mark, as it is on the key pad or in a recipe from elsewhere. To leave it
-    // out would make 125 of 12.5.
+    // Accept the other decimal mark too: the keypad may type it, or a recipe from another country
+    // contain it. Ignoring it would turn 12.5 into 125.
     for (const char mark : {'.', ','}) {
         if (number.count(QLatin1Char(mark)) == 1) {
             QString own = number;
@@ -47,7 +47,7 @@ std::optional<double> numberIn(const QString &text, const QLocale &locale)
 
 bool canBecomeNumber(const QString &text, const QLocale &locale)
 {
-    // As many digits as a group has may be missing.
+    // After a group separator up to three digits may still be missing.
     for (const char *rest : {"", "1", "11", "111"}) {
         if (numberIn(text + QLatin1String(rest), locale))
             return true;
@@ -55,7 +55,7 @@ bool canBecomeNumber(const QString &text, const QLocale &locale)
     return false;
 }
 
-int digitsThatTell(float number)
+int digitsNeeded(float number)
 {
     int digits = 1;
     while (digits < kMostDigits &&
@@ -64,7 +64,7 @@ int digitsThatTell(float number)
     return digits;
 }
 
-/// The power of ten of the first of so many digits.
+/// The decimal exponent of the number when written with this many significant digits.
 int powerOf(double number, int digits)
 {
     const QByteArray text = QByteArray::number(number, 'e', digits - 1);
@@ -92,12 +92,12 @@ QString FigureText::begun(const QString &text, const QLocale &locale)
 
 QString FigureText::write(float number, const QLocale &locale)
 {
-    // Outside of these powers of ten a plain number would be a row of zeros.
+    // With exponents outside this range, a number without an exponent would be mostly zeros.
     constexpr int smallest = -6;
     if (number == 0.0F)
         return locale.zeroDigit();
     const auto value = static_cast<double>(number);
-    const int digits = digitsThatTell(number);
+    const int digits = digitsNeeded(number);
     const int power = powerOf(value, digits);
     const bool plain = power >= smallest && power < kMostDigits;
 
@@ -105,8 +105,8 @@ QString FigureText::write(float number, const QLocale &locale)
     ungrouped.setNumberOptions(QLocale::OmitGroupSeparator);
     QString text = plain ? ungrouped.toString(value, 'f', std::max(0, digits - 1 - power))
                          : ungrouped.toString(value, 'e', digits - 1);
-    // Signs and the mark of the exponent as they are on every keyboard: those of some locales
-    // contain marks that cannot be seen, and would not be understood when read.
+    // Write signs and the exponent in ASCII. Those of some locales contain invisible characters,
+    // which read() would not understand.
     text.replace(locale.exponential(), QLatin1String("E"));
     text.replace(locale.negativeSign(), QLatin1String("-"));
     text.remove(locale.positiveSign());

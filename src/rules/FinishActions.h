@@ -6,7 +6,7 @@
 
 /// What a timer does when its alarm is over.
 enum class FinishAction {
-    /// Nothing is selected. It is not listed, and nothing follows.
+    /// No action is selected. The combo does not list this value, and nothing runs.
     None,
     Nothing,
     Restart,
@@ -14,16 +14,16 @@ enum class FinishAction {
     Wuffer,
 };
 
-/// The table of the finish actions, with a row for each. Adding an action means adding a row, and,
-/// where it does something new, a case where the timer carries out what runs.
+/// The table of the finish actions, one row for each. To add an action, add a row; if the action
+/// runs something new, also add a value of Runs and the code that runs it.
 namespace FinishActions
 {
 /// What the picker beside the action lists.
 enum class Picker {
-    /// It is hidden.
+    /// The picker is hidden.
     None,
     Presets,
-    /// Only the timer that is linked.
+    /// Only the linked timer.
     Target,
 };
 
@@ -38,27 +38,27 @@ enum class Runs {
 struct Row
 {
     FinishAction action;
-    /// How it is written in the settings, whatever the language.
+    /// The text in the settings, the same in every language.
     QStringView stored;
-    /// What the list shows, to be translated in the context "FinishActions".
+    /// The text in the list, to be translated in the context "FinishActions".
     const char *shown;
     Picker picker;
-    /// Whether the alarm may go on until the user stops it: only where nothing waits for its end.
+    /// Whether the alarm may repeat until the user stops it: only if nothing runs afterwards.
     bool allowsKeepWuffing;
-    /// Whether it outlives the program. A link ends with the windows.
+    /// Whether the settings store the action. They store no link, because it ends with its windows.
     bool isStored;
     Runs runs;
 };
 
-/// Those that can be chosen, in the order of the list.
+/// The actions that the user can choose, in the order of the list.
 [[nodiscard]] const std::array<Row, 4> &rows();
 
-/// The row of the action; for None one that lists nothing, allows nothing and runs nothing.
+/// The row of the action; for None, a row that allows nothing and runs nothing.
 [[nodiscard]] const Row &row(FinishAction action);
 
-/// The action that is stored by this text; None for any other.
+/// The action stored as this text; None for any other text.
 [[nodiscard]] FinishAction fromStored(QStringView text);
 
-/// What the list shows for it, in the language of the program.
+/// The translated text for the list.
 [[nodiscard]] QString shownText(const Row &row);
 } // namespace FinishActions

@@ -6,13 +6,13 @@
 
 namespace
 {
-/// So many may stand at once, or come within a second, each by itself.
-constexpr std::size_t kFew = 3;
-/// So many are named, one a line.
-constexpr std::size_t kNamed = 8;
-/// Seconds in which those that come together are gathered before they show.
+/// More notifications than this, at once or within kPause, are gathered into a summary.
+constexpr std::size_t kMostSeparate = 3;
+/// The summary names at most this many timers, one per line.
+constexpr std::size_t kMostNamed = 8;
+/// Seconds from the first gathered notification to the first summary.
 constexpr double kGatheringTime = 0.1;
-/// Seconds between changes of what shows.
+/// Seconds between two updates of the summary.
 constexpr double kPause = 1.0;
 
 void call(const std::function<void()> &action)
@@ -28,69 +28,69 @@ void GatheredNotifications::notify(const QObject &sender, const DesktopNotificat
 {
     using Occasion = DesktopNotification::Occasion;
     const auto before = find(sender);
-    if (before != _standing.end() && notification.occasion == Occasion::Change)
+    if (before != _active.end() && notification.occasion == Occasion::Change)
         return change(*before, notification);
-    if (before == _standing.end()) {
-        // Once for each sender, however often it comes back.
+    if (before == _active.end()) {
+        // One connection for each sender, no matter how often it notifies.
         disconnect(&sender, &QObject::destroyed, this, nullptr);
         connect(&sender, &QObject::destroyed, this, [this](QObject *gone) { withdraw(*gone); });
     } else {
-        _standing.erase(before);
+        _active.erase(before);
     }
-    _standing.push_back({&sender, notification, false});
+    _active.push_back({&sender, notification, false});
     const bool tooFast = notification.occasion == Occasion::News && isTooFast();
     if (_gathering)
         gatheredChanged();
-    else if (tooFast || _standing.size() > kFew)
+    else if (tooFast || _active.size() > kMostSeparate)
         gather();
     else
-        showAlone(_standing.back());
+        showAlone(_active.back());
 }
 
 void GatheredNotifications::withdraw(const QObject &sender)
 {
     const auto found = find(sender);
-    if (found == _standing.end())
+    if (found == _active.end())
         return;
-    _standing.erase(found);
+    _active.erase(found);
     if (_gathering)
         gatheredChanged();
     else
         _desktop.withdraw(sender);
 }
 
-std::vector<GatheredNotifications::Standing>::iterator
+std::vector<GatheredNotifications::Active>::iterator
 GatheredNotifications::find(const QObject &sender)
 {
-    return std::ranges::find(_standing, &sender, &Standing::sender);
+    return std::ranges::find(_active, &sender, &Active::sender);
 }
 
 bool GatheredNotifications::isTooFast()
 {
     const Date now = Date::now();
     const bool tooFast =
-        _recent.size() == kFew && now.timeIntervalSinceDate(_recent.front()) < kPause;
-    if (_recent.size() == kFew)
+        _recent.size() == kMostSeparate && now.timeIntervalSinceDate(_recent.front()) < kPause;
+    if (_recent.size() == kMostSeparate)
         _recent.pop_front();
     _recent.push_back(now);
     return tooFast;
 }
 
-void GatheredNotifications::change(Standing &standing, const DesktopNotification &notification)
+void GatheredNotifications::change(Active &active, const DesktopNotification &notification)
 {
     const bool offeredStop = offersStop();
-    standing.notification = notification;
+    active.notification = notification;
     if (!_gathering)
-        showAlone(standing);
+        showAlone(active);
     else if (offersStop() != offeredStop)
         gatheredChanged();
 }
 
-void GatheredNotifications::showAlone(Standing &standing)
+void GatheredNotifications::showAlone(Active &active)
 {
-    standing.told = true;
-    const QObject *sender = standing.sender;
-    DesktopNotification notification = standing.notification;
+    active.sent = true;
+    const QObject *sender = active.sender;
+    DesktopNotification notification = active.notification;
     notification.closed = [this, sender](DesktopNotification::End end) { close(*sender, end); };
     _desktop.notify(*sender, notification);
 }
@@ -98,8 +98,8 @@ void GatheredNotifications::showAlone(Standing &standing)
 void GatheredNotifications::gather()
 {
     _gathering = true;
-    for (Standing &each : _standing) {
-        each.told = false;
+    for (Active &each : _active) {
+        each.sent = false;
         _desktop.withdraw(*each.sender);
     }
     gatheredChanged();
@@ -108,7 +108,7 @@ void GatheredNotifications::gather()
 void GatheredNotifications::gatheredChanged()
 {
     _changed = true;
-    if (_standing.empty())
+    if (_active.empty())
         _desktop.withdraw(*this);
     if (!_refreshTimer.isValid())
         _refreshTimer.startOnce(kGatheringTime);
@@ -117,84 +117,85 @@ void GatheredNotifications::gatheredChanged()
 void GatheredNotifications::refresh()
 {
     if (!std::exchange(_changed, false)) {
-        // Nothing has come for a while: the next few can stand by themselves.
-        _gathering = !_standing.empty();
+        // Nothing has changed for a while. If no notification is left, the next ones are shown one
+        // by one.
+        _gathering = !_active.empty();
         return;
     }
     _refreshTimer.startOnce(kPause);
-    if (_standing.empty())
+    if (_active.empty())
         return;
-    for (Standing &each : _standing)
-        each.told = true;
+    for (Active &each : _active)
+        each.sent = true;
     _desktop.notify(*this, summary());
 }
 
 DesktopNotification GatheredNotifications::summary()
 {
-    const auto isReminder = [](const Standing &each) {
+    const auto isReminder = [](const Active &each) {
         return each.notification.occasion == DesktopNotification::Occasion::Reminder;
     };
-    DesktopNotification summary = _standing.back().notification;
+    DesktopNotification summary = _active.back().notification;
     summary.show = [this] { showLatest(); };
     summary.stop = {};
     if (offersStop())
         summary.stop = [this] { stopAll(); };
     summary.closed = [this](DesktopNotification::End end) { closeAll(end); };
-    if (!std::ranges::all_of(_standing, isReminder))
+    if (!std::ranges::all_of(_active, isReminder))
         summary.occasion = DesktopNotification::Occasion::News;
-    if (_standing.size() == 1)
+    if (_active.size() == 1)
         return summary;
-    summary.title = tr("%n timers have ended", nullptr, static_cast<int>(_standing.size()));
+    summary.title = tr("%n timers have ended", nullptr, static_cast<int>(_active.size()));
     summary.subject = summary.title;
     QStringList lines;
-    const std::size_t named = std::min(_standing.size(), kNamed);
-    std::for_each_n(_standing.rbegin(), named,
-                    [&](const Standing &each) { lines << each.notification.subject; });
-    if (_standing.size() > named)
-        lines << tr("and %n more", nullptr, static_cast<int>(_standing.size() - named));
+    const std::size_t named = std::min(_active.size(), kMostNamed);
+    std::for_each_n(_active.rbegin(), named,
+                    [&](const Active &each) { lines << each.notification.subject; });
+    if (_active.size() > named)
+        lines << tr("and %n more", nullptr, static_cast<int>(_active.size() - named));
     summary.text = lines.join(QLatin1Char('\n'));
     return summary;
 }
 
 bool GatheredNotifications::offersStop() const
 {
-    const auto isThere = [](const Standing &each) { return bool(each.notification.stop); };
-    return std::ranges::any_of(_standing, isThere);
+    const auto isThere = [](const Active &each) { return bool(each.notification.stop); };
+    return std::ranges::any_of(_active, isThere);
 }
 
 void GatheredNotifications::close(const QObject &sender, DesktopNotification::End end)
 {
     const auto found = find(sender);
-    if (found == _standing.end())
+    if (found == _active.end())
         return;
     const auto closed = found->notification.closed;
-    _standing.erase(found);
+    _active.erase(found);
     if (closed)
         closed(end);
 }
 
 void GatheredNotifications::closeAll(DesktopNotification::End end)
 {
-    // One that the desktop has not been told of comes up anew with the next.
-    std::vector<const QObject *> told;
-    for (const Standing &each : _standing) {
-        if (each.told)
-            told.push_back(each.sender);
+    // Keep a notification that the closed summary did not contain; the next summary shows it.
+    std::vector<const QObject *> sent;
+    for (const Active &each : _active) {
+        if (each.sent)
+            sent.push_back(each.sender);
     }
-    for (const QObject *sender : told)
+    for (const QObject *sender : sent)
         close(*sender, end);
     gatheredChanged();
 }
 
 void GatheredNotifications::showLatest()
 {
-    if (_standing.empty())
+    if (_active.empty())
         return;
-    const QObject *latest = _standing.back().sender;
-    const std::function<void()> show = _standing.back().notification.show;
-    // The alarms of others that ring on can still be stopped: with them, it comes up anew.
-    for (Standing &each : _standing)
-        each.told = each.told && (each.sender == latest || !each.notification.stop);
+    const QObject *latest = _active.back().sender;
+    const std::function<void()> show = _active.back().notification.show;
+    // Keep the other alarms that can still be stopped; the next summary shows them.
+    for (Active &each : _active)
+        each.sent = each.sent && (each.sender == latest || !each.notification.stop);
     closeAll(DesktopNotification::End::Dismissed);
     call(show);
 }
@@ -202,12 +203,12 @@ void GatheredNotifications::showLatest()
 void GatheredNotifications::stopAll()
 {
     std::vector<const QObject *> senders;
-    for (const Standing &each : _standing)
+    for (const Active &each : _active)
         senders.push_back(each.sender);
     for (const QObject *sender : senders) {
-        // Each stop may end others, and their senders with them.
-        const auto found = std::ranges::find(_standing, sender, &Standing::sender);
-        if (found == _standing.end())
+        // A stop may withdraw other notifications and destroy their senders.
+        const auto found = std::ranges::find(_active, sender, &Active::sender);
+        if (found == _active.end())
             continue;
         const std::function<void()> stop = found->notification.stop;
         call(stop);

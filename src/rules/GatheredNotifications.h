@@ -11,18 +11,18 @@
 
 /// Keeps many timers that end together from flooding the desktop.
 ///
-/// A few notifications are passed on as they are. When more would stand at once, or come within
-/// a second, they are gathered into one that counts and names those who have sent them, and that
-/// changes about once a second at most. An answer to it is one to all of them, and each sender is
-/// told that its own has gone; but when the latest is shown, it stays for the others that offer to
-/// be stopped. What the desktop does with it is not its business. Uses the clock of the program, on
-/// the main thread, and wakes it only while something changes.
+/// A few notifications are passed on unchanged. If more would be shown at once, or arrive within a
+/// second, they are replaced by one summary, which counts and names their senders and changes about
+/// once a second at most. An answer to the summary answers all of them, and each sender's closed()
+/// is called. There is one exception: when the user shows the latest timer, the summary stays for
+/// the other alarms that can still be stopped. Main thread; wakes the process only while something
+/// changes.
 class GatheredNotifications final : public QObject, public DesktopNotifications
 {
     Q_OBJECT
 
 public:
-    /// Shows everything through the desktop's own notifications, which must live longer.
+    /// Shows everything through the desktop's notifications, which must outlive this object.
     explicit GatheredNotifications(DesktopNotifications &desktop);
 
     void notify(const QObject &sender, const DesktopNotification &notification) override;
@@ -30,18 +30,18 @@ public:
 
 private:
     /// A notification that has been neither withdrawn nor closed.
-    struct Standing
+    struct Active
     {
         const QObject *sender;
         DesktopNotification notification;
-        /// Whether the desktop has been told of it.
-        bool told;
+        /// Whether the desktop has received it, by itself or in the summary.
+        bool sent;
     };
 
-    [[nodiscard]] std::vector<Standing>::iterator find(const QObject &sender);
+    [[nodiscard]] std::vector<Active>::iterator find(const QObject &sender);
     [[nodiscard]] bool isTooFast();
-    void change(Standing &standing, const DesktopNotification &notification);
-    void showAlone(Standing &standing);
+    void change(Active &active, const DesktopNotification &notification);
+    void showAlone(Active &active);
     void gather();
     void gatheredChanged();
     void refresh();
@@ -53,12 +53,12 @@ private:
     void stopAll();
 
     DesktopNotifications &_desktop;
-    /// The latest comes last.
-    std::vector<Standing> _standing;
-    /// When the last few came.
+    /// The latest is last.
+    std::vector<Active> _active;
+    /// When the last few alarms were announced.
     std::deque<Date> _recent;
     bool _gathering = false;
     bool _changed = false;
-    /// Runs for a while after each change of what is gathered.
+    /// Delays the next update of the summary; runs for a while after each change.
     ClockTimer _refreshTimer{[this] { refresh(); }};
 };

@@ -4,14 +4,14 @@
 
 #include <algorithm>
 
-/// The text with apostrophes and blanks as a keyboard has them, and as long as before.
+/// Replaces typographic apostrophes and non-breaking blanks by plain ones. Keeps the length.
 static QString folded(QString text)
 {
     text.replace(QChar(u'’'), QLatin1Char('\''));
     return text.replace(QChar(QChar::Nbsp), QLatin1Char(' '));
 }
 
-/// Adds every place of this word; false if there is none.
+/// Adds every occurrence of the word; false if there is none.
 static bool addHits(std::vector<HelpHit> &hits, const QString &text, const QString &word)
 {
     const auto length = static_cast<int>(word.size());
@@ -22,7 +22,7 @@ static bool addHits(std::vector<HelpHit> &hits, const QString &text, const QStri
     return found;
 }
 
-/// Makes one place of those that overlap.
+/// Merges hits that overlap.
 static std::vector<HelpHit> merged(std::vector<HelpHit> hits)
 {
     std::ranges::sort(hits, {}, &HelpHit::position);

@@ -4,7 +4,7 @@
 
 #include <vector>
 
-/// A place in a text.
+/// An occurrence in a text.
 struct HelpHit
 {
     int position;
@@ -13,7 +13,6 @@ struct HelpHit
     bool operator==(const HelpHit &) const = default;
 };
 
-/// Where these words, or parts of words, stand in the text, in their order and without overlap.
-/// There is no place unless each of the words has one. Capitals and the form of an apostrophe do
-/// not matter.
+/// Where the words occur in the text, in order and without overlap; parts of words match too. Empty
+/// unless every word occurs. Case and the form of apostrophes do not matter.
 [[nodiscard]] std::vector<HelpHit> helpHits(const QString &text, const QString &words);

@@ -2,10 +2,10 @@
 
 #include <QString>
 
-/// Whether an alarm may go on until the user stops it.
+/// The keep-wuffing box, which lets an alarm repeat until the user stops it.
 namespace KeepWuffing
 {
-/// What the keep-wuffing box says of itself: what it does, or why it cannot be ticked. The reason
-/// that takes most to mend comes first.
+/// The tool tip of the box: what it does, or why it is disabled. Of several reasons, the one that
+/// takes the user most effort to change.
 [[nodiscard]] QString hint(bool stopwatch, bool somethingFollows, bool muted);
 } // namespace KeepWuffing

@@ -4,28 +4,28 @@
 
 #include <array>
 
-/// The table of what may open at launch, with a row for each choice.
+/// The table of what may open at launch, one row for each choice.
 namespace LaunchChoices
 {
 struct Row
 {
-    /// How it is written in the settings, whatever the language.
+    /// The text in the settings, the same in every language.
     QStringView stored;
-    /// What the list shows, to be translated in the context "LaunchChoices".
+    /// The text in the list, to be translated in the context "LaunchChoices".
     const char *shown;
-    /// Whether a timer opens at all.
+    /// Whether a timer opens.
     bool opensTimer;
-    /// Whether it opens with preset 1 and not as the last timer was left.
+    /// Whether the timer opens with preset 1 instead of the settings of the last timer.
     bool takesPreset;
     bool starts;
 };
 
-/// In the order of the list. The first is what holds where nothing was chosen.
+/// In the order of the list. The first row is the default.
 [[nodiscard]] const std::array<Row, 4> &rows();
 
-/// The choice that is stored by this text; the first of the rows for any other.
+/// The choice stored as this text; the default for any other text.
 [[nodiscard]] const Row &fromStored(QStringView text);
 
-/// What the list shows for it, in the language of the program.
+/// The translated text for the list.
 [[nodiscard]] QString shownText(const Row &row);
 } // namespace LaunchChoices

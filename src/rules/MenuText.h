@@ -2,6 +2,6 @@
 
 #include <QString>
 
-/// The text as a menu item has to be given it so that it shows just that: nothing in it is taken
-/// for a mnemonic or a shortcut, and a very long one is cut.
+/// Prepares a text for a menu item, which then shows it in one line as it is: nothing in it becomes
+/// a mnemonic or a shortcut. A very long text is cut.
 [[nodiscard]] QString menuText(const QString &text);

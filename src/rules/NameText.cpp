@@ -4,18 +4,18 @@
 
 namespace
 {
-/// So many characters from the beginning, or one less where the last would be half of a pair.
+/// The first characters, one less if the last one would be half of a surrogate pair.
 QString beginning(const QString &text, qsizetype count)
 {
     return text.left(text.at(count - 1).isHighSurrogate() ? count - 1 : count);
 }
 
-/// So many characters at the end, likewise.
+/// The last characters, one less if the first one would be half of a surrogate pair.
 QString ending(const QString &text, qsizetype count)
 {
     return text.right(text.at(text.length() - count).isLowSurrogate() ? count - 1 : count);
 }
-/// True for ends of lines and paragraphs, tabs, and whatever else is no sign to be seen.
+/// True for ends of lines and paragraphs, tabs and other control characters.
 bool breaksLine(QChar character)
 {
     switch (character.category()) {
@@ -31,7 +31,7 @@ bool breaksLine(QChar character)
 
 QString NameText::inOneLine(const QString &name)
 {
-    // Wider than this, a menu would fill the screen.
+    // A longer name would make a menu as wide as the screen.
     constexpr int mostCharacters = 80;
     QString line = name;
     if (std::ranges::any_of(line, breaksLine)) {
@@ -48,6 +48,6 @@ QString NameText::asWindowTitle(const QString &name)
     constexpr qsizetype mostCharacters = 500;
     QString title = name.length() > mostCharacters ? beginning(name, mostCharacters) : name;
     std::ranges::replace_if(title, breaksLine, QLatin1Char(' '));
-    // Qt puts a mark for unsaved changes there.
+    // Qt replaces [*] by a mark for unsaved changes, and [*][*] by a literal [*].
     return title.replace(QLatin1String("[*]"), QLatin1String("[*][*]"));
 }

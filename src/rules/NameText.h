@@ -2,14 +2,14 @@
 
 #include <QString>
 
-/// Names as users write them, made fit for the places where they are shown. Pure functions.
+/// Prepares names that users write for the places that show them. Pure functions.
 namespace NameText
 {
-/// The name in one line, as it is if it is one, and a very long one cut in its middle, so that no
-/// menu becomes wider than the screen.
+/// The name in one line. The middle of a very long name is cut out, so that no menu becomes wider
+/// than the screen.
 [[nodiscard]] QString inOneLine(const QString &name);
 
-/// The name as a window has to be given it for its title to show just that. What no title bar
-/// has room for is left out: a title of megabytes costs the connection to the X server.
+/// Prepares the name for setWindowTitle(), so that the title shows it as it is. Cuts a name that no
+/// title bar has room for: a title of megabytes breaks the connection to the X server.
 [[nodiscard]] QString asWindowTitle(const QString &name);
 } // namespace NameText

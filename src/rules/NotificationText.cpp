@@ -4,12 +4,12 @@
 
 namespace
 {
-/// In UTF-16 units: two lines of most notifications.
+/// In UTF-16 units: about two lines of most notifications.
 constexpr qsizetype kLongestLine = 100;
-/// A character may be a base with any number of marks.
+/// Longest character that is never cut, in UTF-16 units. Any number of marks may follow a base.
 constexpr qsizetype kLongestCharacter = 24;
 
-/// Embeddings, overrides, isolates and their ends.
+/// True for embeddings, overrides, isolates and their ends.
 bool turnsDirection(QChar character)
 {
     const char16_t code = character.unicode();
@@ -43,7 +43,7 @@ QString shortened(QString text)
 QString NotificationText::line(const QString &text)
 {
     QString line;
-    // What nobody will see need not be looked at.
+    // Skip most of what shortened() would cut off anyway.
     for (const QChar character : QStringView(text).left(4 * kLongestLine)) {
         if (!turnsDirection(character))
             line += isControl(character) ? QLatin1Char(' ') : character;

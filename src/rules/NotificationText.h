@@ -2,11 +2,11 @@
 
 #include <QString>
 
-/// How a text that somebody has typed or pasted stands in a notification.
+/// Prepares texts that users have typed or pasted for notifications.
 namespace NotificationText
 {
-/// The text in one line of a length that a person would read: line breaks and other controls
-/// become spaces, what would turn the direction of the text around it is left out, and a text that
-/// is too long ends in an ellipsis. Never cuts through a character.
+/// The text in one line of readable length: line breaks and other control characters become blanks,
+/// and characters that would change the direction of the text are removed. A text that is too long
+/// ends in an ellipsis, and is not cut inside a character unless that is extremely long.
 [[nodiscard]] QString line(const QString &text);
 } // namespace NotificationText

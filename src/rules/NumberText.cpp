@@ -12,7 +12,7 @@ qint32 NumberText::integerFrom(QStringView text)
     if (negative || text.startsWith(QLatin1Char('+')))
         text = text.sliced(1);
 
-    // A few digits more than 32 bits take are enough to know that the number is too large.
+    // Larger than any 32-bit number. Counting further would change nothing and could overflow.
     constexpr qint64 tooLarge = 10'000'000'000;
     qint64 number = 0;
     for (const QChar character : text) {
@@ -30,6 +30,7 @@ QString NumberText::fromSeconds(float seconds)
     const double fraction = static_cast<double>(seconds) - whole;
     const double limit = perSecond - 1.0;
     const double thousandths = std::clamp(std::round(fraction * perSecond), -limit, limit);
-    // 12 significant digits hold every 32-bit whole number; past the point only zeros are lost.
+    // 12 significant digits hold every 32-bit integer. They cut off thousandths only where a float
+    // has none.
     return QString::number(whole + thousandths / perSecond, 'g', 12);
 }

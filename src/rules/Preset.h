@@ -7,18 +7,18 @@
 
 struct TimerSettings;
 
-/// The ten numbered presets: what can be said of them without a timer.
+/// The ten numbered presets: everything about them that needs no timer.
 namespace Preset
 {
-/// Their numbers in the order of the keyboard, in which they are always listed.
+/// Their numbers in the order of the keys, which every list uses.
 inline constexpr std::array kNumbers{1, 2, 3, 4, 5, 6, 7, 8, 9, 0};
 
-/// The key of a preset in the settings: "Preset 3". Any number will do.
+/// The key of a preset in the settings: "Preset 3". Any number is allowed.
 [[nodiscard]] QString key(quint32 number);
 
-/// What a preset holds before anything was saved into it: ten minutes times its number.
+/// What a preset holds before the user has saved it: ten minutes times its number.
 [[nodiscard]] QVariantMap defaultRecord(qint32 number);
 
-/// A preset in a list: "Tea - 0h 5m 0s". One without a title is called "Wuffer".
+/// The text for a preset in lists: "Tea - 0h 5m 0s". Without a title it is called "Wuffer".
 [[nodiscard]] QString text(const TimerSettings &settings);
 } // namespace Preset

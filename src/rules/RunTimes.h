@@ -6,7 +6,7 @@ constexpr double kRunTick = 0.037;
 /// How far a run has come, in seconds.
 struct RunTimes
 {
-    /// Nothing is left at zero or less.
+    /// Zero or less when the time is up.
     double remaining = 0;
     double elapsed = 0;
 };

@@ -6,11 +6,11 @@
 #include <iterator>
 #include <vector>
 
-/// Which timers run, and in what order they end. For the timers of the program and for anything
-/// else that has `isRunning` and `targetDate`.
+/// Which timers run, and in which order they end. Works on any type with `isRunning` and
+/// `targetDate`.
 namespace RunningTimers
 {
-/// A timer that runs.
+/// A running timer and its end.
 template<class Timer> struct Running
 {
     Timer *timer;
@@ -25,7 +25,7 @@ template<class Timer>
     return one.end.timeIntervalSinceDate(other.end) < 0;
 }
 
-/// Those of the timers that run, in the same order.
+/// The running timers of the list, in its order.
 template<class Timer>
 [[nodiscard]] std::vector<Running<Timer>> among(const std::vector<Timer *> &timers)
 {
@@ -38,15 +38,16 @@ template<class Timer>
     return running;
 }
 
-/// The one that ends first, of several the last in the list; null when there is none.
+/// The timer that ends first; of several with the same end, the last in the list. Null for an empty
+/// list.
 template<class Timer> [[nodiscard]] Timer *soonestEnding(const std::vector<Running<Timer>> &running)
 {
     const auto first = std::min_element(running.rbegin(), running.rend(), endsBefore<Timer>);
     return first == running.rend() ? nullptr : first->timer;
 }
 
-/// From the one that ends first to the one that ends last. Of several that end at the same moment,
-/// those further down in the list come first.
+/// The timers from the first to end to the last. Those with the same end are in reverse order of
+/// the list.
 template<class Timer>
 [[nodiscard]] std::vector<Timer *> inOrderOfEnding(std::vector<Running<Timer>> running)
 {

@@ -5,8 +5,8 @@
 #include <array>
 #include <optional>
 
-/// The entries of the sound combos that are not sound files of the user's: the built-in sounds and
-/// the commands.
+/// The entries of the sound combos other than the user's files: the built-in sounds and the
+/// commands.
 enum class SoundEntry {
     Wuff,
     Crow,
@@ -15,15 +15,16 @@ enum class SoundEntry {
     Manage,
 };
 
-/// The table of these entries, with a row for each.
+/// The table of these entries, one row for each.
 namespace SoundEntries
 {
 struct Row
 {
     SoundEntry entry;
-    /// What stands for it in the combo and, for a sound, in a preset, whatever the language.
+    /// The data of the combo entry and, for a sound, the text in a preset; the same in every
+    /// language.
     QStringView stored;
-    /// What the list shows, to be translated in the context "SoundEntries".
+    /// The text in the list, to be translated in the context "SoundEntries".
     const char *shown;
     /// The file of a built-in sound; empty for a command.
     QStringView fileName;
@@ -31,12 +32,12 @@ struct Row
 
 [[nodiscard]] const Row &row(SoundEntry entry);
 
-/// The entry that is stored by this text; nothing for the path of a file.
+/// The entry stored as this text; nothing for the path of a file.
 [[nodiscard]] std::optional<SoundEntry> fromStored(QStringView text);
 
-/// The file name of the built-in sound that is stored by this text; empty when there is none.
+/// The file name of the built-in sound stored as this text; empty for any other text.
 [[nodiscard]] QString builtInFile(QStringView text);
 
-/// What the lists and labels show for it, in the language of the program.
+/// The translated text for lists and labels.
 [[nodiscard]] QString shownText(SoundEntry entry);
 } // namespace SoundEntries

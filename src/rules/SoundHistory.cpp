@@ -22,7 +22,7 @@ QString SoundHistory::displayTitle(const QString &path)
     while (whole.size() > 1 && whole.endsWith(u'/'))
         whole.chop(1);
     const QStringView name = whole.size() > 1 ? whole.mid(whole.lastIndexOf(u'/') + 1) : whole;
-    // A dot in front belongs to the name.
+    // A leading dot belongs to the name.
     const qsizetype dot = name.lastIndexOf(u'.');
     return (dot > 0 ? name.first(dot) : name).toString();
 }

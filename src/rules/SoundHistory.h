@@ -2,25 +2,25 @@
 
 #include <QStringList>
 
-/// The sound files that the user has added, newest first, each by its path. Paths are compared as
-/// they are written; whether there is such a file is nobody's concern here.
+/// The paths of the sound files that the user has added, the newest first. Paths are compared as
+/// texts; the files need not exist.
 class SoundHistory final
 {
 public:
     SoundHistory() = default;
-    /// The list as it was kept.
+    /// Takes over a stored list.
     explicit SoundHistory(QStringList paths) : _paths(std::move(paths)) {}
 
     [[nodiscard]] const QStringList &paths() const { return _paths; }
     [[nodiscard]] bool contains(const QString &path) const;
 
-    /// Puts the path in front. One that is in the list already keeps its place.
+    /// Adds the path at the front. A path in the list already keeps its place.
     void add(const QString &path);
 
-    /// Takes the path out, however often it is there.
+    /// Removes every occurrence of the path.
     void remove(const QString &path);
 
-    /// What the user sees of a path: the name of the file without its extension.
+    /// The title of a sound: its file name without the extension.
     [[nodiscard]] static QString displayTitle(const QString &path);
 
 private:

@@ -13,7 +13,7 @@ struct Unit
     const char *name;
 };
 
-/// The largest first, each with the next one as its smaller.
+/// From the largest to the smallest.
 constexpr std::array kUnits{
     Unit{86400, QT_TRANSLATE_NOOP("TimeDistance", "%1 d")},
     Unit{3600, QT_TRANSLATE_NOOP("TimeDistance", "%1 h")},

@@ -8,7 +8,7 @@
 
 namespace
 {
-/// The last digit of a number that is not negative.
+/// The last digit of a non-negative number.
 QChar digit(qint32 number)
 {
     return QChar(u'0' + number % 10);
@@ -23,7 +23,7 @@ void append(QString &text, qint32 count, QLatin1String unit)
 
 QString TimeFormat::stringForTime(double seconds)
 {
-    // Not even a fraction of a second shows as nothing, only no time at all.
+    // Only exactly 0 gives an empty text; a fraction of a second gives "0s".
     if (seconds == 0.0)
         return {};
     constexpr qint32 mostDaysWithMinutes = 9;
@@ -31,7 +31,7 @@ QString TimeFormat::stringForTime(double seconds)
     const qint32 whole = cutToInteger(seconds);
 
     QString text;
-    // Once for the whole text.
+    // Allocate once for the whole text.
     text.reserve(16);
     append(text, days, QLatin1String("d "));
     append(text, (whole / 3600) % 24, QLatin1String("h "));
@@ -47,7 +47,7 @@ QString TimeFormat::msStringForTime(double seconds)
     const qint32 milliseconds = cutToInteger(std::fmod(seconds, 1.0) * 1000.0);
     if (milliseconds < 0)
         return QString::asprintf("%03d", milliseconds);
-    // Made at every tick: a tenth of the time that a format string takes.
+    // Runs at every tick, in a tenth of the time that a format string takes.
     const std::array digits{digit(milliseconds / 100), digit(milliseconds / 10),
                             digit(milliseconds)};
     return QString(digits.data(), std::ssize(digits));

@@ -8,7 +8,7 @@
 
 namespace
 {
-/// No longer text is a time.
+/// Longer texts are not read as a time.
 constexpr qsizetype kLongest = 100;
 
 struct Name
@@ -32,12 +32,12 @@ constexpr std::array kNames{
 /// Seconds in a unit, in the order of the units.
 constexpr std::array kSecondsIn{86400, 3600, 60, 1};
 
-/// A number without a sign, as it was written: no binary fraction can hold 0.1.
+/// A number without a sign, in decimal: a binary fraction could not hold 0.1 exactly.
 struct Decimal
 {
     qint64 whole = 0;
     qint64 fraction = 0;
-    /// The fraction counts these parts of one; 1 where none was written.
+    /// The denominator of the fraction; 1 if there is no fraction.
     qint64 parts = 1;
 };
 
@@ -65,7 +65,7 @@ QStringView takeDigits(QStringView &text)
     return takeWhile(text, [](QChar each) { return each.isDigit(); });
 }
 
-/// What the digits count, limited to a few more than 32 bits hold.
+/// The number that the digits form, limited to a bit more than 32 bits hold.
 qint64 numberIn(QStringView digits)
 {
     constexpr qint64 most = 10'000'000'000;
@@ -75,10 +75,10 @@ qint64 numberIn(QStringView digits)
     return number;
 }
 
-/// Takes the number with which the text begins, if it does.
+/// Takes the number at the beginning of the text; nothing if there is none.
 std::optional<Decimal> takeDecimal(QStringView &text)
 {
-    // Finer than this, nothing would change by a second.
+    // More places would not change the result by a second.
     constexpr qsizetype mostPlaces = 9;
     QStringView rest = text;
     const QStringView whole = takeDigits(rest);
@@ -98,7 +98,7 @@ std::optional<Decimal> takeDecimal(QStringView &text)
     return number;
 }
 
-/// The fraction of the number in whole seconds, to the nearest.
+/// The fraction of the number, rounded to whole seconds. Fractions of a second are cut.
 qint64 secondsOfFraction(const Decimal &number, TimeText::Unit unit)
 {
     if (unit == TimeText::Unit::Seconds)
@@ -107,7 +107,7 @@ qint64 secondsOfFraction(const Decimal &number, TimeText::Unit unit)
     return (number.fraction * seconds + number.parts / 2) / number.parts;
 }
 
-/// Adds up numbers of units.
+/// Sums up numbers with units.
 class Sum final
 {
 public:
@@ -149,7 +149,7 @@ private:
     qint64 _seconds = 0;
 };
 
-/// What may stand between two numbers with their units: "1 hour, 5 minutes", "1 hour and 5".
+/// Skips what may separate two numbers with units: "1 hour, 5 minutes", "1 hour and 5".
 void skipSeparators(QStringView &text)
 {
     takeWhile(text, [](QChar each) { return each.isSpace() || each == u','; });
@@ -158,8 +158,8 @@ void skipSeparators(QStringView &text)
         text = text.sliced(word.size()).trimmed();
 }
 
-/// The unit after a number, which the text may leave out behind its last number: then it is the
-/// next smaller one.
+/// Takes the unit after a number. The last number may have none; then it is the next smaller unit
+/// after the one before.
 std::optional<TimeText::Unit> takeUnit(QStringView &text, std::optional<TimeText::Unit> before)
 {
     text = text.trimmed();
@@ -172,7 +172,7 @@ std::optional<TimeText::Unit> takeUnit(QStringView &text, std::optional<TimeText
     return unit;
 }
 
-/// "1h 5m"
+/// Reads "1h 5m".
 std::optional<TimeText::Time> readWithUnits(QStringView text)
 {
     Sum sum;
@@ -189,7 +189,7 @@ std::optional<TimeText::Time> readWithUnits(QStringView text)
     return before ? std::optional(sum.time()) : std::nullopt;
 }
 
-/// One of the numbers between colons, which may be left out: ":30".
+/// Reads one of the numbers between colons. An empty one counts as 0: ":30".
 std::optional<Decimal> numberOfClock(QStringView text)
 {
     text = text.trimmed();
@@ -199,7 +199,7 @@ std::optional<Decimal> numberOfClock(QStringView text)
     return text.isEmpty() ? number : std::nullopt;
 }
 
-/// "1:02:03"
+/// Reads "1:02:03".
 std::optional<TimeText::Time> readAsClock(QStringView text)
 {
     const bool hasColons = text.contains(u':');

@@ -4,13 +4,13 @@
 
 #include <optional>
 
-/// How people write a time: "5:30", "1h 5m", "1.5 h", "90 s". Pure functions of texts, which may
-/// be anything; numbers are limited to 32 bits.
+/// Reads times as people write them: "5:30", "1h 5m", "1.5 h", "90 s". Pure functions for any text;
+/// numbers are limited to 32 bits.
 namespace TimeText
 {
 enum class Unit { Days, Hours, Minutes, Seconds };
 
-/// What goes into the three fields of a timer. Each takes any count: 90 s are no 1 min 30 s.
+/// The numbers for the three fields of a timer. They are not normalized: 90 s stay 90 s.
 struct Time
 {
     qint32 hours = 0;
@@ -20,24 +20,26 @@ struct Time
     [[nodiscard]] bool operator==(const Time &) const = default;
 };
 
-/// Whether the text is a number or may become one by going on: digits after an optional sign, with
-/// one decimal mark (a point or a comma) at most. So is the empty text.
+/// Whether the text is a number or the beginning of one: an optional sign, then digits with at most
+/// one decimal mark (point, comma or the Arabic one). True for the empty text.
 [[nodiscard]] bool isNumberBegun(QStringView text);
 
-/// Whether the text is a number and nothing else, but for blanks around it.
+/// Whether the text is a number with nothing but blanks around it.
 [[nodiscard]] bool isNumber(QStringView text);
 
-/// The unit of this name: a letter or an English word, "h", "min", "Seconds". Nothing for others.
+/// The unit with this name, a letter or an English word: "h", "min", "Seconds". Nothing for other
+/// words.
 [[nodiscard]] std::optional<Unit> unitNamed(QStringView word);
 
-/// The time that the text as a whole says: numbers with units, the larger first, the last of them
-/// perhaps without its unit ("1h 5m", "1h05", "2d 3h", "1,5 h"), or two or three numbers with
-/// colons or blanks between them, which are minutes and seconds, or hours before these ("5:30",
-/// "1:02:03"). Days become hours, fractions of a larger unit smaller ones, to the nearest second;
-/// fractions of a second are cut. Nothing for any other text, a single number among them.
+/// The time in the text, in one of two forms. Numbers with units, the largest first; the last
+/// number may have none ("1h 5m", "1h05", "2d 3h", "1,5 h"). Or two or three numbers separated by
+/// colons or blanks, which are minutes and seconds, or hours, minutes and seconds ("5:30",
+/// "1:02:03"). Days are converted to hours. Fractions of larger units are converted to smaller
+/// ones, to the nearest second; fractions of a second are cut. Nothing for any other text, a single
+/// number included.
 [[nodiscard]] std::optional<Time> read(QStringView text);
 
-/// A number of this unit with its fraction in smaller ones: 1.5 hours are {1, 30, 0}. Nothing for a
-/// number without a fraction, or with a sign.
+/// Converts the fraction of a number of this unit into smaller units: 1.5 hours are {1, 30, 0}.
+/// Nothing for a number without a fraction or with a sign.
 [[nodiscard]] std::optional<Time> spread(QStringView number, Unit unit);
 } // namespace TimeText

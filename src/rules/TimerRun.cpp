@@ -6,14 +6,14 @@
 
 namespace
 {
-/// Every so many ticks the rest of the program is told.
+/// How many ticks there are from one notice to the rest of the program to the next.
 constexpr quint32 kTicksPerStatus = 5;
 
-/// When a stopwatch that goes on from so many milliseconds must have begun.
-Date beginningOf(qint64 milliseconds, Date now)
+/// The start date of a stopwatch that goes on from this many milliseconds.
+Date startDateFor(qint64 milliseconds, Date now)
 {
-    // Rounded up to whole steps of the clock: any earlier moment would do for the stopwatch, but
-    // a later one would show a millisecond less than it stopped at.
+    // Round the duration up to whole steps of the clock. A start that is a step too early does not
+    // show, but one that is too late would show a millisecond less than before.
     constexpr double stepsPerSecond = 1 << 20;
     const double steps = std::ceil(static_cast<double>(milliseconds) / 1000.0 * stepsPerSecond);
     return now.addingTimeInterval(-steps / stepsPerSecond);
@@ -53,7 +53,7 @@ void TimerRun::start(qint32 seconds, qint32 milliseconds, Date now)
     _state = State::Running;
     _lastBeep = BeepSchedule::kNoBeepYet;
     if (_stopwatch) {
-        _startDate = beginningOf(qint64(seconds) * 1000 + milliseconds, now);
+        _startDate = startDateFor(qint64(seconds) * 1000 + milliseconds, now);
         _targetDate = Date::distantFuture();
     } else {
         _startDate = now;

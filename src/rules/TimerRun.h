@@ -10,9 +10,9 @@
 /// The run of a timer: what it counts, when it began and when it ends, and what is due at each of
 /// its ticks.
 ///
-/// It knows no window and no sound. Whoever owns it reads the clock, beats the ticks and shows what
-/// the run says. A run is measured between dates and never by its ticks, of which some may be late
-/// or left out. One object serves all runs of a timer, one after another.
+/// It needs no window and plays no sound. Its owner reads the clock, drives the ticks and shows the
+/// times. Times are measured between dates and never by counting ticks, which may be late or
+/// skipped. One object serves all runs of a timer, one after another.
 class TimerRun final
 {
 public:
@@ -20,16 +20,16 @@ public:
         Idle,
         /// Counting down or up.
         Running,
-        /// At its end, until it is stopped.
+        /// The countdown has ended; lasts until the timer is stopped.
         Alarm,
     };
 
-    /// What a stop leaves.
+    /// The result of a stop.
     struct Rest
     {
         RunTimes times;
-        /// What the next start goes on from, in seconds: what is left of a countdown, or what a
-        /// stopwatch has counted. Zero or less where nothing is left.
+        /// Where the next start continues, in seconds: the remaining time of a countdown or the
+        /// elapsed time of a stopwatch. Zero or less if nothing is left.
         double value = 0;
     };
 
@@ -37,47 +37,47 @@ public:
     /// Running or in the alarm: from a start to the next stop.
     [[nodiscard]] bool isStarted() const { return _state != State::Idle; }
     [[nodiscard]] bool isStopwatch() const { return _stopwatch; }
-    /// When the run ends: the distant future for a stopwatch, nothing before the first start. It
-    /// stays after a stop.
+    /// When the run ends: the distant future for a stopwatch, nothing before the first start. A
+    /// stop keeps the date.
     [[nodiscard]] std::optional<Date> targetDate() const { return _targetDate; }
     /// The duration of the last countdown that was started, in seconds; 0 before the first.
     [[nodiscard]] double initialTimeLeft() const { return _initialTimeLeft; }
-    /// Which pass of a looping timer this is, from 1.
+    /// Which pass of a looping timer this is, counted from 1.
     [[nodiscard]] quint32 repeatCount() const { return _repeatCount; }
-    /// " (x2)" from the second pass of a looping timer on; empty before.
+    /// " (x2)" from the second pass of a looping timer on; empty in the first.
     [[nodiscard]] QString repeatSuffix() const;
 
-    /// How far the run has come at a moment. There must have been a start.
+    /// How far the run has come at this moment. Only after the first start.
     [[nodiscard]] RunTimes timesAt(Date moment) const;
-    /// Seconds from the start to the end. There must have been a start.
+    /// Seconds from the start to the end. Only after the first start.
     [[nodiscard]] double duration() const;
-    /// Of the times, the one that the timer counts: elapsed for a stopwatch, else remaining.
+    /// The time that the timer counts: elapsed for a stopwatch, else remaining.
     [[nodiscard]] double counted(const RunTimes &times) const;
 
-    /// A stopwatch from now on, or a countdown. Not while it is started.
+    /// Turns the timer into a stopwatch or a countdown. Not while started.
     void setStopwatch(bool stopwatch);
 
-    /// Begins a countdown of so many seconds, which may be zero or negative and is then over at
-    /// once, or lets a stopwatch go on from these seconds and milliseconds.
+    /// Starts a countdown of this many seconds; with zero or fewer it is over at once. A stopwatch
+    /// continues from these seconds and milliseconds instead.
     void start(qint32 seconds, qint32 milliseconds, Date now);
     /// Ends the run, or its alarm.
     Rest stop(Date now);
-    /// The countdown is over; the alarm begins.
+    /// The countdown is over and the alarm begins.
     void beginAlarm();
 
-    /// Another pass of a looping timer follows.
+    /// A looping timer is about to start its next pass.
     void countRepeat() { ++_repeatCount; }
-    /// The loop is over.
+    /// The loop is over: the next pass is the first.
     void resetRepeatCount() { _repeatCount = 1; }
 
-    /// Counts ticks that have passed; true at every fifth tick, at which the rest of the program
-    /// is told. They are counted on from run to run.
+    /// Counts ticks that have passed. True at every fifth tick, when the rest of the program is
+    /// notified. The count continues from run to run.
     [[nodiscard]] bool countTicks(int ticks);
-    /// How many ticks there are before the next fifth.
+    /// How many ticks come before the next fifth one.
     [[nodiscard]] int ticksBeforeStatus() const;
 
-    /// The volume of the countdown beep that is due with so many seconds left; nothing when none
-    /// is. It counts as having sounded.
+    /// The volume of the beep that is due with this many seconds remaining, or nothing if none is
+    /// due. Records the beep as played.
     [[nodiscard]] std::optional<float> takeBeep(double remaining);
 
 private:
@@ -85,10 +85,10 @@ private:
     bool _stopwatch = false;
     std::optional<Date> _targetDate;
     std::optional<Date> _startDate;
-    /// Seconds that were left at the last countdown beep.
+    /// Seconds that were left at the last beep.
     double _lastBeep = 0;
     quint32 _repeatCount = 1;
-    /// Ticks since the timer was made.
+    /// Ticks since the timer was created.
     quint32 _refreshCount = 0;
     double _initialTimeLeft = 0;
 };

@@ -5,8 +5,8 @@
 
 #include <optional>
 
-/// What a timer remembers: its settings as the user sees them, and the flat dictionary in which
-/// they are stored.
+/// The settings of a timer as the user sees them, and their conversion from and to the flat
+/// dictionary that is stored.
 struct TimerSettings
 {
     QString title;
@@ -15,20 +15,20 @@ struct TimerSettings
     qint32 seconds = 0;
     bool keepWuffing = false;
     bool fullScreen = false;
-    /// Missing when the timer is to start another, because a link ends with the windows, and when
-    /// nothing is selected.
+    /// Missing if nothing is selected, or if the action starts another timer: that link ends with
+    /// the windows.
     std::optional<QString> finishOption;
-    /// The place in the list of presets, from 0; only where one is to be started.
+    /// The index in the list of presets; only if the action starts a preset.
     std::optional<qint32> presetSelection;
-    /// The timer's own sounds, which presets keep and the settings for the next launch do not.
+    /// The timer's own sounds. Presets store them, the settings for the next launch do not.
     std::optional<QString> individualAlarmPath;
     std::optional<QString> individualCountdownPath;
 
-    /// Reads a dictionary that anybody may have written. What is missing or of another type than
-    /// expected reads as 0, off, empty or missing; numbers are limited to 32 bits.
+    /// Reads a stored dictionary, which users may have edited by hand. Missing values and those of
+    /// a wrong type read as 0, off, empty or missing; numbers are limited to 32 bits.
     [[nodiscard]] static TimerSettings fromRecord(const QVariantMap &record);
 
-    /// The dictionary to store. What is missing here has no key there.
+    /// The dictionary to store; it has no keys for missing values.
     [[nodiscard]] QVariantMap record() const;
 
     [[nodiscard]] bool operator==(const TimerSettings &) const = default;

@@ -2,13 +2,13 @@
 
 #include <QStringView>
 
-// Texts that the program compares as well as shows, each defined once.
+// Texts that the program compares or stores as well as shows. Each is defined once.
 
 inline constexpr QStringView kGoButtonStart = u"Start";
 inline constexpr QStringView kGoButtonStop = u"Stop";
 /// The button's title while the alarm lasts.
 inline constexpr QStringView kGoButtonReset = u"Reset";
-/// The button's title at the head of a chain, which alone can start it, and at the others.
+/// The button's title in a chain: at the head, which the user can start, and at the other timers.
 inline constexpr QStringView kGoButtonStartChain = u"Start Chain";
 inline constexpr QStringView kGoButtonChained = u"Chained";
 inline constexpr QStringView kStopwatchString = u"Stopwatch";
@@ -27,5 +27,5 @@ inline constexpr QStringView kWufferFinishedWuffer = u"Start other open Wuffer";
 inline constexpr QStringView kWuffSound = u"Wuff (Default)";
 inline constexpr QStringView kCrowSound = u"Crow (Default)";
 
-/// The face of the big display, the milliseconds and the elapsed line.
+/// The font family of the big display, the milliseconds and the elapsed line.
 inline constexpr QStringView kResultLabelFont = u"Courier";

@@ -6,24 +6,24 @@
 
 namespace
 {
-/// As far as any desktop reaches, with room to calculate.
-constexpr int kFarthest = 1 << 20;
+/// Beyond any desktop, but small enough that calculations do not overflow.
+constexpr int kMaxCoordinate = 1 << 20;
 
-/// So much of a title bar must be in sight to take hold of it.
-constexpr QSize kHandle{60, 20};
+/// The part of a title bar that must be visible, so that the user can drag it.
+constexpr QSize kGrabArea{60, 20};
 
 bool canBeReached(QPoint origin, QSize size, const QRect &room)
 {
-    const QRect titleBar(origin, QSize(size.width(), kHandle.height()));
+    const QRect titleBar(origin, QSize(size.width(), kGrabArea.height()));
     const QRect inSight = titleBar & room;
-    return inSight.width() >= kHandle.width() && inSight.height() >= kHandle.height();
+    return inSight.width() >= kGrabArea.width() && inSight.height() >= kGrabArea.height();
 }
 
 QPoint nearestIn(const QRect &room, QPoint origin, QSize size)
 {
     const QPoint last =
         room.topLeft() + QPoint(room.width() - size.width(), room.height() - size.height());
-    // What is larger than the room keeps its title bar in sight.
+    // A window larger than the room keeps its title bar visible.
     return {std::max(room.x(), std::min(origin.x(), last.x())),
             std::max(room.y(), std::min(origin.y(), last.y()))};
 }
@@ -40,7 +40,8 @@ std::optional<QPoint> WindowPlace::fromRecord(const QVariantMap &record)
     const std::optional<qint32> y = PropertyList::valueIn(record, PlaceKeys::kY);
     if (!x || !y)
         return std::nullopt;
-    return QPoint(std::clamp(*x, -kFarthest, kFarthest), std::clamp(*y, -kFarthest, kFarthest));
+    return QPoint(std::clamp(*x, -kMaxCoordinate, kMaxCoordinate),
+                  std::clamp(*y, -kMaxCoordinate, kMaxCoordinate));
 }
 
 QPoint WindowPlace::reachable(QPoint origin, QSize size, const QList<QRect> &rooms)

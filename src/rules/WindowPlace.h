@@ -7,18 +7,18 @@
 
 #include <optional>
 
-/// Where a window stood and where it may stand again, in device-independent pixels of the desktop.
+/// Saved places of windows and where to restore them, in device-independent pixels of the desktop.
 namespace WindowPlace
 {
-/// The place as it is stored.
+/// The dictionary to store for this place.
 [[nodiscard]] QVariantMap record(QPoint origin);
 
-/// The place that is stored; nothing when there is none. Numbers that no desktop reaches are
+/// The place in a stored dictionary; nothing if there is none. Coordinates beyond any desktop are
 /// limited.
 [[nodiscard]] std::optional<QPoint> fromRecord(const QVariantMap &record);
 
-/// Where a frame of this size is put that stood at this place: there, if its title bar can still
-/// be reached in one of the rooms, which are what the screens leave free; otherwise at the
-/// nearest place that lies in a room as a whole. There must be a room.
+/// Where to restore a frame of this size that was saved at this place. Each room is the free area
+/// of a screen; there must be one. If the title bar can be reached in a room, the place stays;
+/// otherwise it is the nearest one completely inside a room.
 [[nodiscard]] QPoint reachable(QPoint origin, QSize size, const QList<QRect> &rooms);
 } // namespace WindowPlace
