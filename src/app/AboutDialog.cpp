@@ -22,8 +22,7 @@ constexpr std::array kSoundLibraries{
     Library{"libmpg123", QT_TRANSLATE_NOOP("AboutDialog", "MP3 files"), "LGPL 2.1"},
 };
 
-/// With the version that is loaded, which need not be that of the build, where there is a place
-/// for it.
+/// The library's name, a %1 in it replaced by the version of Qt that is loaded at run time.
 QString nameOf(const Library &library)
 {
     const QString name = QString::fromLatin1(library.name);
@@ -69,7 +68,7 @@ AboutDialog::~AboutDialog() = default;
 void AboutDialog::orderFront()
 {
     const QWidget *below = QApplication::activeWindow();
-    // Before it is shown for the first time it has no window yet.
+    // Without it, windowHandle() would be null until the dialog has been shown once.
     create();
     if (below && below != this)
         windowHandle()->setTransientParent(below->windowHandle());

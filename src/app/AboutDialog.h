@@ -11,8 +11,9 @@ namespace Ui
 class About;
 }
 
-/// Says what the program is: its name, version and licence, and the libraries that it uses with
-/// theirs. All of it can be selected, for a report. It shows no menus, but their keys work.
+/// Shows the program's name, version and licence, and the libraries that it uses with their
+/// licences. The text can be selected, to be pasted into a bug report. The dialog has no menu bar,
+/// but the shortcuts of the menus work in it.
 class AboutDialog final : public QDialog
 {
     Q_OBJECT
@@ -21,7 +22,7 @@ public:
     explicit AboutDialog(const MainMenu &menu);
     ~AboutDialog() override;
 
-    /// Shows it in front of the active window, even if that is kept above all others.
+    /// Shows the dialog in front of the active window, even when that one is kept on top.
     void orderFront();
 
 private:

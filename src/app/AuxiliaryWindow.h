@@ -4,8 +4,8 @@
 
 class MainMenu;
 
-/// A window beside the timers, with the menus of the program, that Escape closes. It is empty until
-/// somebody gives it a central widget.
+/// A window beside the timers, such as the help, with the menus of the program. Escape closes it.
+/// It is empty until the controller gives it a central widget.
 class AuxiliaryWindow final : public QMainWindow
 {
     Q_OBJECT

@@ -75,7 +75,7 @@ bool writeAnswer(const CommandLine &commandLine)
     return true;
 }
 
-static bool isQuestion(std::string_view argument)
+static bool isHelpOrVersion(std::string_view argument)
 {
     return argument == "-h" || argument == "--help" || argument == "-v" || argument == "--version";
 }
@@ -83,10 +83,10 @@ static bool isQuestion(std::string_view argument)
 bool answeredWithoutDisplay(int argc, char **argv)
 {
     const std::span arguments(argv, static_cast<std::size_t>(argc));
-    const auto question = std::ranges::find_if(arguments, isQuestion);
-    if (question == arguments.end())
+    const auto option = std::ranges::find_if(arguments, isHelpOrVersion);
+    if (option == arguments.end())
         return false;
     const QCoreApplication application(argc, argv);
     return writeAnswer(readCommandLine(
-        {QCoreApplication::arguments().constFirst(), QString::fromLocal8Bit(*question)}));
+        {QCoreApplication::arguments().constFirst(), QString::fromLocal8Bit(*option)}));
 }

@@ -10,20 +10,20 @@
 struct CommandLine
 {
     LaunchOrder order = LaunchOrder::Activate;
-    /// Started by the session bus: the order comes from there.
+    /// True when the session bus started the program; the order then comes over the bus.
     bool service = false;
-    /// To be written before the program ends at once, and its exit status then.
+    /// When set, the program writes this text and exits with exitStatus instead of starting.
     std::optional<QString> answer;
     int exitStatus = 0;
 };
 
-/// Reads the arguments, of which the first is the program. Of several orders the last holds. An
-/// argument that nobody knows is answered with an explanation.
+/// Reads the arguments, of which the first is the program. Of several orders the last one counts.
+/// For an unknown argument the answer is an error message.
 [[nodiscard]] CommandLine readCommandLine(const QStringList &arguments);
 
-/// Writes the answer, if there is one; whether there was.
+/// Writes the answer, if there is one, and returns whether there was.
 bool writeAnswer(const CommandLine &commandLine);
 
-/// Answers a question for help or the version, which needs no display; whether there was one.
-/// Comes before the application object.
+/// Answers --help and --version, which need no display, and returns whether one of them was given.
+/// Call it before the application object is made.
 [[nodiscard]] bool answeredWithoutDisplay(int argc, char **argv);

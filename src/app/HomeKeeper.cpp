@@ -7,8 +7,8 @@
 
 namespace
 {
-/// Whether it is a window in its own right, and not something that another has brought up.
-bool isOfItsOwn(const QWidget &window)
+/// Whether this is an independent window: not a popup, a dialog or the child of another window.
+bool isIndependent(const QWidget &window)
 {
     return window.windowType() == Qt::Window && window.parentWidget() == nullptr;
 }
@@ -16,11 +16,11 @@ bool isOfItsOwn(const QWidget &window)
 
 HomeKeeper::HomeKeeper(std::function<std::unique_ptr<HomeWindow>()> make) : _make(std::move(make))
 {
-    // The last window that closes makes room for the home window.
+    // When the last window closes, the home window opens and the program goes on.
     QApplication::setQuitOnLastWindowClosed(false);
     const WufferApplication &application = WufferApplication::instance();
-    // Later, because one may only make room for another.
-    connect(&application, &WufferApplication::windowHidden, this, &HomeKeeper::look,
+    // Queued, because a window may close just before the next one opens.
+    connect(&application, &WufferApplication::windowHidden, this, &HomeKeeper::showIfNoWindowIsOpen,
             Qt::QueuedConnection);
     connect(&application, &WufferApplication::windowShown, this,
             [this](QWidget *window) { windowShown(*window); });
@@ -28,7 +28,7 @@ HomeKeeper::HomeKeeper(std::function<std::unique_ptr<HomeWindow>()> make) : _mak
 
 HomeKeeper::~HomeKeeper() = default;
 
-void HomeKeeper::look()
+void HomeKeeper::showIfNoWindowIsOpen()
 {
     if (openWindow() || WufferApplication::isQuitting())
         return;
@@ -43,13 +43,14 @@ void HomeKeeper::look()
 QWidget *HomeKeeper::openWindow()
 {
     const QWidgetList windows = QApplication::topLevelWidgets();
-    const auto open = std::ranges::find_if(
-        windows, [](const QWidget *window) { return isOfItsOwn(*window) && window->isVisible(); });
+    const auto open = std::ranges::find_if(windows, [](const QWidget *window) {
+        return isIndependent(*window) && window->isVisible();
+    });
     return open == windows.end() ? nullptr : *open;
 }
 
 void HomeKeeper::windowShown(QWidget &window)
 {
-    if (_home && &window != _home.get() && isOfItsOwn(window))
+    if (_home && &window != _home.get() && isIndependent(window))
         _home->hide();
 }

@@ -8,21 +8,21 @@
 class HomeWindow;
 class QWidget;
 
-/// Sees to it that the program is never running without a way in: while none of its other windows
-/// is open the home window is, and when the user closes that one the program ends.
+/// Keeps the running program reachable: shows the home window while no other window of the program
+/// is open, and quits the program when the user closes the home window.
 class HomeKeeper final : public QObject
 {
     Q_OBJECT
 
 public:
-    /// The window is made when it is first needed.
+    /// The function makes the home window; it is called when the window is first needed.
     explicit HomeKeeper(std::function<std::unique_ptr<HomeWindow>()> make);
     ~HomeKeeper() override;
 
     /// Shows the home window if no window is open.
-    void look();
+    void showIfNoWindowIsOpen();
 
-    /// A window that is open, whichever; null when there is none.
+    /// Any one open window; null when there is none.
     [[nodiscard]] static QWidget *openWindow();
 
 private:

@@ -10,15 +10,15 @@
 namespace
 {
 constexpr int kRows = 5;
-/// Longer names of presets are cut off, in the width of so many digits.
+/// The longest text on a button, in widths of a digit; longer texts are elided.
 constexpr int kLongestText = 32;
 
-/// The text of the item on the button, with what there is no room for left out.
+/// Puts the text of the item on the button, elided if it is too long.
 void showText(QPushButton &button, const QAction &item)
 {
     const QFontMetrics metrics(button.font());
     const int room = kLongestText * metrics.horizontalAdvance(QLatin1Char('0'));
-    // Mnemonics are marked alike in both; a name holds none, but perhaps the character.
+    // Items and buttons mark mnemonics alike. A preset has none; an & in its name is doubled.
     const QString text = item.text().simplified();
     button.setText(metrics.elidedText(text, Qt::ElideRight, room, Qt::TextShowMnemonic));
     button.setAccessibleName(QString(text).replace(QLatin1String("&&"), QLatin1String("&")));

@@ -13,20 +13,20 @@ namespace Ui
 class Home;
 }
 
-/// What is there when no other window of the program is: its menus, a button for a new timer and
-/// the ten presets. The buttons do what items of the menus do, and say the same. When it shows is
-/// up to HomeKeeper.
+/// The window that is open while no other window of the program is: the menus, a button for a new
+/// timer and one for each of the ten presets. Each button triggers a menu item. HomeKeeper decides
+/// when the window shows.
 class HomeWindow final : public QMainWindow
 {
     Q_OBJECT
 
 public:
-    /// The items, which must outlive the window, in the order in which they are to be listed.
+    /// The presets are listed in the order given. All items must outlive the window.
     HomeWindow(MainMenu &menu, QAction &newTimer, const std::vector<QAction *> &presets);
     ~HomeWindow() override;
 
 Q_SIGNALS:
-    /// The user has closed it.
+    /// The user has closed the window.
     void closed();
 
 protected:

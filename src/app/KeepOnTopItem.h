@@ -5,15 +5,15 @@
 class QAction;
 class QMenu;
 
-/// The menu item that keeps the window of the active timer above those of all programs. It asks the
-/// window manager for the state whenever the menu opens, and keeps none itself: other programs
-/// change it, too. Disabled where no window manager does it, and without an active timer.
+/// The menu item that keeps the window of the active timer above those of all programs. It stores
+/// no state: it asks the window manager whenever the menu opens, because other programs can change
+/// the state too. Disabled without an active timer, and where no window manager supports it.
 class KeepOnTopItem final : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Adds the item to the menu, which owns this object, before another one.
+    /// Inserts the item before another one. The menu owns this object.
     KeepOnTopItem(QMenu &menu, QAction *before);
 
 private:

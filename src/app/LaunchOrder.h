@@ -5,10 +5,11 @@
 #include <array>
 #include <optional>
 
-/// What somebody who launches the program wants of it: from a menu of the desktop, the icon's menu
-/// or the command line.
+/// What a launch of the program asks for. The order comes from a menu of the desktop, the icon's
+/// menu or the command line.
 enum class LaunchOrder {
-    /// Nothing in particular: opens as the preferences say, or comes to the front.
+    /// No order: a program that starts opens what the preferences say, a running one comes to the
+    /// front.
     Activate,
     NewTimer,
     StartAll,
@@ -16,17 +17,17 @@ enum class LaunchOrder {
     Converter,
 };
 
-/// An order that has a name, as in the desktop entry, and an option of that name.
+/// An order with its name, which is both its action in the desktop entry and its option.
 struct NamedLaunchOrder
 {
     LaunchOrder order;
     /// "new-timer"
     const char *name;
-    /// What the help of the command line says of it; to be translated.
+    /// The description of the option in --help; to be translated.
     const char *description;
 };
 
-/// Every order but that to activate.
+/// Every order except Activate.
 inline constexpr std::array kNamedLaunchOrders{
     NamedLaunchOrder{LaunchOrder::NewTimer, "new-timer", QT_TR_NOOP("Open a new timer.")},
     NamedLaunchOrder{LaunchOrder::StartAll, "start-all", QT_TR_NOOP("Start every timer.")},
@@ -34,8 +35,8 @@ inline constexpr std::array kNamedLaunchOrders{
     NamedLaunchOrder{LaunchOrder::Converter, "converter", QT_TR_NOOP("Show the unit converter.")},
 };
 
-/// The name of the order; empty for the one to activate.
+/// The name of the order; empty for Activate.
 [[nodiscard]] QString nameOf(LaunchOrder order);
 
-/// The order of this name: that to activate for the empty one, nothing for one that nobody knows.
+/// The order of this name: Activate for an empty name, nothing for an unknown one.
 [[nodiscard]] std::optional<LaunchOrder> launchOrderNamed(const QString &name);

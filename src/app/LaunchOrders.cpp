@@ -5,10 +5,10 @@
 
 #include <utility>
 
-/// Seconds that a program started by the bus waits for its first order.
-constexpr double kPatience = 10;
-/// Seconds for which orders are gathered; nobody notices it.
-constexpr double kSoon = 0.02;
+/// How many seconds a program that the bus started waits for its first order.
+constexpr double kFirstOrderTimeout = 10;
+/// How many seconds orders are gathered for; too few for a user to notice.
+constexpr double kGatherTime = 0.02;
 
 LaunchOrders::LaunchOrders(WufferController &controller, SingleInstance &instance) :
     _controller(controller)
@@ -19,21 +19,21 @@ LaunchOrders::LaunchOrders(WufferController &controller, SingleInstance &instanc
 void LaunchOrders::begin(const CommandLine &commandLine)
 {
     if (commandLine.service)
-        _patience.startOnce(kPatience);
+        _firstOrderTimer.startOnce(kFirstOrderTimeout);
     else
         carryOut(commandLine.order);
 }
 
 void LaunchOrders::asked(const QString &action)
 {
-    // Whoever asks for what we do not know means the program all the same.
+    // An unknown action is still a launch of the program.
     const LaunchOrder order = launchOrderNamed(action).value_or(LaunchOrder::Activate);
     if (!_hasBegun)
         return carryOut(order);
-    // Asked ten thousand times, windows that come to the front each time would leave nobody,
-    // neither us nor the window manager, the time for anything else.
+    // Orders may arrive by the thousand. Bringing windows to the front for each of them would leave
+    // the program and the window manager no time for anything else.
     if (_pending.isEmpty())
-        _soon.startOnce(kSoon);
+        _gatherTimer.startOnce(kGatherTime);
     if (order == LaunchOrder::NewTimer || !_pending.contains(order))
         _pending.append(order);
 }
@@ -46,7 +46,7 @@ void LaunchOrders::carryOutPending()
 
 void LaunchOrders::carryOut(LaunchOrder order)
 {
-    _patience.invalidate();
+    _firstOrderTimer.invalidate();
     if (std::exchange(_hasBegun, true))
         _controller.carryOut(order);
     else

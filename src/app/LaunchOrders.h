@@ -10,8 +10,8 @@
 class SingleInstance;
 class WufferController;
 
-/// Carries out what the program was launched for, at its start and, while it runs, for everybody
-/// who launches it again.
+/// Carries out the orders of all launches: the one that started the program, and those that arrive
+/// while it runs.
 class LaunchOrders final : public QObject
 {
     Q_OBJECT
@@ -19,9 +19,9 @@ class LaunchOrders final : public QObject
 public:
     LaunchOrders(WufferController &controller, SingleInstance &instance);
 
-    /// Opens what the command line asks for. Started by the session bus, it opens nothing until
-    /// that has passed on the first order; without one the program ends after ten seconds, because
-    /// nobody would know that it is there.
+    /// Opens what the command line asks for. A program that the session bus started opens nothing
+    /// until the bus delivers the first order. Without one it ends after ten seconds, because it
+    /// has no window to show that it runs.
     void begin(const CommandLine &commandLine);
 
 private:
@@ -31,8 +31,8 @@ private:
 
     WufferController &_controller;
     bool _hasBegun = false;
-    /// What was asked for in the last moment, each but new timers once.
+    /// Orders that are still to be carried out; only new timers may be in it more than once.
     QList<LaunchOrder> _pending;
-    ClockTimer _soon{[this] { carryOutPending(); }};
-    ClockTimer _patience{[] { QCoreApplication::quit(); }};
+    ClockTimer _gatherTimer{[this] { carryOutPending(); }};
+    ClockTimer _firstOrderTimer{[] { QCoreApplication::quit(); }};
 };

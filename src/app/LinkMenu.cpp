@@ -43,7 +43,7 @@ void LinkMenu::addItem(const QString &text, Wuffer &timer, Wuffer *target)
     item->setChecked(linked);
     if (linked)
         return;
-    // Both may close while the menu is open.
+    // Either timer may close while the menu is open.
     const QPointer<Wuffer> to(target);
     const bool none = target == nullptr;
     connect(item, &QAction::triggered, &timer, [&timer, to, none] {

@@ -6,24 +6,24 @@
 class QActionGroup;
 class Wuffer;
 
-/// The menu that says which timer another one starts when it has finished: what dragging one window
-/// onto another does, for the keyboard. It is filled anew whenever it opens.
+/// The menu that chooses which timer starts when another one has finished. It does for the keyboard
+/// what dragging one window onto another does. It is refilled whenever it opens.
 class LinkMenu final : public QMenu
 {
     Q_OBJECT
 
 public:
-    /// For the timer of the window that is active whenever the menu opens.
+    /// For the timer whose window is active when the menu opens.
     LinkMenu();
-    /// For this timer, whichever window is active. Belongs to the parent, which lives in its
-    /// window.
+    /// For this timer, whichever window is active. The parent, a widget of the timer's window, owns
+    /// the menu.
     LinkMenu(Wuffer &timer, QWidget &parent);
 
 private:
     void populate();
     void addItem(const QString &text, Wuffer &timer, Wuffer *target);
 
-    /// Of the items one is chosen.
+    /// Makes the items exclusive.
     QActionGroup *_choice;
     /// The timer that the menu is for; null for that of the active window.
     QPointer<Wuffer> _timer;

@@ -16,13 +16,13 @@
 
 namespace
 {
-/// The text of a menu or an item without the mark of its mnemonic.
+/// The text of a menu or an item without the & of its mnemonic.
 QString plainText(QString text)
 {
     return text.remove(QLatin1Char('&'));
 }
 
-/// The timer of the active window. One whose window is closing is none any more.
+/// The timer of the active window; null if that window is closing.
 Wuffer *openKeyWuffer()
 {
     Wuffer *timer = WufferApplication::keyWuffer();
@@ -30,7 +30,7 @@ Wuffer *openKeyWuffer()
 }
 } // namespace
 
-/// One line of a menu, as made.
+/// A menu item, with the row of the table that it was made from.
 struct MainMenu::Item
 {
     QAction *action;
@@ -42,7 +42,7 @@ MainMenu::MainMenu(WufferController &controller, PresetsMenu &presetsMenu) :
 {
     for (const Menu &menu : menus())
         addMenu(menu);
-    addWhatComesAndGoes();
+    addDynamicItems();
     connect(&_presetsMenu, &QMenu::aboutToShow, this, &MainMenu::validate);
 
     connect(qApp, &QApplication::focusWindowChanged, this, &MainMenu::validate);
@@ -54,14 +54,14 @@ MainMenu::MainMenu(WufferController &controller, PresetsMenu &presetsMenu) :
 
 MainMenu::~MainMenu() = default;
 
-void MainMenu::addWhatComesAndGoes()
+void MainMenu::addDynamicItems()
 {
     constexpr int timerMenu = 1;
     constexpr int windowMenu = 2;
     _menuBar.at(timerMenu)->addSeparator();
     _menuBar.at(timerMenu)->addMenu(_linkMenu.get());
     QMenu &windows = *_menuBar.at(windowMenu);
-    // After the item that minimizes.
+    // After Minimize.
     new KeepOnTopItem(windows, windows.actions().value(1));
     windows.addSeparator();
     new TimerList(windows);

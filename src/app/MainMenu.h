@@ -15,12 +15,12 @@ class LinkMenu;
 class PresetsMenu;
 class WufferController;
 
-/// The menus of the program: one set, carried by every window of it.
+/// The menus of the program: one set, shared by all its windows.
 ///
 /// An item acts on the controller, on the timer of the active window, or on the active window
-/// itself. Whether it is enabled, and what some are called, is asked of the one it acts on when a
-/// menu opens and whenever the active window or the state of a timer changes, so that shortcuts
-/// obey the same rules.
+/// itself. That object decides whether the item is enabled and, for some items, which text it has.
+/// Items are updated when a menu opens and whenever the active window or the state of a timer
+/// changes, so that shortcuts obey the same rules.
 class MainMenu final : public QObject
 {
     Q_OBJECT
@@ -32,16 +32,16 @@ public:
     /// Gives the window a menu bar with these menus.
     void addTo(QMainWindow &window);
 
-    /// Lets the keys of the items, presets apart, work in a window that shows no menus.
+    /// Makes the shortcuts of the items, except the presets', work in a window without a menu bar.
     void addKeysTo(QWidget &window) const;
 
-    /// The item that does this, which there must be.
+    /// The item with this operation. There must be one.
     [[nodiscard]] QAction &itemFor(void (WufferController::*operation)()) const;
 
-    /// The keys of every item that has some, but for those of the presets.
+    /// The keys of every item that has some, except the presets.
     [[nodiscard]] static std::vector<MenuKeys> keys();
 
-    /// Asks for every item anew whether it is enabled.
+    /// Updates which items are enabled, and the texts that vary.
     void validate();
 
 private:
@@ -51,8 +51,8 @@ private:
 
     [[nodiscard]] static const std::vector<Menu> &menus();
     void addMenu(const Menu &menu);
-    /// Adds what is not written down, because it depends on the timers.
-    void addWhatComesAndGoes();
+    /// Adds what is not in the table because it depends on the timers.
+    void addDynamicItems();
     void addItem(QMenu &menu, const Row &row);
     void run(const Row &row);
     [[nodiscard]] bool isEnabled(const Item &item) const;
@@ -61,7 +61,7 @@ private:
     PresetsMenu &_presetsMenu;
     std::unique_ptr<LinkMenu> _linkMenu;
     std::vector<std::unique_ptr<QMenu>> _menus;
-    /// All menus of the menu bar in their order.
+    /// All menus of the menu bar, in order.
     std::vector<QMenu *> _menuBar;
     std::vector<Item> _items;
 };

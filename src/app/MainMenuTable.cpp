@@ -17,7 +17,7 @@ QList<QKeySequence> key(QKeySequence::StandardKey keys)
     return QKeySequence::keyBindings(keys);
 }
 
-/// The key that is known everywhere, and those that the desktop has beside it. Some have none.
+/// A key that users know from everywhere, followed by the desktop's own keys, if it has any.
 QList<QKeySequence> key(const char *known, QKeySequence::StandardKey standard)
 {
     const QKeySequence first(QString::fromLatin1(known));
@@ -63,8 +63,8 @@ const std::vector<MainMenu::Menu> &MainMenu::menus()
 {
     using C = WufferController;
     using W = Wuffer;
-    // Alt and Control with a digit are left free. What has no mnemonic is called the same elsewhere
-    // in the program.
+    // Alt and Control with a digit are the keys of the presets. Items without a mnemonic share
+    // their text with a control elsewhere in the program.
     static const std::vector<Menu> menus{
         {QT_TR_NOOP("&File"),
          {{QT_TR_NOOP("&New Timer"), key(QKeySequence::New), &C::newWuffer},

@@ -6,20 +6,19 @@
 
 #include <variant>
 
-/// What an item does to the active timer that is none of the timer's own menu operations, and what
-/// it shows of it.
+/// What an item does to the active timer, if that is not one of the timer's own menu operations.
 struct TimerItem
 {
     void (*act)(Wuffer &timer);
-    /// Gives the item the text that it has for this timer, or for none, and answers whether it is
-    /// enabled.
+    /// Sets the item's text, if it varies, and returns whether the item is enabled. The timer is
+    /// null when no timer is active.
     bool (*show)(const Wuffer *timer, QAction &item);
 };
 
 /// What an item does to the active window.
 using WindowOperation = void (*)(QWidget &window);
 
-/// One line of a menu, as written down.
+/// One row of the table of a menu.
 struct MainMenu::Row
 {
     /// Null for a separator.
@@ -30,7 +29,7 @@ struct MainMenu::Row
         operation = {};
 };
 
-/// One menu, as written down.
+/// One menu with its table of rows.
 struct MainMenu::Menu
 {
     const char *title;

@@ -12,7 +12,7 @@
 
 namespace
 {
-/// The one modifier that is held, beside Shift.
+/// The modifiers that are held, except Shift.
 Qt::KeyboardModifiers modifierOf(const QKeyEvent &press)
 {
     return press.modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier);
@@ -53,26 +53,26 @@ bool PresetKeys::eventFilter(QObject *watched, QEvent *event)
         return false;
     case QEvent::ShortcutOverride:
     case QEvent::KeyPress:
-        // The window gets them before what has the focus in it.
-        return hasShortcutsIn(*watched) && takes(static_cast<QKeyEvent &>(*event));
+        // The window receives these before the widget with the focus does.
+        return hasShortcutsIn(*watched) && handles(static_cast<QKeyEvent &>(*event));
     default:
         return false;
     }
 }
 
-bool PresetKeys::takes(QKeyEvent &press)
+bool PresetKeys::handles(QKeyEvent &press)
 {
     QAction *item = itemFor(_menu, press);
     if (!item)
         return false;
     const bool repeats = _held.isRepeatedBy(press);
     if (!repeats) {
-        // First it may become a shortcut; only if it has not does it arrive as a press.
+        // It may still become a shortcut. If it does not, it arrives again as a press.
         if (press.type() == QEvent::ShortcutOverride)
             return false;
         item->trigger();
     }
-    // Accepting the question before a shortcut keeps a repeat from becoming one.
+    // An accepted ShortcutOverride does not become a shortcut, so a held key does not repeat one.
     press.accept();
     return true;
 }

@@ -7,10 +7,10 @@
 class PresetsMenu;
 class QKeyEvent;
 
-/// Makes the keys of the presets those of the digits, whatever else the keyboard has on them. Many
-/// want Shift for a digit, and on the others Shift makes something else of it; both are the same
-/// key to the hand. It looks at the presses that have been no shortcut, and lets an item of the
-/// menu act on them where its shortcut would have. A key that is held down opens one timer.
+/// Makes the shortcuts of the presets work with the digit keys of any keyboard layout. On some
+/// layouts a digit needs Shift, on the others Shift turns it into another character; the user
+/// presses the same key in both cases. This event filter handles key presses that matched no
+/// shortcut, and triggers the item of the preset. A key that is held down triggers it once.
 class PresetKeys final : public QObject
 {
     Q_OBJECT
@@ -23,8 +23,8 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    /// Whether the press, or the question that goes before it, goes no further.
-    [[nodiscard]] bool takes(QKeyEvent &press);
+    /// Handles a press or the ShortcutOverride before it; true when the event goes no further.
+    [[nodiscard]] bool handles(QKeyEvent &press);
     [[nodiscard]] bool hasShortcutsIn(const QObject &window) const;
 
     PresetsMenu &_menu;

@@ -11,7 +11,7 @@
 
 namespace
 {
-/// An item that stands for a preset has this plus the number of the preset for its tag.
+/// The tag of a preset's item is this plus the number of the preset.
 constexpr int kFirstTag = 1000;
 
 QAction *addItem(QMenu &menu, Qt::KeyboardModifier modifier, int number)
@@ -19,7 +19,7 @@ QAction *addItem(QMenu &menu, Qt::KeyboardModifier modifier, int number)
     QAction *item = menu.addAction(QString());
     item->setData(kFirstTag + number);
     item->setShortcut(QKeyCombination(modifier, Qt::Key(Qt::Key_0 + number)));
-    // A key that is held down opens one timer and not thirty in a second.
+    // A key that is held down opens one timer, not thirty a second.
     item->setAutoRepeat(false);
     return item;
 }

@@ -6,7 +6,7 @@
 
 class WufferController;
 
-/// The menu of presets: the items that open one, and a submenu with those that save into one.
+/// The menu of presets: items that open a preset, and a submenu of items that save into one.
 ///
 /// Its items are made once and only change their texts, so that saving from an item of this menu
 /// does not destroy that item.
@@ -17,16 +17,16 @@ class PresetsMenu final : public QMenu
 public:
     explicit PresetsMenu(WufferController &controller);
 
-    /// Brings the texts up to date. A preset that was never saved is made first.
+    /// Updates the texts. A preset that was never saved is made first.
     void populate();
 
     /// The items that open a preset, in the order of the list.
     [[nodiscard]] const std::vector<QAction *> &openItems() const { return _open; }
 
-    /// The item, of those that open and those that save, with these keys; null when none has.
+    /// The item with these keys, whether it opens or saves a preset; null when there is none.
     [[nodiscard]] QAction *itemWithKeys(const QKeySequence &keys) const;
 
-    /// Enables the items that save while there is a timer to save.
+    /// Enables the items that save if a timer is open, else disables them.
     void validate();
 
     /// The number of the preset that the item of this menu stands for.

@@ -11,7 +11,7 @@ void RunningTimersMenu::setTimers(const std::vector<RunningTimers::Running<Wuffe
     }
     _running = running;
     for (const auto &each : _running)
-        number(*each.timer);
+        assignId(*each.timer);
     Q_EMIT linesChanged();
 }
 
@@ -30,7 +30,7 @@ void RunningTimersMenu::choose(int id)
         timer->showWufferWindow();
 }
 
-void RunningTimersMenu::number(Wuffer &timer)
+void RunningTimersMenu::assignId(Wuffer &timer)
 {
     if (_ids.contains(&timer))
         return;
@@ -43,6 +43,7 @@ void RunningTimersMenu::number(Wuffer &timer)
 void RunningTimersMenu::forget(const QObject *timer)
 {
     _timers.remove(_ids.take(timer));
-    // Those that the settings have hidden are not told of when they stop.
+    // While the settings hide the status item nothing calls setTimers(), so the timer may still be
+    // listed.
     std::erase_if(_running, [&](const auto &each) { return each.timer == timer; });
 }

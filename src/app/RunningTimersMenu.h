@@ -7,8 +7,8 @@
 
 class Wuffer;
 
-/// The list of all timers that run, in the order in which they end. A timer keeps its number for
-/// as long as it is open.
+/// The list of all running timers, in the order in which they end. A timer keeps its id for as
+/// long as it is open.
 class RunningTimersMenu final : public StatusMenu
 {
     Q_OBJECT
@@ -16,8 +16,7 @@ class RunningTimersMenu final : public StatusMenu
 public:
     RunningTimersMenu() = default;
 
-    /// Lists these timers from now on. What their lines say is asked of them when it is to be
-    /// shown.
+    /// Lists these timers from now on. lines() reads their texts when they are needed.
     void setTimers(const std::vector<RunningTimers::Running<Wuffer>> &running);
 
     [[nodiscard]] std::vector<Line> lines() override;
@@ -25,7 +24,7 @@ public:
     void choose(int id) override;
 
 private:
-    void number(Wuffer &timer);
+    void assignId(Wuffer &timer);
     void forget(const QObject *timer);
 
     std::vector<RunningTimers::Running<Wuffer>> _running;

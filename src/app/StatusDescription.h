@@ -4,14 +4,14 @@
 #include "rules/NameText.h"
 #include "rules/RunningTimers.h"
 
-/// What the status item is to say of the timers that run.
+/// What the status item shows about the running timers.
 template<class Timer> struct StatusDescription final
 {
-    /// The one that ends first, whom a press is meant for; null when nothing is to be seen.
+    /// The timer that ends first, whose window a click shows; null when the item shows nothing.
     Timer *target = nullptr;
-    /// Its status in its colour.
+    /// The status of that timer, in its colour.
     StatusTitle title;
-    /// Whether a press opens the list of all that run.
+    /// Whether a click opens the list of all running timers instead.
     bool hasMenu = false;
 
     [[nodiscard]] static StatusDescription
@@ -24,7 +24,7 @@ template<class Timer> struct StatusDescription final
         return {first, {text, first->currentTextColor(), kFontSize}, running.size() >= 2};
     }
 
-    /// The line for a timer in that list.
+    /// The line of a timer in that list.
     [[nodiscard]] static QString line(const Timer &timer)
     {
         return NameText::inOneLine(timer.title()) + QStringLiteral(": ") +

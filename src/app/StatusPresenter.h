@@ -10,8 +10,8 @@ class RunningTimersMenu;
 class StatusItem;
 class Wuffer;
 
-/// Shows the running timers in a status item: what ends first as its title, all of them in its
-/// menu. Empties the item when it goes.
+/// Shows the running timers in a status item: the one that ends first as its title, all of them in
+/// its menu. The destructor empties the item.
 class StatusPresenter final
 {
 public:
@@ -19,7 +19,7 @@ public:
     ~StatusPresenter();
     Q_DISABLE_COPY_MOVE(StatusPresenter)
 
-    /// Brings the item up to date with the timers, or empties it where the settings want none.
+    /// Updates the item from the timers, or empties it if the settings hide it.
     void refreshStatusItem();
 
     /// Empties the item. Its menu and its target stay.
@@ -29,6 +29,6 @@ private:
     void showMenu(const std::vector<RunningTimers::Running<Wuffer>> &running, bool hasMenu);
 
     StatusItem &_statusItem;
-    /// Made when it is first needed, and used again.
+    /// Made when first needed, then kept.
     std::unique_ptr<RunningTimersMenu> _statusMenu;
 };

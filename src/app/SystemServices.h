@@ -22,7 +22,7 @@ public:
 
 private:
     SystemClock _clock;
-    /// Before the services that wait for moments.
+    /// Declared before the services that use the clock.
     Service<Clock> _clockService{_clock};
     UserDefaults _defaults{UserDefaults::standardPath()};
     LazySoundSystem _sounds;

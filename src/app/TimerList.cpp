@@ -9,7 +9,7 @@
 
 namespace
 {
-/// What the timer shows while it runs, else the time that it is set to, after its name.
+/// The timer's name with what it shows while it runs, else with the time that it is set to.
 QString lineFor(const Wuffer &timer)
 {
     if (!timer.isRunning())
@@ -40,6 +40,6 @@ void TimerList::addItem(Wuffer &timer)
     item->setChecked(&timer == WufferApplication::keyWuffer());
     _menu.addAction(item);
     connect(item, &QAction::triggered, &timer, &Wuffer::showWufferWindow);
-    // It may close while the menu is open.
+    // The timer may close while the menu is open.
     connect(&timer, &Wuffer::closed, item, [item] { item->setEnabled(false); });
 }

@@ -11,7 +11,8 @@ class QMenu;
 class Wuffer;
 
 /// The last items of a menu: the open timers in the order in which they were made, the active one
-/// checked. Choosing one brings it to the front. They are made anew whenever the menu opens.
+/// checked. Choosing an item brings its timer to the front. The items are remade whenever the menu
+/// opens.
 class TimerList final : public QObject
 {
     Q_OBJECT
@@ -26,7 +27,7 @@ private:
     void addItem(Wuffer &timer);
 
     QMenu &_menu;
-    /// Of the items one is checked.
+    /// Makes the items exclusive.
     QActionGroup *_active;
     std::vector<std::unique_ptr<QAction>> _items;
 };

@@ -9,7 +9,7 @@ QUrl WebPage::address()
     const QString given = BuildInfo::webPage();
     if (!given.isEmpty())
         return QUrl(given);
-    // The page lies at the same place from the program in the build as where it is installed.
+    // The page has the same path relative to the program in the build and when installed.
     return QUrl::fromLocalFile(QCoreApplication::applicationDirPath() +
                                QStringLiteral("/../share/wuffer/index.html"));
 }

@@ -13,7 +13,7 @@
 
 static QIcon applicationIcon()
 {
-    // A static library has to be asked for its resources.
+    // The resources of a static library are not registered by themselves.
     Q_INIT_RESOURCE(wuffer);
     QIcon icon;
     for (const int size : {16, 32, 48, 64, 128})
@@ -21,7 +21,7 @@ static QIcon applicationIcon()
     return icon;
 }
 
-/// Keys that only change what other keys mean, and are no press of their own.
+/// Keys that only modify other keys and do nothing when pressed alone.
 static bool isModifier(int key)
 {
     switch (key) {
@@ -51,7 +51,7 @@ WufferApplication::WufferApplication(int &argc, char **argv) : QApplication(argc
     setApplicationVersion(BuildInfo::version());
     setDesktopFileName(BuildInfo::applicationId());
     setWindowIcon(applicationIcon());
-    // A caret that blinks would wake an idle program twice a second for ever.
+    // A blinking caret would wake an idle program twice a second.
     setCursorFlashTime(0);
     connect(this, &QCoreApplication::aboutToQuit, this, [this] { _wuffers.clear(); });
 }
@@ -121,7 +121,7 @@ bool WufferApplication::cancelFullScreenModeForOthers(const Wuffer &timer)
     return cancelled;
 }
 
-/// Whether this is Return on its way to the open list of a combo box.
+/// Whether this event is Return or Enter on its way to the open list of a combo box.
 static bool belongsToOpenList(const QObject &receiver, const QEvent &event)
 {
     if (event.type() != QEvent::ShortcutOverride || !receiver.isWidgetType())
@@ -137,29 +137,29 @@ bool WufferApplication::notify(QObject *receiver, QEvent *event)
         return true;
     if (event->type() == QEvent::Quit)
         _quitting = true;
-    // First, so that what comes into view is up to date.
+    // Before delivery, so that timers are up to date when the window paints.
     if (event->type() == QEvent::Expose)
         Q_EMIT windowExposed();
     const bool forList = belongsToOpenList(*receiver, *event);
     const bool handled = QApplication::notify(receiver, event);
     if (event->type() == QEvent::Show || event->type() == QEvent::Hide)
-        tellOfWindow(*receiver, *event);
-    // The list has picked an entry and closed, but says nothing. Without a word the press would be
-    // a shortcut of the window below, too, and start its timer.
+        emitWindowSignal(*receiver, *event);
+    // The list has picked an entry and closed, but has not accepted the event. If it stayed
+    // unaccepted, the press would also be a shortcut of the window below and start its timer.
     if (forList)
         event->accept();
     return handled;
 }
 
-void WufferApplication::tellOfWindow(QObject &receiver, const QEvent &event)
+void WufferApplication::emitWindowSignal(QObject &receiver, const QEvent &event)
 {
     if (!receiver.isWidgetType() || !static_cast<QWidget &>(receiver).isWindow())
         return;
     auto &window = static_cast<QWidget &>(receiver);
-    const bool isPassing = window.windowType() == Qt::Popup || window.windowType() == Qt::ToolTip;
+    const bool isTransient = window.windowType() == Qt::Popup || window.windowType() == Qt::ToolTip;
     if (event.type() == QEvent::Show)
         Q_EMIT windowShown(&window);
-    else if (!isPassing)
+    else if (!isTransient)
         Q_EMIT windowHidden();
 }
 
@@ -189,18 +189,18 @@ bool WufferApplication::swallowsKey(QEvent &event)
             _swallowedKey.reset();
         return false;
     }
-    // One press arrives several times: as a question whether somebody wants it before it becomes
-    // a menu shortcut, then as the press itself, and both again while the key is held down.
+    // One press arrives several times: as a ShortcutOverride, by which a widget can claim the key
+    // before it becomes a menu shortcut, then as a KeyPress, and both again while the key is held.
     const bool newPress = event.type() == QEvent::ShortcutOverride && !keyEvent.isAutoRepeat();
     if (newPress)
         _swallowedKey.reset();
     if (_swallowedKey != keyEvent.key()) {
-        // Nor does the key that has brought the full screen end it while it is still held.
+        // The key that started full-screen mode does not end it while it is held.
         if (keyEvent.isAutoRepeat() || !cancelFullScreenMode())
             return false;
         _swallowedKey = keyEvent.key();
     }
-    // Accepting the question keeps the press from becoming a shortcut.
+    // An accepted ShortcutOverride does not become a shortcut.
     event.accept();
     return true;
 }
@@ -210,9 +210,9 @@ void WufferApplication::forget(Wuffer &timer)
     const auto place = std::ranges::find(_wuffers, &timer, &std::unique_ptr<Wuffer>::get);
     if (place == _wuffers.end())
         return;
-    // Once all of it has gone, of what it used nothing is kept: 2 MiB of twenty windows.
+    // Queued until the whole timer is gone. This returns 2 MiB after closing twenty windows.
     connect(&timer, &QObject::destroyed, this, returnFreeMemory, Qt::QueuedConnection);
-    // The timer is still at work on its own closing.
+    // The timer's own closing code is still on the call stack.
     place->release()->deleteLater();
     _wuffers.erase(place);
 }

@@ -22,12 +22,12 @@ public:
     /// The one application object.
     [[nodiscard]] static WufferApplication &instance();
 
-    /// The open timers in the order in which they were made, the newest last. A list of its own:
-    /// timers may come and go while it is walked.
+    /// The open timers in the order in which they were made, the newest last. The list is a copy:
+    /// timers may open and close while the caller iterates over it.
     [[nodiscard]] static std::vector<Wuffer *> getWuffers();
 
-    /// Another timer window whose frame has exactly the same origin as this one's, the oldest
-    /// first; null when there is none.
+    /// The oldest other timer window whose frame has exactly the same origin as this one's; null
+    /// when there is none.
     [[nodiscard]] static WufferWindow *otherWufferWindowSharesOrigin(const QWidget &window);
 
     [[nodiscard]] WufferWindow *windowSharingOrigin(const QWidget &window) const override
@@ -35,7 +35,7 @@ public:
         return otherWufferWindowSharesOrigin(window);
     }
 
-    /// The timer of the active window, or of the sheet on it; null when another is active.
+    /// The timer whose window, or the sheet on it, is active; null when another window is.
     [[nodiscard]] static Wuffer *keyWuffer();
 
     /// Makes a new timer, not yet shown.
@@ -53,27 +53,28 @@ public:
     bool notify(QObject *receiver, QEvent *event) override;
 
 Q_SIGNALS:
-    /// One of the windows of the program, of whatever kind, has come up.
+    /// A window of the program, of any kind, was shown.
     void windowShown(QWidget *window);
-    /// One has gone, or is being closed; menus and tool tips do not count.
+    /// A window was hidden or is being closed; menus and tool tips do not count.
     void windowHidden();
-    /// The window system has begun to show some window, or another part of it, or has ended it.
+    /// The window system has exposed a window or another part of it, or no longer shows it.
     void windowExposed();
     /// A timer was made.
     void wufferOpened(Wuffer *timer);
-    /// The user of a timer wants to read this page of the help; an unknown name means the first.
+    /// The user asks in a timer's window for this page of the help; an unknown name means the
+    /// first page.
     void helpRequested(const QString &page);
-    /// The user wants to choose which timer this one starts, in a list below the button.
+    /// The user asks for the list, below the button, to choose which timer this one starts.
     void targetsRequested(Wuffer *timer, QWidget *button);
 
 private:
-    void tellOfWindow(QObject &receiver, const QEvent &event);
+    void emitWindowSignal(QObject &receiver, const QEvent &event);
     [[nodiscard]] bool swallows(QEvent &event);
     [[nodiscard]] bool swallowsKey(QEvent &event);
     void forget(Wuffer &timer);
 
     std::vector<std::unique_ptr<Wuffer>> _wuffers;
-    /// The key that has ended full-screen mode, until it is let go or pressed anew.
+    /// The key that ended full-screen mode, until it is released or pressed again.
     std::optional<int> _swallowedKey;
     bool _quitting = false;
 };

@@ -53,17 +53,17 @@ void WufferController::awakeFromNib(LaunchOrder order)
     center.addObserver(*this, Notices::kPresetsChanged,
                        [this](QObject *) { populatePresetsMenu(); });
     openAtLaunch(order);
-    // While the window of the timer is still on its way to the screen, this costs no time.
+    // After the timer: its window is still on its way to the screen, so the user does not wait.
     makePreferences();
-    // Last, so that what started at launch shows at its first tick and not before.
+    // Last, so that a timer that starts at launch enters the status item at its first tick.
     center.addObserver(*this, Notices::kStatusChanged, [this](QObject *) { refreshStatusItem(); });
-    // What opens for the other two is open, and on its way to the front.
+    // For Activate and NewTimer everything is open already.
     if (order != LaunchOrder::Activate && order != LaunchOrder::NewTimer)
         carryOut(order);
-    _home->look();
+    _home->showIfNoWindowIsOpen();
 }
 
-/// What opens at this launch.
+/// Which windows open at a launch with this order.
 static const LaunchChoices::Row &launchChoice(LaunchOrder order)
 {
     switch (order) {
@@ -204,7 +204,7 @@ void WufferController::showHelpPage(const QString &page)
 void WufferController::offerTargets(Wuffer *timer, QWidget *button)
 {
     auto *menu = new LinkMenu(*timer, *button);
-    // What was chosen is carried out after the list has closed.
+    // Deleted later, because the chosen action is triggered only after the menu has closed.
     connect(menu, &QMenu::aboutToHide, menu, &QObject::deleteLater);
     menu->popup(button->mapToGlobal(button->rect().bottomLeft()));
 }

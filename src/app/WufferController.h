@@ -20,9 +20,9 @@ class QWidget;
 class StatusPresenter;
 class Wuffer;
 
-/// The one controller of the program: decides what opens at launch, makes timers and places their
-/// windows, starts them all at once, and brings the other windows to the front. It keeps no list
-/// of timers: the application does.
+/// The controller of the program: decides what opens at launch, makes timers and places their
+/// windows, starts them all at once, and brings the other windows to the front. The list of timers
+/// belongs to the application.
 class WufferController final : public QObject
 {
     Q_OBJECT
@@ -31,17 +31,16 @@ public:
     WufferController();
     ~WufferController() override;
 
-    /// The work of the start, once: opens what the user has chosen for it, or what this launch is
-    /// for. Preferences and converter are then all that opens, and a new timer is like the one that
-    /// opens without a choice.
+    /// Call once, at the start. Opens what the user has chosen to open at launch and carries out
+    /// the order. With Preferences or Converter nothing else opens; NewTimer opens one timer with
+    /// the default settings.
     void awakeFromNib(LaunchOrder order = LaunchOrder::Activate);
 
-    /// Does what somebody who launches the running program once more wants of it, and brings the
-    /// program to the front.
+    /// Carries out the order of a launch while the program runs, and brings it to the front.
     void carryOut(LaunchOrder order);
 
-    /// Makes a timer, its window one step right of and below that of the newest timer. The window
-    /// is not shown yet.
+    /// Makes a timer. Its window lies one step right of and below that of the newest timer, and is
+    /// not shown yet.
     void createNewWuffer();
 
     // What the menus do.
@@ -49,14 +48,14 @@ public:
     void newWuffer();
     /// Starts every timer that is not running.
     void startAllWuffers();
-    /// Mutes every timer, or lets them all be heard again.
+    /// Mutes or unmutes every timer.
     void toggleMute();
     void showPreferences();
     void showConverter();
     void showMeasurements();
     /// Opens the help at its first page.
     void showHelp();
-    /// Shows what the program is, and what it is made of.
+    /// Shows the About dialog.
     void showAbout();
     /// Opens the web page of the program.
     void donate();
@@ -67,19 +66,19 @@ public:
     using Operation = void (WufferController::*)();
     /// Whether the menu item with this operation is enabled now.
     [[nodiscard]] bool validateMenuItem(Operation action) const;
-    /// What an item of the Presets menu does that saves a timer.
+    /// What an item of the Presets menu that saves a timer does to the controller.
     using SaveOperation = void (WufferController::*)(const QAction &sender);
     [[nodiscard]] bool validateMenuItem(SaveOperation action) const;
 
-    /// Brings the Presets menu up to date.
+    /// Updates the Presets menu.
     void populatePresetsMenu();
-    /// Opens the preset of the menu item in a new timer, and starts it if the user wishes so.
-    /// Nothing happens without an item.
+    /// Opens the preset of the menu item in a new timer, and starts it if the settings say so.
+    /// Does nothing if the item is null.
     void preset(const QAction *sender);
-    /// Saves the timer of the active window into the preset of the menu item. Nothing happens
-    /// when the active window is not a timer's.
+    /// Saves the timer of the active window into the preset of the menu item. Does nothing if the
+    /// active window is not a timer's.
     void setPreset(const QAction &sender);
-    /// Brings the status item up to date with the timers.
+    /// Updates the status item from the timers.
     void refreshStatusItem();
     /// Empties the status item.
     void removeStatusBar();
@@ -87,16 +86,15 @@ public:
 private:
     [[nodiscard]] static Wuffer *newestWuffer();
     void openAtLaunch(LaunchOrder order);
-    /// Brings the window to the front that was active last, or else one that is open.
+    /// Brings the last active window to the front or, if that is gone, another open one.
     void orderFront();
     [[nodiscard]] std::unique_ptr<HomeWindow> makeHome();
-    /// Makes the preferences, not shown, and loads them, unless that is done.
+    /// Makes and loads the preferences without showing them, unless they exist.
     void makePreferences();
     void showHelpPage(const QString &page);
-    /// Opens the list of the timers that this one may start, below the button.
+    /// Opens below the button the list of timers that this one can start.
     void offerTargets(Wuffer *timer, QWidget *button);
-    /// Shows one of the windows beside the timers, which is made and filled when it is first asked
-    /// for.
+    /// Shows one of the windows beside the timers; makes and fills it the first time.
     void show(std::unique_ptr<AuxiliaryWindow> &window, const QString &title,
               void (*fill)(QMainWindow &window));
 

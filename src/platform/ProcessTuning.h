@@ -1,8 +1,8 @@
 #pragma once
 
-/// Makes the process do with less memory and fewer wake-ups. Called once, before the application
+/// Makes the process need less memory and fewer wake-ups. Call it once, before the application
 /// object is made.
 void tuneProcess();
 
-/// Gives memory that is free back to the system; a millisecond's work.
+/// Returns free memory to the system; takes about a millisecond.
 void returnFreeMemory();

@@ -8,14 +8,14 @@
 
 void tuneProcess()
 {
-    // With pixels in shared memory every repaint waits for the X server's word that it has read
-    // the one before: three times the wake-ups for a few thousand bytes.
+    // With shared memory every repaint waits until the X server reports that it has read the
+    // previous one. That triples the wake-ups, to save the copying of a few thousand bytes.
     if (!qEnvironmentVariableIsSet("QT_XCB_NO_MITSHM"))
         qputenv("QT_XCB_NO_MITSHM", "1");
 
 #ifdef __GLIBC__
-    // The pixels of a window that closes go back to the system. Left to itself, glibc takes the
-    // freeing of the first as a sign to keep the next ones.
+    // Blocks this large, such as the pixels of a window, return to the system when they are freed.
+    // By default glibc raises the threshold when the first one is freed, and keeps later ones.
     constexpr int largeBlock = 128 * 1024;
     mallopt(M_MMAP_THRESHOLD, largeBlock);
 #endif
@@ -24,7 +24,8 @@ void tuneProcess()
 void returnFreeMemory()
 {
 #ifdef __GLIBC__
-    // Few closed windows stood at the end of the heap, where glibc would give it back by itself.
+    // By itself glibc returns only what is free at the end of the heap, where the memory of a
+    // closed window rarely is.
     malloc_trim(0);
 #endif
 }
