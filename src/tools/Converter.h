@@ -20,10 +20,10 @@ class Converter;
 }
 
 /// Converts between units in three groups: temperature, weight and volume. Typing in a field
-/// recomputes the others of its group and stores the group's value in its base unit, Fahrenheit,
-/// grams or milliliters, so that nothing is lost however the window goes.
+/// recomputes the others of its group and stores the group's value at once, in its base unit:
+/// Fahrenheit, grams or milliliters.
 ///
-/// It fills a window that it is given, and leaves showing it to others. Main thread.
+/// It fills the window that it is given but does not show it. Main thread.
 class Converter final : public QObject
 {
     Q_OBJECT
@@ -33,19 +33,20 @@ public:
     ~Converter() override;
 
     [[nodiscard]] QMainWindow *converterWindow() const;
-    /// Puts the fields into the window, which becomes as large as they are. Once.
+    /// Puts the fields into the window and fixes its size to fit them. Call it once.
     void setConverterWindow(QMainWindow *window);
 
-    /// Fills the fields from the settings; the focus is then in the milliliters. The window must
+    /// Fills the fields from the settings and moves the focus to the milliliters. The window must
     /// have been set.
     void awakeFromNib();
 
-    /// Converts from the field that somebody types in. Other fields than its own are ignored.
+    /// Converts from the field that the user types in. A field of another window is ignored.
     void controlTextDidChange(const NumberField &field);
 
-    // A source that is not of the group changes no field, except that the volumes become 0.
+    // Given a field of another group as source, convertVolume() sets the volumes to 0, and the
+    // other two operations change no field.
 
-    /// Writes all volumes, that of the source too: its value there and back.
+    /// Writes all volumes, the source's included: converted to milliliters and back.
     void convertVolume(const NumberField &source);
     /// Writes the other weight.
     void convertWeight(const NumberField &source);

@@ -34,7 +34,7 @@ HelpBrowser::HelpBrowser(QWidget *parent) : QTextBrowser(parent)
     setOpenLinks(false);
     document()->setDefaultStyleSheet(pageStyle());
     document()->setDocumentMargin(16);
-    // Before anybody else hears of it; source() itself changes only after that.
+    // Connected first, so that every other slot sees the new page; source() changes only later.
     connect(this, &QTextBrowser::sourceChanged, this,
             [this](const QUrl &address) { _currentPage = indexOf(address); });
     connect(this, &QTextBrowser::anchorClicked, this, &HelpBrowser::follow);
@@ -63,7 +63,7 @@ void HelpBrowser::changeEvent(QEvent *event)
 {
     QTextBrowser::changeEvent(event);
     if (event->type() == QEvent::PaletteChange)
-        colorAnew();
+        reloadForPalette();
 }
 
 int HelpBrowser::indexOf(const QUrl &address) const
@@ -79,11 +79,11 @@ void HelpBrowser::follow(const QUrl &link)
         setSource(address);
 }
 
-void HelpBrowser::colorAnew()
+void HelpBrowser::reloadForPalette()
 {
     if (_currentPage < 0)
         return;
-    // Links get their colour while the page is read.
+    // Links get their colour when the page is loaded.
     const int scrolled = verticalScrollBar()->value();
     reload();
     verticalScrollBar()->setValue(scrolled);

@@ -20,7 +20,7 @@ QString contentsOf(const QString &name)
     return opened ? QString::fromUtf8(file.readAll()) : QString();
 }
 
-/// What stands between the first pair of these tags.
+/// The content of the first element with this tag.
 QString firstElement(const QString &html, const QString &tag)
 {
     return html.section(QStringLiteral("<%1>").arg(tag), 1, 1)

@@ -6,7 +6,7 @@
 
 #include <vector>
 
-/// An item of a menu and the keys that it answers to.
+/// A menu item and its shortcuts.
 struct MenuKeys
 {
     QString menu;
@@ -17,12 +17,12 @@ struct MenuKeys
 /// One page of the help.
 struct HelpPage
 {
-    /// What links to the page call it, without ".html".
+    /// The file name that links use, without ".html".
     QString name;
     QString title;
     QString html;
 };
 
-/// The pages of the help in the order in which they are listed. One of them lists the keys of the
-/// menus, which differ from desktop to desktop; so they are taken from the menus themselves.
+/// The pages of the help in the order of the list. One page lists the shortcuts of the menus, which
+/// differ between desktops and are therefore taken from the menus themselves.
 [[nodiscard]] std::vector<HelpPage> helpPages(const std::vector<MenuKeys> &menuKeys);

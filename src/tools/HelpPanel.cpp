@@ -8,7 +8,7 @@
 
 #include <algorithm>
 
-/// How much of the colour of the selection lies behind a hit that is not selected.
+/// Opacity, of 255, of the selection colour behind a hit that is not selected.
 static constexpr int kMarkAlpha = 90;
 
 HelpPanel::HelpPanel(const std::vector<MenuKeys> &menuKeys, QWidget *parent) :
@@ -18,7 +18,7 @@ HelpPanel::HelpPanel(const std::vector<MenuKeys> &menuKeys, QWidget *parent) :
     _ui->_splitter->setStretchFactor(1, 1);
     _ui->_browser->setPages(helpPages(menuKeys));
     listPages();
-    makeRoomForTheList();
+    setMinimumListWidth();
     connectControls();
     addShortcuts();
 }
@@ -31,10 +31,10 @@ QSize HelpPanel::sizeHint() const
     return {metrics.averageCharWidth() * 135, metrics.lineSpacing() * 46};
 }
 
-void HelpPanel::makeRoomForTheList()
+void HelpPanel::setMinimumListWidth()
 {
     QListWidget &list = *_ui->_pageList;
-    // The number of hits follows the title.
+    // During a search the number of hits follows the title.
     const int count = fontMetrics().horizontalAdvance(QStringLiteral(" (999)"));
     list.setMinimumWidth(list.sizeHintForColumn(0) + count + 2 * list.frameWidth());
 }

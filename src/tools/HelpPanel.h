@@ -14,26 +14,26 @@ namespace Ui
 class Help;
 }
 
-/// The help as a reader sees it: the list of its pages, the page that is shown, and a field to
-/// search them all. While a search lasts, the list holds only the pages with a hit.
+/// The content of the help window: the list of pages, the page that is shown, and a field that
+/// searches all pages. During a search the list holds only pages with a hit.
 class HelpPanel final : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// The keys of the menus are those that one of the pages lists.
+    /// The keys of the menus are listed on one of the pages.
     explicit HelpPanel(const std::vector<MenuKeys> &menuKeys, QWidget *parent = nullptr);
     ~HelpPanel() override;
 
-    /// Wide enough for lines that read well.
+    /// Wide enough for lines of a readable length.
     [[nodiscard]] QSize sizeHint() const override;
 
-    /// Ends the search and shows the page of this name, or the first if there is none, ready to be
-    /// read.
+    /// Ends the search, shows the page of this name, or the first if no page has it, and gives it
+    /// the focus.
     void showPage(const QString &name);
 
 protected:
-    /// Escape ends the search; without one, it is left to the window.
+    /// Escape ends the search; if there is no search, the window handles the key.
     void keyPressEvent(QKeyEvent *event) override;
 
 private:
@@ -44,7 +44,7 @@ private:
         HelpHit place;
     };
 
-    void makeRoomForTheList();
+    void setMinimumListWidth();
     void connectControls();
     void addShortcuts();
     void beginSearch();
@@ -58,15 +58,15 @@ private:
     void goToNextHit();
     void goToPreviousHit();
     void goTo(std::size_t hit);
-    /// The place in the hits of the first at or after this position of the page that is shown; the
+    /// The index in _hits of the first hit at or after this position of the page that is shown; the
     /// number of hits if there is none.
     [[nodiscard]] std::size_t firstHitFrom(int position) const;
     void markHits();
     void showCount();
-    /// The place in the hits of the one that is selected on the page.
+    /// The index in _hits of the hit that is selected on the page.
     [[nodiscard]] std::optional<std::size_t> selectedHit() const;
     [[nodiscard]] bool isSearching() const;
-    /// What can be read on a page, found out when it is first searched.
+    /// The plain text of each page; made at the first search.
     [[nodiscard]] const QStringList &texts();
 
     std::unique_ptr<Ui::Help> _ui;

@@ -4,16 +4,15 @@
 
 #include <array>
 
-// Where the figures come from. All of them are rounded from these values, most of which are exact
-// by definition:
+// Sources. All figures are rounded from these values, most of which are exact by definition:
 //
 // - NIST Handbook 44, Appendix C: a US gallon is 231 cubic inches, which are 3.785411784 liters; it
 //   has 4 quarts, 8 pints, 16 cups, 128 fluid ounces, 256 tablespoons or 768 teaspoons. An inch is
 //   2.54 centimeters. An avoirdupois pound is 453.59237 grams and has 16 ounces.
 // - The Units of Measurement Regulations 1995 of the United Kingdom: a gallon is 4.54609 liters; it
 //   has 4 quarts, 8 pints or 160 fluid ounces.
-// - Metric spoons and cups are what cookery books agree on: 5, 15 and 250 milliliters; in Australia
-//   a tablespoon is 20 milliliters, in Japan a cup is 200.
+// - Metric spoons and cups have their usual sizes in cookery books: 5, 15 and 250 milliliters; in
+//   Australia a tablespoon is 20 milliliters, in Japan a cup is 200.
 // - A stick of butter is a quarter of a pound; its wrapper is marked with 8 tablespoons.
 // - Gas mark 1 is 275 °F, and each further mark 25 °F more; ½ and ¼ are 25 and 50 °F less.
 

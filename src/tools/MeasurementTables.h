@@ -2,8 +2,8 @@
 
 #include <span>
 
-/// One table of the measurements panel in English, to be translated as a text of that panel. The
-/// cells of its header and of each row stand between bars.
+/// One table of the measurements panel, in English; translated in the context of that panel. Bars
+/// separate the cells of the header and of each row.
 struct MeasurementTable
 {
     const char *title;

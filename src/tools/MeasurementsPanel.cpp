@@ -14,7 +14,7 @@ QString localized(QString text)
     return text.replace(point, QLocale().decimalPoint());
 }
 
-/// A row of cells in HTML: the first says what the row is about, the others are figures.
+/// A row of cells in HTML: the first names the row, the others are figures.
 QString rowOf(const QString &cells, QLatin1String tag)
 {
     QString row;

@@ -4,8 +4,8 @@
 
 struct MeasurementTable;
 
-/// A table of kitchen measures to look things up in. It has no behaviour of its own, but its text
-/// can be selected and copied, and read aloud by a screen reader.
+/// Tables of kitchen measures. The text cannot be edited, but it can be selected and copied, and a
+/// screen reader can read it.
 class MeasurementsPanel final : public QTextEdit
 {
     Q_OBJECT

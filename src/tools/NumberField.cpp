@@ -9,7 +9,7 @@
 
 NumberField::NumberField(QWidget *parent) : QLineEdit(parent)
 {
-    connect(this, &QLineEdit::textEdited, this, &NumberField::takeEdit);
+    connect(this, &QLineEdit::textEdited, this, &NumberField::handleEdit);
     connect(this, &QLineEdit::cursorPositionChanged, this, &NumberField::forgetTyped);
     connect(this, &QLineEdit::selectionChanged, this, &NumberField::forgetTyped);
 }
@@ -22,7 +22,7 @@ float NumberField::floatValue() const
 void NumberField::setFloatValue(float number)
 {
     if (_isBeingEdited)
-        rewriteTyped(number);
+        showWhileTyping(number);
     else
         setText(FigureText::write(number, QLocale()));
 }
@@ -33,17 +33,17 @@ void NumberField::selectText()
     selectAll();
 }
 
-void NumberField::takeEdit()
+void NumberField::handleEdit()
 {
     const QScopedValueRollback<bool> editing(_isBeingEdited, true);
-    // The edit comes before the news that the cursor has moved by it.
+    // textEdited comes before cursorPositionChanged, which resets _typed.
     if (const std::optional<Typed> typed = std::exchange(_typed, std::nullopt))
-        goOnTyping(*typed);
+        applyEditToTyped(*typed);
     Q_EMIT edited();
 }
 
-/// Makes the change that was made to the shown text to the typed one, and shows that.
-void NumberField::goOnTyping(const Typed &typed)
+/// Applies the user's edit of the shown text to the typed text, and shows the result.
+void NumberField::applyEditToTyped(const Typed &typed)
 {
     const QString changed = text();
     const qsizetype cursor = cursorPosition();
@@ -67,7 +67,7 @@ void NumberField::goOnTyping(const Typed &typed)
     setCursorPosition(static_cast<int>(place));
 }
 
-void NumberField::rewriteTyped(float number)
+void NumberField::showWhileTyping(float number)
 {
     const QLocale locale;
     const QString before = text();

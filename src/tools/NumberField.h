@@ -4,12 +4,11 @@
 
 #include <optional>
 
-/// A field that holds a number in single precision, written and read in the way of the user's
-/// locale.
+/// A field that holds a number in single precision, in the format of the user's locale.
 ///
-/// It may be given a number while somebody types in it, in answer to edited(). Typing then goes on
-/// from what was typed, not from what has become of it: whoever types 12.5 gets 12.5, even if the
-/// field has shown 11.999999 for the 12. That ends when the cursor is moved.
+/// A slot of edited() may set the number while the user types. The next keystroke then continues
+/// the typed text, not the shown one: a user who types 12.5 gets 12.5, even if the field showed
+/// 11.999999 after the 12. Moving the cursor makes the shown text the typed one.
 class NumberField final : public QLineEdit
 {
     Q_OBJECT
@@ -20,19 +19,19 @@ public:
     /// The number that the text begins with; 0 when there is none.
     [[nodiscard]] float floatValue() const;
 
-    /// Shows the number. What somebody is typing stays as it is where it reads as this number, so
-    /// that "12." can be finished, and loses what does not belong to a number.
+    /// Shows the number. If the text that the user is typing reads as this number, it stays, so
+    /// that "12." can be completed, but loses what does not belong to a number.
     void setFloatValue(float number);
 
     /// Moves the focus here and selects everything.
     void selectText();
 
 Q_SIGNALS:
-    /// Somebody has changed the text.
+    /// The user has changed the text.
     void edited();
 
 private:
-    /// What somebody has typed, while the field shows something else for it.
+    /// What the user has typed, while the field shows another text for it.
     struct Typed
     {
         QString text;
@@ -41,9 +40,9 @@ private:
         qsizetype shownCursor;
     };
 
-    void takeEdit();
-    void goOnTyping(const Typed &typed);
-    void rewriteTyped(float number);
+    void handleEdit();
+    void applyEditToTyped(const Typed &typed);
+    void showWhileTyping(float number);
     void forgetTyped();
 
     std::optional<Typed> _typed;
