@@ -61,6 +61,8 @@ if(BUILD_SHARED_LIBS)
     set(CMAKE_LIBRARY_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/libraries")
     set(CMAKE_INSTALL_RPATH "${CMAKE_LIBRARY_OUTPUT_DIRECTORY}")
     set(CMAKE_BUILD_WITH_INSTALL_RPATH ON)
+    # A program and its libraries share the static members of templates, such as those of Service.
+    set(CMAKE_ENABLE_EXPORTS ON)
     # Each library links all that it uses. Clang's sanitizers are known to programs only.
     if(CMAKE_SYSTEM_NAME STREQUAL "Linux" AND NOT WUFFER_SANITIZE)
         string(APPEND CMAKE_SHARED_LINKER_FLAGS " -Wl,-z,defs")

@@ -42,7 +42,7 @@ class InstalledProgramTest(DesktopTest):
         program.wait_for_button("Reset")
         wait_until(lambda: self.heard().first_sound_after(before), 5, "the alarm is heard")
         with open(f"/proc/{program.process.pid}/maps", encoding="ascii") as file:
-            modules = {line.split()[-1] for line in file if "wuffer_sound" in line}
+            modules = {line.split()[-1] for line in file if "/wuffer_sound.so" in line}
         self.assertEqual(len(modules), 1)
         self.assertTrue(modules.pop().startswith(module))
         self.quit(program)
