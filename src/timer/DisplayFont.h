@@ -2,11 +2,11 @@
 
 #include <QWidget>
 
-/// The face and the sizes of the display's texts.
+/// The font and the sizes of the texts of the display.
 namespace DisplayFont
 {
-/// The size in points of the big display for a text of so many characters. A text of more than
-/// ten shrinks to the width of ten.
+/// The size in points of the big display for this many characters. A text of more than ten shrinks
+/// to the width of ten.
 [[nodiscard]] constexpr double resultSize(qsizetype characters, bool fullScreen)
 {
     const double base = fullScreen ? 200.0 : 27.0;
@@ -19,7 +19,7 @@ namespace DisplayFont
     return fullScreen ? 36.0 : 12.0;
 }
 
-/// Gives the label the face of the display at this size in points. Costs nothing when it has it
-/// already, as it does at nearly every tick.
+/// Sets the font of the display in this size in points. Does nothing if the label has it already,
+/// as at nearly every tick.
 void apply(QWidget &label, double points);
 } // namespace DisplayFont

@@ -13,12 +13,12 @@
 
 namespace
 {
-/// The user's own short date with a time to the second.
+/// The short date format of the user's locale, followed by a time with seconds.
 QString displayFormat()
 {
     const QLocale locale;
     QString date = locale.dateFormat(QLocale::ShortFormat);
-    // A year of two digits cannot tell one century from the next.
+    // Two digits would not tell the century.
     if (!date.contains(QLatin1String("yyyy")))
         date.replace(QLatin1String("yy"), QLatin1String("yyyy"));
     const bool halfDays =
@@ -69,15 +69,15 @@ void TargetTimeSheet::setVisible(bool visible)
         return;
     _ui->_targetDateField->setFocus();
     _ui->_targetDateField->setSelectedSection(QDateTimeEdit::HourSection);
-    _hourIsDue = !_ui->_targetDateField->hasFocus();
+    _selectsHourOnFocus = !_ui->_targetDateField->hasFocus();
 }
 
 void TargetTimeSheet::showEvent(QShowEvent *event)
 {
-    constexpr double secondsBetweenLooks = 1.0;
+    constexpr double secondsBetweenUpdates = 1.0;
     QDialog::showEvent(event);
     showDistance();
-    _distanceTimer.startRepeating(secondsBetweenLooks);
+    _distanceTimer.startRepeating(secondsBetweenUpdates);
 }
 
 void TargetTimeSheet::hideEvent(QHideEvent *event)
@@ -88,14 +88,14 @@ void TargetTimeSheet::hideEvent(QHideEvent *event)
 
 void TargetTimeSheet::focusChanged(const QWidget *now)
 {
-    // Again: the field selects its first part of its own accord when it gets the keyboard.
-    if (now == _ui->_targetDateField && std::exchange(_hourIsDue, false))
+    // Select the hour again: on receiving the focus, the field selects its first section.
+    if (now == _ui->_targetDateField && std::exchange(_selectsHourOnFocus, false))
         _ui->_targetDateField->setSelectedSection(QDateTimeEdit::HourSection);
 }
 
 void TargetTimeSheet::showDistance()
 {
-    // From the second that clocks show, so that a round time away reads as one.
+    // Count from whole seconds, as clocks show them, so that a date an hour away reads “in 1 h”.
     const QDateTime now = inWholeSeconds(Service<Clock>::current().calendarNow());
     _ui->_targetDistance->setText(TimeDistance::text(now.secsTo(dateValue())));
 }

@@ -11,9 +11,10 @@ namespace Ui
 class TargetTime;
 }
 
-/// The sheet in which the end of a countdown is picked: a calendar and a date field that follow
-/// each other, and how long that is from now. It opens with the hour selected, which is what most
-/// dates differ in. It only asks; accepted() and rejected() say how it was answered.
+/// The sheet in which the user picks the end of a countdown. A calendar and a date field follow
+/// each other, and a label shows how far away the date is. The hour is selected when the sheet
+/// opens, because most dates differ only in their time. The sheet starts nothing: accepted() and
+/// rejected() report the user's answer.
 class TargetTimeSheet final : public QDialog
 {
     Q_OBJECT
@@ -22,13 +23,13 @@ public:
     explicit TargetTimeSheet(QWidget &parent);
     ~TargetTimeSheet() override;
 
-    /// Nothing earlier than this can be picked. Fractions of a second are left out.
+    /// Sets the earliest date that the user can pick. Fractions of a second are cut.
     void setMinDate(const QDateTime &date);
 
     [[nodiscard]] QDateTime dateValue() const;
     void setDateValue(const QDateTime &date);
 
-    /// Opens with the hour selected.
+    /// Selects the hour when the sheet opens.
     void setVisible(bool visible) override;
 
 protected:
@@ -37,12 +38,13 @@ protected:
 
 private:
     void connectControls();
-    /// Selects the hour when the field gets the keyboard for the first time since the sheet opened.
+    /// Selects the hour when the field receives the focus for the first time since the sheet
+    /// opened.
     void focusChanged(const QWidget *now);
     void showDistance();
 
     std::unique_ptr<Ui::TargetTime> _ui;
-    bool _hourIsDue = false;
-    /// Now moves on while the sheet is in sight.
+    bool _selectsHourOnFocus = false;
+    /// Updates the distance while the sheet is visible.
     ClockTimer _distanceTimer{[this] { showDistance(); }};
 };

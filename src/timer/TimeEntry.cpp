@@ -10,23 +10,23 @@
 
 namespace
 {
-/// Keys that move the caret.
+/// Whether the key moves the caret.
 bool movesCaret(const QKeyEvent &event)
 {
     constexpr std::array keys{Qt::Key_Left, Qt::Key_Right, Qt::Key_Home, Qt::Key_End};
     return std::ranges::count(keys, event.key()) > 0;
 }
 
-/// Whether the focus was away only for something that lay over the window.
-bool comesBack(const QFocusEvent &event)
+/// Whether the focus returns from another window, a popup or the menu bar.
+bool returnsFromElsewhere(const QFocusEvent &event)
 {
     constexpr std::array reasons{Qt::ActiveWindowFocusReason, Qt::PopupFocusReason,
                                  Qt::MenuBarFocusReason};
     return std::ranges::count(reasons, event.reason()) > 0;
 }
 
-/// Whether the key begins a number.
-bool beginsNumber(const QKeyEvent &event)
+/// Whether the key types a digit.
+bool typesDigit(const QKeyEvent &event)
 {
     constexpr auto allowed = Qt::KeypadModifier | Qt::ShiftModifier;
     const QString text = event.text();
@@ -41,7 +41,7 @@ TimeEntry::TimeEntry(QWidget &window, const Fields &fields) :
     for (TimeField *field : _fields)
         connectField(*field);
     window.installEventFilter(this);
-    // Most countdowns are minutes: what is typed straight away goes there.
+    // Most countdowns take minutes: a number typed without choosing a field goes there.
     _lastUsed->setFocus();
     makeReady();
 }
@@ -50,7 +50,7 @@ void TimeEntry::connectField(TimeField &field)
 {
     field.installEventFilter(this);
     connect(&field, &TimeField::textEdited, this, [this, &field] { _typedIn = &field; });
-    connect(&field, &TimeField::editingFinished, this, qOverload<>(&TimeEntry::settle));
+    connect(&field, &TimeField::editingFinished, this, qOverload<>(&TimeEntry::spreadFractions));
     connect(&field, &TimeField::colonTyped, this, [this, &field] { takeColon(field); });
     connect(&field, &TimeField::letterTyped, this,
             [this, &field](QChar letter) { takeLetter(field, letter); });
@@ -67,16 +67,16 @@ void TimeEntry::makeReady()
         field->selectAll();
 }
 
-void TimeEntry::settle()
+void TimeEntry::spreadFractions()
 {
-    settle(TimeText::Unit::Hours);
-    settle(TimeText::Unit::Minutes);
+    spreadFractions(TimeText::Unit::Hours);
+    spreadFractions(TimeText::Unit::Minutes);
 }
 
-void TimeEntry::settle(TimeText::Unit unit)
+void TimeEntry::spreadFractions(TimeText::Unit unit)
 {
     TimeField &field = fieldOf(unit);
-    // A fraction that the program has written says what it says.
+    // Leave a fraction that the program has written.
     if (!field.isModified())
         return;
     const std::optional<TimeText::Time> time = TimeText::spread(field.text(), unit);
@@ -94,7 +94,7 @@ void TimeEntry::lock(QWidget &button)
     if (_lockedIn)
         button.setFocus();
     for (TimeField *field : _fields) {
-        // A window that is not the active one would keep the number marked.
+        // An inactive window would still show the number as selected.
         field->deselect();
         field->setEnabled(false);
     }
@@ -114,13 +114,13 @@ void TimeEntry::takeColon(const TimeField &field)
     const bool typed = _typedIn == &field;
     const int colons = typed ? _colons + 1 : _colons;
     if (unitOf(field) != TimeText::Unit::Seconds)
-        goPast(unitOf(field));
+        goToFieldAfter(unitOf(field));
     else if (typed && colons < int(_fields.size()))
         shiftUp();
     _colons = colons;
 }
 
-/// There is no smaller field: what was typed up to now moves to the larger ones.
+/// A colon in the seconds field moves the numbers typed so far to the larger fields.
 void TimeEntry::shiftUp()
 {
     TimeField &minutes = fieldOf(TimeText::Unit::Minutes);
@@ -143,13 +143,13 @@ void TimeEntry::takeLetter(TimeField &field, QChar letter)
         field.edit(QStringLiteral("0"));
         fieldOf(*unit).edit(number);
     }
-    settle();
-    goPast(*unit);
+    spreadFractions();
+    goToFieldAfter(*unit);
 }
 
 void TimeEntry::takeText(TimeField &field, const QString &text)
 {
-    // The menu that pastes may have been open since before the run began.
+    // The context menu may have been open since before the run started.
     if (!field.isEnabled())
         return;
     if (TimeText::isNumber(text)) {
@@ -164,8 +164,8 @@ void TimeEntry::takeText(TimeField &field, const QString &text)
     goTo(field);
 }
 
-/// On to the field after that of the unit; behind the last there is none.
-void TimeEntry::goPast(TimeText::Unit unit)
+/// Moves to the field after the one of the unit, or stays in the last.
+void TimeEntry::goToFieldAfter(TimeText::Unit unit)
 {
     const auto next = std::min(int(unit) + 1, int(TimeText::Unit::Seconds));
     goTo(fieldOf(TimeText::Unit(next)));
@@ -178,7 +178,7 @@ void TimeEntry::goTo(TimeField &field)
     entered(field);
 }
 
-/// Typing begins anew with this field.
+/// Starts a new entry in this field.
 void TimeEntry::entered(TimeField &field)
 {
     _lastUsed = &field;
@@ -209,14 +209,14 @@ bool TimeEntry::eventFilter(QObject *watched, QEvent *event)
 
 void TimeEntry::focused(TimeField &field, const QFocusEvent &event)
 {
-    // What was begun before another window or a menu came in between goes on.
-    if (comesBack(event) && _lastUsed == &field)
+    // The user continues an entry that another window or a menu has interrupted.
+    if (returnsFromElsewhere(event) && _lastUsed == &field)
         selectUnlessInUse(field);
     else
         entered(field);
 }
 
-/// A menu bar that was open, and a window that was not the active one, may have cost the selection.
+/// Restores the selection, which an open menu bar or an inactive window may have removed.
 void TimeEntry::selectUnlessInUse(TimeField &field) const
 {
     if (_typedIn != &field && !_caretSet)
@@ -233,11 +233,11 @@ bool TimeEntry::filterWindow(QEvent &event)
     return false;
 }
 
-/// A number that is typed while a button has the focus goes into the field that was used last. The
-/// name and the boxes, which have a use for digits, keep theirs.
+/// Sends a digit that is typed while a button has the focus to the field used last. The name field
+/// and the combo boxes handle digits themselves.
 bool TimeEntry::typeFromElsewhere(QEvent &event)
 {
-    if (fieldInFocus() || !_lastUsed->isEnabled() || !beginsNumber(static_cast<QKeyEvent &>(event)))
+    if (fieldInFocus() || !_lastUsed->isEnabled() || !typesDigit(static_cast<QKeyEvent &>(event)))
         return false;
     goTo(*_lastUsed);
     QCoreApplication::sendEvent(_lastUsed, &event);

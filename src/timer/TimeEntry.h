@@ -10,35 +10,37 @@ class QFocusEvent;
 class QWidget;
 class TimeField;
 
-/// How a time gets into the three fields of a timer by hand: what is typed into one of them, and
-/// where that goes when it concerns the others.
+/// Handles how the user enters a time into the three fields of a timer, as far as one field affects
+/// the others.
 ///
-/// It sees to it that what is typed next replaces the number of a field once the timer has become
-/// ready to be set, that colons and letters of units lead through the fields, and that a text that
-/// says a whole time fills all of them. It touches nothing that the program has written. Belongs to
-/// the timer; what the fields say is the timer's to read.
+/// It selects the number in the focused field whenever the timer becomes ready to be set, so that
+/// typing replaces it. Colons and letters of units move the focus through the fields, and a pasted
+/// or dropped text with a whole time fills all three. It does not change a time that the program
+/// has written until the user edits it. The timer owns this object and reads the fields itself.
 class TimeEntry final : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Hours, minutes and seconds.
+    /// The fields for hours, minutes and seconds, in this order.
     using Fields = std::array<TimeField *, 3>;
 
-    /// The fields lie in the window; all must outlive this object.
+    /// The fields are in the window. Fields and window must outlive this object.
     TimeEntry(QWidget &window, const Fields &fields);
 
-    /// The program has written a time, or lets it be set again: the number in focus is selected.
+    /// Selects the number in the focused field. To be called when the program has written a time or
+    /// unlocked the fields.
     void makeReady();
 
-    /// Replaces the smaller fields by the fraction that was typed into hours or minutes.
-    void settle();
+    /// Converts a fraction typed into hours or minutes into the smaller fields and replaces their
+    /// numbers: 1.5 hours become 1 hour, 30 minutes.
+    void spreadFractions();
 
-    /// Lets nothing be typed from now on; the button takes the focus if one of the fields has it.
+    /// Disables the fields. If one of them has the focus, the button receives it.
     void lock(QWidget &button);
 
-    /// Lets a time be typed again, in the field that had the focus before, unless the user has gone
-    /// elsewhere than to the button.
+    /// Enables the fields. The focus returns to the field that had it before, unless the user has
+    /// moved it away from the button.
     void unlock(const QWidget &button);
 
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -49,9 +51,9 @@ private:
     void shiftUp();
     void takeLetter(TimeField &field, QChar letter);
     void takeText(TimeField &field, const QString &text);
-    void settle(TimeText::Unit unit);
+    void spreadFractions(TimeText::Unit unit);
     void goTo(TimeField &field);
-    void goPast(TimeText::Unit unit);
+    void goToFieldAfter(TimeText::Unit unit);
     void entered(TimeField &field);
     void focused(TimeField &field, const QFocusEvent &event);
     void selectUnlessInUse(TimeField &field) const;
@@ -66,12 +68,12 @@ private:
     const Fields _fields;
     /// The field that had the focus last.
     TimeField *_lastUsed;
-    /// The field that gets the focus back when the run is over; null when none had it.
+    /// The field that receives the focus after the run; null if none had it before.
     TimeField *_lockedIn = nullptr;
-    /// The field in focus, once something was typed into it; null before.
+    /// The focused field if the user has typed into it; otherwise null.
     const TimeField *_typedIn = nullptr;
-    /// How many fields have been typed and left by a colon, one after the other.
+    /// How many fields in a row the user has typed into and left with a colon.
     int _colons = 0;
-    /// Whether the user has put the caret somewhere in the field in focus.
+    /// Whether the user has placed the caret in the focused field.
     bool _caretSet = false;
 };

@@ -25,7 +25,7 @@ struct StepKey
 constexpr std::array kStepKeys{StepKey{Qt::Key_Up, 1}, StepKey{Qt::Key_Down, -1},
                                StepKey{Qt::Key_PageUp, 10}, StepKey{Qt::Key_PageDown, -10}};
 
-/// By how much the key changes the number; 0 for all others.
+/// How much the key adds to the number; 0 for keys that do not change it.
 int stepOf(const QKeyEvent &event)
 {
     if ((event.modifiers() & ~Qt::KeypadModifier) != Qt::NoModifier)
@@ -34,10 +34,10 @@ int stepOf(const QKeyEvent &event)
     return found == kStepKeys.end() ? 0 : found->count;
 }
 
-/// What the key types; empty for keys that mean something else.
+/// The text that the key types; empty for commands and control keys.
 QString typedBy(const QKeyEvent &event)
 {
-    // AltGr types characters; it comes as Control and Alt on some systems.
+    // AltGr types characters, and some systems report it as Control and Alt.
     const Qt::KeyboardModifiers command =
         event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
     const bool isCommand =
@@ -47,12 +47,13 @@ QString typedBy(const QKeyEvent &event)
     return isCommand || isControl ? QString() : text;
 }
 
-/// Whether a text says something that the fields take.
-bool isOfUse(const QMimeData &data)
+/// Whether the data is a text with a number or a time.
+bool isNumberOrTime(const QMimeData &data)
 {
     return !data.hasUrls() && (TimeText::isNumber(data.text()) || TimeText::read(data.text()));
 }
-/// The item that pastes; it is told by its text only, which has its key behind it.
+/// The Paste item; null if there is none. Only its text identifies it, in which the shortcut
+/// follows the name.
 QAction *pasteIn(const QMenu &menu)
 {
     const QList<QAction *> items = menu.actions();
@@ -70,7 +71,7 @@ TimeField::TimeField(QWidget *parent) : QLineEdit(parent)
 
 void TimeField::edit(const QString &text)
 {
-    // Inserted, so that it can be undone.
+    // Unlike setText(), insert() can be undone.
     selectAll();
     insert(text);
 }
@@ -87,13 +88,13 @@ void TimeField::step(int count)
 
 void TimeField::keyPressEvent(QKeyEvent *event)
 {
-    if (takes(*event))
+    if (handleKey(*event))
         event->accept();
     else
         QLineEdit::keyPressEvent(event);
 }
 
-bool TimeField::takes(const QKeyEvent &event)
+bool TimeField::handleKey(const QKeyEvent &event)
 {
     if (const int count = stepOf(event)) {
         step(count);
@@ -104,14 +105,14 @@ bool TimeField::takes(const QKeyEvent &event)
         return true;
     }
     const QString typed = typedBy(event);
-    if (typed.isEmpty() || hasRoomFor(typed))
+    if (typed.isEmpty() || staysNumberWith(typed))
         return false;
-    refuse(typed);
+    reportRefused(typed);
     return true;
 }
 
-/// Reports what was typed and may not stand in the field, if it means something.
-void TimeField::refuse(const QString &typed)
+/// Reports a colon or a letter, which the field does not insert.
+void TimeField::reportRefused(const QString &typed)
 {
     if (typed == u':')
         Q_EMIT colonTyped();
@@ -119,8 +120,9 @@ void TimeField::refuse(const QString &typed)
         Q_EMIT letterTyped(typed.front());
 }
 
-/// Whether the number would still be one with this in place of what is selected.
-bool TimeField::hasRoomFor(const QString &typed) const
+/// Whether the text would still be a number, or the beginning of one, after typing this over the
+/// selection.
+bool TimeField::staysNumberWith(const QString &typed) const
 {
     const bool selected = hasSelectedText();
     const int from = selected ? selectionStart() : cursorPosition();
@@ -130,8 +132,8 @@ bool TimeField::hasRoomFor(const QString &typed) const
 
 void TimeField::inputMethodEvent(QInputMethodEvent *event)
 {
-    // What is still being composed is not shown, because it could be anything. What has been
-    // composed is typed, wherever a colon in it has moved the focus meanwhile.
+    // Do not show text that is still being composed: it could be anything. Send composed text as
+    // key presses to the focused field, because a colon in it may have moved the focus.
     for (const QChar character : event->commitString()) {
         QKeyEvent press(QEvent::KeyPress, 0, Qt::NoModifier, character);
         QWidget *focused = window()->focusWidget();
@@ -156,7 +158,7 @@ void TimeField::offerClipboard()
 
 void TimeField::wheelEvent(QWheelEvent *event)
 {
-    // Over a field that is not in use, it may have been meant for something else.
+    // Without the focus, the field ignores the wheel, which may be meant for something else.
     if (!hasFocus() || event->angleDelta().y() == 0) {
         event->ignore();
         return;
@@ -187,15 +189,15 @@ void TimeField::dragMoveEvent(QDragMoveEvent *event)
 
 void TimeField::dragLeaveEvent(QDragLeaveEvent * /*event*/)
 {
-    // A drag that passes over leaves the caret where it is.
+    // The caret has not followed the drag, so there is nothing to undo.
 }
 
-/// Accepts what would be taken; the rest goes on to the window.
+/// Accepts a drag with a number or a time; the window handles all others.
 void TimeField::accept(QDropEvent &drag)
 {
-    // Not moved: only the text is wanted, not that it goes from where it is.
+    // Copy: moving would remove the text from its source.
     drag.setDropAction(Qt::CopyAction);
-    drag.setAccepted(isOfUse(*drag.mimeData()));
+    drag.setAccepted(isNumberOrTime(*drag.mimeData()));
 }
 
 void TimeField::contextMenuEvent(QContextMenuEvent *event)

@@ -2,13 +2,12 @@
 
 #include <QLineEdit>
 
-/// One of the fields into which a time is typed: a number, perhaps with a sign and a fraction, and
-/// no other characters.
+/// One of the three number fields of a timer. The user can type a number into it, with an optional
+/// sign and fraction, and nothing else; the program may write any text.
 ///
-/// It changes its number by itself with the arrow keys, the page keys and the wheel. What concerns
-/// the other fields, too, it only reports: colons, letters of units, and texts that are pasted or
-/// dropped. Text that the program writes may be anything. Every change by the user is reported as
-/// textEdited(), of whatever kind it is.
+/// The arrow keys, the page keys and the wheel change the number. Input that concerns the other
+/// fields too is only reported: colons, letters of units, and texts that are pasted or dropped.
+/// Every change by the user, of any kind, emits textEdited().
 class TimeField final : public QLineEdit
 {
     Q_OBJECT
@@ -16,18 +15,18 @@ class TimeField final : public QLineEdit
 public:
     explicit TimeField(QWidget *parent = nullptr);
 
-    /// Writes the text as if the user had typed it; it can be undone.
+    /// Writes the text as if the user had typed it; the user can undo it.
     void edit(const QString &text);
 
-    /// Adds so many to the number, but never goes below 0 or beyond 32 bits, and selects it, so
-    /// that typing replaces it. The fraction goes.
+    /// Adds the count to the number and drops its fraction. The result is at least 0 and fits into
+    /// 32 bits. Selects the number, so that typing replaces it.
     void step(int count);
 
 Q_SIGNALS:
     void colonTyped();
-    /// A letter was typed; it is not in the field.
+    /// The user has typed a letter, which is not inserted.
     void letterTyped(QChar letter);
-    /// A text was pasted into the field or dropped onto it; it is not in the field.
+    /// The user has pasted or dropped a text, which is not inserted.
     void textOffered(const QString &text);
 
 protected:
@@ -42,13 +41,13 @@ protected:
     void contextMenuEvent(QContextMenuEvent *event) override;
 
 private:
-    /// Carries out what no field of text does with the key; whether it has.
-    [[nodiscard]] bool takes(const QKeyEvent &event);
-    void refuse(const QString &typed);
-    [[nodiscard]] bool hasRoomFor(const QString &typed) const;
+    /// Handles the keys that this field treats differently from other text fields; true if it has.
+    [[nodiscard]] bool handleKey(const QKeyEvent &event);
+    void reportRefused(const QString &typed);
+    [[nodiscard]] bool staysNumberWith(const QString &typed) const;
     void offerClipboard();
     static void accept(QDropEvent &drag);
 
-    /// What the wheel has turned beyond the last whole step, in eighths of a degree.
+    /// How far the wheel has turned since the last whole step, in eighths of a degree.
     int _turned = 0;
 };

@@ -2,17 +2,17 @@
 
 #include <QColor>
 
-/// What colours a display's texts. Told apart by which one it is and not by how it looks, so that
-/// nothing but the mark of a preset is ever taken for one.
+/// The colour of a text of the display, by its meaning. The program compares these values and not
+/// QColors, so that it takes no other blue for the mark of a preset.
 enum class TextColor {
     Black,
-    /// The last seconds, the alarm, and the line that tells of a chain.
+    /// The last seconds, the alarm, and the elapsed line of a chained timer.
     Red,
-    /// The controls hold a preset unchanged.
+    /// The controls hold an unchanged preset.
     Blue,
 };
 
-/// How the colour looks. The display is light in every theme.
+/// The colour to paint with. The display is light in every theme.
 [[nodiscard]] inline QColor colorOf(TextColor color)
 {
     switch (color) {

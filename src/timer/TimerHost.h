@@ -6,8 +6,8 @@ class QWidget;
 class Wuffer;
 class WufferWindow;
 
-/// What a timer asks of the program around it, which outlives it. What it only tells the program,
-/// it tells by its signals.
+/// What a timer needs from the application, which outlives it. The timer reports its events to the
+/// application by signals.
 class TimerHost
 {
 public:
@@ -15,10 +15,10 @@ public:
     virtual ~TimerHost() = default;
     Q_DISABLE_COPY_MOVE(TimerHost)
 
-    /// Ends full-screen mode of every timer but this one. True when another was in it.
+    /// Ends full-screen mode of every timer but this one. True if another timer was in it.
     virtual bool cancelFullScreenModeForOthers(const Wuffer &timer) = 0;
 
-    /// Another timer window whose frame has exactly the same origin as this one's, the oldest
-    /// first; null when there is none.
+    /// The oldest other timer window whose frame has exactly the same origin as that of this
+    /// window; null if there is none.
     [[nodiscard]] virtual WufferWindow *windowSharingOrigin(const QWidget &window) const = 0;
 };

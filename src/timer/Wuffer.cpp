@@ -14,7 +14,7 @@
 
 namespace
 {
-/// Makes the field as wide as so many digits need.
+/// Makes the field wide enough for this many digits.
 void fitToDigits(QLineEdit &field, int digits)
 {
     const int spare = field.sizeHint().height() - field.fontMetrics().height();
@@ -22,7 +22,8 @@ void fitToDigits(QLineEdit &field, int digits)
     field.setFixedWidth(digits * digitWidth + 2 * spare);
 }
 
-/// Makes the button wide enough for every title that it may get, so that nothing moves.
+/// Makes the button wide enough for all of its titles, so that a new title does not move the
+/// layout.
 void fitToTitles(QPushButton &button, std::initializer_list<QStringView> titles)
 {
     const QString title = button.text();
@@ -40,17 +41,17 @@ Wuffer::Wuffer(TimerHost &host) :
     _host(host), _window(std::make_unique<WufferWindow>(*this)), _ui(std::make_unique<Ui::Wuffer>())
 {
     _ui->setupUi(_window.get());
-    _window->spareFromFocus(*_ui->_titleField);
+    _window->skipWhenFocusIsLost(*_ui->_titleField);
     fitControls();
     awakeFromNib();
 }
 
 Wuffer::~Wuffer()
 {
-    // The display must be back in its window before that goes.
+    // The display must be back in its window before the window is destroyed.
     setWindowed();
-    // A window in sight takes the focus from its fields when it goes, and there is nobody to tell
-    // by then.
+    // Destroying a visible window takes the focus from its fields. Their signals must not reach
+    // this object any more.
     for (const QObject *control : _window->findChildren<QObject *>())
         control->disconnect(this);
     _window->disconnect(this);
@@ -77,7 +78,7 @@ void Wuffer::fitControls()
     fitToTitles(*_ui->_goButton, {kGoButtonStart, kGoButtonStop, kGoButtonReset,
                                   kGoButtonStartChain, kGoButtonChained});
     fitToTitles(*_ui->_finishedDrawerButton, {kMoreOptions, kHideOptions});
-    // As wide as the buttons below and above it, so that the boxes keep their width when it shows.
+    // As wide as the buttons above and below, so that showing it does not resize the combo boxes.
     _ui->_linkButton->setFixedWidth(_ui->_helpButton->sizeHint().width());
     _timeEntry = std::make_unique<TimeEntry>(
         *_window, TimeEntry::Fields{_ui->_hoursField, _ui->_minutesField, _ui->_secondsField});
@@ -109,7 +110,7 @@ void Wuffer::connectControls()
         connect(combo, &PopUpComboBox::willPopUp, this, &Wuffer::handleFinishedComboChange);
     for (WebbyComboBox *combo : {_ui->_alarmSoundCombo, _ui->_countdownSoundCombo})
         new PickFromList(*combo);
-    // What the timers before and after say of this one follows its name.
+    // The linked timers show the name of this one.
     connect(_ui->_titleField, &QLineEdit::textChanged, this, [this] {
         for (Wuffer *linked : {_targetWuffer.data(), _reverseTargetWuffer.data()}) {
             if (linked)

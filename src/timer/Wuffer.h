@@ -46,7 +46,7 @@ public:
     explicit Wuffer(TimerHost &host);
     ~Wuffer() override;
 
-    // What others ask a timer: Wuffer.cpp.
+    // What the rest of the program asks a timer: Wuffer.cpp.
 
     [[nodiscard]] WufferWindow *window() const { return _window.get(); }
     /// Started and not closed; a timer in its alarm phase counts as running.
@@ -57,40 +57,40 @@ public:
     [[nodiscard]] QString title() const;
     /// The name with the duration set: "Tea - 0h 5m 0s".
     [[nodiscard]] QString description() const;
-    /// What the big display says; what it would say, while nobody can see it.
+    /// The text of the big display, computed if the display rests out of sight.
     [[nodiscard]] QString statusString() const;
-    /// The colour in which it says so.
+    /// The colour of the text of the big display.
     [[nodiscard]] QColor currentTextColor() const;
-    /// The button that starts and stops it, for a menu item that repeats it.
+    /// The button that starts and stops the timer, for the menu item that does the same.
     [[nodiscard]] QAbstractButton &goButton() const;
 
     // The run cycle: WufferRunCycle.cpp, WufferAlarmPhase.cpp.
 
-    /// The user's Start, Stop or Reset: starts when not started, else stops. Never refused.
+    /// The user's press of Start, Stop or Reset: starts or stops the timer. Never ignored.
     void goPressed();
-    /// Back to the state before the last start.
+    /// Returns to the state before the last start.
     void resetWuffer();
     /// Enters or leaves stopwatch mode; ignored while started.
     void stopwatch();
-    /// Whether the alarm may go on until the user stops it: only when nothing else is to follow.
+    /// Whether the alarm may repeat until the user stops it: only if nothing else is to run.
     [[nodiscard]] bool shouldKeepWuffing() const;
-    /// Switches the keep-wuffing box over.
+    /// Toggles the keep-wuffing box.
     void toggleKeepWuffing();
 
     // The fields: WufferFields.cpp.
 
     /// The duration in the three fields in whole seconds. Bad text counts as 0.
     [[nodiscard]] double timeLeftFromFields() const;
-    /// Writes so many seconds into the three fields.
+    /// Writes this many seconds into the three fields.
     void setFieldsWithTimeLeft(double timeLeft);
-    /// Goes to the name, the whole of which the next letter replaces.
+    /// Focuses the name field and selects the name, so that typing replaces it.
     void rename();
 
     // The target date: WufferTargetTime.cpp.
 
-    /// Shows the sheet in which a date is picked; ignored while started.
+    /// Shows the sheet in which the user picks a date; ignored while started.
     void targetTime();
-    /// Counts down to the date picked in the sheet.
+    /// Starts a countdown to the date picked in the sheet.
     void startWithTargetTime();
     /// Hides the sheet.
     void endTargetTimeSheet();
@@ -99,80 +99,81 @@ public:
 
     /// Shows these times, in seconds; a remaining time of zero or less restores the idle display.
     void refreshDisplay(double remaining, double timeElapsed);
-    /// The only way by which text reaches the big display: fits the font to the text.
+    /// Sets the text of the big display, and its font size. No other code sets that text.
     void setResultLabelText(const QString &text);
-    /// Colours every text of the display, the elapsed line only if it is asked for.
+    /// Colours the texts of the display; the elapsed line only if elapsedToo is true.
     void setColorForDisplayText(TextColor color, bool elapsedToo);
-    /// The idle display.
+    /// Shows the idle display.
     void setDefaultDisplayValues();
-    /// Some window has come into view or gone: a display that has rested and is seen catches up.
+    /// The exposure of a window has changed: refreshes a rested display that is now visible.
     void windowExposed();
-    /// Some window of the program has gone.
+    /// A window has been hidden: an activation of this one is then not an answer by the user.
     void windowHidden();
 
     // Sounds and notifications: WufferSounds.cpp.
 
-    /// The sound of a choice: a built-in name or the path of a file. Null when there is none.
+    /// The sound for a choice: a built-in name or the path of a file. Null if there is none.
     [[nodiscard]] std::unique_ptr<Sound> createSoundWithPath(const QString &path) const;
     /// Starts the alarm sound.
     void playDone();
     /// Plays one countdown beep.
     void playBeep();
-    /// Warms both sounds up silently.
+    /// Starts and stops both sounds at volume 0, which prepares them for playing.
     void prepareSounds();
-    /// Posts the desktop notification that tells of the end.
+    /// Shows the desktop notification of the alarm.
     void showGrowlNotification();
 
     // Full screen and windows: WufferPresentation.cpp.
 
-    /// Moves the display onto the screen that the user looks at, the pointer hidden, or back.
+    /// Fills the screen of the focused window with the display, without pointer, or undoes that.
     void setFullScreenMode(bool fullScreen);
-    /// Sets the three texts of the display in the sizes of the full screen or of the window.
+    /// Sets the font sizes of the display for full screen or for the window.
     void setFullScreenFontSizes(bool fullScreen);
     /// Enters full-screen mode, or leaves it.
     void startStopFullScreen();
-    /// Leave full-screen mode, for the user or for an alarm; answer whether the timer was in it.
+    /// Leave full-screen mode and return whether the timer was in it. giveUpFullScreen() is for
+    /// alarms: the window activation that follows is not an answer by the user.
     bool setWindowed();
     bool giveUpFullScreen();
     /// Opens or closes the drawer and retitles its button.
     void showHideAdvanced();
-    /// Brings the timer's window to the front, with the whole program, for the user.
+    /// Brings the timer's window and the program to the front, at the user's request.
     void showWufferWindow();
 
-    /// What a menu item does to a timer.
+    /// An operation that a menu item runs on a timer.
     using Operation = void (Wuffer::*)();
-    /// Whether the menu item with this operation is enabled; retitles what follows the state.
+    /// Whether the menu item with this operation is enabled. Also updates its title.
     [[nodiscard]] bool validateMenuItem(QAction &item, Operation action) const;
 
     // Settings: WufferSettings.cpp.
 
-    /// Keeps the settings of this timer and the place of its window under the key.
+    /// Stores the settings of this timer and the place of its window under the key.
     void storeSettingsInDefaultsWithKey(const QString &key);
-    /// Keeps them for the next launch.
+    /// Stores them for the next launch.
     void saveSettingsToDefaultKey();
-    /// Reads what is kept under the key into the controls, puts the window where it was kept, but
-    /// never exactly onto another timer's, if that is asked for, and shows it.
+    /// Loads the settings stored under the key and shows the window. With moveWindow, it moves to
+    /// its stored place first, but never exactly onto another timer.
     void loadSettingsFromDefaultsWithKey(const QString &key, bool moveWindow);
 
     // Presets: WufferPresets.cpp.
 
-    /// The key of a preset in the settings: "Preset 3". Any number will do.
+    /// The key of a preset in the settings: "Preset 3". Any number is allowed.
     [[nodiscard]] static QString keyForPreset(quint32 number);
-    /// A preset in a list: "Tea - 0h 5m 0s". One that was never saved is made first.
+    /// The text for a preset in lists: "Tea - 0h 5m 0s". Stores a preset that was never saved.
     [[nodiscard]] static QString stringForPreset(qint32 number);
     /// Saves this timer into the preset of that number; ignored while started or a stopwatch.
     void setPreset(qint32 number);
-    /// Mark the timer as one that holds a preset unchanged, and undo that after an edit.
+    /// Mark the timer as holding an unchanged preset, and remove the mark after an edit.
     void setPresetColor();
     void removePresetColor();
 
     // Finish actions: WufferFinishActions.cpp.
 
-    /// Fills the finish combo with what can follow the end, and selects "Do Nothing".
+    /// Fills the finish combo with the finish actions, and selects "Do Nothing".
     void populateFinishedCombo();
-    /// Adapts the picker and the keep-wuffing box to the finish action selected.
+    /// Adapts the picker and the keep-wuffing box to the selected finish action.
     void handleFinishedComboChange();
-    /// Lists the presets in the picker, keeping the place that is selected.
+    /// Lists the presets in the picker and keeps the selected index.
     void populateFinishedPickerComboWithPresets();
     /// Shows in the picker which timer this one starts, or how to choose one.
     void populateFinishedPickerComboWithChosenTargetWuffer();
@@ -181,9 +182,9 @@ public:
     /// Explains the finish actions.
     void getFinishingHelp();
 
-    // Chains, known to both ends of each link and never a circle: WufferChain.cpp.
+    // Chains: WufferChain.cpp. Both timers of a link know it, and links never form a circle.
 
-    /// The timer that this one starts when it has finished, and the one that starts it; or null.
+    /// The timer that this one starts when finished, and the timer that starts this one; or null.
     [[nodiscard]] Wuffer *getTargetWuffer() const { return _targetWuffer; }
     [[nodiscard]] Wuffer *getTargetingWuffer() const { return _reverseTargetWuffer; }
     /// Whether this timer starts another or is started by one.
@@ -192,35 +193,35 @@ public:
     [[nodiscard]] std::vector<Wuffer *> chainedWuffers();
     /// "Wuffer Chain - 2 of 3"; empty when the timer is not chained.
     [[nodiscard]] QString chainString();
-    /// Lets this timer start another one, or none for null, when it has finished. Links that
-    /// stand in the way are cut. Ignored for the timer itself.
+    /// Makes this timer start the other one when finished, or none for null. Cuts links that
+    /// conflict. Ignored for this timer itself and for closed timers.
     void setTargetWuffer(Wuffer *timer);
-    /// The other side of setTargetWuffer(), which alone calls it.
+    /// Sets the timer that starts this one. Only setTargetWuffer() calls it.
     void setTargeted(Wuffer &timer);
-    /// Cut the link to the timer that this one starts, and that from the timer that starts it.
+    /// Cut the link to the timer that this one starts, and the link from the one that starts it.
     void removeTargetWuffer();
     void removeTargetingWuffer();
-    /// Shows the state of the chain in this timer, unless it is started.
+    /// Shows the links and, unless started, the place of this timer in its chain.
     void refreshChainStatus();
     void refreshChainStatusForAllChainedWuffers();
 
     // Global settings: WufferGlobalSettings.cpp.
 
-    /// Takes over the settings that hold for all timers.
+    /// Loads the settings that all timers share.
     void loadGlobalSettings();
-    /// Fills the sound combos and keeps what is selected in them.
+    /// Fills the sound combos and keeps their selections.
     void populateSoundCombos();
-    /// Lets sounds be chosen only where they can be heard.
+    /// Enables each sound combo only if its sound can be heard.
     void refreshSoundComboEnabledness();
 
 Q_SIGNALS:
-    /// What the menu items of this timer may do, or are called, may have changed.
+    /// The titles or the enabled state of menu items for this timer may have changed.
     void stateChanged();
-    /// The window closes; the timer is of no more use. Before the notice that tells of it.
+    /// The window is closing; the timer must not be used any more. Precedes "statusChanged".
     void closed();
     /// The user wants to read this page of the help.
     void helpRequested(const QString &page);
-    /// The user wants to choose, below this button, which timer this one starts.
+    /// The user wants to choose, in a menu below this button, which timer this one starts.
     void targetsRequested(QWidget *button);
 
 private:
@@ -239,7 +240,7 @@ private:
     void setRunningControls(bool running, const QString &goTitle);
     void postStatusChanged();
     void windowWillClose();
-    /// What the number fields say, each as a whole number.
+    /// The contents of the number fields as whole numbers.
     [[nodiscard]] qint32 hours() const;
     [[nodiscard]] qint32 minutes() const;
     [[nodiscard]] qint32 seconds() const;
@@ -249,7 +250,7 @@ private:
     void disableReturnShortcut();
     void comboBoxSelectionDidChange(QComboBox &combo);
     void handleManageSounds(WebbyComboBox &combo);
-    /// How long the run was meant to last, with its pass where it loops.
+    /// The planned duration of the run, with the number of the pass if the timer loops.
     [[nodiscard]] QString durationText() const;
     void setElapsedColor(TextColor color);
     [[nodiscard]] TimerSettings settings() const;
@@ -270,7 +271,7 @@ private:
     std::unique_ptr<WufferWindow> _window;
     std::unique_ptr<Ui::Wuffer> _ui;
     std::unique_ptr<SoundPreviews> _previews;
-    /// Made when it is first asked for: a calendar is costly.
+    /// Created on first use, because a calendar is costly.
     std::unique_ptr<TargetTimeSheet> _targetTimeWindow;
 
     std::unique_ptr<TimeEntry> _timeEntry;
@@ -280,7 +281,7 @@ private:
     DisplayRest _displayRest;
     ClockTimer _checkTimer{[this] { timerLoop(); }};
     ClockTimer _wuffTimer{[this] { wuffLoop(); }};
-    /// Gives the Return key back a moment after it has ended the editing of the name.
+    /// Enables the Return shortcut a moment after Return has ended the editing of the name.
     ClockTimer _returnTimer{[this] { enableReturnShortcut(); }};
     std::unique_ptr<Sound> _doneSound;
     std::unique_ptr<Sound> _beepSound;
@@ -289,7 +290,7 @@ private:
     bool _energySaverActive = false;
     bool _soundOff = false;
     bool _suppressCountdown = false;
-    /// Loaded with the others; who opens presets reads the setting itself.
+    /// Loaded but not read here: the code that opens presets reads the setting itself.
     bool _autoStartPresets = false;
     bool _disableGrowl = false;
     bool _closed = false;

@@ -10,9 +10,9 @@
 
 namespace
 {
-/// Seconds between looks at whether the alarm is over.
+/// Seconds between two checks whether the alarm is over.
 constexpr double kAlarmTick = 0.2;
-/// A muted alarm phase lasts at least so many seconds.
+/// A muted alarm lasts at least this many seconds.
 constexpr double kMutedAlarm = 5.0;
 } // namespace
 
@@ -31,7 +31,7 @@ void Wuffer::timerDone()
     _ui->_elapsedLabel->setText(durationText());
     _wuffTimer.startRepeating(kAlarmTick);
     _ui->_goButton->setText(kGoButtonReset.toString());
-    // What cannot be heard must be seen.
+    // The user cannot hear a muted alarm, so the window requests attention.
     if (_soundOff)
         Service<Desktop>::current().requestUserAttention(*_window);
     if (!_disableGrowl)
@@ -44,12 +44,12 @@ void Wuffer::wuffLoop()
 {
     if (_soundOff && -_run.targetDate()->timeIntervalSinceNow() < kMutedAlarm)
         return;
-    // In this phase the box alone decides, so that it can still be ticked and unticked.
+    // During the alarm only the box decides, so that the user can still tick and untick it.
     if (_doneSound)
         _doneSound->setLoops(_ui->_keepWuffingBox->isChecked());
 
     const bool nothingFollows = finishAction().action == FinishAction::Nothing && !isChained();
-    // A muted timer with nothing to do next waits, red, until the user has seen it.
+    // A muted timer after which nothing runs stays in its alarm until the user stops it.
     if (nothingFollows && _soundOff)
         return;
     if (!_soundOff && _doneSound && _doneSound->isPlaying())
@@ -60,7 +60,7 @@ void Wuffer::wuffLoop()
 
     _alarmNotification.alarmEnded();
     toggleRun();
-    // Whoever was told of the stop may have closed the window.
+    // An observer of the stop may have closed the window.
     if (_closed)
         return;
     if (finishAction().runs != FinishActions::Runs::ThisTimer)

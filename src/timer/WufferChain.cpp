@@ -31,11 +31,11 @@ QString Wuffer::chainString()
 
 void Wuffer::setTargetWuffer(Wuffer *timer)
 {
-    // Nor does a timer that is about to be destroyed begin a link or get one.
+    // A closed timer is about to be destroyed and takes part in no link.
     if (timer == this || _closed || (timer && timer->_closed))
         return;
     removeTargetWuffer();
-    // Where the link would close a circle, this timer becomes the head.
+    // If the link would close a circle, this timer becomes the head.
     if (std::ranges::count(chainedWuffers(), timer) > 0)
         removeTargetingWuffer();
     _targetWuffer = timer;
@@ -43,7 +43,7 @@ void Wuffer::setTargetWuffer(Wuffer *timer)
         timer->setTargeted(*this);
         selectFinishAction(FinishAction::Wuffer);
         populateFinishedPickerComboWithChosenTargetWuffer();
-        // An alarm that goes on would keep the chain waiting.
+        // A repeating alarm would hold up the chain.
         refreshKeepWuffingBox();
     }
     refreshChainStatusForAllChainedWuffers();
@@ -59,8 +59,8 @@ void Wuffer::setTargeted(Wuffer &timer)
     refreshChainStatusForAllChainedWuffers();
 }
 
-// Each of the two forgets the link before it tells the other side, so that they call one another
-// once and no more.
+// The next two operations clear their own end of the link before they call the other timer, so that
+// they do not call each other endlessly.
 
 void Wuffer::removeTargetWuffer()
 {

@@ -12,7 +12,7 @@ void Wuffer::windowWillClose()
         if (sound && sound->isPlaying())
             sound->stop();
     }
-    // A running timer closes without a trace.
+    // A running timer closes without saving its settings.
     if (_run.isStarted()) {
         _checkTimer.invalidate();
         _run.stop(Date::now());

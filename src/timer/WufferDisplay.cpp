@@ -9,7 +9,7 @@
 
 namespace
 {
-/// A countdown is red with so many seconds left.
+/// A countdown turns red when this many seconds are left.
 constexpr double kRedSeconds = 11.0;
 
 void setTextColor(QLineEdit &field, const QColor &color)
@@ -42,7 +42,7 @@ void Wuffer::refreshDisplay(double remaining, double timeElapsed)
     const double counted = _run.counted({remaining, timeElapsed});
     _ui->_msLabel->setText(_energySaverActive ? QString() : TimeFormat::msStringForTime(counted));
 
-    // The text is looked at after it was written, so it is the name only if a time reads so.
+    // The big display already shows the time, so this compares the time with the name.
     const bool black =
         remaining > kRedSeconds || _run.isStopwatch() || statusString() == BuildInfo::name();
     setColorForDisplayText(black ? TextColor::Black : TextColor::Red, true);
@@ -79,7 +79,8 @@ QColor Wuffer::currentTextColor() const
 
 void Wuffer::windowExposed()
 {
-    // Minimised, on another workspace, or out of sight for any other reason.
+    // A window is not exposed while it is minimised, on another workspace or otherwise out of
+    // sight.
     const QWindow *place = _ui->_displayBox->window()->windowHandle();
     const bool unseen = place != nullptr && !place->isExposed();
     if (!_displayRest.setUnseen(unseen))

@@ -39,7 +39,7 @@ void Wuffer::rename()
 {
     _ui->_titleField->setFocus(Qt::ShortcutFocusReason);
     _ui->_titleField->selectAll();
-    // Return takes the name as it is, and neither starts nor stops the timer.
+    // Return then ends the editing and neither starts nor stops the timer.
     disableReturnShortcut();
 }
 
@@ -47,7 +47,7 @@ void Wuffer::controlTextDidChange(const QLineEdit &field)
 {
     if (&field == _ui->_titleField) {
         _window->setWindowTitle(NameText::asWindowTitle(field.text()));
-        // Return ends the name now instead of starting the timer.
+        // Return now ends the editing instead of starting the timer.
         disableReturnShortcut();
     }
     if (_reverseTargetWuffer)
@@ -57,7 +57,7 @@ void Wuffer::controlTextDidChange(const QLineEdit &field)
 
 void Wuffer::controlTextDidEndEditing(const QLineEdit &field)
 {
-    // Not at once: the Return that has ended the editing must not start the timer too.
+    // Wait a moment: the Return that has ended the editing must not also start the timer.
     constexpr double returnPause = 0.01;
     if (&field == _ui->_titleField)
         _returnTimer.startOnce(returnPause);

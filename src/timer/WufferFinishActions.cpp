@@ -16,13 +16,13 @@ void Wuffer::populateFinishedCombo()
 
 const FinishActions::Row &Wuffer::finishAction() const
 {
-    // With nothing selected the data is missing, and reads as the action None.
+    // Without a selection the data is invalid and converts to 0, which is None.
     return FinishActions::row(FinishAction(_ui->_finishedCombo->currentData().toInt()));
 }
 
 void Wuffer::selectFinishAction(FinishAction action)
 {
-    // None is not found, and leaves nothing selected.
+    // The combo has no entry for None: findData() returns -1, which clears the selection.
     _ui->_finishedCombo->setCurrentIndex(_ui->_finishedCombo->findData(int(action)));
 }
 
@@ -87,11 +87,11 @@ void Wuffer::populateFinishedPickerComboWithChosenTargetWuffer()
     picker.addItem(_targetWuffer ? NameText::inOneLine(_targetWuffer->description())
                                  : QStringLiteral("Control-Drag a Wuffer"));
     picker.setCurrentIndex(0);
-    // It only shows the link, which is made elsewhere.
+    // The picker only shows the link; the user makes it by dragging or in the menu.
     picker.setEnabled(false);
     picker.show();
     _ui->_linkButton->show();
-    // The box is too narrow for most names.
+    // The picker is too narrow for most names.
     ToolTip::set(picker,
                  _targetWuffer
                      ? tr("When finished, this timer starts “%1”").arg(picker.currentText())
@@ -120,8 +120,8 @@ void Wuffer::handleFinishedBehaviour()
 
 void Wuffer::startChosenPreset()
 {
-    // The last in the list, preset 0, becomes number 10. Under that key there is nothing, so the
-    // timer runs again as it is.
+    // The last entry, preset 0, gives number 10. Nothing is stored under its key, so the timer runs
+    // again unchanged.
     const auto number = static_cast<quint32>(_ui->_finishedPicker->currentIndex() + 1);
     loadSettingsFromDefaultsWithKey(keyForPreset(number), false);
     toggleRun();
@@ -135,7 +135,7 @@ void Wuffer::startTargetWuffer()
     }
     Wuffer &target = *_targetWuffer;
     target.toggleRun();
-    // Whoever was told of the start may have closed it.
+    // An observer of the start may have closed the other timer.
     if (!target._closed)
         target.comeForward();
 }

@@ -12,8 +12,8 @@
 
 namespace
 {
-/// Fills the combo anew, keeping its selection where that is still listed. Before there was one,
-/// the sound of the preferences is selected.
+/// Fills the combo and restores its selection. If that is not listed any more or there was none,
+/// selects the sound of the preferences, or else the built-in one.
 void refill(WebbyComboBox &combo, SoundEntry builtInSound, const QString &globalPath)
 {
     const QSignalBlocker quiet(combo);
@@ -35,7 +35,7 @@ void Wuffer::loadGlobalSettings()
     _autoStartPresets = defaults.value(Keys::kAutoStartPresets);
     _disableGrowl = defaults.value(Keys::kGrowlDisabled);
     _energySaverActive = defaults.value(Keys::kEnergySaverMode);
-    // It may be about to skip ticks at which it has to work now.
+    // The timer may be skipping ticks that the new settings need.
     _checkTimer.skipTicks(0);
 
     const QString text = defaults.value(Keys::kFinishedText);

@@ -15,7 +15,7 @@
 
 namespace
 {
-/// The screen that the user is looking at: that of the window with the focus.
+/// The screen with the focused window, or else the screen of this window.
 QScreen &mainScreen(const QWidget &window)
 {
     const QWindow *focused = QGuiApplication::focusWindow();
@@ -32,8 +32,8 @@ void Wuffer::setFullScreenMode(bool fullScreen)
 {
     if (fullScreen == _ui->_displayBox->isInFullScreenMode())
         return;
-    // The name is edited in the window and only shown on the full screen. The label for that
-    // stays visible afterwards, but says nothing beside the field.
+    // The name is a text field in the window and a label on the full screen. The label stays
+    // visible afterwards, but empty.
     _ui->_titleField->setVisible(!fullScreen);
     _ui->_fullTitleField->setText(fullScreen ? title() : QString());
     if (fullScreen) {
@@ -43,7 +43,7 @@ void Wuffer::setFullScreenMode(bool fullScreen)
         QGuiApplication::setOverrideCursor(Qt::BlankCursor);
         Service<ScreenBlanking>::current().inhibit(*this, tr("A timer fills the screen"));
     } else {
-        // It comes back with its large fonts, by which the window must not be stretched.
+        // The display returns with its large fonts, which must not enlarge the window.
         _window->layout()->setEnabled(false);
         _ui->_displayBox->exitFullScreenModeWithOptions();
         setFullScreenFontSizes(false);
@@ -85,8 +85,8 @@ bool Wuffer::giveUpFullScreen()
 
 void Wuffer::showHideAdvanced()
 {
-    // Asked before the drawer moves: one that is still closing opens again under the title of
-    // an open one.
+    // Read the state before the drawer moves. A press while the drawer is still closing opens it
+    // again and leaves the title “More Options”.
     const bool closed = _ui->_drawer->state() == Drawer::State::Closed;
     _ui->_finishedDrawerButton->setText(drawerTitle(closed));
     _ui->_drawer->toggle();
@@ -100,14 +100,14 @@ void Wuffer::showWufferWindow()
 
 void Wuffer::windowHidden()
 {
-    // The window manager turns to another window then, and the user has not.
+    // It is the window manager, and not the user, that now activates another window.
     if (!_window->isActiveWindow())
         _alarmNotification.expectActivation();
 }
 
 void Wuffer::comeForward()
 {
-    // The window system does not tell of one that is the active window already.
+    // The window system reports no activation if the window is already active.
     if (!_window->isActiveWindow())
         _alarmNotification.expectActivation();
     bringToFront(*_window);

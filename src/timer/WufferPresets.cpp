@@ -6,9 +6,9 @@
 #include "timer/Wuffer.h"
 #include "ui_Wuffer.h"
 
-/// Whether the elapsed line tells of a preset. Both texts that do, the key and "Saved to Preset 3",
-/// have the word in them.
-static bool tellsOfPreset(const QString &elapsedLine)
+/// Whether the elapsed line names a preset. Both texts that do, the key and "Saved to Preset 3",
+/// contain the word.
+static bool namesPreset(const QString &elapsedLine)
 {
     return elapsedLine.contains(QStringLiteral("Preset"));
 }
@@ -61,6 +61,6 @@ void Wuffer::removePresetColor()
         if (_elapsedColor == TextColor::Blue)
             setElapsedColor(TextColor::Black);
     }
-    if (tellsOfPreset(_ui->_elapsedLabel->text()))
+    if (namesPreset(_ui->_elapsedLabel->text()))
         _ui->_elapsedLabel->setText({});
 }

@@ -11,11 +11,12 @@
 
 namespace
 {
-/// With fewer seconds left than this, every tick counts: for the beeps, and for the end.
+/// With this many seconds left or fewer, a display out of sight skips no ticks: the beeps and the
+/// end need them.
 constexpr double kLastSeconds = 13.0;
 
-/// The number that the milliseconds label shows, from which a stopwatch goes on; 0 for the version
-/// and for nothing.
+/// The milliseconds in the label, from which a stopwatch continues; 0 if the label shows the
+/// version or nothing.
 qint32 shownMilliseconds(const Ui::Wuffer &controls)
 {
     return NumberText::integerFrom(controls._msLabel->text());
@@ -46,13 +47,13 @@ void Wuffer::toggleRun()
 
 void Wuffer::startRun()
 {
-    // A sheet that still asks when to end has been overtaken.
+    // The start makes an open target date sheet obsolete.
     endTargetTimeSheet();
     _previews->stop();
     _wuffTimer.invalidate();
     setColorForDisplayText(TextColor::Black, false);
 
-    _timeEntry->settle();
+    _timeEntry->spreadFractions();
     const Date now = Date::now();
     _run.start(TimeFields::total(hours(), minutes(), seconds()), shownMilliseconds(*_ui), now);
     setRunningControls(true, kGoButtonStop.toString());
@@ -73,7 +74,7 @@ void Wuffer::stopRun()
     const TimerRun::Rest rest = _run.stop(Date::now());
     refreshDisplay(rest.value, rest.times.elapsed);
     _checkTimer.invalidate();
-    // What is left stays in the fields, so that the next start goes on from here.
+    // Keep the time in the fields, so that the next start continues from there.
     if (rest.value > 0)
         setFieldsWithTimeLeft(rest.value);
     setRunningControls(false, kGoButtonStart.toString());
@@ -87,7 +88,7 @@ void Wuffer::timerLoop()
         skipIdleTicks();
         return;
     }
-    // Whoever was told may have stopped the timer.
+    // An observer of the notice may have stopped the timer.
     if (!_checkTimer.isValid())
         return;
 
@@ -130,7 +131,7 @@ void Wuffer::resetWuffer()
         goPressed();
     if (_run.isStopwatch()) {
         setFieldsWithTimeLeft(0);
-        // Out of the mode and into it again, which is what clears the display.
+        // Leaving stopwatch mode and entering it again clears the display.
         stopwatch();
         stopwatch();
     } else {

@@ -16,8 +16,8 @@ bool isForNextLaunch(const QString &key)
     return key == Keys::kDefaultWufferSettings.name;
 }
 
-/// Far more than the places of a cascade on any screen; without it, windows that stand at each of
-/// them would keep a new one moving for ever.
+/// Limits the search for a free place, which would not end if there were a window at every place.
+/// Far more than the places of a cascade on any screen.
 constexpr int kMostMoves = 202;
 
 void select(DataComboBox &combo, const std::optional<QString> &path)
@@ -46,7 +46,7 @@ TimerSettings Wuffer::settings() const
 
 void Wuffer::storeSettingsInDefaultsWithKey(const QString &key)
 {
-    _timeEntry->settle();
+    _timeEntry->spreadFractions();
     TimerSettings kept = settings();
     if (!isForNextLaunch(key)) {
         kept.individualAlarmPath = _ui->_alarmSoundCombo->dataObjectOfSelectedItem();

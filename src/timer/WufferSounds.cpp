@@ -6,15 +6,15 @@
 
 namespace
 {
-/// True when the choice asks for another sound than this one.
+/// Whether the choice is another sound than this one.
 bool asksForOther(const std::optional<QString> &path, const std::unique_ptr<Sound> &sound)
 {
     return path && !path->isEmpty() && !(sound && sound->name() == *path);
 }
 
-/// The sound to be played for the choice in place of the last one; null to go on with that. A file
-/// that cannot be opened leaves the last good sound in its place, or else the built-in one is
-/// taken, which also stands in for a file that breaks later.
+/// The sound that replaces the last one for this choice; null to keep the last one. If a file
+/// cannot be opened, the last sound stays, or else the built-in one is taken. The built-in sound
+/// also stands in for a file that turns out to be broken later.
 std::unique_ptr<Sound> newSound(const Wuffer &timer, const std::optional<QString> &path,
                                 SoundEntry builtIn, const std::unique_ptr<Sound> &last)
 {
@@ -93,7 +93,7 @@ void Wuffer::showGrowlNotification()
                                    .show = [this] { showWufferWindow(); },
                                    .stop =
                                        [this] {
-                                           // Nothing to stop once the alarm is over.
+                                           // After the alarm there is nothing to stop.
                                            if (_run.state() == TimerRun::State::Alarm)
                                                goPressed();
                                        }});

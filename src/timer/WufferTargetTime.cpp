@@ -13,7 +13,7 @@ void Wuffer::targetTime()
         _targetTimeWindow = std::make_unique<TargetTimeSheet>(*_window);
         connect(_targetTimeWindow.get(), &QDialog::accepted, this, &Wuffer::startWithTargetTime);
     }
-    _timeEntry->settle();
+    _timeEntry->spreadFractions();
     const QDateTime now = Service<Clock>::current().calendarNow();
     _targetTimeWindow->setMinDate(now);
     _targetTimeWindow->setDateValue(now.addSecs(static_cast<qint64>(timeLeftFromFields())));

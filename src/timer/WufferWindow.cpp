@@ -13,11 +13,12 @@
 
 namespace
 {
-/// One step of a cascade in device-independent pixels: enough to leave the title bar of the
-/// window below in sight.
+/// One step of a cascade in device-independent pixels: enough to leave the title bar of the window
+/// below visible.
 constexpr int kCascadeStep = 28;
 
-/// How much the window manager adds to a window: what it adds to those that it shows already.
+/// The size that the window manager adds to a window, taken from a visible timer window; zero if
+/// there is none.
 QSize decorations()
 {
     for (const QWidget *window : QApplication::topLevelWidgets()) {
@@ -32,7 +33,7 @@ WufferWindow::WufferWindow(Wuffer &delegate) :
     _delegate(delegate), _return(new QShortcut(Qt::Key_Return, this)),
     _enter(new QShortcut(Qt::Key_Enter, this))
 {
-    // As large as its contents, which grow and shrink with the drawer.
+    // The window always has the size of its contents, which changes with the drawer.
     layout()->setSizeConstraint(QLayout::SetFixedSize);
     setAcceptDrops(true);
     for (QShortcut *shortcut : {_return, _enter}) {
@@ -91,7 +92,7 @@ void WufferWindow::setFrameUsingName(const QString &name)
 
 bool WufferWindow::event(QEvent *event)
 {
-    // A sheet that comes up meanwhile keeps the release to itself.
+    // This window does not receive the release of the mouse button if a sheet opens first.
     if (event->type() == QEvent::WindowBlocked)
         _pressedAt.reset();
     return QMainWindow::event(event);
@@ -102,13 +103,14 @@ bool WufferWindow::focusNextPrevChild(bool next)
     const QWidget *left = focusWidget();
     const bool lost = left && !(left->isEnabled() && left->isVisibleTo(this));
     const bool moved = QMainWindow::focusNextPrevChild(next);
-    return moved && lost && focusWidget() == _spared ? QMainWindow::focusNextPrevChild(next)
-                                                     : moved;
+    return moved && lost && focusWidget() == _skippedForFocus
+               ? QMainWindow::focusNextPrevChild(next)
+               : moved;
 }
 
 void WufferWindow::closeEvent(QCloseEvent *event)
 {
-    // A drag does not survive the window that it comes from, nor the one that it is over.
+    // A drag survives neither the window that it comes from nor the window that it is over.
     if (_drag || _hovering)
         QDrag::cancel();
     Q_EMIT willClose();

@@ -10,13 +10,12 @@ class QDropEvent;
 class QShortcut;
 class Wuffer;
 
-/// The window of one timer, whose delegate the timer is. It only reports what the user does to it
-/// as a window; what stands in it is the timer's.
+/// The window of one timer, which is its delegate. The window only handles what the user does to
+/// the window itself; the timer handles the contents.
 ///
-/// It is moved by dragging it anywhere where nothing else takes the mouse. With the Control key
-/// held, or with the right button, such a drag is that of a link instead: dropped onto the window
-/// of another timer, it makes that one start the timer that was dragged. The drawer is a part of
-/// the window for all of this.
+/// The user moves it by dragging any spot where no control takes the mouse. With the Control key or
+/// the right button, this drags a link instead: dropped onto the window of another timer, it makes
+/// that timer start the dragged one. The drawer is a part of the window for all of this.
 class WufferWindow final : public QMainWindow
 {
     Q_OBJECT
@@ -29,36 +28,34 @@ public:
     /// Whether Return and Enter press the default button of the window.
     void setReturnShortcutEnabled(bool enabled);
 
-    /// Names the control into which the focus never falls when the one that has it is disabled or
-    /// hidden. The control must be in the window.
-    void spareFromFocus(const QWidget &control) { _spared = &control; }
+    /// Names a control in this window that does not receive the focus when the focused control is
+    /// disabled or hidden.
+    void skipWhenFocusIsLost(const QWidget &control) { _skippedForFocus = &control; }
 
-    /// Gives the window its final size before it is shown. One that is resized between the making
-    /// of its native window and its first appearance loses the place of its frame.
+    /// Gives the window its final size before it is shown. Resizing it between the creation of the
+    /// native window and its first appearance would lose the place of the frame.
     void setVisible(bool visible) override;
 
     /// Moves the upper left corner of the frame to this point of the screen and returns the point
     /// for the next window: one step to the right and down.
     QPoint cascadeTopLeftFromPoint(QPoint topLeft);
 
-    /// Where the next window of a cascade goes on a screen with this much room: one step on from
-    /// the point, or back at the room's upper left corner if a window of this size would leave
-    /// the room there.
+    /// The place of the next window of a cascade on a screen with this much room: one step from the
+    /// point, or the upper left corner of the room if a window of this size would not fit there.
     [[nodiscard]] static QPoint nextCascadePoint(QPoint topLeft, QSize window, const QRect &room);
 
-    /// Keeps the place of the frame in the settings under this name.
+    /// Stores the place of the frame in the settings under this name.
     void saveFrameUsingName(const QString &name) const;
 
-    /// Moves the frame to the place kept under this name, or to the nearest that can be reached
-    /// if its screen is gone. Nothing happens when there is none.
+    /// Moves the frame to the place stored under this name, or to the nearest reachable place if
+    /// its screen is gone. Does nothing if no place is stored.
     void setFrameUsingName(const QString &name);
 
-    /// Shows every window of this one's chain in the highlight, or in the colour that is normal
-    /// for this window.
+    /// Highlights all windows of this timer's chain, or restores their normal colour.
     void highlightChain(bool on) const;
 
 Q_SIGNALS:
-    /// The window is about to close. It cannot be refused.
+    /// The window is about to close; nothing can prevent it.
     void willClose();
     /// Return or Enter was pressed.
     void returnPressed();
@@ -81,7 +78,7 @@ private:
     void mouseDragged(const QMouseEvent &event);
     void rightMouseDragged();
     void chainDrag();
-    /// The window that is dragged over this one if it may be dropped here; else null.
+    /// The window whose link is dragged over this one, if it may be dropped here; otherwise null.
     [[nodiscard]] WufferWindow *windowFromSource(const QDropEvent &drag) const;
     void draggingEnteredOrUpdated(QDropEvent &drag);
     void draggingExited();
@@ -90,13 +87,14 @@ private:
     void setBackgroundColor(const QColor &color);
 
     Wuffer &_delegate;
-    /// Where the mouse was pressed, on the screen, until it is dragged or let go.
+    /// Where the mouse button was pressed, in coordinates of the screen, until it is released or a
+    /// drag begins.
     std::optional<QPoint> _pressedAt;
-    /// The drag of a link from this window, while there is one.
+    /// The link drag that comes from this window, if any.
     QPointer<QDrag> _drag;
-    /// The window that is dragged over this one.
+    /// The window whose link is dragged over this one, if any.
     QPointer<WufferWindow> _hovering;
-    const QWidget *_spared = nullptr;
+    const QWidget *_skippedForFocus = nullptr;
     QShortcut *_return;
     QShortcut *_enter;
 };

@@ -12,11 +12,11 @@
 
 namespace
 {
-/// What a dragged link is offered as. It carries nothing: which timer is dragged is told by where
-/// the drag comes from.
+/// The format of a dragged link. Its data is empty: the source of the drag is the window of the
+/// dragged timer.
 const QString kDragType = QStringLiteral("WufferWindow");
 
-/// Width and height of the picture under the pointer, in device-independent pixels.
+/// Width and height of the dragged picture, in device-independent pixels.
 constexpr int kPictureSize = 32;
 } // namespace
 
@@ -71,8 +71,8 @@ void WufferWindow::chainDrag()
     _drag->setHotSpot({0, kPictureSize});
     _drag->exec(Qt::LinkAction);
 
-    // Only what is static from here on: the window may have been closed meanwhile. A chain that
-    // lost a member during the drag has windows that no longer hang together.
+    // Use static members only from here on: the window may have been destroyed during the drag.
+    // Reset all windows, because the chain may have lost a highlighted member.
     for (QWidget *widget : QApplication::topLevelWidgets()) {
         if (auto *window = qobject_cast<WufferWindow *>(widget))
             window->setBackgroundColor(normalColor());
@@ -81,7 +81,7 @@ void WufferWindow::chainDrag()
 
 WufferWindow *WufferWindow::windowFromSource(const QDropEvent &drag) const
 {
-    // What another program drags has no source, whatever it claims to be.
+    // A drag from another program has no source, whatever format it claims.
     auto *window = qobject_cast<WufferWindow *>(drag.source());
     const bool fits = window != this && drag.mimeData()->hasFormat(kDragType);
     return fits ? window : nullptr;
@@ -166,7 +166,7 @@ void WufferWindow::setBackgroundColor(const QColor &color)
     QPalette palette;
     if (color != normalColor()) {
         palette.setColor(QPalette::Window, color);
-        // What is written on it must stay readable in a dark theme.
+        // Texts on the highlight must stay readable in a dark theme.
         palette.setColor(QPalette::WindowText, Qt::black);
     }
     setPalette(palette);
