@@ -12,11 +12,11 @@ SoundHistory SoundCombos::storedHistory()
 
 QString SoundCombos::toolTip(const QString &path)
 {
-    // What looks like markup in a name is none.
+    // Escape the path: it may look like markup.
     return path.isEmpty() ? QString() : Qt::convertFromPlainText(path);
 }
 
-/// Appends the entry: what stands for it is stored, what is shown may be translated.
+/// Appends the entry: the stored text as its data, the translated text to show.
 static void append(WebbyComboBox &combo, SoundEntry entry)
 {
     combo.addDataObject(SoundEntries::row(entry).stored.toString(), SoundEntries::shownText(entry));
@@ -30,7 +30,7 @@ void SoundCombos::fill(WebbyComboBox &combo, SoundEntry builtInSound,
     const SoundHistory history = storedHistory();
     for (const QString &path : history.paths()) {
         combo.addDataObject(path, SoundHistory::displayTitle(path));
-        // Files of the same name are told apart by where they lie.
+        // The tool tip distinguishes files of the same name in different folders.
         combo.setItemData(combo.count() - 1, toolTip(path), Qt::ToolTipRole);
     }
     for (const SoundEntry command : commands)

@@ -8,23 +8,23 @@
 
 class WebbyComboBox;
 
-/// What the combo boxes in which sounds are chosen have in common.
+/// Operations for all combo boxes in which the user chooses sounds.
 namespace SoundCombos
 {
 /// The sounds that the user has added, from the settings.
 [[nodiscard]] SoundHistory storedHistory();
 
-/// What the tool tip of a sound shows for its path: just that, or nothing for none.
+/// The tool tip for the path of a sound: exactly the path, or nothing for an empty one.
 [[nodiscard]] QString toolTip(const QString &path);
 
-/// Empties the box and lists the built-in sound, the user's own, newest first, and the commands.
-/// Nothing is selected afterwards.
+/// Replaces the entries of the box by the built-in sound, the sounds of the user, the newest first,
+/// and the commands. Leaves nothing selected.
 void fill(WebbyComboBox &combo, SoundEntry builtInSound,
           std::initializer_list<SoundEntry> commands);
 
-/// Selects a built-in sound. Nothing happens where it is not listed.
+/// Selects a built-in sound. Does nothing if it is not listed.
 void select(WebbyComboBox &combo, SoundEntry builtInSound);
 
-/// The built-in sound or the command that is selected; nothing for a file and for no selection.
+/// The selected built-in sound or command; nothing if a file or no entry is selected.
 [[nodiscard]] std::optional<SoundEntry> selectedEntry(const WebbyComboBox &combo);
 } // namespace SoundCombos

@@ -50,7 +50,7 @@ void SoundPreview::playOrStop()
 
 void SoundPreview::play()
 {
-    constexpr double secondsBetweenLooks = 0.1;
+    constexpr double secondsBetweenChecks = 0.1;
     Q_EMIT starting();
     _choice = choice();
     std::unique_ptr<Sound> sound = soundForChoice(_choice);
@@ -61,10 +61,10 @@ void SoundPreview::play()
     _sound = std::move(sound);
     _sound->play();
     _button.setPlaying(true);
-    _endTimer.startRepeating(secondsBetweenLooks);
+    _endTimer.startRepeating(secondsBetweenChecks);
 }
 
-void SoundPreview::noticeEnd()
+void SoundPreview::stopAtEnd()
 {
     if (!_sound->isPlaying())
         stop();

@@ -8,8 +8,8 @@
 class DataComboBox;
 class PlayButton;
 
-/// Lets the user hear the sound selected in a combo box: a press of the button plays it, another
-/// press or another selection stops it. Nothing is opened and nothing ticks unless a sound plays.
+/// Lets the user hear the sound selected in a combo box: the button plays it, and a second press or
+/// another selection stops it. Opens no sound and runs no timer unless a sound plays.
 class SoundPreview final : public QObject
 {
     Q_OBJECT
@@ -21,11 +21,11 @@ public:
 
     void stop();
 
-    /// Whether the sound may be played now; stops it when not.
+    /// Enables or disables the button; disabling stops the sound.
     void setEnabled(bool enabled);
 
-    /// Stops the sound if it is no longer the one selected, for a box that has been filled anew
-    /// without a word.
+    /// Stops the sound if it is not selected any more. To be called when the combo box has been
+    /// filled while its signals were blocked.
     void followChoice();
 
 Q_SIGNALS:
@@ -36,13 +36,13 @@ private:
     [[nodiscard]] QString choice() const;
     void playOrStop();
     void play();
-    void noticeEnd();
+    void stopAtEnd();
 
     PlayButton &_button;
     const DataComboBox &_combo;
     std::unique_ptr<Sound> _sound;
-    /// What was selected when it began.
+    /// The selection when the sound began.
     QString _choice;
-    /// Looks for the end of the sound while it plays; nobody tells of it.
-    ClockTimer _endTimer{[this] { noticeEnd(); }};
+    /// Checks whether the playing sound has ended, because a sound has no signal for its end.
+    ClockTimer _endTimer{[this] { stopAtEnd(); }};
 };

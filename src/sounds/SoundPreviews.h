@@ -2,14 +2,13 @@
 
 #include "sounds/SoundPreview.h"
 
-/// The previews of the alarm and of the countdown sound in one window, of which one plays at a
-/// time.
+/// The previews of the alarm sound and the countdown sound in one window. Only one plays at a time.
 class SoundPreviews final : public QObject
 {
     Q_OBJECT
 
 public:
-    /// A button, and the box with the sound that it plays. Both must outlive the previews.
+    /// A button, and the combo box whose sound it plays. Both must outlive the previews.
     struct Place
     {
         PlayButton &button;
@@ -19,10 +18,10 @@ public:
 
     void stop();
 
-    /// Which of the sounds may be played now; stops the other.
+    /// Enables or disables each button; disabling stops its sound.
     void setEnabled(bool alarm, bool countdown);
 
-    /// Stops a sound that is no longer selected.
+    /// Stops a sound that is not selected any more.
     void followChoices();
 
 private:
