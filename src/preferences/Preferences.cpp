@@ -60,7 +60,7 @@ void Preferences::connectControls()
     for (const QCheckBox *box : {_ui->_energySaverCheckbox, _ui->_autoStartPresetsCheckbox,
                                  _ui->_disableGrowlCheckbox, _ui->_disableMenuBarCheckbox})
         connect(box, &QCheckBox::clicked, this, &Preferences::savePreferences);
-    // The box of the countdown sound enables its combo, too.
+    // Both boxes also enable or disable the controls of sounds.
     for (const QCheckBox *box : {_ui->_turnOffSoundCheckbox, _ui->_suppressCountdownCheckbox})
         connect(box, &QCheckBox::clicked, this, &Preferences::turnOffSound);
     new PickFromList(*_ui->_launchCombobox);

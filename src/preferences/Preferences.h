@@ -23,19 +23,19 @@ class Preferences;
 /// The controller of the preferences: the options that all timers share, and the sounds they may
 /// choose from.
 ///
-/// The window shows what the settings hold. Every change goes to the settings at once and is
-/// announced with the notice Notices::kPrefsChanged, so there is nothing to apply. The
-/// controller is made when the program starts, its window is shown when somebody asks for it.
+/// The window shows the contents of the settings. Every change is written to the settings at once
+/// and announced with Notices::kPrefsChanged, so there is no button to apply it. The controller is
+/// created when the program starts; its window is shown when the user opens it.
 class Preferences final : public QObject
 {
     Q_OBJECT
-    /// The window that is brought forward.
+    /// The window to bring to the front.
     Q_PROPERTY(QWidget *_window MEMBER _window)
 
 public:
-    /// Fills the window, which is not shown, and loads the preferences. The menu item is the one
-    /// that mutes and unmutes; its title follows. Both must outlive the controller. The function
-    /// says whether the program is about to end.
+    /// Fills the window without showing it, and loads the preferences. Updates the title of the
+    /// menu item that mutes and unmutes. Window and item must outlive the controller. The function
+    /// returns whether the program is about to end.
     Preferences(QMainWindow &window, QAction &muteMenu, std::function<bool()> programEnds);
     ~Preferences() override;
 
@@ -43,41 +43,40 @@ public:
 
     // The options: Preferences.cpp.
 
-    /// Shows what the settings hold, and writes it back with what was missing.
+    /// Shows the settings, and writes them back with defaults for missing ones.
     void loadPreferences();
     /// Writes every option to the settings and announces the change.
     void savePreferences();
     void sendChangedNotification();
-    /// Adapts the controls to the mute box, and saves.
+    /// Enables the controls that depend on the mute box and the countdown box, and saves.
     void turnOffSound();
-    /// Switches the mute box over.
+    /// Toggles the mute box and saves.
     void toggleMute();
-    /// Brings the window to the front, its sounds in view.
+    /// Brings the window to the front with the page of the sounds.
     void showSoundTab();
 
     // The sound library: PreferencesSounds.cpp.
 
     /// Whether the file at the path can be played.
     [[nodiscard]] bool soundFileIsValid(const QString &path) const;
-    /// Lets the user choose a file; nothing when it was cancelled.
+    /// Lets the user choose a file; nothing if the user cancels.
     [[nodiscard]] std::optional<QUrl> getSoundFileURL();
-    /// Lets the user choose a file and adds it to the library, or beeps if it cannot be played.
-    /// The path of the file in both cases; nothing when it was cancelled.
+    /// Lets the user choose a file and adds it to the library; beeps if it cannot be played.
+    /// Returns the path in both cases, and nothing if the user cancels.
     std::optional<QString> addSoundPath();
-    /// Adds the files to the library and takes the first that can be played into use, as if each
-    /// had been chosen at this place of the page of the sounds. Beeps if one cannot be played.
+    /// Adds the files to the library and selects the first playable one for the sound at this place
+    /// of the page of the sounds. Beeps if a file cannot be played.
     void takeDroppedSounds(QPoint place, const QStringList &paths);
-    /// Takes the path out of the library in the settings; the lists that are shown stay.
+    /// Removes the path from the library in the settings; the combos still list it.
     void removeSound(const QString &path);
-    /// Forgets all added sounds and goes back to the built-in ones.
+    /// Removes all added sounds and returns to the built-in ones.
     void clearSoundHistory();
-    /// Names the sounds in use.
+    /// Shows the names of the sounds in use.
     void refreshSoundTitles();
-    /// Fills both sound combos and selects the sounds in use. A sound in use that cannot be played
-    /// any more is taken out of the library.
+    /// Fills both sound combos and selects the sounds in use. Removes a sound in use that cannot be
+    /// played any more from the library.
     void populateComboBoxes();
-    /// Carries out what was selected in one of the sound combos. Null and any other box are
-    /// ignored.
+    /// Applies the new selection in a sound combo. Ignores null and other combos.
     void comboBoxSelectionDidChange(WebbyComboBox *combo);
 
 private:
@@ -90,18 +89,18 @@ private:
 
     [[nodiscard]] Kind alarm() const;
     [[nodiscard]] Kind countdown() const;
-    /// The sound to whose row the place belongs; the alarm away from both.
+    /// The sound whose row contains the place; the alarm sound outside both rows.
     [[nodiscard]] Kind kindAt(QPoint place) const;
-    /// Whether sounds are taken there: where they can be chosen, too.
+    /// Whether files may be dropped at the place: only if the combo of its sound is enabled.
     [[nodiscard]] bool takesAt(QPoint place) const;
-    /// Adds the file to the library in the settings if it can be played; whether it can.
+    /// Adds the file to the library in the settings if it can be played; returns whether it can.
     [[nodiscard]] bool addSound(const QString &path) const;
-    /// Says which file of the kind cannot be played; nothing for no path.
+    /// Shows that this file cannot be played; hides the message for an empty path.
     static void showMissing(const Kind &kind, const QString &path);
     void selectStoredSound(const Kind &kind);
     void selectAndReport(WebbyComboBox &combo, const QString &dataObject);
     void selectAnotherSound(const Kind &kind);
-    /// Carries out what one of the entries stands for that are not files.
+    /// Applies an entry that is not a file.
     void carryOut(SoundEntry entry, const Kind &kind);
     /// Makes the file the sound in use, if it is in the library and can be played.
     void storeFile(const Kind &kind, const QString &path);

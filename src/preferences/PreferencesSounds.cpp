@@ -23,8 +23,9 @@ QString storedPath(const SettingsKey<QString> &key)
     return UserDefaults::standardUserDefaults().value(key);
 }
 
-/// True when the file cannot be judged, because what opens sounds is missing. It may be a good one.
-bool nothingIsKnownOf(const QString &path)
+/// Whether the file cannot be checked, because no module to open sounds is available. The file may
+/// still be a good one.
+bool cannotBeChecked(const QString &path)
 {
     return !path.isEmpty() && !Service<SoundSystem>::current().canOpenFiles();
 }
@@ -108,7 +109,8 @@ void Preferences::takeDroppedSounds(QPoint place, const QStringList &paths)
 {
     const Kind kind = kindAt(place);
     QStringList playable;
-    // The last first: the newest stands in front, and so they are listed as they were dropped.
+    // Add the last file first: each new one goes to the front, so the list keeps the order of the
+    // drop.
     for (qsizetype index = paths.size() - 1; index >= 0; --index) {
         if (addSound(paths.at(index)))
             playable.prepend(paths.at(index));
@@ -172,15 +174,15 @@ void Preferences::populateComboBoxes()
 void Preferences::selectStoredSound(const Kind &kind)
 {
     const QString path = storedPath(kind.key);
-    if (soundFileIsValid(path) || nothingIsKnownOf(path)) {
+    if (soundFileIsValid(path) || cannotBeChecked(path)) {
         showMissing(kind, {});
         kind.combo.selectItemWithDataObjectValue(path);
         return;
     }
     showMissing(kind, path);
     if (!path.isEmpty()) {
-        // It stays in the list until that is filled again, and remains the choice in the settings:
-        // the file may come back.
+        // The combo lists the file until it is filled again, and the settings keep it as the
+        // choice, because the file may come back.
         removeSound(path);
         showSoundTab();
         Service<Desktop>::current().beep();
@@ -218,7 +220,7 @@ void Preferences::carryOut(SoundEntry entry, const Kind &kind)
     case SoundEntry::ClearCustom:
         return clearSoundHistory();
     case SoundEntry::Manage:
-        // Only the timers offer it.
+        // Only the combos of timers have this entry.
         return;
     }
 }
@@ -235,7 +237,7 @@ void Preferences::selectAnotherSound(const Kind &kind)
         populateComboBoxes();
         selectAndReport(kind.combo, *path);
     } else if (!_programEnds()) {
-        // The end of the program closes the panel, too, and is no choice of a sound.
+        // When the program ends, the panel closes too, but the user has not chosen a sound.
         selectAndReport(kind.combo, SoundEntries::row(kind.builtInSound).stored.toString());
     }
 }

@@ -28,7 +28,8 @@ bool SoundDrop::eventFilter(QObject *watched, QEvent *event)
 {
     switch (event->type()) {
     case QEvent::DragEnter:
-        // Wherever it comes in: without that, the rows that it comes to would not be told of it.
+        // Accept at every place: the page would otherwise receive no events when the drag moves on
+        // to a row that takes files.
         accept(static_cast<QDropEvent &>(*event), true);
         return true;
     case QEvent::DragMove:
@@ -56,7 +57,7 @@ void SoundDrop::drop(QDropEvent &drag)
 
 void SoundDrop::accept(QDropEvent &drag, bool taken)
 {
-    // Never as a move, after which the source would delete its file.
+    // Never accept a move, after which the source would delete its file.
     const bool fits = taken && drag.possibleActions().testFlag(Qt::CopyAction) &&
                       !localFiles(*drag.mimeData()).isEmpty();
     if (fits)

@@ -10,19 +10,19 @@ class QDropEvent;
 class QMimeData;
 class QWidget;
 
-/// Lets files be dropped onto a page: those on this computer, wherever on the page the files are
-/// taken. It only tells which were dropped where. Belongs to the page.
+/// Lets the user drop files of this computer onto a page, at the places where the page takes them.
+/// Only reports which files were dropped where. The page owns this object.
 class SoundDrop final : public QObject
 {
     Q_OBJECT
 
 public:
-    /// The function answers whether files are taken at this place of the page.
+    /// The function returns whether files may be dropped at this place of the page.
     SoundDrop(QWidget &page, std::function<bool(QPoint)> takesAt);
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 
-    /// The paths of the files of a drag that are on this computer, in its order.
+    /// The paths of those files of a drag that are on this computer, in its order.
     [[nodiscard]] static QStringList localFiles(const QMimeData &data);
 
 Q_SIGNALS:
@@ -31,7 +31,8 @@ Q_SIGNALS:
 private:
     void hover(QDropEvent &drag) const;
     void drop(QDropEvent &drag);
-    /// Accepts the drag if it fits and is taken there, or else refuses it.
+    /// Accepts the drag as a copy if it is taken here and has files of this computer; otherwise
+    /// ignores it.
     static void accept(QDropEvent &drag, bool taken);
 
     std::function<bool(QPoint)> _takesAt;
