@@ -9,7 +9,7 @@
 
 namespace
 {
-/// Stands for the interval of a timer that fires once and therefore alone.
+/// The interval of the group of a one-shot timer, which has no other members.
 constexpr double kOnce = 0.0;
 } // namespace
 
@@ -59,7 +59,7 @@ void Clock::fireDueTimers()
 
     ++_firing;
     for (Group *group : dueGroups) {
-        // An event loop inside an action has given the others their turn.
+        // A nested event loop in an action may have fired this group already.
         if (group->due() > moment)
             continue;
         const int ticks = group->ticksToSkip() + 1;
@@ -76,7 +76,7 @@ double Clock::tickAfter(const Group &group, double moment)
 {
     if (group.interval == kOnce)
         return std::numeric_limits<double>::infinity();
-    // A tick that was missed is not made up for: the next one is the first still to come.
+    // Missed ticks are not made up for: the next tick is the first one in the future.
     const double passed = std::floor((moment - group.tick) / group.interval);
     const double ticks = std::max<double>(passed, group.ticksToSkip()) + 1;
     return group.tick + ticks * group.interval;
@@ -87,7 +87,7 @@ void Clock::countTicksSlept(Group &group) const
     const double moment = now();
     if (group.interval == kOnce || group.tick > moment)
         return;
-    // Only those that nobody was to be woken for; a tick that is late has yet to come.
+    // Counts only ticks that all members skip. A tick that is due but late stays due.
     const double passed = std::floor((moment - group.tick) / group.interval) + 1;
     const int toSkip = group.ticksToSkip();
     const int ticks = passed < toSkip ? static_cast<int>(passed) : toSkip;
@@ -97,7 +97,7 @@ void Clock::countTicksSlept(Group &group) const
 
 void Clock::fire(Group &group)
 {
-    // A timer that joins while the others fire has its first turn at the next tick.
+    // A timer that joins during this loop fires for the first time at the next tick.
     const std::size_t count = group.members.size();
     for (std::size_t i = 0; i < count; ++i) {
         ClockTimer *timer = group.members[i];

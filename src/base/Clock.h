@@ -7,11 +7,11 @@
 
 class ClockTimer;
 
-/// Where time comes from, and what wakes the timers that wait for it.
+/// Tells the time and fires the timers.
 ///
-/// All timers of the program share the one clock that is installed as Service<Clock>. Repeating
-/// timers of the same interval fire together, so that any number of them wakes the process no
-/// more often than one does; when none is active nothing wakes it at all. Main thread.
+/// All timers of the program share the clock that is installed as Service<Clock>. Repeating timers
+/// of the same interval fire together, so that many of them wake the process no more often than
+/// one. Without active timers the clock never wakes it. Main thread.
 class Clock
 {
 public:
@@ -19,44 +19,44 @@ public:
     virtual ~Clock() = default;
     Q_DISABLE_COPY_MOVE(Clock)
 
-    /// Seconds since the beginning of 1970, UTC, as of when the clock was made; from then on it
-    /// counts every second, suspended ones included, and nobody can set it. A multiple of
-    /// 2^-20 s, so that adding and subtracting whole seconds loses nothing.
+    /// Seconds since the beginning of 1970, UTC. The system time sets the start when the clock is
+    /// made; after that it counts every second, also during suspend, and changes of the system
+    /// time do not affect it. A multiple of 2^-20 s, so that adding whole seconds is exact.
     [[nodiscard]] virtual double now() const = 0;
 
-    /// What the calendar and the clock on the wall say, in local time. May jump.
+    /// The date and time of the system in local time. Jumps when the system time is changed.
     [[nodiscard]] virtual QDateTime calendarNow() const = 0;
 
 protected:
-    /// Fires every timer that is due now in the order in which they were due, each at most once
+    /// Fires every timer that is due, in the order in which they became due, each at most once
     /// however late it is.
     void fireDueTimers();
 
-    /// The moment at which the next timer is due, on the scale of now(); infinity for none.
+    /// The moment, on the scale of now(), at which the next timer is due; infinity without one.
     [[nodiscard]] double nextDue() const;
 
     /// Called whenever nextDue() may have changed.
     virtual void nextDueChanged() = 0;
 
-    /// Rounds down to the steps that now() promises. Not-a-number becomes 0.
+    /// Rounds down to a multiple of 2^-20 s, as now() returns. NaN becomes 0.
     [[nodiscard]] static double inSteps(double seconds);
 
 private:
     friend class ClockTimer;
 
-    /// Timers that fire together. Members are only blanked, and groups kept, while firing, so
-    /// that whatever a timer does to the others leaves the walk over them intact.
+    /// Timers that fire together. While timers fire, a member that is removed becomes null and no
+    /// group is erased, so that an action can start and stop timers during the iteration.
     struct Group
     {
-        /// The next tick, which all members may be about to skip.
+        /// The next tick, even if all members are to skip it.
         double tick;
         double interval;
         std::vector<ClockTimer *> members;
 
-        /// How many ticks pass until the first at which a member is to fire.
+        /// How many ticks pass before the first one at which a member is to fire.
         [[nodiscard]] int ticksToSkip() const;
         [[nodiscard]] double due() const { return tick + ticksToSkip() * interval; }
-        /// Counts so many ticks for every member.
+        /// Adds to the ticks that each member has counted, and takes from those it is to skip.
         void count(int ticks);
     };
 

@@ -4,10 +4,11 @@
 
 #include <functional>
 
-/// A repeating or one-shot timer on the clock of the program; a member of whoever waits for it.
+/// A repeating or one-shot timer on the clock of the program; usually a member of the object that
+/// its action works for.
 ///
-/// It is idle until started and stops for good when it is destroyed. Its action runs on the main
-/// thread and may start, stop or restart any timer, this one included, but not destroy this one.
+/// It is idle until started, and its destructor stops it. Its action runs on the main thread and
+/// may start, stop or restart any timer, this one included, but not destroy this one.
 class ClockTimer final
 {
 public:
@@ -15,23 +16,23 @@ public:
     ~ClockTimer() { invalidate(); }
     Q_DISABLE_COPY_MOVE(ClockTimer)
 
-    /// Fires every so many seconds from now on, together with all repeating timers of the same
-    /// interval: the first time after one interval, or sooner if the others are due sooner. An
-    /// interval that is not greater than 0 is not accepted: the timer stays idle.
+    /// Fires at this interval in seconds, together with all repeating timers of the same interval:
+    /// the first time after one interval, or sooner if the others are due sooner. If the interval
+    /// is not greater than 0 the timer stays idle.
     void startRepeating(double interval);
 
-    /// Fires once, so many seconds from now; at the next opportunity if that is not positive.
+    /// Fires once after this many seconds; as soon as possible if the delay is not positive.
     void startOnce(double delay);
 
-    /// Skips so many of the next ticks of its interval, in place of those that it was to skip
-    /// before; with 0 it fires at the next one. The process sleeps through ticks that all timers
-    /// of the interval skip. Nothing happens to a timer that is not repeating.
+    /// Skips this many of the next ticks of its interval; the number replaces that of an earlier
+    /// call. With 0 the timer fires at the next tick. The process sleeps through ticks that all
+    /// timers of the interval skip. Has no effect on a timer that is not repeating.
     void skipTicks(int ticks);
 
-    /// How many ticks the last firing stands for: its own and those that were skipped before it.
+    /// How many ticks the last firing stands for: its own and the skipped ones before it.
     [[nodiscard]] int ticks() const { return _ticksOfFiring; }
 
-    /// Makes the timer idle. Harmless when it is.
+    /// Makes the timer idle. Has no effect if it is idle already.
     void invalidate();
 
     /// True while the timer will fire.
@@ -42,7 +43,7 @@ private:
 
     std::function<void()> _action;
     bool _active = false;
-    /// How many ticks are yet to pass before it fires; below 0 while it is about to.
+    /// How many ticks are to pass before it fires; below 0 while it is about to fire.
     int _toSkip = 0;
     /// Ticks since it last fired.
     int _ticks = 0;

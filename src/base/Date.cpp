@@ -5,8 +5,8 @@
 
 namespace
 {
-/// The beginning of the year 4001 on the scale of the clock: far beyond every run, and still a
-/// finite number that can be reckoned with.
+/// The beginning of the year 4001 on the scale of the clock: later than the end of any run, but
+/// finite, so that calculations with it are too.
 constexpr double kDistantFuture = 64092211200.0;
 } // namespace
 

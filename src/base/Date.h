@@ -4,18 +4,18 @@
 
 /// A moment, as seconds on the scale of the program's clock.
 ///
-/// A run is measured by the distance between two dates and never by counting ticks, so a tick
-/// that comes late makes a display stale but no timer wrong.
+/// A run is measured by the difference of two dates, never by counting ticks. So a late tick delays
+/// a display, but does not make a timer wrong.
 class Date final
 {
 public:
-    /// The present moment. Ask once for what has to agree to the last digit.
+    /// The present moment. Two calls differ: call it once for values that must match exactly.
     [[nodiscard]] static Date now();
 
-    /// Later than every other date: the end of a run that does not end.
+    /// A date later than the end of any run: the end date of a run without an end.
     [[nodiscard]] static Date distantFuture();
 
-    /// The moment so many seconds later, or earlier when negative.
+    /// The moment this many seconds later, or earlier if negative.
     [[nodiscard]] Date addingTimeInterval(double seconds) const { return Date(_seconds + seconds); }
 
     /// Seconds from the other date to this one; negative when this one is earlier.

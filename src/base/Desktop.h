@@ -5,8 +5,7 @@
 class QUrl;
 class QWidget;
 
-/// Small favours that the program asks of the desktop. None of them reports anything back.
-/// Main thread.
+/// Small requests to the desktop. None of them reports a result. Main thread.
 class Desktop
 {
 public:
@@ -14,13 +13,13 @@ public:
     virtual ~Desktop() = default;
     Q_DISABLE_COPY_MOVE(Desktop)
 
-    /// Marks the window in the task bar until the user turns to it. Nothing happens when it has
-    /// the user's attention already.
+    /// Marks the window in the task bar until the user activates it. Has no effect on the active
+    /// window.
     virtual void requestUserAttention(QWidget &window) = 0;
 
-    /// The short sound by which the desktop says no.
+    /// Plays the desktop's short error sound.
     virtual void beep() = 0;
 
-    /// Shows the page or file in the program that the user prefers for it.
+    /// Opens the page or file in the user's preferred program for it.
     virtual void openUrl(const QUrl &url) = 0;
 };

@@ -6,46 +6,47 @@
 
 class QObject;
 
-/// What a desktop notification says, in plain text, and what can be done with it.
+/// The texts of a desktop notification, in plain text, and what its buttons do.
 struct DesktopNotification
 {
-    /// Why it comes up.
+    /// Why the notification is shown.
     enum class Occasion {
-        /// Something has happened.
+        /// An event has occurred.
         News,
-        /// What stands offers something else from now on, and says the same.
+        /// The buttons of the notification that is shown change, but not its texts.
         Change,
-        /// It went by itself and is needed still: it comes back, without asking to be noticed.
+        /// The notification has expired but is still needed. It comes back without alerting the
+        /// user.
         Reminder,
     };
-    /// How one that was not withdrawn has gone.
+    /// How a notification that was not withdrawn has ended.
     enum class End {
-        /// The desktop has shown it for as long as it shows such ones.
+        /// The desktop has shown it for its usual time.
         Expired,
-        /// The user has taken it away, or it is not known how it went.
+        /// The user has closed it, or the reason is unknown.
         Dismissed,
     };
 
     QString title;
     QString text;
-    /// What kind of event it tells of, in the program's own words.
+    /// The program's name for this kind of event.
     QString name;
-    /// Whom it tells of, in a line: what is left of it among many others.
+    /// What it is about, in one line. A summary of many notifications shows only this line.
     QString subject = {};
 
-    /// What the buttons do, and a click on the notification itself, which shows. A desktop may
-    /// have no buttons. Without a function there is none. They are called at most until the
-    /// notification is withdrawn or its sender destroyed.
+    /// What the buttons do; a click on the notification itself calls show. An empty function means
+    /// that there is no such button, and a desktop may support no buttons at all. None is called
+    /// after the notification was withdrawn or its sender destroyed.
     std::function<void()> show = {};
     std::function<void()> stop = {};
-    /// Called when it has gone by itself or been dismissed by the user.
+    /// Called when the notification has expired or the user has dismissed it.
     std::function<void(End)> closed = {};
 
     Occasion occasion = Occasion::News;
 };
 
-/// Shows notifications outside the windows of the program. A notification that cannot be shown
-/// is not reported; nothing waits for one. Main thread.
+/// Shows notifications outside the windows of the program. A failure to show one is not reported,
+/// and no call waits for the desktop. Main thread.
 class DesktopNotifications
 {
 public:
@@ -53,11 +54,11 @@ public:
     virtual ~DesktopNotifications() = default;
     Q_DISABLE_COPY_MOVE(DesktopNotifications)
 
-    /// Shows the notification in place of the last one from the same sender, if that is still
-    /// there. The sender is only an identity.
+    /// Shows the notification. It replaces the last one from the same sender, if that is still
+    /// shown. The sender is only an identity.
     virtual void notify(const QObject &sender, const DesktopNotification &notification) = 0;
 
-    /// Takes away what the sender has shown last, or is about to show; harmless when there is
-    /// nothing. A sender that is destroyed leaves nothing behind either.
+    /// Removes the sender's last notification, even if it is not shown yet; has no effect if there
+    /// is none. Destroying the sender removes it, too.
     virtual void withdraw(const QObject &sender) = 0;
 };

@@ -5,8 +5,8 @@
 #include <cmath>
 #include <limits>
 
-/// The number cut toward zero to a signed 32-bit integer. What is too large becomes the largest,
-/// what is too small the smallest; anything that is not a number becomes 0.
+/// The number truncated toward zero and limited to the range of a signed 32-bit integer. NaN
+/// becomes 0.
 [[nodiscard]] inline qint32 cutToInteger(double number)
 {
     using Limits = std::numeric_limits<qint32>;
@@ -19,7 +19,7 @@
     return static_cast<qint32>(number);
 }
 
-/// The number as a signed 32-bit integer that has wrapped round.
+/// The number wrapped around to a signed 32-bit integer.
 [[nodiscard]] constexpr qint32 wrappedToInteger(qint64 number)
 {
     return static_cast<qint32>(static_cast<quint32>(static_cast<quint64>(number)));

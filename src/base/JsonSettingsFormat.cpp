@@ -29,12 +29,12 @@ bool read(QIODevice &device, QSettings::SettingsMap &map)
         map = object->toVariantMap();
         return true;
     }
-    // Done here, because the file is read again whenever somebody else has changed it.
+    // Done at every read, because QSettings rereads the file when another program has changed it.
     const auto *file = qobject_cast<const QFileDevice *>(&device);
     return file != nullptr && SettingsPath::setAside(file->fileName());
 }
 
-/// Whether nothing is lost when the file of this name is replaced.
+/// Whether the file can be replaced without losing data. Sets aside a file that is no settings.
 bool mayReplace(const QString &path)
 {
     return SettingsPath::isFree(path) || objectFrom(SettingsPath::textAt(path)) ||
@@ -46,7 +46,7 @@ bool write(QIODevice &device, const QSettings::SettingsMap &map)
     auto *file = qobject_cast<QFileDevice *>(&device);
     if (file == nullptr || !mayReplace(file->fileName()))
         return false;
-    // Names of timers and paths of sounds are nobody else's business.
+    // The names of timers and the paths of sounds are private.
     file->setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner);
     const QByteArray text = QJsonDocument(QJsonObject::fromVariantMap(map)).toJson();
     return device.write(text) == text.size();

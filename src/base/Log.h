@@ -2,5 +2,5 @@
 
 #include <QLoggingCategory>
 
-/// What the program writes to the system's log. It writes next to nothing.
+/// The category of the program's few log messages.
 Q_DECLARE_LOGGING_CATEGORY(wufferLog)

@@ -20,7 +20,7 @@ void NotificationCenter::removeObserver(const QObject &observer, const QString &
     std::erase_if(_registrations, [&](const std::shared_ptr<Registration> &each) {
         if (each->observer != &observer || each->name != name)
             return false;
-        // A delivery under way may still come to it.
+        // A delivery in progress may still reach it.
         each->observer.clear();
         return true;
     });
@@ -28,7 +28,7 @@ void NotificationCenter::removeObserver(const QObject &observer, const QString &
 
 void NotificationCenter::postNotificationName(const QString &name, QObject *object)
 {
-    // A list of its own, because a handler may register or drop observers.
+    // A copy, because a handler may register or remove observers.
     std::vector<std::shared_ptr<Registration>> registered;
     std::ranges::copy_if(_registrations, std::back_inserter(registered),
                          [&](const auto &each) { return each->name == name; });

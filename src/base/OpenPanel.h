@@ -15,8 +15,8 @@ public:
     virtual ~OpenPanel() = default;
     Q_DISABLE_COPY_MOVE(OpenPanel)
 
-    /// Lets the user choose any one file, over the window, under this title, and returns when that
-    /// is done: with where the file is, or with nothing if the user would rather not. The rest of
-    /// the program goes on meanwhile.
+    /// Shows a dialog with this title over the window, in which the user chooses one file of any
+    /// kind. Returns the file, or nothing if the user cancels. The rest of the program goes on
+    /// meanwhile.
     [[nodiscard]] virtual std::optional<QUrl> runModal(QWidget &window, const QString &title) = 0;
 };

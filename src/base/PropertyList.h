@@ -8,26 +8,26 @@
 #include <optional>
 #include <type_traits>
 
-/// How values that were stored, perhaps by hand in an editor, read as the type that is expected.
-/// A value of another type reads as missing.
+/// Reads stored values, which a user may have edited by hand, as the expected type. A value of
+/// another type reads as missing.
 namespace PropertyList
 {
-/// The text; nothing when the value is none.
+/// The text; nothing if the value is not a text.
 [[nodiscard]] std::optional<QString> stringFrom(const QVariant &value);
 
-/// The number, true being 1 and false 0; nothing when the value is none.
+/// The number, with true as 1 and false as 0; nothing if the value is neither.
 [[nodiscard]] std::optional<double> numberFrom(const QVariant &value);
 
-/// The number cut toward zero and limited to 32 bits; 0 when the value is none.
+/// The number truncated toward zero and limited to 32 bits; 0 if the value is not a number.
 [[nodiscard]] qint32 integerFrom(const QVariant &value);
 
-/// True when the value is a number other than 0, or a true.
+/// True if the value is true or a number other than 0.
 [[nodiscard]] bool boolFrom(const QVariant &value);
 
-/// The number rounded to single precision and limited to it; 0 when the value is none.
+/// The number rounded to single precision and limited to it; 0 if the value is not a number.
 [[nodiscard]] float floatFrom(const QVariant &value);
 
-/// The dictionary; empty when the value is none.
+/// The dictionary; empty if the value is not a dictionary.
 [[nodiscard]] QVariantMap dictionaryFrom(const QVariant &value);
 
 /// The list without the members that are not texts; empty when the value is none.

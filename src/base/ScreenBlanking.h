@@ -5,8 +5,8 @@
 
 class QObject;
 
-/// Keeps the screen from going blank while somebody shows what is to be read from afar. A desktop
-/// that cannot be asked for that is not reported. Main thread.
+/// Keeps the screen from going blank, for example while a timer fills it. A desktop that does not
+/// support this is not reported. Main thread.
 class ScreenBlanking
 {
 public:
@@ -14,17 +14,19 @@ public:
     virtual ~ScreenBlanking() = default;
     Q_DISABLE_COPY_MOVE(ScreenBlanking)
 
-    /// Keeps the screen from going blank until release() for the same asker, who is only an
-    /// identity and must ask for it. The reason is for the user. Harmless when repeated.
+    /// Keeps the screen from going blank until the asker calls release(), which it must do. The
+    /// asker is only an identity. The desktop may show the reason to the user. A repeated call has
+    /// no effect.
     void inhibit(const QObject &asker, const QString &reason);
 
-    /// Takes that back. The screen may go blank when it was the last; harmless when repeated.
+    /// Ends the asker's request. After the last one the screen may go blank. A repeated call has no
+    /// effect.
     void release(const QObject &asker);
 
 protected:
-    /// Called when the first has asked.
+    /// Called for the first asker.
     virtual void begin(const QString &reason) = 0;
-    /// Called when the last has released it.
+    /// Called when the last asker has released it.
     virtual void end() = 0;
 
 private:

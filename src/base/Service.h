@@ -4,10 +4,10 @@
 
 #include <utility>
 
-/// The one settable default of a service, kept for as long as this object lives.
+/// Installs an implementation of a service for as long as this object lives.
 ///
-/// The program makes its services in main and installs each here; a test installs its own in
-/// their place. Installations nest: the one before comes back when this one goes. Main thread.
+/// The program installs its services in main(); a test installs its own in their place.
+/// Installations nest: the destructor restores the previous one. Main thread.
 template<class Interface> class Service final
 {
 public:
@@ -15,7 +15,7 @@ public:
     ~Service() { _current = _previous; }
     Q_DISABLE_COPY_MOVE(Service)
 
-    /// The service in force. One must have been installed.
+    /// The implementation installed last. There must be one.
     [[nodiscard]] static Interface &current()
     {
         Q_ASSERT(_current);

@@ -13,10 +13,10 @@ namespace
 {
 namespace fs = std::filesystem;
 
-/// A thousand times as much as anybody has, in bytes.
-constexpr qint64 kLargest = 16LL * 1024 * 1024;
-/// A path at which nothing can be.
-const QString kNowhere = QProcess::nullDevice() + QStringLiteral("/settings");
+/// In bytes; a thousand times the size of any usual settings file.
+constexpr qint64 kLargestSize = 16LL * 1024 * 1024;
+/// A path at which no file can exist.
+const QString kUnusablePath = QProcess::nullDevice() + QStringLiteral("/settings");
 
 fs::path native(const QString &path)
 {
@@ -24,7 +24,7 @@ fs::path native(const QString &path)
     return {std::u8string(text.cbegin(), text.cend())};
 }
 
-/// Whether a regular file lies there that may be opened so, or nothing.
+/// Whether the path holds nothing, or a regular file that can be opened with this access.
 bool isUsable(const QString &path, RegularFile::Access access)
 {
     const RegularFile file(path, access);
@@ -44,7 +44,7 @@ QString freeNameBeside(const QString &path)
     return candidate;
 }
 
-/// As QFile does it, a rename that fails becomes a copy, which may wait for ever.
+/// Without QFile, which copies when it cannot rename; reading a pipe or device could then block.
 bool moveAway(const QString &path)
 {
     std::error_code error;
@@ -68,10 +68,10 @@ QString SettingsPath::cleared(const QString &path)
     using Access = RegularFile::Access;
     const QString lock = path + QStringLiteral(".lock");
     if (!isUsable(path, Access::Read) && !setAside(path))
-        return kNowhere;
-    // Whoever may write the settings, but cannot open a lock, waits for it in vain.
+        return kUnusablePath;
+    // If the settings can be written but the lock cannot be opened, QSettings waits for it in vain.
     if (!isUsable(lock, Access::Write) && !moveAway(lock) && isUsable(path, Access::ReadAndWrite))
-        return kNowhere;
+        return kUnusablePath;
     removeUnsignedLock(lock);
     return path;
 }
@@ -90,10 +90,10 @@ bool SettingsPath::isFree(const QString &path)
 
 std::optional<QByteArray> SettingsPath::textOf(QIODevice &file)
 {
-    if (file.size() > kLargest)
+    if (file.size() > kLargestSize)
         return {};
     const QByteArray text = file.readAll();
-    // A read that fails looks like an end.
+    // A failed read looks like the end of the file.
     if (text.size() < file.size())
         return {};
     return text;

@@ -7,32 +7,32 @@
 class QByteArray;
 class QIODevice;
 
-/// What may lie where the settings file should: looks at it without ever waiting for it, and moves
-/// out of the way what is no file of settings. Nothing here overwrites or removes what somebody may
-/// still want.
+/// Checks what lies at the path of the settings file, without ever blocking, and renames whatever
+/// is not a settings file. Nothing here overwrites or removes data that the user may still want.
 namespace SettingsPath
 {
-/// The path to keep the settings at, after a folder, a pipe, a device or a file that may not be
-/// read has been set aside there, and a lock that could never be taken. A lock that a killed
-/// process left without its number is removed. When setting aside fails, a path at which nothing
-/// can be kept, so that the settings last only as long as the program.
+/// Sets aside a folder, a pipe, a device or an unreadable file at the path, and a lock file that
+/// could never be locked; removes a lock that a killed process left empty. Returns the path or, if
+/// that failed, one at which no file can exist, so that the settings last only as long as the
+/// program.
 [[nodiscard]] QString cleared(const QString &path);
 
-/// Renames what lies at the path to "<path>.unreadable", with a number when that exists too;
-/// whether it has. A link stays, and the file it leads to goes, unless that is not ours to rename.
+/// Renames what lies at the path to "<path>.unreadable", with a number if that exists too, and
+/// returns whether it could. Of a link, the file that it leads to is renamed; only if that fails,
+/// the link itself.
 [[nodiscard]] bool setAside(const QString &path);
 
-/// True when nothing lies at the path, not even at the end of a link.
+/// True if nothing lies at the path, or only a link that leads to nothing.
 [[nodiscard]] bool isFree(const QString &path);
 
-/// The whole text of an open file; nothing when it could not be read to its end, or when it is
-/// larger than any settings are.
+/// The whole text of an open file; nothing if it could not be read to its end, or is too large to
+/// be settings.
 [[nodiscard]] std::optional<QByteArray> textOf(QIODevice &file);
 
-/// The whole text of the file at the path, likewise; nothing when it is no file.
+/// The same for the file at the path; nothing if that is not a regular file.
 [[nodiscard]] std::optional<QByteArray> textAt(const QString &path);
 
-/// Makes a folder, and those that it lies in, for nobody but its owner; those that are there
-/// remain as they are.
+/// Makes a folder and its missing parents, open to their owner only. Existing folders stay as they
+/// are.
 void makePrivateFolder(const QString &path);
 } // namespace SettingsPath

@@ -6,8 +6,8 @@
 
 /// One sound that can be played, independent of every other sound.
 ///
-/// Made by a SoundSystem and owned by whoever asked for it; destroying it silences it. None of
-/// the operations waits for the sound server, for a file or for another thread. Main thread.
+/// A SoundSystem makes it for its caller, who owns it; destroying it silences it. None of the
+/// operations waits for the sound server, for a file or for another thread. Main thread.
 class Sound
 {
 public:
@@ -21,30 +21,29 @@ public:
     /// Length of one pass in seconds; 0 when the file cannot be played.
     [[nodiscard]] virtual double duration() const = 0;
 
-    /// Names the program's own sound ("crow.wav") that stands in for this one whenever its file
-    /// turns out to hold nothing that can be heard as it is played. It is heard under everything
-    /// else that is said of this sound: its name, its volume, whether it loops. None to begin with.
+    /// Sets the program's own sound ("crow.wav") that is played instead if the file turns out to be
+    /// unplayable at playback. The name, volume and looping of this sound apply to it. None by
+    /// default.
     virtual void setStandIn(const QString &fileName) = 0;
 
-    /// Plays from the beginning. A sound that is playing already goes on as it is.
+    /// Plays from the beginning. Has no effect while the sound plays.
     virtual void play() = 0;
 
     /// Silences the sound; the next play begins at the beginning.
     virtual void stop() = 0;
 
-    /// True from play until the end of the last pass, or until stop; also while no device can be
-    /// heard, so that whoever waits for the end of the sound waits just as long.
+    /// True from play() until the end of the last pass or until stop(). This takes as long without
+    /// a sound device, so that a caller can wait for the end of the sound.
     [[nodiscard]] virtual bool isPlaying() const = 0;
 
-    /// Loudness from 0 (silent) to 1 (as recorded); 1 to begin with.
+    /// Loudness from 0 (silent) to 1 (as recorded); 1 by default.
     [[nodiscard]] virtual float volume() const = 0;
 
-    /// Takes effect at once, also while playing. Values outside 0 to 1 are limited to it and
-    /// anything that is not a number counts as 0.
+    /// Takes effect at once, also while playing. Values are limited to 0 to 1; NaN counts as 0.
     virtual void setVolume(float volume) = 0;
 
-    /// Whether the sound begins again when it reaches its end; off to begin with. The flag is
-    /// read at the end of each pass, so it may change while the sound plays.
+    /// Whether the sound begins again when it reaches its end; off by default. The flag is read at
+    /// the end of each pass, so it may change while the sound plays.
     virtual void setLoops(bool loops) = 0;
 };
 
@@ -59,8 +58,8 @@ public:
     /// The program's own sound of this file name ("crow.wav"), or null when there is none.
     [[nodiscard]] virtual std::unique_ptr<Sound> soundNamed(const QString &fileName) = 0;
 
-    /// Whether there is anything here that opens files. Where not, that a file cannot be played
-    /// says nothing about the file.
+    /// Whether this system can open sound files at all. If not, a duration of 0 says nothing about
+    /// the file.
     [[nodiscard]] virtual bool canOpenFiles() = 0;
 
     /// The sound in the file at this path. The file is read while the sound plays. A file that

@@ -56,9 +56,9 @@ QStringList UserDefaults::stringArrayForKey(const QString &key) const
 
 void UserDefaults::setObject(const QVariant &value, const QString &key)
 {
-    // Left to itself, QSettings lets everybody look into a folder that it makes.
+    // A folder that QSettings makes can be read by every user.
     SettingsPath::makePrivateFolder(QFileInfo(_settings->fileName()).path());
-    // So that it reads now as it will read from the file.
+    // Converted, so that the value reads now as it will read from the file.
     _settings->setValue(key, QJsonValue::fromVariant(value).toVariant());
 }
 

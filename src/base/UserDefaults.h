@@ -14,11 +14,10 @@
 
 /// The settings of this user: texts, numbers, lists and dictionaries, each under a key.
 ///
-/// They live in one readable JSON file, written as a whole or not at all, within a
-/// second of a change. A value of another type than the one asked for reads as missing, and keys
-/// that nobody asks for are kept. What cannot be read or understood is set aside beside the new
-/// file, never overwritten; where nothing can be written the settings last as long as the program.
-/// Only its owner may read the file. Main thread.
+/// They are in one JSON file, which is written atomically within a second of a change, and which
+/// only its owner may read. A value of another type than the requested one reads as missing, and
+/// unknown keys are kept. A file that cannot be read or parsed is renamed, never overwritten; if no
+/// file can be written the settings last as long as the program. Main thread.
 class UserDefaults final
 {
 public:
@@ -28,7 +27,7 @@ public:
     /// The path of this user's settings file.
     [[nodiscard]] static QString standardPath();
 
-    /// The settings in force: those installed as Service<UserDefaults>.
+    /// The settings that are installed as Service<UserDefaults>.
     [[nodiscard]] static UserDefaults &standardUserDefaults();
 
     /// What stands under the key, as its type.
@@ -54,10 +53,11 @@ public:
     /// The text under the key; nothing when there is none.
     [[nodiscard]] std::optional<QString> stringForKey(const QString &key) const;
 
-    /// The number under the key, cut toward zero and limited to 32 bits; 0 when there is none.
+    /// The number under the key, truncated toward zero and limited to 32 bits; 0 when there is
+    /// none.
     [[nodiscard]] int integerForKey(const QString &key) const;
 
-    /// True when a number other than 0, or a true, stands under the key.
+    /// True if the value under the key is true or a number other than 0.
     [[nodiscard]] bool boolForKey(const QString &key) const;
 
     /// The number under the key, rounded to single precision; 0 when there is none.
@@ -69,12 +69,12 @@ public:
     /// The list under the key without the members that are not texts; empty when there is none.
     [[nodiscard]] QStringList stringArrayForKey(const QString &key) const;
 
-    /// Replaces whatever stood under the key. Takes what JSON can hold.
+    /// Sets the value under the key. It must be one that JSON can hold.
     void setObject(const QVariant &value, const QString &key);
 
     void removeObjectForKey(const QString &key);
 
-    /// Writes what has changed to disk now.
+    /// Writes all changes to disk now.
     void synchronize();
 
 private:
