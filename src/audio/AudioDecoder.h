@@ -2,11 +2,11 @@
 
 #include <QtGlobal>
 
-/// Turns the bytes of one open sound file into samples. One thread at a time.
+/// Decodes one open sound file to samples. One thread at a time.
 class AudioDecoder
 {
 public:
-    /// What a file says of itself; whether that is believable is for the caller to judge.
+    /// The format that the file states; the caller checks whether it is plausible.
     struct Format
     {
         int sampleRate = 0;
@@ -20,8 +20,8 @@ public:
 
     [[nodiscard]] virtual Format format() const = 0;
 
-    /// Reads the next frames, their channels interleaved, and gives how many there were; 0 at the
-    /// end and when the file cannot be read any further.
+    /// Reads the next frames, their channels interleaved, and returns how many; 0 at the end and
+    /// when the file cannot be read any further.
     [[nodiscard]] virtual qint64 read(float *samples, qint64 frames) = 0;
 
     /// Goes back to the first frame.

@@ -17,10 +17,10 @@ std::unique_ptr<AudioDecoder> openDecoder(std::unique_ptr<QIODevice> bytes)
     const std::optional<Mp3Stream> mp3 = Mp3Stream::find(*bytes);
     if (!mp3)
         return SndFileDecoder::open(std::move(bytes));
-    return mp3->isCut ? nullptr : Mp3Decoder::open(std::move(bytes), mp3->statesLength);
+    return mp3->isTruncated ? nullptr : Mp3Decoder::open(std::move(bytes), mp3->statesLength);
 }
 
-float numberOrSilence(float sample)
+float finiteOrSilence(float sample)
 {
     return std::isfinite(sample) ? sample : 0.0F;
 }
@@ -46,7 +46,7 @@ double AudioFile::duration() const
 
 bool AudioFile::isPlausible() const
 {
-    // No sound is a month long, and what sound servers take ends at these rates.
+    // No sound is a month long, and sound servers accept no other rates.
     constexpr double longest = 30.0 * 24 * 60 * 60;
     return _format.sampleRate >= 1000 && _format.sampleRate <= 192'000 && _format.channels >= 1 &&
            _format.channels <= 32 && _format.frames > 0 && duration() <= longest;
@@ -74,13 +74,13 @@ int AudioFile::readStereo(float *samples, int frames)
     for (int i = 0; i < count; ++i) {
         const std::span frame(_samples.data() + static_cast<std::size_t>(i) * channels, channels);
         if (channels == 2) {
-            *samples++ = numberOrSilence(frame[0]);
-            *samples++ = numberOrSilence(frame[1]);
+            *samples++ = finiteOrSilence(frame[0]);
+            *samples++ = finiteOrSilence(frame[1]);
         } else {
-            // The order of more channels differs from format to format, so each of them goes to
-            // both sides and none is lost.
+            // The order of further channels differs between formats, so all channels are mixed to
+            // both sides.
             const float sum = std::accumulate(frame.begin(), frame.end(), 0.0F);
-            const float sample = numberOrSilence(sum / static_cast<float>(channels));
+            const float sample = finiteOrSilence(sum / static_cast<float>(channels));
             *samples++ = sample;
             *samples++ = sample;
         }

@@ -11,19 +11,19 @@
 class AudioFile final
 {
 public:
-    /// What kind of file it is shows in its bytes; its name does not matter. Null when there are
-    /// no bytes, when they are no sound, when part of the sound is missing, or when what they
-    /// claim to be cannot be true.
+    /// Recognizes the format by the bytes, not by the name of the file. Null if there are no bytes,
+    /// if they are not a sound, if the sound is cut off, or if the format that they state is not
+    /// plausible.
     [[nodiscard]] static std::unique_ptr<AudioFile> open(std::unique_ptr<QIODevice> bytes);
 
-    /// Frames a second.
+    /// Frames per second.
     [[nodiscard]] int sampleRate() const { return _format.sampleRate; }
 
     /// Length in seconds, greater than 0.
     [[nodiscard]] double duration() const;
 
-    /// Reads the next frames, two samples each, and gives how many there were: fewer than asked
-    /// for only at the end of the file. Samples that are not numbers become silence.
+    /// Reads the next frames, two samples each, and returns how many: fewer than asked for only at
+    /// the end of the file. Samples that are not finite become silence.
     [[nodiscard]] int readStereo(float *samples, int frames);
 
     /// Goes back to the first frame.

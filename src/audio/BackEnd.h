@@ -1,5 +1,5 @@
 #pragma once
 
-/// The way out that the sound library is to take on this system, by the library's own name; null to
-/// let it choose. May wait for the sound server, for ever if that is stuck. Any thread.
+/// The name of the back end that cubeb is to use on this system; null to let it choose. Waits for
+/// the sound server, for ever if that hangs. Any thread.
 [[nodiscard]] const char *soundBackEnd();

@@ -6,8 +6,8 @@
 #include <atomic>
 #include <vector>
 
-/// A few blocks of stereo samples on their way from the one thread that reads a file to the one
-/// that mixes. Neither of them ever waits for the other in here.
+/// A lock-free queue of a few blocks of stereo samples, from the thread that reads a file to the
+/// thread that mixes. Neither thread waits for the other here.
 class BlockQueue final
 {
 public:
@@ -34,7 +34,7 @@ public:
         return full ? nullptr : &_blocks[pushed % kBlocks];
     }
 
-    /// Hands over the block that back() gave. For the reading thread.
+    /// Hands the block from back() to the mixing thread. For the reading thread.
     void push() { _pushed.fetch_add(1, std::memory_order_release); }
 
     /// The block to play next, or null when all are empty. For the mixing thread.
@@ -45,10 +45,10 @@ public:
         return empty ? nullptr : &_blocks[popped % kBlocks];
     }
 
-    /// Gives back the block that front() gave. For the mixing thread.
+    /// Returns the block from front() to the reading thread. For the mixing thread.
     void pop() { _popped.fetch_add(1, std::memory_order_release); }
 
-    /// True when it is time to read on. For the mixing thread.
+    /// True when the reading thread should read on. For the mixing thread.
     [[nodiscard]] bool isHalfEmpty() const
     {
         const unsigned popped = _popped.load(std::memory_order_relaxed);
@@ -56,7 +56,7 @@ public:
     }
 
 private:
-    // A power of two, so that the counters may overflow.
+    // A power of two, so that the counters may wrap around.
     static constexpr unsigned kBlocks = 8;
 
     std::array<Block, kBlocks> _blocks;

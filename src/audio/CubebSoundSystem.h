@@ -4,8 +4,8 @@
 
 class SoundEngine;
 
-/// The sounds of the running program. Destroying it silences its sounds, which may outlive it
-/// but play no more.
+/// The sounds of the running program, played with cubeb. Destroying it silences its sounds; they
+/// may outlive it, but then play() has no effect.
 class CubebSoundSystem final : public SoundSystem
 {
 public:

@@ -26,7 +26,7 @@ bool CubebStream::start(int sampleRate, const QByteArray &title)
         return false;
     _context.reset(context);
 
-    // Thirty milliseconds: a stop is still heard at once, and a busy computer keeps up.
+    // Thirty milliseconds: short enough to hear a stop at once, long enough for a busy computer.
     const auto latency = static_cast<uint32_t>(sampleRate * 3 / 100);
     cubeb_stream_params parameters = {};
     parameters.format = CUBEB_SAMPLE_FLOAT32NE;

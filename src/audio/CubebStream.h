@@ -8,18 +8,17 @@
 #include <memory>
 #include <span>
 
-/// A running stereo stream to the sound device that the system prefers. Opening and destroying
-/// it wait for the sound server, for ever if that is stuck.
+/// A running stereo stream to the system's default sound device. Opening and destroying it wait
+/// for the sound server, forever if the server hangs.
 class CubebStream final
 {
 public:
     /// Fills a buffer with the next samples, stereo and interleaved.
     using Render = std::function<void(std::span<float> stereo)>;
 
-    /// Opens a stream of so many frames a second and starts it; null when there is no device.
-    /// People see the title in their volume control. Both functions are called on a thread of
-    /// the sound library: lost once the stream has failed and is good for nothing but to be
-    /// destroyed, which must not happen right there.
+    /// Opens and starts a stream at this sample rate; null if there is no device. The user sees the
+    /// title in the volume control. Both functions are called on a thread of cubeb; lost is called
+    /// once the stream has failed. The stream must then be destroyed, but not inside lost.
     [[nodiscard]] static std::unique_ptr<CubebStream>
     open(int sampleRate, const QByteArray &title, Render render, std::function<void()> lost);
     Q_DISABLE_COPY_MOVE(CubebStream)

@@ -11,7 +11,7 @@ class SoundEngine;
 class EngineSound final : public Sound
 {
 public:
-    /// Opens the bytes once, for their length.
+    /// Opens the bytes once, to read the length and the sample rate.
     EngineSound(QString name, OpenSoundBytes open, std::weak_ptr<SoundEngine> engine);
     Q_DISABLE_COPY_MOVE(EngineSound)
     ~EngineSound() override;

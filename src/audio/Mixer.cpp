@@ -8,23 +8,24 @@ using namespace std::chrono_literals;
 
 namespace
 {
-/// A device that is there asks every few milliseconds, and one that opens does so much sooner;
-/// beyond this it is not coming, or it is stuck.
-constexpr auto kDevicePatience = 300ms;
+/// A working device asks for samples every few milliseconds, and a new one opens well within this
+/// time. A device that has not asked for longer is missing or hangs.
+constexpr auto kDeviceTimeout = 300ms;
 
-/// How often time moves on without a device.
+/// How often the voices advance without a device.
 constexpr auto kTick = 20ms;
 
-/// The most that passes at once, and the pause before more does, so that the readers of the files
-/// can keep up.
+/// The longest step without a device, and the pause between steps that catch up, so that the
+/// threads that read the files can keep up.
 constexpr auto kLongestStep = 80ms;
 constexpr auto kCatchUpPause = 5ms;
 
-/// Longer than anything that was mixed can still be on its way to the loudspeaker.
-constexpr auto kLinger = 500ms;
+/// How long the device stays open after the last voice: longer than samples that were mixed take
+/// to reach the loudspeaker.
+constexpr auto kKeepDeviceFor = 500ms;
 
-/// What usually lies between mixing and hearing: the buffers of the stream and of the server.
-constexpr auto kHeardAfter = 50ms;
+/// The usual time from mixing to hearing, spent in the buffers of the stream and of the server.
+constexpr auto kOutputLatency = 50ms;
 
 int framesIn(std::chrono::nanoseconds time, int sampleRate)
 {
@@ -34,7 +35,7 @@ int framesIn(std::chrono::nanoseconds time, int sampleRate)
 
 Mixer::Mixer(int sampleRate) : _sampleRate(sampleRate)
 {
-    _unheard.resize(static_cast<std::size_t>(framesIn(kLongestStep, sampleRate)) * 2);
+    _discarded.resize(static_cast<std::size_t>(framesIn(kLongestStep, sampleRate)) * 2);
 }
 
 void Mixer::add(std::shared_ptr<Voice> voice)
@@ -55,7 +56,7 @@ void Mixer::render(std::span<float> stereo)
     _deviceIsExpected = true;
     const Moment now = std::chrono::steady_clock::now();
     admitNewcomers(now);
-    mix(stereo, framesIn(kHeardAfter, _sampleRate), now);
+    mix(stereo, framesIn(kOutputLatency, _sampleRate), now);
     _mixedUntil = now;
 }
 
@@ -66,20 +67,20 @@ std::optional<std::chrono::nanoseconds> Mixer::keepTime()
     if (_voices.empty())
         admitNewcomers(now);
     if (_voices.empty()) {
-        const std::chrono::nanoseconds left = _lastSounded + kLinger - now;
+        const std::chrono::nanoseconds left = _lastSounded + kKeepDeviceFor - now;
         return left > 0ns ? std::optional(left) : std::nullopt;
     }
     const std::chrono::nanoseconds behind = now - _mixedUntil;
-    if (_deviceIsExpected && behind < kDevicePatience)
-        return kDevicePatience - behind;
+    if (_deviceIsExpected && behind < kDeviceTimeout)
+        return kDeviceTimeout - behind;
     _deviceIsExpected = false;
     const int frames =
         framesIn(std::min<std::chrono::nanoseconds>(behind, kLongestStep), _sampleRate);
-    mix(std::span(_unheard).first(static_cast<std::size_t>(frames) * 2), 0, now);
+    mix(std::span(_discarded).first(static_cast<std::size_t>(frames) * 2), 0, now);
     _mixedUntil += std::chrono::nanoseconds(std::nano::den * frames / _sampleRate);
     if (behind > kLongestStep)
         return kCatchUpPause;
-    // Only now, so that no voice's time passes before it has joined.
+    // Last, so that no time passes for a voice before it has joined.
     admitNewcomers(now);
     return kTick;
 }
@@ -104,13 +105,13 @@ void Mixer::admitNewcomers(Moment now)
     _newcomers.clear();
 }
 
-void Mixer::mix(std::span<float> stereo, int heardAfter, Moment now)
+void Mixer::mix(std::span<float> stereo, int latency, Moment now)
 {
     if (!_voices.empty())
         _lastSounded = now;
     std::ranges::fill(stereo, 0.0F);
     std::erase_if(_voices, [=](const std::shared_ptr<Voice> &voice) {
-        return !voice->mixInto(stereo, heardAfter);
+        return !voice->mixInto(stereo, latency);
     });
     for (float &sample : stereo)
         sample = std::clamp(sample, -1.0F, 1.0F);

@@ -43,7 +43,7 @@ bool Mp3Decoder::measure(bool statesLength)
     if (mpg123_getformat(handle, &rate, &_format.channels, &encoding) != MPG123_OK ||
         encoding != MPG123_ENC_FLOAT_32)
         return false;
-    // From here on nothing else may come out, whatever the frames further on claim to be.
+    // From here on the output keeps this format, whatever format later frames have.
     mpg123_format_none(handle);
     mpg123_format(handle, rate, _format.channels, encoding);
     if (!statesLength && mpg123_scan(handle) != MPG123_OK)
@@ -57,8 +57,7 @@ qint64 Mp3Decoder::read(float *samples, qint64 frames)
 {
     const auto frameSize = static_cast<std::size_t>(_format.channels) * sizeof(float);
     std::size_t bytesRead = 0;
-    // The result is of no interest: at the end, or where the stream is damaged, there is less to
-    // be had than was asked for.
+    // The result code is ignored: at the end, or where the stream is damaged, fewer bytes are read.
     mpg123_read(_handle.get(), samples, static_cast<std::size_t>(frames) * frameSize, &bytesRead);
     return static_cast<qint64>(bytesRead / frameSize);
 }

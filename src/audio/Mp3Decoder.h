@@ -12,8 +12,8 @@
 class Mp3Decoder final : public AudioDecoder
 {
 public:
-    /// Null when the stream cannot be played. It is read through once, without decoding, if its
-    /// encoder noted no length.
+    /// Null if the stream cannot be played. If it does not state its length, it is read through
+    /// once without decoding.
     [[nodiscard]] static std::unique_ptr<AudioDecoder> open(std::unique_ptr<QIODevice> bytes,
                                                             bool statesLength);
 

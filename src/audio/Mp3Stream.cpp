@@ -17,7 +17,7 @@ struct FrameHeader
 
     [[nodiscard]] static std::optional<FrameHeader> parse(const QByteArray &bytes);
 
-    /// True for frames that can belong to one stream.
+    /// True if both frames can belong to one stream.
     [[nodiscard]] bool fits(const FrameHeader &other) const
     {
         return version == other.version && sampleRate == other.sampleRate;
@@ -25,8 +25,8 @@ struct FrameHeader
 
     [[nodiscard]] bool isVersion1() const { return version == 3; }
 
-    /// Where the encoder's notes begin: behind the header and the side information.
-    [[nodiscard]] qsizetype notesOffset() const
+    /// The offset of the encoder's Xing or Info tag: behind the header and the side information.
+    [[nodiscard]] qsizetype xingOffset() const
     {
         const qsizetype sideInformation = isVersion1() ? (mono ? 17 : 32) : (mono ? 9 : 17);
         return kSize + sideInformation;
@@ -73,7 +73,7 @@ std::optional<FrameHeader> FrameHeader::parse(const QByteArray &bytes)
     return header;
 }
 
-/// Where the stream begins: behind any tags and the zeros that some programs leave after them.
+/// Where the stream begins: behind any tags and the zeros that some programs write after them.
 qint64 streamOffset(QIODevice &bytes)
 {
     const qint64 offset = offsetBehindId3Tags(bytes);
@@ -85,13 +85,13 @@ qint64 streamOffset(QIODevice &bytes)
     return offset + std::distance(rest.begin(), std::ranges::find_if_not(rest, isZero));
 }
 
-/// Reads the notes of the encoder in the first frame, in either of the two forms there are.
-Mp3Stream readNotes(const QByteArray &frame, const FrameHeader &header, qint64 available)
+/// Reads the encoder's tag in the first frame: Xing (or Info), or VBRI.
+Mp3Stream readEncoderTag(const QByteArray &frame, const FrameHeader &header, qint64 available)
 {
     const auto number = [&frame](qsizetype offset) -> qint64 {
         return offset + 4 <= frame.size() ? qFromBigEndian<quint32>(frame.constData() + offset) : 0;
     };
-    const qsizetype xing = header.notesOffset();
+    const qsizetype xing = header.xingOffset();
     const QByteArray xingName = frame.mid(xing, 4);
     if (xingName == "Xing" || xingName == "Info") {
         const qint64 flags = number(xing + 4);
@@ -116,7 +116,7 @@ std::optional<Mp3Stream> Mp3Stream::find(QIODevice &bytes)
             FrameHeader::parse(bytesAt(bytes, offset + first->length, FrameHeader::kSize));
         const QByteArray frame = bytesAt(bytes, offset, first->length);
         if (second && second->fits(*first))
-            stream = readNotes(frame, *first, bytes.size() - offset);
+            stream = readEncoderTag(frame, *first, bytes.size() - offset);
     }
     return bytes.seek(0) ? stream : std::nullopt;
 }

@@ -4,17 +4,17 @@
 
 #include <optional>
 
-/// What the first frames of an MP3 file tell about it without decoding anything.
+/// What the first frames of an MP3 file state, without decoding.
 struct Mp3Stream
 {
-    /// Looks for the stream: it must begin right after the tags at the head of the file, with two
-    /// frames that fit together. Nothing when it does not, whatever the file is called. Leaves the
-    /// bytes at their beginning.
+    /// Finds the stream, which must begin right after the tags at the head of the file, with two
+    /// frames that fit together; nothing if it does not. The name of the file does not matter.
+    /// Leaves the bytes at their beginning.
     [[nodiscard]] static std::optional<Mp3Stream> find(QIODevice &bytes);
 
-    /// Whether the encoder noted how many frames there are.
+    /// True if the encoder stated the number of frames.
     bool statesLength = false;
 
-    /// True when the encoder noted more bytes than the file has.
-    bool isCut = false;
+    /// True if the encoder stated more bytes than the file has.
+    bool isTruncated = false;
 };

@@ -9,7 +9,7 @@ using namespace std::chrono_literals;
 
 namespace
 {
-/// How long to wait before asking again for a device that is not there.
+/// How long to wait before another try to open a device.
 constexpr auto kRetryAfter = 1s;
 } // namespace
 
@@ -48,7 +48,7 @@ bool Output::wakeUp()
         _isSounding = _workers.start([self = shared_from_this()] { self->keepTime(); });
         _mixer.expectDevice();
     }
-    // The thread of the sound before may still be at it, closing its stream.
+    // The device thread of the previous sound may still be closing its stream.
     if (_isSounding && !_hasDeviceThread)
         _hasDeviceThread = _workers.start([self = shared_from_this()] { self->runDevice(); });
     return _isSounding;
@@ -85,7 +85,7 @@ void Output::runDevice()
     _hasDeviceThread = false;
 }
 
-/// Keeps a stream for as long as it is wanted; false when there is none or it failed.
+/// Opens a stream and keeps it while it is wanted; false if it did not open or has failed.
 bool Output::runStream(std::unique_lock<std::mutex> &lock)
 {
     _streamIsLost = false;

@@ -11,11 +11,11 @@
 
 class Voice;
 
-/// Makes the voices of one sample rate heard: one mixer, and one stream that is open only while
-/// something sounds.
+/// Plays the voices of one sample rate, with one mixer and one stream that is open only while a
+/// sound plays.
 ///
-/// Two threads serve it then. One talks to the sound server and may get stuck there; the other
-/// keeps the time of the voices and never waits for anybody. Both keep the output alive.
+/// Two threads run then. The device thread talks to the sound server and may hang there; the
+/// other keeps the time of the voices and never waits for the server. Both keep the output alive.
 class Output final : public std::enable_shared_from_this<Output>
 {
 public:
@@ -23,10 +23,10 @@ public:
     Q_DISABLE_COPY_MOVE(Output)
     ~Output() = default;
 
-    /// Any thread; waits neither for the sound server nor for a file.
+    /// Plays the voice. Any thread; waits neither for the sound server nor for a file.
     void play(const std::shared_ptr<Voice> &voice);
 
-    /// Ends all voices, and the threads as soon as they can. Nothing plays after this.
+    /// Ends all voices and lets the threads end as soon as they can. Nothing plays after this.
     void close();
 
 private:
@@ -44,7 +44,7 @@ private:
 
     std::mutex _mutex;
     std::condition_variable _changed;
-    bool _hasNews = false; // for the thread that keeps the time
+    bool _hasNews = false; // wakes the thread that keeps the time
     bool _isSounding = false;
     bool _hasDeviceThread = false;
     bool _streamIsLost = false;

@@ -11,17 +11,17 @@
 class Output;
 class Voice;
 
-/// The outputs of a sound system, one for each sample rate that was ever played. Any thread; no
+/// The outputs of a sound system, one for each sample rate that has been played. Any thread; no
 /// operation waits for the sound server or for a file.
 class Outputs final
 {
 public:
-    /// People see the title in their volume control.
+    /// The user sees the title in the volume control.
     Outputs(QByteArray title, Workers workers);
     Q_DISABLE_COPY_MOVE(Outputs)
     ~Outputs();
 
-    /// Lets the voice be heard at its sample rate; ends it once all is closed.
+    /// Plays the voice at its sample rate; after close() it only ends the voice.
     void play(const std::shared_ptr<Voice> &voice);
 
     /// Ends all voices. Nothing plays after this.

@@ -26,8 +26,8 @@ void Playing::start(int sampleRate)
 {
     const std::shared_ptr<Voice> voice = makeVoice(sampleRate);
     _voice = voice;
-    // From here on the current voice may be another one at any time. The first is played already
-    // now, so that the device is opened while the file is.
+    // From here on the thread may replace _voice at any time. The first voice is played already
+    // now, so that the device opens while the file does.
     if (_workers.start([self = shared_from_this(), voice] { self->playFile(voice); }))
         _outputs->play(voice);
     else
@@ -36,7 +36,7 @@ void Playing::start(int sampleRate)
 
 bool Playing::isPlaying() const
 {
-    // While the lock is held, the voice cannot be one that has been replaced and ended.
+    // The lock makes sure that this is not a voice that was replaced and has ended.
     const std::lock_guard lock(_mutex);
     return _voice->isPlaying();
 }
@@ -52,7 +52,7 @@ std::shared_ptr<Voice> Playing::makeVoice(int sampleRate)
 {
     return std::make_shared<Voice>(sampleRate, _controls, [playing = weak_from_this()] {
         if (const std::shared_ptr<Playing> self = playing.lock())
-            self->missFile();
+            self->fileTimedOut();
     });
 }
 
@@ -62,7 +62,7 @@ std::shared_ptr<Voice> Playing::currentVoice() const
     return _voice;
 }
 
-/// Reads the file into this voice, or into one of the right rate.
+/// Reads the file into this voice, or into a new one if the file has another sample rate.
 void Playing::playFile(std::shared_ptr<Voice> voice)
 {
     const std::unique_ptr<AudioFile> file = openFile(_open);
@@ -77,8 +77,8 @@ void Playing::playFile(std::shared_ptr<Voice> voice)
         playStandIn();
 }
 
-/// The file has not answered. For the mixing thread.
-void Playing::missFile()
+/// Plays the stand-in, because the file has delivered nothing. For the mixing thread.
+void Playing::fileTimedOut()
 {
     if (decide() && !_workers.start([self = shared_from_this()] { self->playStandIn(); }))
         currentVoice()->finish();
@@ -87,7 +87,7 @@ void Playing::missFile()
 void Playing::playStandIn()
 {
     const std::unique_ptr<AudioFile> file = openFile(_standIn);
-    // Not the first voice: a file that answers late may still be read into that.
+    // Not the first voice: the thread of a file that opens late may still write to that one.
     const std::shared_ptr<Voice> voice = file ? makeVoice(file->sampleRate()) : nullptr;
     if (voice && voice->begin(*file))
         readOn(*file, voice);
@@ -98,11 +98,11 @@ void Playing::playStandIn()
 void Playing::readOn(AudioFile &file, const std::shared_ptr<Voice> &voice)
 {
     if (voice != currentVoice())
-        goOnWith(voice);
+        switchTo(voice);
     voice->readOn(file);
 }
 
-void Playing::goOnWith(const std::shared_ptr<Voice> &voice)
+void Playing::switchTo(const std::shared_ptr<Voice> &voice)
 {
     std::shared_ptr<Voice> last = voice;
     {

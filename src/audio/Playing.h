@@ -12,40 +12,40 @@ class AudioFile;
 class Outputs;
 class Voice;
 
-/// One playing of one sound, from the request until its end has been heard or it was silenced. If
-/// the file turns out to be nothing that can be heard, or does not answer, another stands in for
-/// it.
+/// One playback of one sound, from the request until its end has been heard or it was stopped. If
+/// the file turns out to be unplayable, or delivers nothing in time, a stand-in is played.
 ///
-/// A file is opened on a thread of its own, and only there it shows at which sample rate it is to
-/// be heard. So a playing begins with a voice for the rate that is expected, and goes on with
-/// another voice where need be. It plays without a gap from the first to the last.
+/// The file is opened on a thread of its own, and its sample rate is known only then. So a playback
+/// begins with a voice for the expected rate and switches to another voice if the rate differs.
+/// isPlaying() stays true during the switch.
 class Playing final : public std::enable_shared_from_this<Playing>
 {
 public:
-    /// Plays the first bytes, or else those of the stand-in, which may be missing.
+    /// Plays the bytes that open gives, or else those of standIn, which may be empty.
     Playing(OpenSoundBytes open, OpenSoundBytes standIn,
             std::shared_ptr<const SoundControls> controls, std::shared_ptr<Outputs> outputs,
             Workers workers);
     Q_DISABLE_COPY_MOVE(Playing)
 
-    /// Begins to play; the file probably has so many frames a second. Once.
+    /// Begins to play with a voice for the expected sample rate. Call it once.
     void start(int sampleRate);
 
     /// True from the start until the end has been heard or stop was called. Any thread.
     [[nodiscard]] bool isPlaying() const;
 
-    /// Fades within milliseconds. Any thread.
+    /// Fades out within milliseconds. Any thread.
     void stop();
 
 private:
     [[nodiscard]] std::shared_ptr<Voice> makeVoice(int sampleRate);
     [[nodiscard]] std::shared_ptr<Voice> currentVoice() const;
+    /// True for the first caller only, which then plays the file or its stand-in.
     [[nodiscard]] bool decide() { return !_isDecided.exchange(true); }
     void playFile(std::shared_ptr<Voice> voice);
-    void missFile();
+    void fileTimedOut();
     void playStandIn();
     void readOn(AudioFile &file, const std::shared_ptr<Voice> &voice);
-    void goOnWith(const std::shared_ptr<Voice> &voice);
+    void switchTo(const std::shared_ptr<Voice> &voice);
 
     const OpenSoundBytes _open;
     const OpenSoundBytes _standIn;
@@ -53,7 +53,7 @@ private:
     const std::shared_ptr<Outputs> _outputs;
     Workers _workers;
 
-    /// Whether it is settled what is heard, the file or its stand-in.
+    /// Whether it is decided which is played, the file or its stand-in.
     std::atomic<bool> _isDecided = false;
 
     mutable std::mutex _mutex;

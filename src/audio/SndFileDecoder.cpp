@@ -38,22 +38,22 @@ sf_count_t tell(void *user)
     return device(user).pos();
 }
 
-/// The library would also open files of measurements and of instruments, and guess at the length
-/// of MP3, so it is shown nothing but what begins like a sound.
-bool beginsLikeASound(QIODevice &bytes)
+/// Whether the file begins with the signature of a sound format. Other files are not passed on to
+/// libsndfile, which would also open data and instrument files, and guess the length of MP3.
+bool hasSoundSignature(QIODevice &bytes)
 {
-    static constexpr std::array kBeginnings{
+    static constexpr std::array kSignatures{
         "RIFF", "RIFX", "RF64", "riff", "FORM", ".snd", "caff", "fLaC", "OggS",
     };
     const QByteArray beginning = bytesAt(bytes, offsetBehindId3Tags(bytes), 4);
-    const auto isBeginning = [&](const char *known) { return beginning == known; };
-    return std::ranges::any_of(kBeginnings, isBeginning) && bytes.seek(0);
+    const auto isSignature = [&](const char *known) { return beginning == known; };
+    return std::ranges::any_of(kSignatures, isSignature) && bytes.seek(0);
 }
 } // namespace
 
 std::unique_ptr<AudioDecoder> SndFileDecoder::open(std::unique_ptr<QIODevice> bytes)
 {
-    if (!beginsLikeASound(*bytes))
+    if (!hasSoundSignature(*bytes))
         return nullptr;
     std::unique_ptr<SndFileDecoder> decoder(new SndFileDecoder(std::move(bytes)));
     return decoder->isPlayable() ? std::move(decoder) : nullptr;
@@ -84,8 +84,8 @@ bool SndFileDecoder::isPlayable()
 {
     if (!_file || _info.seekable == 0)
         return false;
-    // FLAC states its length at the beginning, whatever is there. The uncompressed formats count
-    // what is there, and an Ogg stream without its end has no believable length.
+    // FLAC states its length at the beginning, even if the rest is cut off. For uncompressed
+    // formats libsndfile counts what is there; a cut-off Ogg stream has no plausible length.
     const bool isFlac = (_info.format & SF_FORMAT_TYPEMASK) == SF_FORMAT_FLAC;
     return !isFlac || (lastFrameCanBeRead() && rewind());
 }

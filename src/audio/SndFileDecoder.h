@@ -8,11 +8,11 @@
 
 #include <memory>
 
-/// Decodes WAV, AIFF, FLAC, Ogg Vorbis, Opus and their kin.
+/// Decodes WAV, AIFF, FLAC, Ogg Vorbis, Opus and similar formats.
 class SndFileDecoder final : public AudioDecoder
 {
 public:
-    /// Null when the bytes are none of these or end before they should.
+    /// Null if the bytes have none of these formats or are cut off.
     [[nodiscard]] static std::unique_ptr<AudioDecoder> open(std::unique_ptr<QIODevice> bytes);
 
     [[nodiscard]] Format format() const override;

@@ -48,7 +48,7 @@ qint64 seekFrom(QIODevice &bytes, qint64 offset, int whence)
 {
     const qint64 base = whence == SEEK_CUR ? bytes.pos() : whence == SEEK_END ? bytes.size() : 0;
     qint64 target = 0;
-    // A broken file sends its reader anywhere.
+    // A damaged file may state any offset.
     if (qAddOverflow(base, offset, &target) || target < 0)
         return -1;
     return bytes.seek(target) ? bytes.pos() : -1;

@@ -2,8 +2,8 @@
 
 #include <atomic>
 
-/// What may change about a sound while it plays. Written by the main thread, read by the thread
-/// that mixes.
+/// The settings of a sound that may change while it plays. The main thread writes them, the mixing
+/// thread reads them.
 struct SoundControls
 {
     /// From 0 to 1.

@@ -1,6 +1,6 @@
 #include "audio/CubebSoundSystem.h"
 
-/// What LazySoundSystem looks for in the module; the system belongs to the caller.
+/// The function that LazySoundSystem calls in the module. The caller owns the system.
 extern "C" Q_DECL_EXPORT SoundSystem *wufferMakeSoundSystem();
 
 SoundSystem *wufferMakeSoundSystem()

@@ -9,18 +9,18 @@ namespace
 /// Long enough for few wake-ups, short enough for little memory.
 constexpr int kBlocksPerSecond = 50;
 
-/// How long a file may deliver nothing before it is given up.
-constexpr std::size_t kPatienceSeconds = 2;
+/// How long the mixer waits for a file that delivers nothing.
+constexpr std::size_t kFileTimeoutSeconds = 2;
 
-/// The volume changes by this much a frame, so that no change clicks.
+/// The most by which the volume changes per frame, so that no change clicks.
 constexpr float kGainStep = 1.0F / 256;
 } // namespace
 
 Voice::Voice(int sampleRate, std::shared_ptr<const SoundControls> controls,
-             std::function<void()> fileIsMissed) :
+             std::function<void()> fileTimedOut) :
     _sampleRate(sampleRate),
     _framesPerBlock(sampleRate / kBlocksPerSecond), _controls(std::move(controls)),
-    _fileIsMissed(std::move(fileIsMissed)), _queue(_framesPerBlock)
+    _fileTimedOut(std::move(fileTimedOut)), _queue(_framesPerBlock)
 {}
 
 void Voice::stop()
@@ -46,15 +46,15 @@ void Voice::readOn(AudioFile &file)
     do {
         endsPass = _queue.back()->endsPass;
         _queue.push();
-        // Whether there is another pass shows only when this one has been played.
+        // Always rewinds: only when this pass has been played is it known whether another follows.
         if (endsPass && !file.rewind())
             break;
-        // A pass without a frame would go on for ever.
+        // A file without a frame would loop forever.
     } while (waitForRoom() && (readBlock(file) || !endsPass));
     _readerIsDone = true;
 }
 
-/// Fills the block at the back, which must be there; false when the file had nothing for it.
+/// Fills the block at the back, which must not be null; false if the file had no frame for it.
 bool Voice::readBlock(AudioFile &file)
 {
     BlockQueue::Block &block = *_queue.back();
@@ -63,7 +63,7 @@ bool Voice::readBlock(AudioFile &file)
     return block.frames > 0;
 }
 
-/// True once there is a block to fill, false when that is no longer wanted.
+/// Waits for a block to fill; false if the voice has ended or was stopped instead.
 bool Voice::waitForRoom()
 {
     while (isPlaying() && !_queue.back())
@@ -71,7 +71,7 @@ bool Voice::waitForRoom()
     return isPlaying();
 }
 
-bool Voice::mixInto(std::span<float> stereo, int heardAfter)
+bool Voice::mixInto(std::span<float> stereo, int latency)
 {
     const bool readerIsDone = _readerIsDone;
     while (!stereo.empty() && !_ended) {
@@ -83,8 +83,9 @@ bool Voice::mixInto(std::span<float> stereo, int heardAfter)
         stereo = stereo.subspan(mixBlock(*block, stereo) * 2);
     }
     if (_ended)
-        _unheard = std::min(_unheard, heardAfter) - static_cast<int>(stereo.size() / 2);
-    if (_unheard <= 0 || (_stopped && _gain.value_or(0.0F) == 0.0F))
+        _framesUntilHeard =
+            std::min(_framesUntilHeard, latency) - static_cast<int>(stereo.size() / 2);
+    if (_framesUntilHeard <= 0 || (_stopped && _gain.value_or(0.0F) == 0.0F))
         finish();
     return !_over;
 }
@@ -117,12 +118,11 @@ std::size_t Voice::mixBlock(const BlockQueue::Block &block, std::span<float> ste
 void Voice::starve(std::size_t frames, bool readerIsDone)
 {
     _starved += frames;
-    const bool isOutOfPatience =
-        _starved > static_cast<std::size_t>(_sampleRate) * kPatienceSeconds;
+    const bool hasTimedOut = _starved > static_cast<std::size_t>(_sampleRate) * kFileTimeoutSeconds;
     const bool hasBegun = _gain.has_value();
-    _ended = _stopped || (hasBegun && (readerIsDone || isOutOfPatience));
-    if (isOutOfPatience && !_ended) {
+    _ended = _stopped || (hasBegun && (readerIsDone || hasTimedOut));
+    if (hasTimedOut && !_ended) {
         _starved = 0;
-        _fileIsMissed();
+        _fileTimedOut();
     }
 }

@@ -14,20 +14,19 @@
 
 class AudioFile;
 
-/// One file on its way to the mixer of its sample rate, from the request until it has been heard or
-/// silenced. Playing a file again takes another voice, so that nothing can revive one that was
-/// stopped.
+/// Carries one file to the mixer of its sample rate, from the request until it has been heard or
+/// stopped. Playing a file again takes a new voice, so that a stopped one never plays again.
 ///
-/// Shared by the playing that it belongs to, by the thread that reads its file, and by the mixer.
-/// The thread is the voice's own, so that a disk that does not answer keeps no other sound waiting.
+/// Shared by its Playing, by the thread that reads its file, and by the mixer. Each voice has a
+/// reading thread of its own, so that a disk that hangs delays no other sound.
 class Voice final
 {
 public:
-    /// A voice for a file of so many frames a second. While the file delivers nothing at all the
-    /// voice is silent, and after each time that a file is waited for it calls the function, on the
-    /// mixing thread, which must not be kept.
+    /// A voice for a file with this sample rate. It is silent until the file delivers its first
+    /// frame, and for every two seconds of waiting it calls the function. That runs on the mixing
+    /// thread and must not block.
     Voice(int sampleRate, std::shared_ptr<const SoundControls> controls,
-          std::function<void()> fileIsMissed);
+          std::function<void()> fileTimedOut);
     Q_DISABLE_COPY_MOVE(Voice)
 
     [[nodiscard]] int sampleRate() const { return _sampleRate; }
@@ -35,22 +34,22 @@ public:
     /// True until the end has been heard or stop was called. Any thread.
     [[nodiscard]] bool isPlaying() const { return !_over && !_stopped; }
 
-    /// Fades within milliseconds. Any thread.
+    /// Fades out within milliseconds. Any thread.
     void stop();
 
-    /// Reads the first frames of a file, which are not to be heard yet; false when there are none.
-    /// Once, and before readOn().
+    /// Reads the first frames of a file without playing them yet; false if there are none. Call it
+    /// once, before readOn().
     [[nodiscard]] bool begin(AudioFile &file);
 
-    /// Lets the first frames be heard, and reads the file over and over, as far ahead as there is
-    /// room, until the voice is over.
+    /// Plays the first frames, and reads the file over and over, as far ahead as the queue has
+    /// room, until the voice has ended or was stopped.
     void readOn(AudioFile &file);
 
-    /// Adds the next frames to those in the buffer (stereo, interleaved). A frame is heard so
-    /// many frames after it was mixed. False when the voice is over. For the mixing thread.
-    [[nodiscard]] bool mixInto(std::span<float> stereo, int heardAfter);
+    /// Adds the next frames to those in the buffer (stereo, interleaved). The latency is the number
+    /// of frames from mixing to hearing. False when the voice has ended. For the mixing thread.
+    [[nodiscard]] bool mixInto(std::span<float> stereo, int latency);
 
-    /// Ends the voice whatever it is doing. Any thread.
+    /// Ends the voice at once, without a fade. Any thread.
     void finish();
 
 private:
@@ -62,7 +61,7 @@ private:
     const int _sampleRate;
     const int _framesPerBlock;
     const std::shared_ptr<const SoundControls> _controls;
-    const std::function<void()> _fileIsMissed;
+    const std::function<void()> _fileTimedOut;
 
     std::atomic<bool> _stopped = false;
     std::atomic<bool> _over = false;
@@ -70,10 +69,10 @@ private:
     QSemaphore _room;
     BlockQueue _queue;
 
-    // The rest belongs to the mixing thread.
+    // Only the mixing thread uses the rest.
     std::size_t _played = 0; // frames of the front block
     std::size_t _starved = 0;
-    std::optional<float> _gain; // none before the first frame
+    std::optional<float> _gain; // empty before the first frame
     bool _ended = false;
-    int _unheard = std::numeric_limits<int>::max();
+    int _framesUntilHeard = std::numeric_limits<int>::max();
 };

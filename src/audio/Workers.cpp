@@ -28,7 +28,7 @@ bool Workers::start(std::function<void()> function)
     try {
         std::thread([state = _state, run = std::move(function)]() mutable {
             run();
-            // What the function holds must be gone before it counts as ended.
+            // Destroys what the function holds before it counts as ended.
             run = nullptr;
             state->count(-1);
         }).detach();

@@ -4,18 +4,17 @@
 #include <functional>
 #include <memory>
 
-/// Runs functions on threads of their own and knows when all of them have come to an end. A
-/// thread that is stuck can be left behind, so what a function uses must be its own. Copies
-/// stand for the same threads.
+/// Runs each function on a new thread, and can wait until all have ended. A thread that hangs may
+/// outlive this object, so a function must own all that it uses. Copies share the same threads.
 class Workers final
 {
 public:
     Workers();
 
-    /// Runs the function on a new thread; false when the system has none left.
+    /// Runs the function on a new thread; false if the system cannot start one.
     [[nodiscard]] bool start(std::function<void()> function);
 
-    /// Waits until no function runs any more, but no longer than this.
+    /// Waits until no function is running, but no longer than the limit.
     void waitUntilIdle(std::chrono::milliseconds limit);
 
 private:

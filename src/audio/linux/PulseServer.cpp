@@ -7,8 +7,8 @@
 
 namespace
 {
-/// The functions of the client library that a question takes. They are looked up as it is asked, so
-/// that nothing more has to be there to build the program than cubeb, which brings the library.
+/// The functions of the PulseAudio client library that the check needs. They are resolved at run
+/// time: to build the program only cubeb is needed, which brings the library along.
 struct Client
 {
     void *(*newLoop)();
@@ -24,8 +24,8 @@ struct Client
     [[nodiscard]] bool load();
 };
 
-/// The state of a connection that is up (PA_CONTEXT_READY). Those below lead to it; what lies above
-/// has failed.
+/// The state of a connection that is up (PA_CONTEXT_READY). Lower states lead to it; higher ones
+/// mean that it has failed.
 constexpr int kReady = 4;
 
 template<class Function> bool find(QLibrary &library, const char *name, Function *&function)

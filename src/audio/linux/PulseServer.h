@@ -1,9 +1,9 @@
 #pragma once
 
-/// The sound server of the session, asked by means of its own client library.
+/// The PulseAudio server of the session, reached through its client library.
 namespace PulseServer
 {
-/// Whether the server takes connections; without its library it does not. Waits for the server,
-/// for ever if that is stuck. Any thread.
+/// Whether the server accepts connections; false without the library. Waits for the server, forever
+/// if it hangs. Any thread.
 [[nodiscard]] bool answers();
 } // namespace PulseServer
