@@ -2,8 +2,8 @@
 
 #include <QLabel>
 
-/// An image that announces every click with the notice Notices::kClickableImageViewClicked, whose
-/// object is the view. The space bar clicks it too, when it has the focus.
+/// An image that posts Notices::kClickableImageViewClicked, with itself as the object, at every
+/// click. When it has the focus, the space bar clicks it, too.
 class ClickableImageView final : public QLabel
 {
     Q_OBJECT

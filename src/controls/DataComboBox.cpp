@@ -13,7 +13,7 @@ void DataComboBox::insertDataObject(const QString &dataObject, const QString &co
     Q_ASSERT(atIndex >= 0 && atIndex <= count());
     const bool hadSelection = currentIndex() >= 0;
     insertItem(atIndex, comboObject, dataObject);
-    // The base class selects the first entry that it gets of its own accord.
+    // QComboBox selects the first entry that is added to it.
     if (!hadSelection)
         setCurrentIndex(-1);
 }
@@ -77,7 +77,7 @@ void DataComboBox::paintEvent(QPaintEvent * /*event*/)
     initStyleOption(&option);
     const QRect room =
         style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this);
-    // Styles keep a point free at each side, and cut off the rest.
+    // Styles leave one pixel free at each side, and clip the text.
     constexpr int margins = 2;
     option.currentText =
         fontMetrics().elidedText(option.currentText, Qt::ElideMiddle, room.width() - margins);

@@ -5,9 +5,8 @@
 #include <optional>
 
 /// A combo box that keeps a data object beside each entry: the entry shows a short text, while
-/// the program works with a full value. An entry that was added without one is its own data
-/// object. Nothing is selected until somebody selects it. A text for which the box is too narrow
-/// is shortened.
+/// the program works with a full value. The data object of an entry that was added without one is
+/// its text. Adding entries selects none of them. A text that is too wide for the box is elided.
 class DataComboBox : public QComboBox
 {
     Q_OBJECT

@@ -24,7 +24,7 @@ QPalette panelPalette()
     return palette;
 }
 
-/// The widgets that the tab key walks through, from the beginning.
+/// The widgets of the window in tab order.
 QList<QPointer<QWidget>> tabOrder(const QWidget &window)
 {
     QList<QPointer<QWidget>> order;
@@ -62,7 +62,7 @@ protected:
     void closeEvent(QCloseEvent *event) override
     {
         Q_EMIT _box.fullScreenCloseRequested();
-        // Closing must not take the box along; once that is home again nothing speaks against it.
+        // The window must not close while the box is in it; it may close once the box is back.
         event->setAccepted(!_box.isInFullScreenMode());
     }
 
@@ -79,7 +79,7 @@ DisplayBox::~DisplayBox()
 {
     if (!isInFullScreenMode())
         return;
-    // Away from home the window around the box is its parent, which must not take it along.
+    // The full-screen window, which is destroyed with this box, must not destroy it as its child.
     setParent(nullptr);
     destroyPlaceholder();
 }
@@ -93,7 +93,7 @@ void DisplayBox::enterFullScreenMode(QScreen &screen)
     _placeholder->setFixedSize(size());
     connect(_placeholder, &QObject::destroyed, this, &QObject::deleteLater);
     const std::unique_ptr<QLayoutItem> oldItem(home->replaceWidget(this, _placeholder));
-    // At once, because a layout has no place for what is hidden.
+    // Shown at once, because a layout reserves no space for a hidden widget.
     _placeholder->show();
 
     _fullScreenWindow = std::make_unique<FullScreenWindow>(*this);
@@ -111,7 +111,7 @@ void DisplayBox::exitFullScreenModeWithOptions()
     destroyPlaceholder();
     ::setTabOrder(std::exchange(_tabOrder, {}));
     show();
-    // Its destruction may be asked for by one of its own events.
+    // Deleted later, because one of the window's own events may have led here.
     _fullScreenWindow->hide();
     _fullScreenWindow.release()->deleteLater();
 }

@@ -8,9 +8,9 @@
 
 class QScreen;
 
-/// The light panel that a timer's texts stand on. Its colours are its own, so that black, red and
-/// blue texts can be read in every theme. It can leave its window to fill a screen, and comes
-/// back into exactly its old place.
+/// The light panel behind a timer's texts. Its colours do not depend on the theme, so that black,
+/// red and blue texts are always readable. It can leave its window to fill a screen, and returns to
+/// exactly its old place.
 class DisplayBox final : public QFrame
 {
     Q_OBJECT
@@ -19,20 +19,19 @@ public:
     explicit DisplayBox(QWidget *parent = nullptr);
     ~DisplayBox() override;
 
-    /// Fills the screen. The box must be in a layout, and not in full-screen mode. If the window
-    /// that it has left is destroyed meanwhile, the box goes too.
+    /// Fills the screen. The box must be in a layout, and not in full-screen mode. If its own
+    /// window is destroyed meanwhile, so is the box.
     void enterFullScreenMode(QScreen &screen);
 
-    /// Comes back. The box must be in full-screen mode.
+    /// Returns the box to its window. It must be in full-screen mode.
     void exitFullScreenModeWithOptions();
 
     [[nodiscard]] bool isInFullScreenMode() const { return _fullScreenWindow != nullptr; }
 
 Q_SIGNALS:
-    /// Somebody asked the window manager to close the window that fills the screen.
+    /// The user has asked the window manager to close the full-screen window.
     void fullScreenCloseRequested();
-    /// The window that the box is in, be it its own or the one that fills the screen, has become
-    /// the active one.
+    /// The window that holds the box, its own or the full-screen one, has become active.
     void windowActivated();
 
 protected:
@@ -45,8 +44,8 @@ private:
     void destroyPlaceholder();
 
     std::unique_ptr<FullScreenWindow> _fullScreenWindow;
-    /// Keeps the box's place in its window, to which it belongs, while the box is away.
+    /// Holds the box's place in its window during full-screen mode. The window owns it.
     QPointer<QWidget> _placeholder;
-    /// The order in which the tab key walked through its window before the box left it.
+    /// The tab order of the box's window before the box left it.
     QList<QPointer<QWidget>> _tabOrder;
 };

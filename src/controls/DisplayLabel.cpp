@@ -11,7 +11,7 @@
 
 namespace
 {
-/// Shows the label to assistive programs as the static text that it looks like.
+/// Presents the label to assistive programs as static text.
 class AccessibleDisplayLabel final : public QAccessibleWidget
 {
 public:
@@ -58,7 +58,7 @@ DisplayLabel::DisplayLabel(QWidget *parent) : QWidget(parent)
         QAccessible::installFactory(makeAccessible);
         return true;
     }();
-    // The whole of the label is painted at each change, so nothing behind it has to be.
+    // The label fills what it paints, so nothing behind it has to be painted.
     setAttribute(Qt::WA_OpaquePaintEvent);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
 }
@@ -72,8 +72,8 @@ void DisplayLabel::setText(const QString &text)
     _text = text;
     if (emptinessChanged && _reservedCharacters == 0)
         updateGeometry();
-    // At once: a repaint that is put off costs another turn of the event loop, three calls of
-    // the kernel at every change of the milliseconds.
+    // Not update(): a deferred repaint costs another pass of the event loop, which is three system
+    // calls at every change of the milliseconds.
     repaint(changed);
     if (_announced && QAccessible::isActive()) {
         QAccessibleEvent event(this, QAccessible::NameChanged);

@@ -29,22 +29,21 @@ public:
     [[nodiscard]] QColor textColor() const { return _textColor; }
     void setTextColor(const QColor &color);
 
-    /// Room for so many digits, from 0 on. A label that reserves none takes no room while it is
-    /// empty.
+    /// How many digits to reserve room for; at least 0. With 0, an empty label takes no room.
     [[nodiscard]] int reservedCharacters() const { return _reservedCharacters; }
     void setReservedCharacters(int count);
 
-    /// The size in points of the font that room is made for, so that a smaller one for a longer
-    /// text moves nothing; 0 to make room for the font of the moment.
+    /// The font size in points to reserve room for, so that a smaller font for a longer text does
+    /// not change the layout; 0 for the size of the current font.
     [[nodiscard]] double reservedPointSize() const { return _reservedPointSize; }
     void setReservedPointSize(double points);
 
-    /// How the text stands within the label; centred to begin with.
+    /// The alignment of the text in the label; centred by default.
     [[nodiscard]] Qt::Alignment alignment() const { return _alignment; }
     void setAlignment(Qt::Alignment alignment);
 
-    /// Whether assistive programs are told of every new text; on to begin with. Off for a text
-    /// that changes too fast to be followed by ear.
+    /// Whether assistive programs are notified of every new text; on by default. Off for a text
+    /// that changes too fast to be read aloud.
     [[nodiscard]] bool isAnnounced() const { return _announced; }
     void setAnnounced(bool announced) { _announced = announced; }
 

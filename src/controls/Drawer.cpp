@@ -61,7 +61,7 @@ QWidget *Drawer::content() const
 
 void Drawer::slide(State state, QVariantAnimation::Direction direction)
 {
-    // The time left of a slide under way is kept when it turns round.
+    // A running slide that changes its direction goes on from where it is.
     _slide.setDuration(style()->styleHint(QStyle::SH_Widget_Animation_Duration, nullptr, this));
     _slide.setDirection(direction);
     show();
@@ -89,7 +89,7 @@ void Drawer::placeContent()
     QWidget *panel = content();
     if (!panel)
         return;
-    // The lower edge of the panel comes out first and the upper edge last, as if it were drawn
+    // The lower edge of the panel appears first and the upper edge last, as if the panel slid out
     // from behind the window.
     const int fullHeight = panel->sizeHint().height();
     panel->setGeometry(0, height() - fullHeight, width(), fullHeight);

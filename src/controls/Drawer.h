@@ -3,10 +3,10 @@
 #include <QVariantAnimation>
 #include <QWidget>
 
-/// A panel that slides out of the lower edge of the window it is laid out in, and back.
+/// A panel that slides out of the lower edge of its window, and back.
 ///
-/// What it holds is the one widget in its layout. The slide follows the style's animation
-/// setting; a closed drawer is hidden, so that the keyboard cannot reach into it.
+/// Its content is its one child widget. The slide follows the style's animation setting. A closed
+/// drawer is hidden, so that the keyboard cannot reach its content.
 class Drawer final : public QWidget
 {
     Q_OBJECT
@@ -18,14 +18,14 @@ public:
 
     [[nodiscard]] State state() const { return _state; }
 
-    /// Opens a closed or closing drawer, and closes an open or opening one from where it is.
+    /// Opens a closed or closing drawer, closes an open or opening one. A running slide reverses.
     void toggle();
 
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;
 
 Q_SIGNALS:
-    /// The slide has begun, turned round or ended.
+    /// The slide has started, reversed or ended.
     void stateChanged();
 
 protected:

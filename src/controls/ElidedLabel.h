@@ -2,8 +2,8 @@
 
 #include <QLabel>
 
-/// A line of plain text that takes what room there is and shortens itself to it, instead of
-/// making its window as wide as the text.
+/// A line of plain text that is elided to the available width, instead of making its window as wide
+/// as the text.
 class ElidedLabel final : public QLabel
 {
     Q_OBJECT

@@ -5,7 +5,7 @@
 
 namespace
 {
-/// A key with Control, Alt or the like, which is meant for others than a box.
+/// A key with Control, Alt or Meta, which is not meant for a box.
 bool isCommand(const QKeyEvent &event)
 {
     constexpr auto command = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
@@ -38,7 +38,7 @@ bool PickFromList::eventFilter(QObject *watched, QEvent *event)
 {
     const bool key = event->type() == QEvent::KeyPress;
     if (event->type() == QEvent::Wheel || (key && isCommand(*static_cast<QKeyEvent *>(event)))) {
-        // Whatever is around the box may have a use for it.
+        // An ignored event goes to the parent widget, which may use it.
         event->ignore();
         return true;
     }

@@ -4,9 +4,9 @@
 
 class QComboBox;
 
-/// Has the entries of a combo box picked from its open list only, for a box with entries that act
-/// as soon as they are selected: over a closed box the wheel does nothing, and the keys that would
-/// run through the entries open the list. Belongs to the box.
+/// Lets the user pick the entries of a combo box only from its open list, for a box whose entries
+/// act as soon as they are selected: over a closed box the wheel does nothing, and the keys that
+/// would select another entry open the list. The box owns this object.
 class PickFromList final : public QObject
 {
     Q_OBJECT

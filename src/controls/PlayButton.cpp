@@ -52,7 +52,7 @@ void PlayButton::paintEvent(QPaintEvent * /*event*/)
     if (_playing) {
         painter.drawRect(sign);
     } else {
-        // A little to the right, so that the weight of the triangle stands in the middle.
+        // Moved a little to the right, so that the triangle looks centred.
         sign.translate(side / 12, 0);
         const QPointF tip(sign.right(), sign.center().y());
         painter.drawPolygon(QPolygonF({sign.topLeft(), tip, sign.bottomLeft()}));

@@ -2,13 +2,12 @@
 
 #include <QToolButton>
 
-/// A small button that offers to play something while that is silent, and to stop it while it
-/// plays. It only shows which; whoever plays says so. The signs are drawn in the colours of the
-/// theme, at any size.
+/// A small button to play something and to stop it again. It only shows which of the two a click
+/// does; the code that plays calls setPlaying(). The signs have the theme's colours, at any size.
 class PlayButton final : public QToolButton
 {
     Q_OBJECT
-    /// What the button does while nothing plays, and while something does, in words.
+    /// The tool tip and accessible name while nothing plays, and while something does.
     Q_PROPERTY(QString playText READ playText WRITE setPlayText)
     Q_PROPERTY(QString stopText READ stopText WRITE setStopText)
 

@@ -2,9 +2,8 @@
 
 #include <QComboBox>
 
-/// A combo box that says when its list is about to open, so that the list can be brought up to
-/// date first. While the list is closed the wheel selects nothing: it was meant for what lies
-/// around the box.
+/// A combo box that signals when its list is about to open, so that the list can be updated first.
+/// While the list is closed the wheel selects nothing; the parent widget gets its events.
 class PopUpComboBox final : public QComboBox
 {
     Q_OBJECT

@@ -28,7 +28,7 @@ bool PressThrough::eventFilter(QObject *watched, QEvent *event)
 {
     if (_button.isEnabled() || !isOfMouse(*event))
         return QObject::eventFilter(watched, event);
-    // What a widget ignores goes to the one that it stands in.
+    // An ignored event goes to the parent widget.
     event->ignore();
     return true;
 }

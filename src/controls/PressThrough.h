@@ -4,9 +4,9 @@
 
 class QAbstractButton;
 
-/// Lets the mouse through a button while that is disabled, to the window behind it. A disabled
-/// button would keep every press to itself, and be a spot at which the window cannot be dragged.
-/// Its tool tip shows as ever. Belongs to the button.
+/// Passes the mouse events of a disabled button to the window behind it. Otherwise the button would
+/// swallow them, and the window could not be dragged there. The tool tip of the button still shows.
+/// The button owns this object.
 class PressThrough final : public QObject
 {
     Q_OBJECT

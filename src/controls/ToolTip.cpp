@@ -5,7 +5,7 @@
 
 void ToolTip::set(QWidget &widget, const QString &text)
 {
-    // Left to itself, a tool tip with markup breaks even a short text into lines.
+    // By default a tool tip with markup breaks even a short text into lines.
     constexpr qsizetype mostCharactersInALine = 65;
     const auto mode =
         text.length() <= mostCharactersInALine ? Qt::WhiteSpacePre : Qt::WhiteSpaceNormal;

@@ -4,10 +4,10 @@
 
 class QWidget;
 
-/// Tool tips of texts that may hold what a user has typed.
+/// Tool tips of texts that a user may have typed.
 namespace ToolTip
 {
-/// Gives the widget this tool tip, word for word: what looks like markup is none. Programs that
-/// read the screen aloud get it as the description of the widget. None for an empty text.
+/// Shows this text as the tool tip of the widget, without interpreting markup in it. Screen readers
+/// get it as the description of the widget. An empty text removes both.
 void set(QWidget &widget, const QString &text);
 } // namespace ToolTip

@@ -4,9 +4,8 @@
 
 const char *soundBackEnd()
 {
-    // Left to itself the library tries each way that it knows, also when the one it was told fails;
-    // and to ask for a JACK server leaves files in shared memory when there is none. So only a way
-    // is named that is known to be open. (ALSA always is; the library tells later if there is no
-    // device.)
+    // Without a name, or when the named one fails, cubeb tries all that it knows; and trying JACK
+    // without a JACK server leaves files in shared memory. So this names only a back end that is
+    // known to open. (ALSA always does; a missing device shows later.)
     return PulseServer::answers() ? "pulse" : "alsa";
 }
