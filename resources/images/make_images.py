@@ -8,7 +8,7 @@ Run it from anywhere, without arguments; it needs python3-cairo:
 It writes, next to itself:
 
     wuffer.svg, wuffer-16.png ... wuffer-256.png   the application icon
-    wuffer-symbolic.svg                            the same in one colour, the desktop's
+    wuffer-symbolic.svg                            the same, in one colour that the desktop sets
     sound_high.png, sound_high@2x.png              a sounding loudspeaker
     sound_mute.png, sound_mute@2x.png              the same one, crossed out
     chain.png, chain@2x.png                        two links, dragged to join timers
@@ -29,7 +29,7 @@ import cairo
 
 HERE = Path(__file__).resolve().parent
 
-# Whatever an outline is made of must stand out from light and dark windows.
+# Light and dark window backgrounds, from which the colours of outlines must stand out.
 WINDOWS = ("#efefef", "#353535", "#2b2b2b")
 SLATE = "#788398"
 BLUE = "#3a86d4"
@@ -202,7 +202,7 @@ def panel_icon() -> Picture:
 
 
 def small_icon() -> Picture:
-    """For 16 units: what is left when every part must be a whole pixel."""
+    """For 16 units: only parts that fit whole pixels."""
     return [
         Shape(rectangle(7, 1, 2, 2), TEAL_DARK),
         Shape(rectangle(5, 0, 6, 1), TEAL),
@@ -217,9 +217,9 @@ def small_icon() -> Picture:
 
 
 def symbolic_icon() -> Picture:
-    """For 16 units. Desktops put their own colour into outlines that are filled, and only there.
+    """For 16 units, of filled outlines only: desktops recolour fills, not strokes.
 
-    Whatever runs the other way round than the outline that it lies in is a hole.
+    An outline that runs in the opposite direction to the one around it is a hole.
     """
     dial = circle(8, 9, 6.5) + " " + transformed(UNIT_CIRCLE, -5, 5, 8, 9)
     features = [rectangle(5, 0, 6, 1), rectangle(7, 1, 2, 2), dial, SMALL_EAR]
@@ -229,7 +229,7 @@ def symbolic_icon() -> Picture:
 
 
 def status_icon() -> Picture:
-    """For 22 units: the timer alone, whose ring stands out from any panel."""
+    """For 22 units: the timer without the dog. Its ring stands out from any panel."""
     return [
         Shape(rectangle(10, 2, 2, 3), TEAL_DARK),
         Shape(line(8.5, 1.5, 13.5, 1.5), stroke=TEAL, width=2),
@@ -242,7 +242,7 @@ def status_icon() -> Picture:
 
 
 def sound_button(signs: list[str], colour: str) -> Picture:
-    """For 24 units; only what comes out of the loudspeaker differs."""
+    """For 24 units: a loudspeaker with the signs beside it."""
     speaker = Shape(LOUDSPEAKER, SLATE, SLATE, 2)
     return [speaker, *(Shape(sign, stroke=colour, width=2) for sign in signs)]
 
@@ -277,7 +277,7 @@ def link(x: float, y: float) -> str:
 
 
 def chain() -> Picture:
-    """For 32 units: two links, one through the other, rimmed to stand out anywhere."""
+    """For 32 units: two interlocked links, with a rim to stand out from any background."""
     lower, upper = link(11.5, 20.5), link(20.5, 11.5)
     return [
         Shape(lower, stroke="#ffffff", width=6),

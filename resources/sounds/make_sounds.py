@@ -50,7 +50,7 @@ class Call:
     resonances: list[Resonance]
     jitter: float  # random change of pitch from pulse to pulse
     shimmer: float  # random change of strength from pulse to pulse
-    growl: float  # alternately strong and weak pulses: an octave below
+    growl: float  # alternately strong and weak pulses, which sound an octave lower
 
 
 class BandPass:
@@ -93,8 +93,8 @@ def larynx(call: Call, rng: random.Random) -> list[float]:
         t = n / length
         phase += 2 * math.pi * at(call.pitch, t) * bend / RATE
         if phase > math.pi:
-            # Halfway between two pulses the voice is silent, so what changes
-            # from pulse to pulse changes here without a click.
+            # Halfway between two pulses the voice is silent, so the values of
+            # the next pulse can be set here without a click.
             phase -= 2 * math.pi
             sign = -sign
             bend = 1 + call.jitter * rng.uniform(-1, 1)
@@ -116,8 +116,8 @@ def mouth(call: Call, source: list[float]) -> list[float]:
     shaped = [0.0] * len(source)
     for index, resonance in enumerate(call.resonances):
         band_pass = BandPass()
-        # Neighbours in opposite phase add up between their peaks instead of
-        # cutting a hole there.
+        # Neighbouring resonances have opposite phases, so that between their
+        # peaks they add up instead of cancelling each other.
         gain = resonance.gain * (-1) ** index
         for n, sample in enumerate(source):
             frequency = at(resonance.frequency, n / len(source))
@@ -128,7 +128,7 @@ def mouth(call: Call, source: list[float]) -> list[float]:
 
 def utter(call: Call, rng: random.Random) -> list[float]:
     shaped = mouth(call, larynx(call, rng))
-    # Measured by power: a single high peak must not make the call faint.
+    # Measured by power, so that a single high peak does not make the call faint.
     level = math.sqrt(sum(sample * sample for sample in shaped) / len(shaped))
     return [
         at(call.loudness, n / len(shaped)) * math.tanh(STRAIN * sample / level)
@@ -164,7 +164,7 @@ def in_room(samples: list[float], seconds: float, amount: float) -> list[float]:
 
 
 def without_rumble(samples: list[float]) -> list[float]:
-    """Removes what lies below 40 Hz and with it any constant offset."""
+    """Removes frequencies below 40 Hz, and any constant offset."""
     keep = math.exp(-2 * math.pi * 40 / RATE)
     last_in = last_out = 0.0
     result = []
@@ -176,7 +176,7 @@ def without_rumble(samples: list[float]) -> list[float]:
 
 
 def finished(samples: list[float], fade: float) -> list[float]:
-    """Full volume, and a fade so that the file ends in silence."""
+    """Scales to full volume, and fades out so that the file ends in silence."""
     samples = without_rumble(samples)
     gain = PEAK / max(map(abs, samples))
     end = len(samples) / RATE
@@ -208,7 +208,7 @@ def bark(seconds: float, pitch: float) -> Call:
 
 
 def caw() -> Call:
-    """A raw throat, wide open at once and closing slowly."""
+    """A rough voice; the throat opens wide at once and closes slowly."""
     return Call(
         seconds=0.36,
         pitch=[(0, 490), (0.17, 590), (0.45, 575), (0.83, 480), (1, 430)],
