@@ -1,8 +1,8 @@
-# Writes what software centres show of Wuffer to the given file.
+# Writes the metainfo, which software centres show, to the given file.
 #
-# The releases are those that CHANGELOG.md has headings for. What lies on the web is named only
-# where the project is told its address: WUFFER_WEB_PAGE, and WUFFER_SCREENSHOTS_URL, the address
-# of the folder that holds what docs/screenshots does.
+# The releases are taken from the headings of CHANGELOG.md. The web page and the screenshots are
+# named only if their addresses are set: WUFFER_WEB_PAGE, and WUFFER_SCREENSHOTS_URL for a web
+# folder with the same files as docs/screenshots.
 function(wuffer_write_metainfo file)
     set(root "${CMAKE_CURRENT_FUNCTION_LIST_DIR}/..")
     wuffer_metainfo_releases(releases "${root}/CHANGELOG.md")

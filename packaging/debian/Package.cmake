@@ -5,7 +5,7 @@ set(CPACK_PACKAGE_CONTACT "${WUFFER_MAINTAINER}")
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "countdown timers for the desktop")
 set(CPACK_PACKAGE_DESCRIPTION_FILE "${CMAKE_CURRENT_LIST_DIR}/description")
 set(CPACK_STRIP_FILES ON)
-# With DESTDIR the prefix that files are told of is the one at which they will be.
+# With DESTDIR, paths inside the installed files begin with the final prefix.
 set(CPACK_SET_DESTDIR ON)
 set(CPACK_INSTALL_PREFIX /usr)
 set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
@@ -17,8 +17,8 @@ set(CPACK_DEBIAN_PACKAGE_SECTION utils)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 # The typeface of the display.
 set(CPACK_DEBIAN_PACKAGE_DEPENDS fonts-urw-base35)
-# The session bus, a service that shows notifications, something to hear the alarm by, windows
-# where there is no X server, and the way to the web page.
+# In this order: the session bus, a notification service, a sound server, windows without an X
+# server, and the command that opens the web page.
 string(JOIN ", " CPACK_DEBIAN_PACKAGE_RECOMMENDS
     "default-dbus-session-bus | dbus-session-bus"
     "notification-daemon"

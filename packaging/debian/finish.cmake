@@ -1,12 +1,12 @@
-# Brings what has been installed for the package into the form that Debian asks for: compressed
-# pages and changes, and the licence in a file that programs can read. CPack runs it.
+# CPack runs this script. It brings the installed files into the form that Debian requires: a
+# compressed manual page and changelog, and the licence in a machine-readable file.
 set(doc "${CPACK_TEMPORARY_INSTALL_DIRECTORY}/usr/share/doc/wuffer")
 set(man "${CPACK_TEMPORARY_INSTALL_DIRECTORY}/usr/share/man/man1")
 
 # The text of the licence, as the value of a field: indented, with a dot for an empty line.
 file(READ "${CPACK_WUFFER_LICENSE}" license)
 if(NOT license MATCHES "\nCopyright \\(c\\) ([^\n]+)\n\n(.*)")
-    message(FATAL_ERROR "${CPACK_WUFFER_LICENSE} has no line of copyright")
+    message(FATAL_ERROR "${CPACK_WUFFER_LICENSE} has no copyright line")
 endif()
 set(copyright "${CMAKE_MATCH_1}")
 string(STRIP "${CMAKE_MATCH_2}" license)
@@ -15,7 +15,7 @@ string(REPLACE "\n" "\n " license " ${license}")
 configure_file("${CPACK_WUFFER_DEBIAN_FOLDER}/copyright.in" "${doc}/copyright" @ONLY)
 file(REMOVE "${doc}/LICENSE")
 
-# The day of the release is that of its heading.
+# The release date is the one in the heading of this version.
 string(REPLACE "." "\\." version "${CPACK_PACKAGE_VERSION}")
 file(STRINGS "${doc}/CHANGELOG.md" heading REGEX "^## ${version} \\(")
 if(NOT heading MATCHES "\\(([0-9-]+)\\)$")
