@@ -20,12 +20,10 @@ class StatusItemTest(DesktopTest):
     def start(self, panel, settings=MUTED):
         """Starts a panel, and the program with one timer that does not run."""
         self.addCleanup(panel.close)
-        time.sleep(1)
         program = self.launch(settings=settings)
         program.wait_for_focus_in("Minutes")
         # Where the pointer is, nothing may pop up.
         self.display.move_pointer(self.display.width // 2, self.display.height // 2)
-        time.sleep(0.3)
         panel.look_at_empty()
         return program
 

@@ -2,10 +2,10 @@
 
 import glob
 import os
+import time
 
 from support import processes
 from support.display import Rect
-from support.picture import Picture
 from support.session import ask
 from support.waiting import wait_until
 
@@ -61,27 +61,37 @@ class Panel:
         self.strip = Rect(0, top, display.width, HEIGHT)
         self.empty = None
 
+    def pixels(self):
+        """What the strip shows now, as one number for each pixel."""
+        return memoryview(self.display.x.pixels(*self.strip)).cast("I")
+
     def look_at_empty(self):
-        """Takes note of what it looks like without an item."""
-        self.empty = Picture(self.display)
+        """Takes note of what it looks like without an item, once it has come to rest."""
+        wait_until(self.is_at_rest, 10, "the panel has come to rest")
+        self.empty = self.pixels()
+
+    def is_at_rest(self):
+        before = self.pixels()
+        time.sleep(0.4)
+        return self.pixels() == before
 
     def item(self):
         """The place of the item in the strip; nothing while there is none."""
-        picture = Picture(self.display)
-        places = [(x, y) for y in range(self.strip.y, self.strip.bottom)
-                  for x in range(self.strip.width) if picture.at(x, y) != self.empty.at(x, y)]
-        if not places:
+        pixels = self.pixels()
+        if pixels == self.empty:
             return None
-        left, right = min(x for x, _ in places), max(x for x, _ in places)
-        top, bottom = min(y for _, y in places), max(y for _, y in places)
-        return Rect(left, top, right - left + 1, bottom - top + 1)
+        places = [divmod(place, self.strip.width) for place in range(len(pixels))
+                  if pixels[place] != self.empty[place]]
+        left, right = min(x for _, x in places), max(x for _, x in places)
+        top, bottom = min(y for y, _ in places), max(y for y, _ in places)
+        return Rect(self.strip.x + left, self.strip.y + top, right - left + 1, bottom - top + 1)
 
     def wait_for_item(self):
-        wait_until(lambda: self.item() is not None, 5, "the item shows in the panel", 0.1)
+        wait_until(lambda: self.item() is not None, 5, "the item shows in the panel", 0.02)
         return self.item()
 
     def wait_for_no_item(self):
-        wait_until(lambda: self.item() is None, 5, "the panel is empty", 0.1)
+        wait_until(lambda: self.item() is None, 5, "the panel is empty", 0.02)
 
     def colors(self):
         return self.display.colors(self.strip)
