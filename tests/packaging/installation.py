@@ -1,5 +1,6 @@
 """Installs a build into a folder of the test's own."""
 
+import fcntl
 import os
 import shutil
 import subprocess
@@ -18,7 +19,10 @@ class Installation:
         if staged:
             environment["DESTDIR"] = self.folder
         try:
-            run("cmake", "--install", build, "--prefix", self.prefix, environment=environment)
+            # An installation writes into the build, too: only one at a time.
+            with open(os.path.join(build, "installing"), "w", encoding="ascii") as lock:
+                fcntl.flock(lock, fcntl.LOCK_EX)
+                run("cmake", "--install", build, "--prefix", self.prefix, environment=environment)
         except BaseException:
             self.remove()
             raise
