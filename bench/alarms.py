@@ -1,6 +1,5 @@
 """How late alarms are, to the eye and to the ear."""
 
-import os
 import pathlib
 import statistics
 import sys
