@@ -3,11 +3,12 @@
 #include <QAccessible>
 #include <QAccessibleWidget>
 #include <QEvent>
-#include <QPaintEvent>
+#include <QGlyphRun>
 #include <QPainter>
 #include <QStyle>
 
 #include <algorithm>
+#include <utility>
 
 namespace
 {
@@ -29,10 +30,35 @@ public:
     }
 };
 
-/// How many characters the texts have in common at their beginning.
-qsizetype commonLength(QStringView text, QStringView other)
+bool isAscii(const QString &text)
 {
-    return std::ranges::mismatch(text, other).in1 - text.begin();
+    return std::ranges::all_of(
+        text, [](QChar character) { return character >= u' ' && character <= u'~'; });
+}
+
+/// The text from the origin of its baseline on, its characters one after the other.
+struct PlainLine
+{
+    QGlyphRun glyphs;
+    double width = 0;
+};
+
+/// Nothing when the text has to be shaped: it is not ASCII, or the font lacks some of it.
+std::optional<PlainLine> plainLine(const QString &text, const QRawFont &font)
+{
+    if (!isAscii(text))
+        return std::nullopt;
+    const QList<quint32> glyphs = font.glyphIndexesForString(text);
+    if (glyphs.contains(0U))
+        return std::nullopt;
+    PlainLine line;
+    QList<QPointF> positions = font.advancesForGlyphIndexes(glyphs);
+    for (QPointF &position : positions)
+        line.width += std::exchange(position.rx(), line.width);
+    line.glyphs.setRawFont(font);
+    line.glyphs.setGlyphIndexes(glyphs);
+    line.glyphs.setPositions(positions);
+    return line;
 }
 
 /// What the text needs, its letters that reach beyond their place included.
@@ -68,13 +94,12 @@ void DisplayLabel::setText(const QString &text)
     if (text == _text)
         return;
     const bool emptinessChanged = text.isEmpty() != _text.isEmpty();
-    const QRect changed = changedPart(text);
     _text = text;
     if (emptinessChanged && _reservedCharacters == 0)
         updateGeometry();
     // Not update(): a deferred repaint costs another pass of the event loop, which is three system
     // calls at every change of the milliseconds.
-    repaint(changed);
+    repaint();
     if (_announced && QAccessible::isActive()) {
         QAccessibleEvent event(this, QAccessible::NameChanged);
         QAccessible::updateAccessibility(&event);
@@ -129,16 +154,34 @@ QSize DisplayLabel::minimumSizeHint() const
     return {0, _reservedPointSize > 0 ? 0 : sizeHint().height()};
 }
 
-void DisplayLabel::paintEvent(QPaintEvent *event)
+void DisplayLabel::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    painter.fillRect(event->rect(), palette().color(QPalette::Base));
+    painter.fillRect(rect(), palette().color(QPalette::Base));
     painter.setPen(_textColor);
+    if (!paintPlain(painter))
+        paintShaped(painter);
+}
 
-    if (const std::optional<QPointF> origin = plainOrigin(_text)) {
-        painter.drawGlyphRun(*origin, glyphs().run(_text));
-        return;
-    }
+bool DisplayLabel::paintPlain(QPainter &painter)
+{
+    if (!_rawFont)
+        _rawFont = QRawFont::fromFont(font());
+    const std::optional<PlainLine> line = plainLine(_text, *_rawFont);
+    if (!line)
+        return false;
+    const QFontMetricsF metrics(font());
+    const QSizeF textSize(line->width, metrics.height());
+    if (fittingScale(textSize, size()) < 1.0)
+        return false;
+    const QRect place =
+        QStyle::alignedRect(layoutDirection(), _alignment, textSize.toSize(), rect());
+    painter.drawGlyphRun(QPointF(place.x(), place.y() + metrics.ascent()), line->glyphs);
+    return true;
+}
+
+void DisplayLabel::paintShaped(QPainter &painter) const
+{
     // The painter is scaled and not the font: smaller fonts are not smaller in proportion.
     const double scale = fittingScale(neededRoom(QFontMetricsF(font()), _text), size());
     if (scale <= 0)
@@ -148,46 +191,10 @@ void DisplayLabel::paintEvent(QPaintEvent *event)
                      static_cast<int>(_alignment) | Qt::TextSingleLine | Qt::TextDontClip, _text);
 }
 
-const GlyphLine &DisplayLabel::glyphs() const
-{
-    if (!_glyphs)
-        _glyphs.emplace(font());
-    return *_glyphs;
-}
-
-std::optional<QPointF> DisplayLabel::plainOrigin(QStringView text) const
-{
-    if (!glyphs().canSet(text))
-        return std::nullopt;
-    const QSizeF textSize(glyphs().width(text), glyphs().height());
-    if (fittingScale(textSize, size()) < 1.0)
-        return std::nullopt;
-    const QRect place =
-        QStyle::alignedRect(layoutDirection(), _alignment, textSize.toSize(), rect());
-    return QPointF(place.x(), place.y() + glyphs().ascent());
-}
-
-QRect DisplayLabel::changedPart(QStringView newText) const
-{
-    const std::optional<QPointF> origin = plainOrigin(_text);
-    // What begins and ends where the old text does differs from it in its last characters only.
-    if (!origin || plainOrigin(newText) != origin || newText.size() != _text.size() ||
-        glyphs().width(newText) != glyphs().width(_text))
-        return rect();
-    const qsizetype kept = commonLength(newText, _text);
-    const QRectF ink = glyphs().inkFrom(kept, _text) | glyphs().inkFrom(kept, newText);
-    // Smoothed strokes stand out of their outlines a little.
-    constexpr int overhang = 2;
-    return ink.translated(*origin)
-        .toAlignedRect()
-        .adjusted(-overhang, -overhang, overhang, overhang)
-        .intersected(rect());
-}
-
 void DisplayLabel::changeEvent(QEvent *event)
 {
     if (event->type() == QEvent::FontChange) {
-        _glyphs.reset();
+        _rawFont.reset();
         updateGeometry();
     }
     QWidget::changeEvent(event);

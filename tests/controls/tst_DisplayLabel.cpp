@@ -3,8 +3,11 @@
 
 #include <QAccessible>
 #include <QPaintEvent>
+#include <QPainter>
 #include <QScreen>
 #include <QVBoxLayout>
+
+#include <memory>
 
 namespace
 {
@@ -72,8 +75,10 @@ private Q_SLOTS:
     void aNewTextCostsNoLayout();
     void assistiveProgramsSeeAText();
     void aTextThatStaysTheSameIsNotPainted();
-    void aNewDigitPaintsItsPlaceOnly();
-    void whatIsLeftAloneIsWhatAWholePaintWouldShow();
+    void aNewTextIsPaintedAtOnce();
+    void theScreenShowsWhatAPaintWouldShow();
+    void aTextStandsWhereTheToolkitWouldSetIt_data();
+    void aTextStandsWhereTheToolkitWouldSetIt();
 };
 
 void tst_DisplayLabel::theLabelPaintsAllOfItself()
@@ -212,19 +217,17 @@ void tst_DisplayLabel::aTextThatStaysTheSameIsNotPainted()
     QCOMPARE(paintings.rects.size(), 0);
 }
 
-void tst_DisplayLabel::aNewDigitPaintsItsPlaceOnly()
+void tst_DisplayLabel::aNewTextIsPaintedAtOnce()
 {
     ShownLabel f(words("123"));
     const Paintings paintings(f.label);
 
     f.label.setText(words("128"));
 
-    QCOMPARE(paintings.rects.size(), 1);
-    QVERIFY(paintings.rects.first().width() < f.label.fontMetrics().horizontalAdvance(words("00")));
-    QVERIFY(paintings.rects.first().height() < f.label.fontMetrics().height());
+    QCOMPARE(paintings.rects, QList<QRect>{f.label.rect()});
 }
 
-void tst_DisplayLabel::whatIsLeftAloneIsWhatAWholePaintWouldShow()
+void tst_DisplayLabel::theScreenShowsWhatAPaintWouldShow()
 {
     ShownLabel f(words("1h 2m 59s"));
     for (const char *text :
@@ -238,6 +241,39 @@ void tst_DisplayLabel::whatIsLeftAloneIsWhatAWholePaintWouldShow()
         f.label.render(&whole);
         QCOMPARE(painted, whole);
     }
+}
+
+void tst_DisplayLabel::aTextStandsWhereTheToolkitWouldSetIt_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::newRow("nothing") << QString();
+    QTest::newRow("a time") << words("23h 59m 59s");
+    QTest::newRow("blanks at its end") << words("1d 2h  ");
+    QTest::newRow("the first and the last of plain characters") << words("! ~");
+    QTest::newRow("a tabulator") << words("1\t2");
+    QTest::newRow("an umlaut") << QString::fromUtf8("Tür");
+    QTest::newRow("another script") << QString::fromUtf8("שעה");
+}
+
+void tst_DisplayLabel::aTextStandsWhereTheToolkitWouldSetIt()
+{
+    QFETCH(const QString, text);
+    constexpr QSize size(500, 100);
+    PaintedLabel f(text, 27);
+    const QRect ink = inkOf(f.painted(size));
+
+    QImage expected(size, QImage::Format_RGB32);
+    expected.fill(Qt::white);
+    QPainter painter(&expected);
+    painter.setFont(f.label.font());
+    painter.drawText(expected.rect(), Qt::AlignCenter | Qt::TextSingleLine, text);
+    painter.end();
+
+    const QRect wanted = inkOf(expected);
+    const std::unique_ptr<const char[]> seen(QTest::toString(ink));
+    QVERIFY2((ink.topLeft() - wanted.topLeft()).manhattanLength() <= 2 &&
+                 (ink.bottomRight() - wanted.bottomRight()).manhattanLength() <= 2,
+             seen.get());
 }
 
 WUFFER_TEST(tst_DisplayLabel)
