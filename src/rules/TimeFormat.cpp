@@ -2,18 +2,10 @@
 
 #include "base/Integers.h"
 
-#include <array>
 #include <cmath>
-#include <iterator>
 
 namespace
 {
-/// The last digit of a non-negative number.
-QChar digit(qint32 number)
-{
-    return QChar(u'0' + number % 10);
-}
-
 void append(QString &text, qint32 count, QLatin1String unit)
 {
     if (count != 0)
@@ -31,8 +23,6 @@ QString TimeFormat::stringForTime(double seconds)
     const qint32 whole = cutToInteger(seconds);
 
     QString text;
-    // Allocate once for the whole text.
-    text.reserve(16);
     append(text, days, QLatin1String("d "));
     append(text, (whole / 3600) % 24, QLatin1String("h "));
     if (days <= mostDaysWithMinutes)
@@ -44,13 +34,7 @@ QString TimeFormat::stringForTime(double seconds)
 
 QString TimeFormat::msStringForTime(double seconds)
 {
-    const qint32 milliseconds = cutToInteger(std::fmod(seconds, 1.0) * 1000.0);
-    if (milliseconds < 0)
-        return QString::asprintf("%03d", milliseconds);
-    // Runs at every tick, in a tenth of the time that a format string takes.
-    const std::array digits{digit(milliseconds / 100), digit(milliseconds / 10),
-                            digit(milliseconds)};
-    return QString(digits.data(), std::ssize(digits));
+    return QString::asprintf("%03d", cutToInteger(std::fmod(seconds, 1.0) * 1000.0));
 }
 
 QString TimeFormat::hmsString(qint32 hours, qint32 minutes, qint32 seconds)
