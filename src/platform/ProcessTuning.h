@@ -1,7 +1,6 @@
 #pragma once
 
-/// Makes the process need less memory and fewer wake-ups. Call it once, before the application
-/// object is made.
+/// Makes the process need fewer wake-ups. Call it once, before the application object is made.
 void tuneProcess();
 
 /// Returns free memory to the system; takes about a millisecond.
