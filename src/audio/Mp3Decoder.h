@@ -9,6 +9,11 @@
 #include <memory>
 
 /// Decodes MP3, without the silence that encoders add at both ends.
+///
+/// libsndfile 1.2 reads MP3 too, but of 130 files it judged 31 wrongly; here it is one, of free
+/// format, that does not open. A variable rate without notes of its length ended after 8 of 20
+/// seconds, and a picture in the tag made 76 seconds of 20. Half a file was said to be whole, and a
+/// file with zeros behind its tag did not open.
 class Mp3Decoder final : public AudioDecoder
 {
 public:

@@ -100,9 +100,9 @@ Mp3Stream readEncoderTag(const QByteArray &frame, const FrameHeader &header, qin
         return {hasFrames, hasBytes && number(xing + (hasFrames ? 12 : 8)) > available};
     }
     constexpr qsizetype vbri = FrameHeader::kSize + 32;
-    if (frame.mid(vbri, 4) == "VBRI")
-        return {true, number(vbri + 10) > available};
-    return {};
+    // The decoder does not know these notes, so the length is not to be had from them.
+    const bool hasVbri = frame.mid(vbri, 4) == "VBRI";
+    return {false, hasVbri && number(vbri + 10) > available};
 }
 } // namespace
 

@@ -12,7 +12,7 @@ struct Mp3Stream
     /// Leaves the bytes at their beginning.
     [[nodiscard]] static std::optional<Mp3Stream> find(QIODevice &bytes);
 
-    /// True if the encoder stated the number of frames.
+    /// True if the encoder stated the number of frames in a form that libmpg123 reads.
     bool statesLength = false;
 
     /// True if the encoder stated more bytes than the file has.

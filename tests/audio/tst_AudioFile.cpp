@@ -75,6 +75,25 @@ QByteArray contents(const QString &path)
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
+/// The MP3 file with the notes of its encoder in the other of the two forms.
+QByteArray withVbriNotes(QByteArray mp3)
+{
+    constexpr qsizetype framesAndBytes = 8;
+    const qsizetype xing = mp3.indexOf("Xing");
+    const qsizetype secondFrame = mp3.indexOf(mp3.first(2), 4);
+    const auto number = [&](qsizetype offset) {
+        return qFromBigEndian<quint32>(mp3.constData() + offset);
+    };
+    const quint32 frames = number(xing + framesAndBytes);
+    const quint32 size = number(xing + framesAndBytes + 4);
+    QByteArray notes(secondFrame - 4, '\0');
+    constexpr qsizetype vbri = 32;
+    notes.replace(vbri, 4, "VBRI");
+    qToBigEndian(size, notes.data() + vbri + 10);
+    qToBigEndian(frames, notes.data() + vbri + 14);
+    return mp3.replace(4, notes.size(), notes);
+}
+
 QByteArray randomBytes(quint32 seed)
 {
     QRandomGenerator generator(seed);
@@ -98,6 +117,7 @@ private Q_SLOTS:
     void rewindingReadsTheSameAgain();
     void anMp3FileWithoutNotesIsMeasured_data();
     void anMp3FileWithoutNotesIsMeasured();
+    void anMp3FileWithNotesOfTheOtherFormIsMeasured();
     void tagsBeforeAnMp3StreamAreSkipped();
     void theNameOfAFileDoesNotMatter_data();
     void theNameOfAFileDoesNotMatter();
@@ -230,6 +250,18 @@ void tst_AudioFile::anMp3FileWithoutNotesIsMeasured()
 
     // Without the notes nobody knows how much silence the encoder added.
     QVERIFY2(duration >= 3.0 && duration < 3.1, qPrintable(QString::number(duration)));
+}
+
+void tst_AudioFile::anMp3FileWithNotesOfTheOtherFormIsMeasured()
+{
+    writeTone(path(QStringLiteral("tone")), {.seconds = 3, .sampleRate = 44100}, {kMp3, true});
+    const QByteArray bytes = contents(path(QStringLiteral("tone")));
+
+    const double duration = durationOf(written(QStringLiteral("vbri"), withVbriNotes(bytes)));
+    const QByteArray half = withVbriNotes(bytes).first(bytes.size() / 2);
+
+    QVERIFY2(duration >= 3.0 && duration < 3.1, qPrintable(QString::number(duration)));
+    QCOMPARE(durationOf(written(QStringLiteral("half"), half)), 0.0);
 }
 
 void tst_AudioFile::tagsBeforeAnMp3StreamAreSkipped()
