@@ -50,6 +50,10 @@ if(WUFFER_SANITIZE)
         $<$<CXX_COMPILER_ID:GNU>:-Wno-null-dereference>)
 endif()
 
+if(WUFFER_FUZZERS)
+    target_compile_options(wuffer_build_options INTERFACE -fsanitize=fuzzer-no-link)
+endif()
+
 if(WUFFER_COVERAGE)
     target_compile_options(wuffer_build_options INTERFACE --coverage)
     target_link_options(wuffer_build_options INTERFACE --coverage)

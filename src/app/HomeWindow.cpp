@@ -1,6 +1,7 @@
 #include "app/HomeWindow.h"
 
 #include "app/MainMenu.h"
+#include "base/Mnemonics.h"
 #include "ui_Home.h"
 
 #include <QAction>
@@ -21,7 +22,7 @@ void showText(QPushButton &button, const QAction &item)
     // Items and buttons mark mnemonics alike. A preset has none; an & in its name is doubled.
     const QString text = item.text().simplified();
     button.setText(metrics.elidedText(text, Qt::ElideRight, room, Qt::TextShowMnemonic));
-    button.setAccessibleName(QString(text).replace(QLatin1String("&&"), QLatin1String("&")));
+    button.setAccessibleName(Mnemonics::shown(text));
     button.setToolTip(button.text() == text ? QString()
                                             : Qt::convertFromPlainText(button.accessibleName()));
 }

@@ -6,6 +6,7 @@
 #include "app/PresetsMenu.h"
 #include "app/TimerList.h"
 #include "app/WufferApplication.h"
+#include "base/Mnemonics.h"
 
 #include <QMainWindow>
 #include <QMenu>
@@ -16,12 +17,6 @@
 
 namespace
 {
-/// The text of a menu or an item without the & of its mnemonic.
-QString plainText(QString text)
-{
-    return text.remove(QLatin1Char('&'));
-}
-
 /// The timer of the active window; null if that window is closing.
 Wuffer *openKeyWuffer()
 {
@@ -96,7 +91,8 @@ std::vector<MenuKeys> MainMenu::keys()
     for (const Menu &menu : menus()) {
         for (const Row &row : menu.rows) {
             if (!row.shortcuts.isEmpty())
-                keys.push_back({plainText(tr(menu.title)), plainText(tr(row.text)), row.shortcuts});
+                keys.push_back({Mnemonics::shown(tr(menu.title)), Mnemonics::shown(tr(row.text)),
+                                row.shortcuts});
         }
     }
     return keys;

@@ -1,12 +1,7 @@
 #include "platform/StatusPopup.h"
 
+#include "base/Mnemonics.h"
 #include "platform/StatusMenu.h"
-
-/// A name may hold the sign that marks the letter to press.
-static QString literal(QString text)
-{
-    return text.replace(QLatin1Char('&'), QStringLiteral("&&"));
-}
 
 void StatusPopup::open(StatusMenu &menu, const QPoint &place)
 {
@@ -24,7 +19,7 @@ void StatusPopup::fill(StatusMenu &menu)
 {
     clear();
     for (const StatusMenu::Line &line : menu.lines()) {
-        QAction *action = addAction(literal(line.text));
+        QAction *action = addAction(Mnemonics::escaped(line.text));
         action->setData(line.id);
         connect(action, &QAction::triggered, &menu, [&menu, id = line.id] { menu.choose(id); });
     }
@@ -35,7 +30,7 @@ void StatusPopup::updateTexts(StatusMenu &menu)
     const std::vector<StatusMenu::Line> lines = menu.lines();
     QHash<int, QString> texts;
     for (const StatusMenu::Line &line : lines)
-        texts.insert(line.id, literal(line.text));
+        texts.insert(line.id, Mnemonics::escaped(line.text));
     for (QAction *action : actions()) {
         const auto text = texts.constFind(action->data().toInt());
         if (text != texts.cend() && action->text() != *text)

@@ -1,8 +1,9 @@
 #include "rules/MenuText.h"
 
+#include "base/Mnemonics.h"
 #include "rules/NameText.h"
 
 QString menuText(const QString &text)
 {
-    return NameText::inOneLine(text).replace(QLatin1Char('&'), QStringLiteral("&&"));
+    return Mnemonics::escaped(NameText::inOneLine(text));
 }

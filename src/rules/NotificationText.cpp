@@ -1,5 +1,7 @@
 #include "rules/NotificationText.h"
 
+#include "rules/OneLine.h"
+
 #include <QTextBoundaryFinder>
 
 namespace
@@ -16,37 +18,22 @@ bool turnsDirection(QChar character)
     return (code >= 0x202A && code <= 0x202E) || (code >= 0x2066 && code <= 0x2069);
 }
 
-bool isControl(QChar character)
-{
-    const QChar::Category category = character.category();
-    return category == QChar::Other_Control || category == QChar::Separator_Line ||
-           category == QChar::Separator_Paragraph;
-}
-
-QString shortened(QString text)
+QString shortened(const QString &text)
 {
     if (text.size() <= kLongestLine)
         return text;
     QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, text);
     finder.setPosition(kLongestLine);
-    qsizetype end = finder.isAtBoundary() ? kLongestLine : finder.toPreviousBoundary();
-    if (end < kLongestLine - kLongestCharacter) {
-        end = kLongestLine;
-        if (text.at(end).isLowSurrogate())
-            --end;
-    }
-    text.truncate(end);
-    return text + QChar(0x2026);
+    const qsizetype end = finder.isAtBoundary() ? kLongestLine : finder.toPreviousBoundary();
+    const bool isEndless = end < kLongestLine - kLongestCharacter;
+    return (isEndless ? OneLine::beginning(text, kLongestLine) : text.left(end)) + QChar(0x2026);
 }
 } // namespace
 
 QString NotificationText::line(const QString &text)
 {
-    QString line;
     // Skip most of what shortened() would cut off anyway.
-    for (const QChar character : QStringView(text).left(4 * kLongestLine)) {
-        if (!turnsDirection(character))
-            line += isControl(character) ? QLatin1Char(' ') : character;
-    }
-    return shortened(line.trimmed());
+    QString line = text.left(4 * kLongestLine);
+    line.removeIf(turnsDirection);
+    return shortened(OneLine::of(line).trimmed());
 }

@@ -20,7 +20,7 @@ qint32 NumberText::integerFrom(QStringView text)
             break;
         number = std::min(number * 10 + character.digitValue(), tooLarge);
     }
-    return cutToInteger(static_cast<double>(negative ? -number : number));
+    return limitedToInteger(negative ? -number : number);
 }
 
 QString NumberText::fromSeconds(float seconds)

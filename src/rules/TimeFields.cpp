@@ -2,16 +2,9 @@
 
 #include "base/Integers.h"
 
-#include <algorithm>
-#include <cmath>
-#include <limits>
-
 TimeFields TimeFields::fromSeconds(double seconds)
 {
-    using Limits = std::numeric_limits<qint32>;
-    if (std::isnan(seconds))
-        return {};
-    seconds = std::clamp<double>(seconds, Limits::min(), Limits::max());
+    seconds = limitedToIntegers(seconds);
     const qint32 whole = cutToInteger(seconds);
     const qint32 hours = whole / 3600;
     const qint32 minutes = (whole - hours * 3600) / 60;

@@ -1,10 +1,11 @@
 #include "rules/TimeText.h"
 
+#include "base/Integers.h"
+
 #include <QList>
 
 #include <algorithm>
 #include <array>
-#include <limits>
 
 namespace
 {
@@ -135,15 +136,10 @@ public:
 
     [[nodiscard]] TimeText::Time time() const
     {
-        return {limited(_hours), limited(_minutes), limited(_seconds)};
+        return {limitedToInteger(_hours), limitedToInteger(_minutes), limitedToInteger(_seconds)};
     }
 
 private:
-    [[nodiscard]] static qint32 limited(qint64 number)
-    {
-        return static_cast<qint32>(std::min<qint64>(number, std::numeric_limits<qint32>::max()));
-    }
-
     qint64 _hours = 0;
     qint64 _minutes = 0;
     qint64 _seconds = 0;

@@ -1,5 +1,6 @@
 #include "timer/TimeField.h"
 
+#include "base/Integers.h"
 #include "rules/NumberText.h"
 #include "rules/TimeText.h"
 
@@ -12,7 +13,6 @@
 
 #include <algorithm>
 #include <array>
-#include <limits>
 
 namespace
 {
@@ -78,9 +78,8 @@ void TimeField::edit(const QString &text)
 
 void TimeField::step(int count)
 {
-    constexpr qint64 most = std::numeric_limits<qint32>::max();
     const qint64 number = NumberText::integerFrom(text());
-    const QString changed = QString::number(std::clamp<qint64>(number + count, 0, most));
+    const QString changed = QString::number(limitedToInteger(std::max<qint64>(number + count, 0)));
     if (changed != text())
         edit(changed);
     selectAll();

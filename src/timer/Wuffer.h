@@ -217,7 +217,8 @@ public:
 Q_SIGNALS:
     /// The titles or the enabled state of menu items for this timer may have changed.
     void stateChanged();
-    /// The window is closing; the timer must not be used any more. Precedes Notices::kStatusChanged.
+    /// The window is closing; the timer must not be used any more. Precedes
+    /// Notices::kStatusChanged.
     void closed();
     /// The user wants to read this page of the help.
     void helpRequested(const QString &page);

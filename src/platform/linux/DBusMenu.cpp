@@ -61,8 +61,7 @@ DBusMenu::DBusMenu(std::function<void()> whenClosed) : _whenClosed(std::move(whe
     _linesTimer.setSingleShot(true);
     _linesTimer.setInterval(0);
     connect(&_linesTimer, &QTimer::timeout, this, &DBusMenu::updateLines);
-    _panelWatcher.setWatchMode(QDBusServiceWatcher::WatchForUnregistration);
-    connect(&_panelWatcher, &QDBusServiceWatcher::serviceUnregistered, this, [this] {
+    connect(&_panelWatch, &BusNameWatch::vanished, this, [this] {
         if (_open)
             close();
     });
@@ -95,7 +94,7 @@ void DBusMenu::forgetPanel()
 {
     _open = false;
     _textTimer.stop();
-    _panelWatcher.setWatchedServices({});
+    _panelWatch.stop();
 }
 
 uint DBusMenu::GetLayout(int parentId, int recursionDepth, const QStringList &propertyNames,
@@ -204,10 +203,8 @@ void DBusMenu::open()
 {
     _open = true;
     _textTimer.start();
-    if (!calledFromDBus())
-        return;
-    _panelWatcher.setConnection(connection());
-    _panelWatcher.setWatchedServices({message().service()});
+    if (calledFromDBus())
+        _panelWatch.watch(message().service());
 }
 
 void DBusMenu::close()

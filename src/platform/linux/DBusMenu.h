@@ -1,10 +1,10 @@
 #pragma once
 
 #include "platform/StatusMenu.h"
+#include "platform/linux/BusNameWatch.h"
 #include "platform/linux/DBusMenuTypes.h"
 
 #include <QDBusContext>
-#include <QDBusServiceWatcher>
 #include <QObject>
 #include <QPointer>
 #include <QTimer>
@@ -83,7 +83,7 @@ private:
     uint _revision = 1;
     bool _open = false;
     /// Tells when the panel that has it open has gone.
-    QDBusServiceWatcher _panelWatcher;
+    BusNameWatch _panelWatch;
     QTimer _textTimer;
     QTimer _linesTimer;
 };

@@ -1,18 +1,16 @@
 #include "platform/linux/FreedesktopNotifications.h"
 
 #include "platform/linux/ActivationToken.h"
-#include "platform/linux/SessionBus.h"
+#include "platform/linux/BusQuestion.h"
 
 #include <QDBusConnection>
 #include <QDBusMessage>
-#include <QDBusPendingCallWatcher>
-#include <QDBusPendingReply>
+#include <QDBusReply>
 #include <QGuiApplication>
 #include <QVariantMap>
 
 #include <algorithm>
 #include <array>
-#include <limits>
 #include <optional>
 
 /// What has been said to the server, and is still to say, on behalf of one sender.
@@ -118,25 +116,12 @@ DesktopNotification::End endSaidBy(const QVariant &reason)
                ? DesktopNotification::End::Expired
                : DesktopNotification::End::Dismissed;
 }
-
-template<class Function>
-void whenAnswered(const QDBusMessage &question, QObject &context, Function &&function)
-{
-    // A server that was frozen shows late what it has been told, and must then still be asked for
-    // its number, by which to withdraw it.
-    constexpr int howeverLong = std::numeric_limits<int>::max();
-    auto *watcher = new QDBusPendingCallWatcher(
-        QDBusConnection::sessionBus().asyncCall(question, howeverLong), &context);
-    QObject::connect(watcher, &QDBusPendingCallWatcher::finished, watcher, &QObject::deleteLater);
-    QObject::connect(watcher, &QDBusPendingCallWatcher::finished, &context,
-                     std::forward<Function>(function));
-}
 } // namespace
 
 void FreedesktopNotifications::notify(const QObject &sender,
                                       const DesktopNotification &notification)
 {
-    if (!SessionBus::isPresent() || !QDBusConnection::sessionBus().isConnected())
+    if (!BusQuestion::isPossible())
         return;
     listen();
     const std::shared_ptr<Conversation> conversation = conversationWith(sender);
@@ -224,18 +209,18 @@ FreedesktopNotifications::conversationAbout(uint id, const QString &server) cons
 void FreedesktopNotifications::askCapabilities(const std::shared_ptr<Conversation> &conversation)
 {
     conversation->underWay = true;
-    whenAnswered(call(kInterface, QStringLiteral("GetCapabilities")), *this,
-                 [this, conversation](QDBusPendingCallWatcher *answer) {
-                     const QDBusPendingReply<QStringList> capabilities = *answer;
-                     // A server that was restarted counts anew: its number for ours is another's.
-                     if (answer->reply().service() != conversation->server)
-                         conversation->id = 0;
-                     if (conversation->next)
-                         send(conversation,
-                              capabilities.isValid() ? capabilities.value() : QStringList());
-                     else
-                         conversation->underWay = false;
-                 });
+    const auto answered = [this, conversation](const QDBusMessage &answer) {
+        const QDBusReply<QStringList> capabilities(answer);
+        // A server that was restarted counts anew: its number for ours is another's.
+        if (answer.service() != conversation->server)
+            conversation->id = 0;
+        if (conversation->next)
+            send(conversation, capabilities.isValid() ? capabilities.value() : QStringList());
+        else
+            conversation->underWay = false;
+    };
+    BusQuestion::ask(call(kInterface, QStringLiteral("GetCapabilities")), *this,
+                     BusQuestion::kWithoutEnd, answered);
 }
 
 void FreedesktopNotifications::send(const std::shared_ptr<Conversation> &conversation,
@@ -243,11 +228,12 @@ void FreedesktopNotifications::send(const std::shared_ptr<Conversation> &convers
 {
     const uint replacedId = std::exchange(conversation->id, 0);
     conversation->shown = std::exchange(conversation->next, {});
-    whenAnswered(call(kInterface, QStringLiteral("Notify"),
-                      notifyArguments(*conversation->shown, replacedId, capabilities)),
-                 *this, [this, conversation](QDBusPendingCallWatcher *answer) {
-                     sent(conversation, answer->reply());
-                 });
+    const QVariantList arguments = notifyArguments(*conversation->shown, replacedId, capabilities);
+    // A server that was frozen shows late what it has been told, and must then still be asked for
+    // its number, by which to withdraw it.
+    BusQuestion::ask(
+        call(kInterface, QStringLiteral("Notify"), arguments), *this, BusQuestion::kWithoutEnd,
+        [this, conversation](const QDBusMessage &answer) { sent(conversation, answer); });
 }
 
 void FreedesktopNotifications::sent(const std::shared_ptr<Conversation> &conversation,

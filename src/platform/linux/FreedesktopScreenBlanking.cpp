@@ -1,18 +1,17 @@
 #include "platform/linux/FreedesktopScreenBlanking.h"
 
-#include "platform/linux/SessionBus.h"
+#include "platform/linux/BusNameWatch.h"
+#include "platform/linux/BusQuestion.h"
 #include "platform/linux/XScreenSaver.h"
 
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusObjectPath>
-#include <QDBusPendingCallWatcher>
-#include <QDBusServiceWatcher>
+#include <QDBusPendingCall>
 #include <QGuiApplication>
 #include <QVariantMap>
 
 #include <array>
-#include <limits>
 #include <utility>
 
 namespace
@@ -84,7 +83,7 @@ void FreedesktopScreenBlanking::begin(const QString &reason)
     _wanted = true;
     _reason = reason;
     XScreenSaver::suspend(true);
-    if (!SessionBus::isPresent() || !QDBusConnection::sessionBus().isConnected())
+    if (!BusQuestion::isPossible())
         return;
     watch();
     // An answer that is still under way comes just as well.
@@ -101,15 +100,12 @@ void FreedesktopScreenBlanking::end()
 
 void FreedesktopScreenBlanking::watch()
 {
-    if (_watcher)
+    if (_watch)
         return;
-    _watcher = std::make_unique<QDBusServiceWatcher>(kScreenSaver, QDBusConnection::sessionBus(),
-                                                     QDBusServiceWatcher::WatchForOwnerChange);
-    connect(_watcher.get(), &QDBusServiceWatcher::serviceOwnerChanged, this,
-            [this](const QString &, const QString &, const QString &newOwner) {
-                if (!newOwner.isEmpty())
-                    screenSaverAppeared();
-            });
+    _watch = std::make_unique<BusNameWatch>();
+    _watch->watch(kScreenSaver);
+    connect(_watch.get(), &BusNameWatch::appeared, this,
+            &FreedesktopScreenBlanking::screenSaverAppeared);
 }
 
 void FreedesktopScreenBlanking::ask(std::size_t way, Start start)
@@ -122,12 +118,8 @@ void FreedesktopScreenBlanking::ask(std::size_t way, Start start)
     _asking = true;
     _appeared = false;
     // What a frozen service grants late must still be given back.
-    constexpr int howeverLong = std::numeric_limits<int>::max();
-    auto *call = new QDBusPendingCallWatcher(
-        QDBusConnection::sessionBus().asyncCall(question, howeverLong), this);
-    connect(call, &QDBusPendingCallWatcher::finished, call, &QObject::deleteLater);
-    connect(call, &QDBusPendingCallWatcher::finished, this,
-            [this, way](QDBusPendingCallWatcher *answer) { answered(way, answer->reply()); });
+    BusQuestion::ask(question, *this, BusQuestion::kWithoutEnd,
+                     [this, way](const QDBusMessage &answer) { answered(way, answer); });
 }
 
 void FreedesktopScreenBlanking::answered(std::size_t way, const QDBusMessage &answer)

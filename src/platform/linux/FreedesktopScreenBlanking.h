@@ -6,8 +6,8 @@
 
 #include <memory>
 
+class BusNameWatch;
 class QDBusMessage;
-class QDBusServiceWatcher;
 
 /// Asks the desktop over the session bus: its screen saver, or else the portal. The X server, which
 /// blanks the screen itself where neither is there or listens, is told in any case.
@@ -44,5 +44,5 @@ private:
     QString _reason;
     /// What gives back what has been granted.
     std::unique_ptr<QDBusMessage> _return;
-    std::unique_ptr<QDBusServiceWatcher> _watcher;
+    std::unique_ptr<BusNameWatch> _watch;
 };

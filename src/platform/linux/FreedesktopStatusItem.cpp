@@ -1,6 +1,8 @@
 #include "platform/linux/FreedesktopStatusItem.h"
 
 #include "platform/TrayIcon.h"
+#include "platform/linux/BusNameWatch.h"
+#include "platform/linux/BusQuestion.h"
 #include "platform/linux/DBusMenu.h"
 #include "platform/linux/SessionBus.h"
 #include "platform/linux/StatusNotifierItem.h"
@@ -8,9 +10,7 @@
 #include <QApplication>
 #include <QDBusConnection>
 #include <QDBusMessage>
-#include <QDBusPendingCallWatcher>
-#include <QDBusPendingReply>
-#include <QDBusServiceWatcher>
+#include <QDBusReply>
 
 namespace
 {
@@ -37,13 +37,13 @@ FreedesktopStatusItem::FreedesktopStatusItem() :
     _notifier(std::make_unique<StatusNotifierItem>(
         kMenuPath, [this] { _tray->press(); }, [this] { _tray->openMenu(); })),
     _dbusMenu(std::make_unique<DBusMenu>([this] { changed(); })),
-    _watcher(std::make_unique<QDBusServiceWatcher>())
+    _watch(std::make_unique<BusNameWatch>())
 {
     _publishTimer.setSingleShot(true);
     _publishTimer.setInterval(0);
     connect(&_publishTimer, &QTimer::timeout, this, &FreedesktopStatusItem::publish);
-    connect(_watcher.get(), &QDBusServiceWatcher::serviceOwnerChanged, this,
-            &FreedesktopStatusItem::watcherChanged);
+    connect(_watch.get(), &BusNameWatch::appeared, this, &FreedesktopStatusItem::watcherChanged);
+    connect(_watch.get(), &BusNameWatch::vanished, this, &FreedesktopStatusItem::watcherVanished);
     // The first window comes first, the bus when the event loop has come round.
     connect(&_publishTimer, &QTimer::timeout, this, &FreedesktopStatusItem::start,
             Qt::SingleShotConnection);
@@ -59,15 +59,14 @@ void FreedesktopStatusItem::changed()
 
 void FreedesktopStatusItem::start()
 {
-    if (!SessionBus::isPresent() || !QDBusConnection::sessionBus().isConnected()) {
+    if (!BusQuestion::isPossible()) {
         watcherVanished();
         return;
     }
     QDBusConnection bus = QDBusConnection::sessionBus();
     bus.registerObject(kItemPath, _notifier.get(), kExported);
     bus.registerObject(kMenuPath, _dbusMenu.get(), kExported);
-    _watcher->setConnection(bus);
-    _watcher->addWatchedService(kWatcher);
+    _watch->watch(kWatcher);
     askForWatcher();
 }
 
@@ -77,32 +76,23 @@ void FreedesktopStatusItem::askForWatcher()
         QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/org/freedesktop/DBus"),
         QStringLiteral("org.freedesktop.DBus"), QStringLiteral("NameHasOwner"));
     question.setArguments({kWatcher});
-    auto *call =
-        new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(question), this);
-    connect(call, &QDBusPendingCallWatcher::finished, call, &QObject::deleteLater);
-    connect(call, &QDBusPendingCallWatcher::finished, this,
-            [this](QDBusPendingCallWatcher *answer) {
-                const QDBusPendingReply<bool> hasOwner = *answer;
-                // It may have come or gone while the question was under way. A bus that gives no
-                // answer has no panels either.
-                if (_isWatched || !hasOwner.isValid())
-                    return;
-                if (hasOwner.value())
-                    watcherAppeared();
-                else
-                    watcherVanished();
-            });
+    BusQuestion::ask(question, *this, BusQuestion::kUsual, [this](const QDBusMessage &answer) {
+        const QDBusReply<bool> hasOwner(answer);
+        // It may have come or gone while the question was under way. A bus that gives no answer has
+        // no panels either.
+        if (_isWatched || !hasOwner.isValid())
+            return;
+        if (hasOwner.value())
+            watcherAppeared();
+        else
+            watcherVanished();
+    });
 }
 
-void FreedesktopStatusItem::watcherChanged(const QString & /*name*/, const QString &oldOwner,
-                                           const QString &newOwner)
+void FreedesktopStatusItem::watcherChanged(bool takenOver)
 {
-    if (newOwner.isEmpty()) {
-        watcherVanished();
-        return;
-    }
     // One that has waited for the other to go takes its place without a moment between them.
-    if (!oldOwner.isEmpty())
+    if (takenOver)
         _dbusMenu->forgetPanel();
     watcherAppeared();
 }

@@ -8,8 +8,8 @@
 #include <memory>
 #include <optional>
 
+class BusNameWatch;
 class DBusMenu;
-class QDBusServiceWatcher;
 class StatusNotifierItem;
 class TrayIcon;
 
@@ -33,7 +33,7 @@ protected:
 private:
     void start();
     void askForWatcher();
-    void watcherChanged(const QString &name, const QString &oldOwner, const QString &newOwner);
+    void watcherChanged(bool takenOver);
     void watcherAppeared();
     void watcherVanished();
     void publish();
@@ -41,7 +41,7 @@ private:
     std::unique_ptr<TrayIcon> _tray;
     std::unique_ptr<StatusNotifierItem> _notifier;
     std::unique_ptr<DBusMenu> _dbusMenu;
-    std::unique_ptr<QDBusServiceWatcher> _watcher;
+    std::unique_ptr<BusNameWatch> _watch;
     /// Whether somebody watches for items; unknown until the bus has answered.
     std::optional<bool> _isWatched;
     QTimer _publishTimer;

@@ -1,7 +1,7 @@
 #include "platform/SingleInstance.h"
 
 #include "platform/linux/ActivationToken.h"
-#include "platform/linux/SessionBus.h"
+#include "platform/linux/BusQuestion.h"
 #include "platform/linux/StartupNotification.h"
 
 #include <QDBusAbstractAdaptor>
@@ -94,7 +94,7 @@ SingleInstance::SingleInstance()
 
 bool SingleInstance::claim()
 {
-    if (!SessionBus::isPresent() || !QDBusConnection::sessionBus().isConnected())
+    if (!BusQuestion::isPossible())
         return true;
     QDBusConnection bus = QDBusConnection::sessionBus();
     // Before the name: whoever waits for the name asks at once.
