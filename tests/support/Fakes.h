@@ -36,8 +36,8 @@ public:
 
     [[nodiscard]] QString standIn() const { return _standIn; }
     [[nodiscard]] bool loops() const { return _loops; }
-    /// Lets the sound reach its end.
-    void reachEnd() { _playing = _loops; }
+    /// Lets the sound reach its end, if it is playing.
+    void reachEnd() { _playing = _playing && _loops; }
 
 private:
     FakeSoundSystem &_system;

@@ -3,6 +3,8 @@
 #include "support/TestMain.h"
 #include "support/TimerFixture.h"
 
+#include <QSignalSpy>
+
 /// Start, the run tick, Stop and Reset of a countdown.
 class tst_RunCycle final : public Test
 {
@@ -32,6 +34,7 @@ private Q_SLOTS:
     void aMutedTimersKeepWuffingBoxStaysDisabled();
     void theRestIsToldWhenAllIsDone();
     void everyFifthTickTellsTheRestOfTheProgram();
+    void ticksTellOfTheStatusAndNotOfTheState();
     void whoeverIsToldMayStopTheTimer();
     void theCountOfTicksGoesOnOverAStop();
     void startAndStopEachTellTheRestOnce();
@@ -388,6 +391,19 @@ void tst_RunCycle::theVeryMomentOfTheEndIsTheEnd()
     t.clock.sleep(60);
     QCOMPARE(t.timer.targetDate()->timeIntervalSinceNow(), 0.0);
     QCOMPARE(t.display(), QStringLiteral("Wuff!"));
+}
+
+void tst_RunCycle::ticksTellOfTheStatusAndNotOfTheState()
+{
+    TimerFixture t;
+    t.startCountdown(60);
+    const NoticeCounter status(QStringLiteral("statusChanged"));
+    const QSignalSpy state(&t.timer, &Wuffer::stateChanged);
+    t.pass(30);
+    QVERIFY(status.count > 100);
+    QCOMPARE(state.count(), 0);
+    t.pressGo();
+    QVERIFY(state.count() > 0);
 }
 
 void tst_RunCycle::whoeverIsToldMayStopTheTimer()

@@ -70,6 +70,8 @@ private Q_SLOTS:
     void aNumberSetLaterTakesThePlaceOfWhatWasTyped();
     void whatIsNoNumberVanishes();
     void anEmptiedFieldStaysEmpty();
+    void deletingMoreThanWasTypedLeavesNothing();
+    void aShorterNumberKeepsThePlaceOfTheTyping();
 };
 
 void tst_NumberField::aNumberIsShownAndReadInTheUsersLocale()
@@ -227,6 +229,33 @@ void tst_NumberField::anEmptiedFieldStaysEmpty()
     f.press(Qt::Key_Delete);
     QCOMPARE(f.typed, QList<float>({0.0F}));
     QCOMPARE(f.shown(), QStringLiteral("|"));
+}
+
+void tst_NumberField::deletingMoreThanWasTypedLeavesNothing()
+{
+    Fixture f(kALittleMore);
+    f.type("1");
+    QCOMPARE(f.shown(), QStringLiteral("1.0000001|"));
+    // An input method takes back five characters at once, of which only the first was typed.
+    QInputMethodEvent takesBack;
+    takesBack.setCommitString({}, -5, 5);
+    QCoreApplication::sendEvent(&f.field, &takesBack);
+    QCOMPARE(f.shown(), QStringLiteral("|"));
+    QCOMPARE(f.typed.back(), 0.0F);
+    f.type("8");
+    QCOMPARE(f.typed.back(), 8.0F);
+}
+
+void tst_NumberField::aShorterNumberKeepsThePlaceOfTheTyping()
+{
+    Fixture f(0.0F);
+    f.field.setFloatValue(13.0F);
+    f.press(Qt::Key_Home);
+    f.press(Qt::Key_Right);
+    f.type("2");
+    QCOMPARE(f.shown(), QStringLiteral("0|"));
+    f.type("5");
+    QCOMPARE(f.typed, QList<float>({123.0F, 1253.0F}));
 }
 
 WUFFER_TEST(tst_NumberField)
