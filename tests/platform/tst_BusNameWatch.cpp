@@ -40,7 +40,8 @@ class tst_BusNameWatch final : public Test
     Q_OBJECT
 
 public:
-    explicit tst_BusNameWatch(const OnPrivateBus &surroundings) : _address(surroundings.bus().address()))
+    explicit tst_BusNameWatch(const OnPrivateBus &surroundings) :
+        _address(surroundings.bus().address())
     {}
 
 private Q_SLOTS:
