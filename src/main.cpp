@@ -20,7 +20,7 @@ int main(int argc, char *argv[])
     if (!instance.claim()) {
         if (instance.forward(nameOf(commandLine.order), launch))
             return 0;
-        // It hangs, or is just about to end.
+        // The owner of the name hangs or is about to end, so this instance runs, too.
         instance.inherit();
     }
 

@@ -10,7 +10,7 @@ void HeldKey::letGo(const QKeyEvent &release)
 
 bool HeldKey::isRepeatedBy(const QKeyEvent &press) const
 {
-    // A press without a number is not of a keyboard.
+    // An event without a scan code does not come from a keyboard.
     const bool isSameKey = _number != 0 && press.nativeScanCode() == _number;
     return press.isAutoRepeat() || (isSameKey && press.timestamp() == _moment);
 }

@@ -5,7 +5,7 @@
 
 namespace
 {
-/// A file that cannot be played.
+/// Stands for a sound file when the module is missing; plays nothing.
 class NoSound final : public Sound
 {
 public:
@@ -38,7 +38,7 @@ public:
 
 std::unique_ptr<SoundSystem> load(const QString &module)
 {
-    // The library stays loaded when this object goes, as long as the program runs.
+    // Destroying a QLibrary does not unload the library.
     QLibrary library(module);
     using Make = SoundSystem *(*)();
     if (const auto make = reinterpret_cast<Make>(library.resolve("wufferMakeSoundSystem")))

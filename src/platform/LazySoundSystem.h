@@ -2,18 +2,18 @@
 
 #include "base/Sound.h"
 
-/// Loads the sound system when the first sound is asked for, which takes 4 ms. Sound brings many
-/// libraries, 2 MiB of memory that an open window does without. Where the module with the sound
-/// system is missing, there are no sounds. Main thread.
+/// Loads the module with the sound system for the first sound, which takes 4 ms. Until then the
+/// program saves the 2 MiB of memory that the module's libraries take. Without the module there are
+/// no sounds. Main thread.
 class LazySoundSystem final : public SoundSystem
 {
 public:
-    /// With the path of the module, without the ending of its name.
+    /// Takes the path of the module without the file extension.
     explicit LazySoundSystem(QString module = standardModule());
     ~LazySoundSystem() override;
     Q_DISABLE_COPY_MOVE(LazySoundSystem)
 
-    /// The module at its place beside the program, both in the build and where it is installed.
+    /// The path of the module. It is the same relative to the program in the build and installed.
     [[nodiscard]] static QString standardModule();
 
     [[nodiscard]] std::unique_ptr<Sound> soundNamed(const QString &fileName) override;

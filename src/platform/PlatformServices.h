@@ -6,11 +6,11 @@ class DesktopNotifications;
 class ScreenBlanking;
 class StatusItem;
 
-/// The list of services that each system has in its own way. linux/ and generic/ both define it;
-/// the build takes one of them.
+/// The services whose implementation depends on the system. linux/ and generic/ both define these
+/// functions; the build takes one of the two.
 namespace PlatformServices
 {
-/// Sets the process up for the system. Comes before the application object.
+/// Prepares the process for the system. Call it before the application object is made.
 void prepareProcess();
 
 [[nodiscard]] std::unique_ptr<DesktopNotifications> desktopNotifications();

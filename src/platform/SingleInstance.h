@@ -3,36 +3,37 @@
 #include <QObject>
 #include <QVariant>
 
-/// Makes the program one in its session: the first to start owns its name on the session bus, and
-/// whoever starts later has only to tell it what it was started for.
+/// Keeps the program to one instance in a session. The first instance owns the program's name on
+/// the session bus; a later one tells the first what it was started for, and ends.
 ///
-/// It answers to the org.freedesktop.Application interface of the Desktop Entry Specification, by
-/// which a desktop starts a program over the bus and runs the actions of its entry. What an action
-/// means it leaves to others. Without a bus, and on systems that have none, every start is the
-/// first. Main thread.
+/// Implements the interface org.freedesktop.Application of the Desktop Entry Specification, with
+/// which a desktop starts a program over the bus and runs the actions of its desktop entry. Does
+/// not know what an action means. Without a session bus every instance counts as the first. Main
+/// thread.
 class SingleInstance final : public QObject
 {
     Q_OBJECT
 
 public:
-    /// What the desktop says of this launch, in the words of the bus. To be asked before there is
-    /// an application object, which takes it out of the environment.
+    /// The desktop's data about this launch, as the bus carries them. Call it before the
+    /// application object is made, which removes them from the environment.
     [[nodiscard]] static QVariantMap thisLaunch();
 
     SingleInstance();
 
-    /// Tries to own the name, which is that of the desktop entry; whether it does.
+    /// Tries to own the bus name, which is that of the desktop entry. False when another instance
+    /// owns it; true also when no instance can, because there is no bus or the bus refuses.
     [[nodiscard]] bool claim();
 
-    /// Tells the one that owns the name what this one was started for; an empty action only
-    /// brings it to the front. Whether it answered: one that hangs is given up after two seconds.
+    /// Tells the owner of the name what this instance was started for; an empty action only brings
+    /// the owner to the front. Returns whether the owner has answered within two seconds.
     [[nodiscard]] bool forward(const QString &action, const QVariantMap &launch) const;
 
-    /// Has the name come to this one when its owner has gone, for one that runs on beside it.
+    /// Makes this instance, which runs beside the owner of the name, the next owner.
     void inherit();
 
 Q_SIGNALS:
-    /// Somebody wants the program to do this; an empty action only brings it to the front. An
-    /// action may be one that nobody knows.
+    /// The desktop or a later instance has asked for this action, which may be unknown. An empty
+    /// action only brings the program to the front.
     void asked(const QString &action);
 };

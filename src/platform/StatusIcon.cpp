@@ -12,7 +12,7 @@
 
 namespace
 {
-/// The brightness to the eye, from 0 to 1.
+/// The relative luminance, from 0 (black) to 1 (white).
 double luminance(const QColor &color)
 {
     const auto linear = [](double value) {
@@ -24,7 +24,7 @@ double luminance(const QColor &color)
            0.0722 * linear(static_cast<double>(rgb.blueF()));
 }
 
-/// From 1, not to be told apart, to 21.
+/// The contrast ratio, from 1 (no difference) to 21.
 double contrast(const QColor &one, const QColor &other)
 {
     const auto [dark, light] = std::minmax({luminance(one), luminance(other)});
@@ -38,8 +38,8 @@ QColor plateFor(const QColor &ink)
     return contrast(ink, light) >= contrast(ink, dark) ? light : dark;
 }
 
-/// The outline of the text, stretched over the room: a short one becomes no wider than it is, a
-/// long one narrow, but not so narrow that its figures run together.
+/// The outline of the text, stretched to fill the room. Limits to the stretching keep a short text
+/// from becoming wide, and the digits of a long one from running together.
 QPainterPath fitted(const QString &text, const QRectF &room)
 {
     constexpr double tallest = 1.9;

@@ -8,33 +8,33 @@ class QPalette;
 struct StatusTitle;
 
 /// The picture of a status item, for panels that draw no text beside it: the first time unit of
-/// the title on a plate of its own, or the image where there is nothing short enough to be read.
+/// the title on a background of its own (the plate), or else the image of the item.
 ///
-/// Nobody tells a program how bright the panel is, and a panel may be dark among light windows.
-/// So the text brings its background along.
+/// The text needs its own background because a program cannot find out how bright the panel is; a
+/// panel may be dark although windows are light.
 struct StatusIcon final
 {
-    /// What is written over the whole square; empty for the image.
+    /// Fills the whole square; if empty, the image is drawn.
     QString text;
-    /// Of the text; invalid where there is none.
+    /// The colour of the text; invalid without a text.
     QColor ink;
-    /// Behind the text or the image; invalid for none.
+    /// The background of the text or the image; invalid for none.
     QColor plate;
     QIcon image;
 
-    /// The picture for an item with this image and title. Black is drawn as the text of the
-    /// palette, on its background; every other colour as it is, on the background that it stands
-    /// out from.
+    /// The picture for an item with this image and title. A black text is drawn in the colours of
+    /// the palette; a text of another colour on white or dark grey, whichever contrasts more.
+    /// Behind an image the plate has the colour of the title, or is missing if that is black.
     [[nodiscard]] static StatusIcon of(const QIcon &image, const StatusTitle &title,
                                        const QPalette &palette);
 
-    /// "4m" of "4m 59s"; empty when the title does not begin with a number and its unit, of at
-    /// most four characters.
+    /// "4m" for "4m 59s". Empty unless the title begins with up to three digits and one letter,
+    /// followed by a space or the end.
     [[nodiscard]] static QString shortText(const QString &title);
 
     [[nodiscard]] bool isNull() const { return text.isEmpty() && image.isNull(); }
 
-    /// The picture in so many pixels each way.
+    /// The picture, so many pixels wide and high.
     [[nodiscard]] QImage painted(int size) const;
 
     [[nodiscard]] friend bool operator==(const StatusIcon &one, const StatusIcon &other)

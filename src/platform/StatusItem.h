@@ -19,11 +19,11 @@ struct StatusTitle
     [[nodiscard]] friend bool operator==(const StatusTitle &, const StatusTitle &) = default;
 };
 
-/// The program's place among the status items of the desktop.
+/// The program's item among the status items of the desktop.
 ///
-/// It is there for as long as it lives, but nothing of it shows while it has neither an image nor
-/// a title. It keeps what it is given and tells the platform only of what is new. The desktop may
-/// have no room for status items, or have it later; none of that is reported. Main thread.
+/// The item is visible while it has an image or a title. The platform is told only of values that
+/// differ from the previous ones. The desktop may not show status items, or only later; callers do
+/// not learn of that. Main thread.
 class StatusItem
 {
 public:
@@ -45,20 +45,20 @@ public:
 
     [[nodiscard]] bool isEmpty() const { return _image.isNull() && _title.text.isEmpty(); }
 
-    /// Whom a press is meant for; null when there is nobody, also once it is destroyed.
+    /// The object that a press acts on; null if none is set or it has been destroyed.
     [[nodiscard]] QObject *target() const { return _target; }
-    /// What a press with the left button does while there is no menu, and the target lives.
+    /// Sets what a left click does while there is no menu and the target exists.
     void setTarget(QObject *target, std::function<void()> action);
 
-    /// What a press opens; null when there is none.
+    /// The menu that a press opens; null for none.
     [[nodiscard]] StatusMenu *menu() const { return _menu; }
     void setMenu(StatusMenu *menu);
 
-    /// Does what a press with the left button does while there is no menu.
+    /// Runs the action of the target, as a left click does while there is no menu.
     void sendAction() const;
 
 protected:
-    /// What is to be seen of the item has changed.
+    /// Called when the image, the title or the menu has changed.
     virtual void changed() = 0;
 
 private:

@@ -7,8 +7,8 @@
 
 /// The list that drops down from a status item.
 ///
-/// Its lines are asked for when somebody is about to see them, so that a list that is not open
-/// costs nothing however often it changes. Main thread.
+/// A panel or popup reads the lines only when it is about to show them, so a closed list costs
+/// nothing however often it changes. Main thread.
 class StatusMenu : public QObject
 {
     Q_OBJECT
@@ -23,16 +23,16 @@ public:
         [[nodiscard]] friend bool operator==(const Line &, const Line &) = default;
     };
 
-    /// The lines as they are now, from above to below.
+    /// The lines as they are now, from top to bottom.
     [[nodiscard]] virtual std::vector<Line> lines() = 0;
 
-    /// The user has chosen this line, which may have gone from the list in the meantime. One of
-    /// no meaning is no matter.
+    /// Handles the user's choice of a line. An unknown id does nothing: the line may have been
+    /// removed in the meantime.
     virtual void choose(int id) = 0;
 
 Q_SIGNALS:
-    /// The texts of some lines may be others than they were.
+    /// The texts of some lines may have changed.
     void textsChanged();
-    /// There may be other lines, or in another order.
+    /// Lines may have been added, removed or reordered.
     void linesChanged();
 };

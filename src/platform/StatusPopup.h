@@ -4,9 +4,9 @@
 
 class StatusMenu;
 
-/// The list of a status item as a menu of ours, for panels that leave the showing to the program.
-/// A line whose text changes while the menu is open changes under the pointer; the menu itself
-/// stays as it is until it is opened again.
+/// The list of a status item as a menu of the program's own, for panels that show no menus
+/// themselves. While the menu is open the texts of its lines are updated, but lines are added and
+/// removed only when it is opened again.
 class StatusPopup final : public QMenu
 {
     Q_OBJECT
@@ -14,7 +14,7 @@ class StatusPopup final : public QMenu
 public:
     StatusPopup() = default;
 
-    /// Opens the list there, in front of everything.
+    /// Opens the list at this place of the screen; does nothing while it is open.
     void open(StatusMenu &menu, const QPoint &place);
 
 private:

@@ -7,8 +7,8 @@
 
 namespace
 {
-/// The longest wait asked of QTimer, in milliseconds. It takes at most 24.8 days; a wait that
-/// is longer is made of several.
+/// The longest interval given to QTimer, in milliseconds. QTimer takes at most 24.8 days, so a
+/// longer wait is split.
 constexpr double kLongestWait = 86'400'000.0;
 } // namespace
 
@@ -38,11 +38,11 @@ void SystemClock::nextDueChanged()
         _alarm.stop();
         return;
     }
-    // Asked at every tick, mostly in vain; setting an alarm anew is not for nothing.
+    // Called at every tick, mostly with the same due time; restarting a QTimer has a cost.
     if (_alarm.isActive() && due == _alarmMoment)
         return;
     _alarmMoment = due;
-    // Rounded up, because a wake-up before the moment would only have to wait again.
+    // Rounded up, because a wake-up before the due time would only have to wait again.
     const double milliseconds = std::ceil((due - now()) * 1000.0);
     _alarm.start(static_cast<int>(std::clamp(milliseconds, 0.0, kLongestWait)));
 }

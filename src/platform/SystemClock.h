@@ -4,9 +4,9 @@
 
 #include <QTimer>
 
-/// The clock of the running program: the computer's time since it was started, mapped to
-/// calendar time once. Setting the computer's clock moves no timer. Where the system counts the
-/// time of a suspend (secondsSinceBoot()), timers are where they ought to be after one.
+/// The clock of the running program: the time since the computer was started, mapped to calendar
+/// time once. Setting the computer's clock moves no timer. Timers stay right across a suspend where
+/// secondsSinceBoot() counts it.
 class SystemClock final : public Clock
 {
 public:
@@ -20,7 +20,7 @@ private:
     void wake();
 
     double _bootMoment;
-    /// What the alarm is set to.
+    /// The time for which the alarm is set.
     double _alarmMoment = 0;
     QTimer _alarm;
 };

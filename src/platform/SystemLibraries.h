@@ -11,7 +11,7 @@ struct Library
     const char *licence;
 };
 
-/// What the services of the system are linked with.
+/// The libraries that the platform services are linked with.
 namespace SystemLibraries
 {
 [[nodiscard]] const char *useOfQt();

@@ -10,15 +10,15 @@
 
 namespace
 {
-/// Where a sound to choose is most likely: the user's own sounds, the user's music, the sounds of
-/// the system. The first of these that there is, or else the user's home.
+/// The first folder that exists of the user's own sounds, the user's music and the sounds of the
+/// system, or else the user's home.
 QUrl folderOfSounds()
 {
     using Paths = QStandardPaths;
     const QString data = Paths::writableLocation(Paths::GenericDataLocation);
     const QString music = Paths::writableLocation(Paths::MusicLocation);
     QStringList folders{data + QStringLiteral("/sounds")};
-    // A desktop without a folder for music names the home instead.
+    // Without a folder for music, the location of music is the home.
     if (QDir(music) != QDir::home())
         folders << music;
     folders << Paths::locateAll(Paths::GenericDataLocation, QStringLiteral("sounds"),
@@ -30,38 +30,39 @@ QUrl folderOfSounds()
     return QUrl::fromLocalFile(QDir::homePath());
 }
 
-void keepSharedSettingsIn(const QString &folder)
+void setFolderOfSharedSettings(const QString &folder)
 {
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, folder);
 }
 
-/// Makes what the file dialog would like to remember go nowhere. It reads how all programs of the
-/// toolkit show files when it is made, and writes that back when it is destroyed.
-void forgetWhatTheDialogRemembers()
+/// Discards what the file dialog writes to the settings that all Qt programs share. The dialog
+/// reads them when it is made and writes them back when it is destroyed.
+void discardSharedSettings()
 {
-    keepSharedSettingsIn(QProcess::nullDevice());
+    setFolderOfSharedSettings(QProcess::nullDevice());
 }
 
-void goBackToTheSharedSettings()
+void restoreSharedSettings()
 {
-    keepSharedSettingsIn(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation));
+    setFolderOfSharedSettings(
+        QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation));
 }
 } // namespace
 
 std::optional<QUrl> SystemOpenPanel::runModal(QWidget &window, const QString &title)
 {
-    // The dialog is destroyed between these two.
-    const auto later = qScopeGuard(goBackToTheSharedSettings);
+    // Destruction runs backwards: `discard`, then the dialog, then `restore`.
+    const auto restore = qScopeGuard(restoreSharedSettings);
     QFileDialog dialog(&window, title);
-    const auto sooner = qScopeGuard(forgetWhatTheDialogRemembers);
+    const auto discard = qScopeGuard(discardSharedSettings);
     dialog.setFileMode(QFileDialog::ExistingFile);
-    // Over this window only: an alarm that rings meanwhile can be answered in its own.
+    // Blocks this window only, so that the user can stop an alarm that begins in another one.
     dialog.setWindowModality(Qt::WindowModal);
     dialog.setDirectoryUrl(_folder.isEmpty() ? folderOfSounds() : _folder);
     if (dialog.exec() != QDialog::Accepted || dialog.selectedUrls().isEmpty())
         return std::nullopt;
     const QUrl chosen = dialog.selectedUrls().constFirst();
-    // Not what the dialog showed last: a path may have been typed.
+    // Not the folder that the dialog showed last, because the user may have typed a path.
     _folder = chosen.adjusted(QUrl::RemoveFilename);
     return chosen;
 }

@@ -21,7 +21,7 @@ void TrayIcon::show(const StatusIcon &icon, const QString &toolTip)
         _tray->setIcon(sizes);
         _shown = icon;
     }
-    // What looks like markup in it is none.
+    // The tooltip is plain text, even where it looks like markup.
     const QString markup = Qt::convertFromPlainText(toolTip);
     if (markup != _tray->toolTip())
         _tray->setToolTip(markup);
@@ -55,11 +55,11 @@ void TrayIcon::prepare()
 {
     if (_tray)
         return;
-    // On a desktop with a session bus, Qt asks that in here, and waits for the answer.
+    // Here Qt makes a call on the session bus, if there is one, and waits for the answer.
     _tray = std::make_unique<QSystemTrayIcon>();
     connect(_tray.get(), &QSystemTrayIcon::activated, this,
             [this](QSystemTrayIcon::ActivationReason reason) {
-                // Two quick presses are two presses.
+                // The tray reports the second of two quick presses as a double click.
                 if (reason == QSystemTrayIcon::Trigger || reason == QSystemTrayIcon::DoubleClick)
                     press();
                 else if (reason == QSystemTrayIcon::Context)

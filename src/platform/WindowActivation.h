@@ -2,8 +2,8 @@
 
 class QWidget;
 
-/// Asks the window manager to turn to the workspace of the window, which is shown, and to make it
-/// the active one. For a window that only asks for itself a window manager draws attention to it
-/// and no more while the user is at something else: of a press in the panel it knows nothing.
-/// Nothing happens away from X11.
-void askWindowManagerFor(const QWidget &window);
+/// Asks the window manager to switch to the workspace of this visible window and to activate it, on
+/// behalf of the user. Without that last part a window manager only draws attention to the window
+/// while the user works elsewhere, because it does not know that the user has clicked in the panel.
+/// Does nothing without X11.
+void askWindowManagerToActivate(const QWidget &window);

@@ -2,17 +2,17 @@
 
 class QWidget;
 
-/// Windows that stay above those of all programs. That is a state which the window manager keeps
-/// with the window; it is not the program's, which only asks for it and reads it.
+/// Keeps windows above those of all programs. The window manager holds this state; the program only
+/// requests and reads it.
 namespace WindowLevel
 {
-/// Whether the window manager does it. It does so on X11.
+/// Whether the window manager supports it. Always false without X11.
 [[nodiscard]] bool canKeepOnTop();
 
 /// Whether this window, which has been shown, is kept above the others now.
 [[nodiscard]] bool isKeptOnTop(const QWidget &window);
 
-/// Asks the window manager to keep the window above the others, or no longer. The window stays as
-/// it is until that answers.
+/// Asks the window manager to keep the window above the others, or to stop doing so. Does not wait
+/// until the window manager has done it.
 void keepOnTop(QWidget &window, bool onTop);
 } // namespace WindowLevel

@@ -11,7 +11,7 @@ void bringToFront(QWidget &window)
     window.show();
     window.raise();
     window.activateWindow();
-    // A window that is new comes up in front by itself.
+    // The window manager puts a new window in front by itself.
     if (wasShown)
-        askWindowManagerFor(window);
+        askWindowManagerToActivate(window);
 }

@@ -2,6 +2,6 @@
 
 class QWidget;
 
-/// Shows the window in front of the others, also when it was hidden, minimized or on another
-/// workspace, and makes it the active one, also when another program is active.
+/// Shows the window in front of the others and activates it, even when it is hidden, minimized or
+/// on another workspace, or another program is active.
 void bringToFront(QWidget &window);

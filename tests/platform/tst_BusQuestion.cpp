@@ -41,7 +41,7 @@ void tst_BusQuestion::theAnswerComesLater()
 {
     QStringList names;
     BusQuestion::ask(
-        questionToTheBus("ListNames"), *this, BusQuestion::kUsual,
+        questionToTheBus("ListNames"), *this, BusQuestion::kDefaultTimeout,
         [&](const QDBusMessage &answer) { names = answer.arguments().value(0).toStringList(); });
     QVERIFY(names.isEmpty());
     QTRY_VERIFY(names.contains(QStringLiteral("org.freedesktop.DBus")));
@@ -50,7 +50,7 @@ void tst_BusQuestion::theAnswerComesLater()
 void tst_BusQuestion::anErrorIsAnAnswer()
 {
     auto type = QDBusMessage::InvalidMessage;
-    BusQuestion::ask(questionToTheBus("Nonsense"), *this, BusQuestion::kWithoutEnd,
+    BusQuestion::ask(questionToTheBus("Nonsense"), *this, BusQuestion::kNoTimeout,
                      [&](const QDBusMessage &answer) { type = answer.type(); });
     QTRY_COMPARE(type, QDBusMessage::ErrorMessage);
 }
@@ -60,10 +60,10 @@ void tst_BusQuestion::nothingIsToldOnceTheContextIsGone()
     int answers = 0;
     auto context = std::make_unique<QObject>();
     const auto count = [&](const QDBusMessage &) { ++answers; };
-    BusQuestion::ask(questionToTheBus("ListNames"), *context, BusQuestion::kUsual, count);
+    BusQuestion::ask(questionToTheBus("ListNames"), *context, BusQuestion::kDefaultTimeout, count);
     context.reset();
     // The bus answers in the order in which it was asked.
-    BusQuestion::ask(questionToTheBus("ListNames"), *this, BusQuestion::kUsual, count);
+    BusQuestion::ask(questionToTheBus("ListNames"), *this, BusQuestion::kDefaultTimeout, count);
     QTRY_VERIFY(answers > 0);
     QCOMPARE(answers, 1);
 }

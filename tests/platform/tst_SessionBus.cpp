@@ -96,7 +96,7 @@ void tst_SessionBus::aBusThatIsNotNamedIsLookedForInItsUsualPlace()
 
 void tst_SessionBus::whereThereIsNoBusNobodyLooksForOne()
 {
-    SessionBus::doWithoutUnlessItAnswers();
+    SessionBus::disableUnlessItAnswers();
     QVERIFY(!SessionBus::isPresent());
     // Libraries would look for one, and start it, where they are told nothing.
     QCOMPARE(qgetenv(kAddress), QByteArray("disabled:"));
@@ -106,7 +106,7 @@ void tst_SessionBus::aBusThatRefusesIsKept()
 {
     const QByteArray address = "unix:path=" + usualPlace();
     qputenv(kAddress, address);
-    SessionBus::doWithoutUnlessItAnswers();
+    SessionBus::disableUnlessItAnswers();
     QCOMPARE(qgetenv(kAddress), address);
 }
 
@@ -114,7 +114,7 @@ void tst_SessionBus::aBusThatDoesNotAnswerIsDoneWithout()
 {
     const Socket bus(usualPlace());
     QVERIFY(bus.listen(5));
-    SessionBus::doWithoutUnlessItAnswers();
+    SessionBus::disableUnlessItAnswers();
     QVERIFY(!SessionBus::isPresent());
 }
 
@@ -126,7 +126,7 @@ void tst_SessionBus::aBusThatTakesNobodyInIsDoneWithout()
                                        Socket(usualPlace())};
     QVERIFY(!std::ranges::all_of(others, &Socket::call));
     qputenv(kAddress, "unix:path=" + usualPlace());
-    SessionBus::doWithoutUnlessItAnswers();
+    SessionBus::disableUnlessItAnswers();
     QVERIFY(!SessionBus::isPresent());
 }
 

@@ -6,8 +6,8 @@
 #include <QObject>
 #include <QTimer>
 
-/// A status item in the tray of the system. Where there is no tray it does not show. Changes go out
-/// together when the event loop comes round.
+/// A status item in the system tray; without a tray it is not visible. Changes are collected and
+/// shown together in the next turn of the event loop.
 class TrayStatusItem final : public QObject, public StatusItem
 {
     Q_OBJECT

@@ -1,3 +1,3 @@
 #include "platform/WindowActivation.h"
 
-void askWindowManagerFor(const QWidget & /*window*/) {}
+void askWindowManagerToActivate(const QWidget & /*window*/) {}

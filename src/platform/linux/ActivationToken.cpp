@@ -4,8 +4,8 @@
 
 void useActivationToken(const QString &token)
 {
-    // Qt takes it from there for the next window that it activates, but on Wayland only; elsewhere
-    // it would go on to the programs that we start.
+    // Qt reads and removes this variable when it activates the next window, but on Wayland only;
+    // elsewhere the programs that we start would inherit it.
     if (!token.isEmpty() && QGuiApplication::platformName().startsWith(QLatin1String("wayland")))
         qputenv("XDG_ACTIVATION_TOKEN", token.toUtf8());
 }

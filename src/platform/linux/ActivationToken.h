@@ -2,7 +2,7 @@
 
 class QString;
 
-/// Lets the next window that asks to be the active one do so with this token, by which a desktop
-/// that keeps programs from taking the focus says that the user has meant this one. Only Wayland
-/// knows such tokens; elsewhere nothing happens, nor with an empty one.
+/// Uses this token for the next window that is activated. It proves to a desktop which prevents
+/// programs from taking the focus that the user has asked for the window. Only Wayland has such
+/// tokens; elsewhere, and with an empty one, nothing happens.
 void useActivationToken(const QString &token);

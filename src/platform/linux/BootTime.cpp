@@ -4,7 +4,7 @@
 
 double secondsSinceBoot()
 {
-    // The one clock of Linux that counts through suspend and that nobody can set.
+    // The only clock of Linux that counts the time in suspend and cannot be set.
     timespec time{};
     clock_gettime(CLOCK_BOOTTIME, &time);
     return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) * 1e-9;

@@ -2,8 +2,8 @@
 
 #include <QDBusServiceWatcher>
 
-/// Tells when a name on the session bus finds an owner, passes to another one or loses it. It
-/// does not say whether the name has an owner already. Main thread.
+/// Reports when a name on the session bus gets an owner, changes its owner or loses it. Does not
+/// report whether the name has an owner at first. Main thread.
 class BusNameWatch final : public QObject
 {
     Q_OBJECT
@@ -11,14 +11,14 @@ class BusNameWatch final : public QObject
 public:
     BusNameWatch();
 
-    /// Watches this name from now on, and no other. Connects to the bus.
+    /// From now on watches this name and no other. Connects to the bus.
     void watch(const QString &name);
 
-    /// Watches none any more.
+    /// Stops watching.
     void stop();
 
 Q_SIGNALS:
-    /// The name has an owner, who has taken it over from another one or not.
+    /// The name has a new owner, which may have taken it over from another one.
     void appeared(bool takenOver);
     void vanished();
 

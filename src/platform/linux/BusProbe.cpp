@@ -12,9 +12,9 @@
 
 namespace
 {
-constexpr int kPatienceMs = 1000;
+constexpr int kTimeoutMs = 1000;
 
-/// A descriptor that is closed with its scope.
+/// A socket that is closed at the end of its scope.
 class Socket final
 {
 public:
@@ -32,8 +32,8 @@ private:
     int _descriptor;
 };
 
-/// The name of the local socket that the address names; one in the abstract name space begins with
-/// a zero. Nothing for another kind of address.
+/// The name of the local socket in the address; one in the abstract name space begins with a zero
+/// byte. Nothing for another kind of address.
 std::optional<QByteArray> socketName(const QByteArray &address)
 {
     const QByteArray first = address.split(';').constFirst();
@@ -48,7 +48,8 @@ std::optional<QByteArray> socketName(const QByteArray &address)
     return {};
 }
 
-/// Connects without waiting. A queue of callers that nobody takes in is a bus that hangs, too.
+/// The result of connecting without waiting. `Stuck` means that the listener's queue is full; such
+/// a bus hangs, too.
 enum class Connection { Made, Refused, Stuck };
 
 Connection connectTo(const QByteArray &name, int descriptor)
@@ -65,8 +66,8 @@ Connection connectTo(const QByteArray &name, int descriptor)
     return errno == EAGAIN ? Connection::Stuck : Connection::Refused;
 }
 
-/// Begins the handshake (D-Bus Specification, "Authentication Protocol"), which is answered in any
-/// case.
+/// Begins the handshake (D-Bus Specification, "Authentication Protocol"), which every working bus
+/// answers. A closed connection counts as an answer.
 bool isAnswered(int descriptor)
 {
     const QByteArray greeting =
@@ -74,7 +75,7 @@ bool isAnswered(int descriptor)
     if (send(descriptor, greeting.constData(), std::size_t(greeting.size()), MSG_NOSIGNAL) < 0)
         return true;
     pollfd answer{.fd = descriptor, .events = POLLIN, .revents = 0};
-    return poll(&answer, 1, kPatienceMs) != 0;
+    return poll(&answer, 1, kTimeoutMs) != 0;
 }
 } // namespace
 

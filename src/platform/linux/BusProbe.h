@@ -2,12 +2,12 @@
 
 class QByteArray;
 
-/// Asks a message bus whether it is alive, because connecting to one that has stopped would hold
-/// up the program for ever.
+/// Checks whether a message bus answers, because connecting to one that hangs would block the
+/// program for ever.
 namespace BusProbe
 {
-/// Whether somebody listens at the address of a bus (D-Bus Specification, "Server Addresses"), but
-/// says nothing within a second. False where nobody listens or where it cannot be told: an address
-/// that is not of a local socket. Of several addresses in the list the first is asked.
+/// Whether a process listens at the address of a bus (D-Bus Specification, "Server Addresses") but
+/// does not answer within a second. False when no process listens, and for an address that is not
+/// of a local socket. Checks only the first address of a list.
 [[nodiscard]] bool hangs(const QByteArray &address);
 } // namespace BusProbe

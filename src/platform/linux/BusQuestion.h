@@ -6,19 +6,19 @@
 class QDBusMessage;
 class QObject;
 
-/// Questions to services on the session bus, put without waiting for the answer. Main thread.
+/// Calls to services on the session bus that do not block. Main thread.
 namespace BusQuestion
 {
-/// The longest that an answer may take, for those that must be heard however late they come.
-inline constexpr int kWithoutEnd = std::numeric_limits<int>::max(); // ms
-/// As long as the library waits.
-inline constexpr int kUsual = -1;
+/// For answers that must be handled however late they come.
+inline constexpr int kNoTimeout = std::numeric_limits<int>::max(); // ms
+/// Lets Qt D-Bus choose the timeout.
+inline constexpr int kDefaultTimeout = -1;
 
-/// Whether there is a bus to put questions to. Connects to it.
+/// Whether there is a bus for calls. Connects to it.
 [[nodiscard]] bool isPossible();
 
-/// Puts the question, and calls the function with the answer, which may be an error, unless the
-/// context has been destroyed by then.
-void ask(const QDBusMessage &question, QObject &context, int longestWait,
+/// Sends the question and calls `answered` with the answer, which may be an error, unless the
+/// context has been destroyed by then. The timeout is in milliseconds.
+void ask(const QDBusMessage &question, QObject &context, int timeout,
          std::function<void(const QDBusMessage &answer)> answered);
 } // namespace BusQuestion

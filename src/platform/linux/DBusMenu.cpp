@@ -9,14 +9,14 @@
 
 namespace
 {
-/// The number of the item that holds the lines.
+/// The id of the item that holds the lines.
 constexpr int kRoot = 0;
-/// How long an open menu may lag behind.
+/// How old the texts in an open menu may be.
 constexpr int kTextDelay = 100; // ms
 
 const QString kLabel = QStringLiteral("label");
 
-/// The protocol marks the letter to press with an underscore.
+/// Doubles underscores, because the protocol marks the mnemonic with a single one.
 QString literal(QString text)
 {
     return text.replace(QLatin1Char('_'), QStringLiteral("__"));
@@ -57,7 +57,7 @@ DBusMenu::DBusMenu(std::function<void()> whenClosed) : _whenClosed(std::move(whe
     _textTimer.setSingleShot(true);
     _textTimer.setInterval(kTextDelay);
     connect(&_textTimer, &QTimer::timeout, this, &DBusMenu::updateWhileOpen);
-    // Many lines come and go at once when many timers are started.
+    // Starting many timers at once changes many lines, which go out together.
     _linesTimer.setSingleShot(true);
     _linesTimer.setInterval(0);
     connect(&_linesTimer, &QTimer::timeout, this, &DBusMenu::updateLines);
@@ -135,7 +135,7 @@ DBusMenuTypes::Items DBusMenu::GetGroupProperties(const QList<int> &ids,
 QDBusVariant DBusMenu::GetProperty(int id, const QString &name)
 {
     const DBusMenuTypes::Items items = GetGroupProperties({id}, {name});
-    // An invalid value cannot travel; what has no such property has an empty one.
+    // D-Bus cannot carry an invalid value, so a missing property reads as an empty text.
     return QDBusVariant(items.isEmpty() ? QString()
                                         : items.first().properties.value(name, QString()));
 }
@@ -189,7 +189,7 @@ void DBusMenu::handle(int id, const QString &eventId)
     if (eventId == QLatin1String("clicked")) {
         if (_source && hasLine(id))
             _source->choose(id);
-        // Some panels do not say that it closes with that.
+        // Some panels do not report that a click closes the menu.
         if (_open)
             close();
     } else if (id == kRoot && eventId == QLatin1String("opened")) {

@@ -13,12 +13,12 @@
 #include <vector>
 
 /// The list of a status item as panels read it over the session bus: the interface
-/// com.canonical.dbusmenu. The root is item 0; the lines have the numbers that the list gives them.
+/// com.canonical.dbusmenu. The root is item 0; the lines have the ids that the list gives them.
 ///
-/// While the menu is closed, the bus carries nothing but that there are other lines; their texts
-/// go out when a panel is about to show them. While it is open, texts follow a few times a second,
-/// and the lines stay as they are so that nothing moves under the pointer. Properties, slots and
-/// signals that begin with a capital are the protocol's.
+/// While the menu is closed, a signal goes out only when lines are added, removed or reordered; new
+/// texts are sent when a panel is about to show them. While it is open, new texts are sent ten
+/// times a second at most, and the lines stay, so that nothing moves under the pointer. Properties,
+/// slots and signals that begin with a capital are the protocol's.
 class DBusMenu final : public QObject, protected QDBusContext
 {
     Q_OBJECT
@@ -29,17 +29,17 @@ class DBusMenu final : public QObject, protected QDBusContext
     Q_PROPERTY(QStringList IconThemePath READ iconThemePath)
 
 public:
-    /// Calls back whenever the menu has been closed.
+    /// Calls the function each time the menu has been closed.
     explicit DBusMenu(std::function<void()> whenClosed);
 
-    /// Shows the lines of this list from now on; null for none. A menu that is open keeps its
-    /// lines until it closes.
+    /// Shows the lines of this list from now on; null for none. An open menu keeps its lines until
+    /// it closes.
     void setMenu(StatusMenu *menu);
 
-    /// Whether a panel has it open, as far as panels tell.
+    /// Whether a panel has the menu open, as far as panels report it.
     [[nodiscard]] bool isOpen() const { return _open; }
 
-    /// Takes the menu as closed: the panel that had it open is there no longer.
+    /// Treats the menu as closed, because the panel that had it open has gone.
     void forgetPanel();
 
     [[nodiscard]] static uint version() { return 3; }
@@ -76,13 +76,13 @@ private:
 
     std::function<void()> _whenClosed;
     QPointer<StatusMenu> _menu;
-    /// Where the lines that the panel knows come from, also when they are shown no longer.
+    /// The list that the panel's lines come from; kept when the menu is set to null.
     QPointer<StatusMenu> _source;
-    /// What the panel knows, or is about to ask for.
+    /// The lines that the panel knows or is about to read.
     std::vector<StatusMenu::Line> _told;
     uint _revision = 1;
     bool _open = false;
-    /// Tells when the panel that has it open has gone.
+    /// Reports when the panel that has the menu open disappears.
     BusNameWatch _panelWatch;
     QTimer _textTimer;
     QTimer _linesTimer;

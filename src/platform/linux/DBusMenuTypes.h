@@ -18,7 +18,7 @@ struct Item
 };
 using Items = QList<Item>;
 
-/// An item with the names of properties that it has no longer.
+/// An item with the names of its properties that are gone.
 struct Removal
 {
     int id = 0;
@@ -26,7 +26,7 @@ struct Removal
 };
 using Removals = QList<Removal>;
 
-/// An item with those below it.
+/// An item with its children.
 struct Layout
 {
     int id = 0;
@@ -34,7 +34,7 @@ struct Layout
     QList<Layout> children;
 };
 
-/// Something that has happened to an item.
+/// An event of an item, such as "clicked".
 struct Event
 {
     int id = 0;
@@ -53,7 +53,7 @@ const QDBusArgument &operator>>(const QDBusArgument &argument, Layout &layout);
 QDBusArgument &operator<<(QDBusArgument &argument, const Event &event);
 const QDBusArgument &operator>>(const QDBusArgument &argument, Event &event);
 
-/// Makes the types known to the bus. As often as you like.
+/// Registers the types with Qt D-Bus. May be called more than once.
 void registerAll();
 } // namespace DBusMenuTypes
 

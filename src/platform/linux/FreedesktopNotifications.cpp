@@ -13,18 +13,18 @@
 #include <array>
 #include <optional>
 
-/// What has been said to the server, and is still to say, on behalf of one sender.
+/// The state of the exchange with the server about one sender's notification.
 struct FreedesktopNotifications::Conversation
 {
-    /// The server's number for the notification shown last; 0 when there is none.
+    /// The server's id for the notification shown last; 0 for none.
     uint id = 0;
-    /// The unique name of the server that gave the number. To another one it means nothing.
+    /// The unique name of the server that gave the id, which is valid for no other server.
     QString server;
-    /// True from the first question until the server has numbered the notification.
+    /// True from the call of GetCapabilities until the answer to Notify.
     bool underWay = false;
-    /// The latest that has not been sent. Whatever came before it would only be replaced.
+    /// The latest notification not yet sent. It supersedes earlier ones, which are never sent.
     std::optional<DesktopNotification> next;
-    /// The latest that has been sent; nothing when that has been withdrawn or is gone.
+    /// The latest notification sent; nothing once it has been withdrawn or closed.
     std::optional<DesktopNotification> shown;
 };
 
@@ -35,7 +35,7 @@ const QString kPath = QStringLiteral("/org/freedesktop/Notifications");
 
 using Action = std::function<void()> DesktopNotification::*;
 
-/// A button; the default one is a click on the notification itself.
+/// A button; the key "default" stands for a click on the notification itself.
 struct Button
 {
     QLatin1String key;
@@ -59,7 +59,7 @@ QDBusMessage call(const QString &server, const QString &method, const QVariantLi
     return message;
 }
 
-/// The keys and labels of the buttons, in turn.
+/// The keys and labels of the buttons, alternating.
 QStringList buttons(const DesktopNotification &notification)
 {
     QStringList keysAndLabels;
@@ -84,7 +84,7 @@ QVariantMap hintsFor(const DesktopNotification &notification)
         // The program plays its own alarm.
         {QStringLiteral("suppress-sound"), true},
     };
-    // Nor does the desktop list each return of one among what was missed.
+    // With low urgency the desktop does not list every reminder as a missed notification.
     constexpr uchar low = 0;
     if (notification.occasion == DesktopNotification::Occasion::Reminder)
         hints[QStringLiteral("urgency")] = QVariant::fromValue(low);
@@ -108,8 +108,8 @@ QVariantList notifyArguments(const DesktopNotification &notification, uint repla
             serversOwnTimeout};
 }
 
-/// How a notification has gone by the number that its server gives as the reason.
-DesktopNotification::End endSaidBy(const QVariant &reason)
+/// How a notification was closed, by the reason number of the server.
+DesktopNotification::End endForReason(const QVariant &reason)
 {
     constexpr uint expired = 1;
     return reason.typeId() == QMetaType::UInt && reason.toUInt() == expired
@@ -165,7 +165,7 @@ void FreedesktopNotifications::listen()
 {
     if (_listening)
         return;
-    // To anybody: for the signals of one name, Qt would ask the bus who has it, and wait.
+    // From any sender: for one name only, Qt would ask the bus for its owner and block meanwhile.
     _listening = QDBusConnection::sessionBus().connect({}, kPath, kInterface, {}, this,
                                                        SLOT(hear(QDBusMessage)));
 }
@@ -184,12 +184,12 @@ void FreedesktopNotifications::hear(const QDBusMessage &signal)
         if (button != std::end(kButtons))
             action = (*conversation->shown).*(button->action);
     } else if (signal.member() == QLatin1String("ActivationToken")) {
-        // It comes right before the button that it is for.
+        // The server sends the token right before the ActionInvoked that it belongs to.
         useActivationToken(arguments.back().toString());
     } else if (signal.member() == QLatin1String("NotificationClosed")) {
         conversation->id = 0;
         if (const auto closed = std::exchange(conversation->shown, {})->closed)
-            action = [closed, end = endSaidBy(arguments.back())] { closed(end); };
+            action = [closed, end = endForReason(arguments.back())] { closed(end); };
     }
     if (action)
         action();
@@ -211,7 +211,7 @@ void FreedesktopNotifications::askCapabilities(const std::shared_ptr<Conversatio
     conversation->underWay = true;
     const auto answered = [this, conversation](const QDBusMessage &answer) {
         const QDBusReply<QStringList> capabilities(answer);
-        // A server that was restarted counts anew: its number for ours is another's.
+        // A restarted server counts from the beginning, so it may give our id to another program.
         if (answer.service() != conversation->server)
             conversation->id = 0;
         if (conversation->next)
@@ -220,7 +220,7 @@ void FreedesktopNotifications::askCapabilities(const std::shared_ptr<Conversatio
             conversation->underWay = false;
     };
     BusQuestion::ask(call(kInterface, QStringLiteral("GetCapabilities")), *this,
-                     BusQuestion::kWithoutEnd, answered);
+                     BusQuestion::kNoTimeout, answered);
 }
 
 void FreedesktopNotifications::send(const std::shared_ptr<Conversation> &conversation,
@@ -229,10 +229,10 @@ void FreedesktopNotifications::send(const std::shared_ptr<Conversation> &convers
     const uint replacedId = std::exchange(conversation->id, 0);
     conversation->shown = std::exchange(conversation->next, {});
     const QVariantList arguments = notifyArguments(*conversation->shown, replacedId, capabilities);
-    // A server that was frozen shows late what it has been told, and must then still be asked for
-    // its number, by which to withdraw it.
+    // A server that was frozen shows the notification late; its late answer still has to be read
+    // for the id, which is needed to withdraw the notification.
     BusQuestion::ask(
-        call(kInterface, QStringLiteral("Notify"), arguments), *this, BusQuestion::kWithoutEnd,
+        call(kInterface, QStringLiteral("Notify"), arguments), *this, BusQuestion::kNoTimeout,
         [this, conversation](const QDBusMessage &answer) { sent(conversation, answer); });
 }
 

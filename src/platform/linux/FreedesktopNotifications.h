@@ -10,8 +10,8 @@
 class QDBusMessage;
 
 /// Notifications by the Desktop Notifications Specification 1.2 of freedesktop.org, over the
-/// session bus. A server that is missing, slow or restarted changes nothing else: calls are sent
-/// and never waited for.
+/// session bus. Calls never wait for their answers, so a server that is missing, slow or restarted
+/// does not hold up the program.
 class FreedesktopNotifications final : public QObject, public DesktopNotifications
 {
     Q_OBJECT

@@ -19,18 +19,18 @@ namespace
 const QString kScreenSaver = QStringLiteral("org.freedesktop.ScreenSaver");
 const QString kPortal = QStringLiteral("org.freedesktop.portal.Desktop");
 
-/// Somebody who can keep the screen from going blank.
-struct Way
+/// A service that can keep the screen from going blank.
+struct Inhibitor
 {
     QString service;
     QString path;
     QString interface;
     /// The arguments of Inhibit.
     QVariantList (*arguments)(const QString &reason);
-    /// The signature of the answer to it.
+    /// The signature of an answer that grants the request.
     QString granted;
-    /// What gives back what an answer has granted.
-    QDBusMessage (*giveBack)(const Way &way, const QDBusMessage &answer);
+    /// Makes the call that returns what the answer has granted.
+    QDBusMessage (*giveBack)(const Inhibitor &inhibitor, const QDBusMessage &answer);
 };
 
 QVariantList nameAndReason(const QString &reason)
@@ -45,17 +45,18 @@ QVariantList portalArguments(const QString &reason)
     return {noWindow, idle, QVariantMap{{QStringLiteral("reason"), reason}}};
 }
 
-// To whoever has granted it; a number means nothing to a service that was restarted.
+// Both calls go to the unique name that has granted the request, because a restarted service does
+// not know the grant.
 
-QDBusMessage uninhibit(const Way &way, const QDBusMessage &answer)
+QDBusMessage uninhibit(const Inhibitor &inhibitor, const QDBusMessage &answer)
 {
-    QDBusMessage call = QDBusMessage::createMethodCall(answer.service(), way.path, way.interface,
-                                                       QStringLiteral("UnInhibit"));
+    QDBusMessage call = QDBusMessage::createMethodCall(
+        answer.service(), inhibitor.path, inhibitor.interface, QStringLiteral("UnInhibit"));
     call.setArguments(answer.arguments());
     return call;
 }
 
-QDBusMessage closeRequest(const Way & /*way*/, const QDBusMessage &answer)
+QDBusMessage closeRequest(const Inhibitor & /*inhibitor*/, const QDBusMessage &answer)
 {
     return QDBusMessage::createMethodCall(
         answer.service(), answer.arguments().constFirst().value<QDBusObjectPath>().path(),
@@ -63,14 +64,14 @@ QDBusMessage closeRequest(const Way & /*way*/, const QDBusMessage &answer)
 }
 
 /// In the order in which they are tried.
-const std::array kWays{
-    Way{kScreenSaver, QStringLiteral("/org/freedesktop/ScreenSaver"), kScreenSaver, nameAndReason,
-        QStringLiteral("u"), uninhibit},
-    Way{kScreenSaver, QStringLiteral("/ScreenSaver"), kScreenSaver, nameAndReason,
-        QStringLiteral("u"), uninhibit},
-    Way{kPortal, QStringLiteral("/org/freedesktop/portal/desktop"),
-        QStringLiteral("org.freedesktop.portal.Inhibit"), portalArguments, QStringLiteral("o"),
-        closeRequest},
+const std::array kInhibitors{
+    Inhibitor{kScreenSaver, QStringLiteral("/org/freedesktop/ScreenSaver"), kScreenSaver,
+              nameAndReason, QStringLiteral("u"), uninhibit},
+    Inhibitor{kScreenSaver, QStringLiteral("/ScreenSaver"), kScreenSaver, nameAndReason,
+              QStringLiteral("u"), uninhibit},
+    Inhibitor{kPortal, QStringLiteral("/org/freedesktop/portal/desktop"),
+              QStringLiteral("org.freedesktop.portal.Inhibit"), portalArguments,
+              QStringLiteral("o"), closeRequest},
 };
 } // namespace
 
@@ -86,7 +87,7 @@ void FreedesktopScreenBlanking::begin(const QString &reason)
     if (!BusQuestion::isPossible())
         return;
     watch();
-    // An answer that is still under way comes just as well.
+    // The answer to a pending call will do.
     if (!_asking)
         ask(0, Start::IfNeeded);
 }
@@ -108,39 +109,40 @@ void FreedesktopScreenBlanking::watch()
             &FreedesktopScreenBlanking::screenSaverAppeared);
 }
 
-void FreedesktopScreenBlanking::ask(std::size_t way, Start start)
+void FreedesktopScreenBlanking::ask(std::size_t inhibitor, Start start)
 {
-    const Way &asked = kWays[way];
+    const Inhibitor &asked = kInhibitors[inhibitor];
     QDBusMessage question = QDBusMessage::createMethodCall(
         asked.service, asked.path, asked.interface, QStringLiteral("Inhibit"));
     question.setArguments(asked.arguments(_reason));
     question.setAutoStartService(start == Start::IfNeeded);
     _asking = true;
     _appeared = false;
-    // What a frozen service grants late must still be given back.
-    BusQuestion::ask(question, *this, BusQuestion::kWithoutEnd,
-                     [this, way](const QDBusMessage &answer) { answered(way, answer); });
+    // A grant that a frozen service sends late must still be returned.
+    BusQuestion::ask(
+        question, *this, BusQuestion::kNoTimeout,
+        [this, inhibitor](const QDBusMessage &answer) { answered(inhibitor, answer); });
 }
 
-void FreedesktopScreenBlanking::answered(std::size_t way, const QDBusMessage &answer)
+void FreedesktopScreenBlanking::answered(std::size_t inhibitor, const QDBusMessage &answer)
 {
     _asking = false;
-    const Way &asked = kWays[way];
+    const Inhibitor &asked = kInhibitors[inhibitor];
     if (answer.type() == QDBusMessage::ReplyMessage && answer.signature() == asked.granted) {
         _return = std::make_unique<QDBusMessage>(asked.giveBack(asked, answer));
         if (!_wanted)
             giveBack();
     } else if (_wanted && _appeared) {
         ask(0, Start::No);
-    } else if (_wanted && way + 1 < std::size(kWays)) {
-        const bool another = kWays[way + 1].service != asked.service;
-        ask(way + 1, another ? Start::IfNeeded : Start::No);
+    } else if (_wanted && inhibitor + 1 < std::size(kInhibitors)) {
+        const bool another = kInhibitors[inhibitor + 1].service != asked.service;
+        ask(inhibitor + 1, another ? Start::IfNeeded : Start::No);
     }
 }
 
 void FreedesktopScreenBlanking::screenSaverAppeared()
 {
-    // One that is starting because it was asked answers by itself.
+    // If the pending call has started this screen saver, it will answer that call.
     _appeared = _asking;
     if (!_wanted || _asking)
         return;

@@ -9,11 +9,12 @@
 class BusNameWatch;
 class QDBusMessage;
 
-/// Asks the desktop over the session bus: its screen saver, or else the portal. The X server, which
-/// blanks the screen itself where neither is there or listens, is told in any case.
+/// Asks the screen saver of the desktop, or else the portal, over the session bus to leave the
+/// screen on. Also suspends the screen saver of the X server, which blanks the screen itself if the
+/// desktop does not see to that.
 ///
-/// Calls are sent and never waited for. What is granted when it is no longer wanted is given back
-/// at once. A screen saver that is restarted is asked again.
+/// Calls never wait for their answers. A grant that arrives when it is no longer wanted is returned
+/// at once. A screen saver that restarts is asked again.
 class FreedesktopScreenBlanking final : public QObject, public ScreenBlanking
 {
     Q_OBJECT
@@ -27,22 +28,22 @@ protected:
     void end() override;
 
 private:
-    /// Whether the bus may start a service for a question. Not again and again: it may be one that
-    /// dies of it.
+    /// Whether the bus may start the service for a call. Not for repeated calls, because the
+    /// service may crash each time.
     enum class Start { No, IfNeeded };
 
     void watch();
-    void ask(std::size_t way, Start start);
-    void answered(std::size_t way, const QDBusMessage &answer);
+    void ask(std::size_t inhibitor, Start start);
+    void answered(std::size_t inhibitor, const QDBusMessage &answer);
     void screenSaverAppeared();
     void giveBack();
 
     bool _wanted = false;
     bool _asking = false;
-    /// Whether a screen saver has come since the question that is under way was put.
+    /// Whether a screen saver has appeared on the bus since the pending call was sent.
     bool _appeared = false;
     QString _reason;
-    /// What gives back what has been granted.
+    /// The call that returns the grant; null without a grant.
     std::unique_ptr<QDBusMessage> _return;
     std::unique_ptr<BusNameWatch> _watch;
 };

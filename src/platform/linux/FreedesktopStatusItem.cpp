@@ -25,7 +25,7 @@ QDBusMessage registration()
     QDBusMessage call =
         QDBusMessage::createMethodCall(kWatcher, QStringLiteral("/StatusNotifierWatcher"), kWatcher,
                                        QStringLiteral("RegisterStatusNotifierItem"));
-    // The name that the bus has given us; the path is the one that watchers look at.
+    // Our unique name; watchers look for the item at the usual path.
     call.setArguments({QDBusConnection::sessionBus().baseService()});
     call.setAutoStartService(false);
     return call;
@@ -44,7 +44,7 @@ FreedesktopStatusItem::FreedesktopStatusItem() :
     connect(&_publishTimer, &QTimer::timeout, this, &FreedesktopStatusItem::publish);
     connect(_watch.get(), &BusNameWatch::appeared, this, &FreedesktopStatusItem::watcherChanged);
     connect(_watch.get(), &BusNameWatch::vanished, this, &FreedesktopStatusItem::watcherVanished);
-    // The first window comes first, the bus when the event loop has come round.
+    // Connects to the bus when the event loop runs, so as not to delay the first window.
     connect(&_publishTimer, &QTimer::timeout, this, &FreedesktopStatusItem::start,
             Qt::SingleShotConnection);
     _publishTimer.start();
@@ -76,22 +76,23 @@ void FreedesktopStatusItem::askForWatcher()
         QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/org/freedesktop/DBus"),
         QStringLiteral("org.freedesktop.DBus"), QStringLiteral("NameHasOwner"));
     question.setArguments({kWatcher});
-    BusQuestion::ask(question, *this, BusQuestion::kUsual, [this](const QDBusMessage &answer) {
-        const QDBusReply<bool> hasOwner(answer);
-        // It may have come or gone while the question was under way. A bus that gives no answer has
-        // no panels either.
-        if (_isWatched || !hasOwner.isValid())
-            return;
-        if (hasOwner.value())
-            watcherAppeared();
-        else
-            watcherVanished();
-    });
+    BusQuestion::ask(question, *this, BusQuestion::kDefaultTimeout,
+                     [this](const QDBusMessage &answer) {
+                         const QDBusReply<bool> hasOwner(answer);
+                         // If _isWatched is set, the watcher has appeared or vanished since the
+                         // question. A bus that does not answer has no panels either.
+                         if (_isWatched || !hasOwner.isValid())
+                             return;
+                         if (hasOwner.value())
+                             watcherAppeared();
+                         else
+                             watcherVanished();
+                     });
 }
 
 void FreedesktopStatusItem::watcherChanged(bool takenOver)
 {
-    // One that has waited for the other to go takes its place without a moment between them.
+    // A watcher that has queued for the name takes it over without vanished() in between.
     if (takenOver)
         _dbusMenu->forgetPanel();
     watcherAppeared();
@@ -108,9 +109,9 @@ void FreedesktopStatusItem::watcherVanished()
 {
     _isWatched = false;
     _dbusMenu->forgetPanel();
-    // Where there are no X windows, no tray takes one in.
+    // Only X11 has a tray that embeds windows.
     if (QGuiApplication::platformName() == QLatin1String("xcb")) {
-        // The bus has just spoken.
+        // This may wait for the bus, which has just answered or is missing.
         _tray->prepare();
     }
     publish();
@@ -123,7 +124,7 @@ void FreedesktopStatusItem::publish()
     const auto icon = StatusIcon::of(image(), attributedTitle(), QApplication::palette());
     if (*_isWatched) {
         _tray->hide();
-        // A menu that is open is there until it closes.
+        // An open menu stays until the panel closes it.
         _dbusMenu->setMenu(menu());
         _notifier->show({icon, attributedTitle().text, menu() != nullptr || _dbusMenu->isOpen()});
     } else if (isEmpty()) {

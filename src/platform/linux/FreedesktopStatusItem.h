@@ -13,12 +13,12 @@ class DBusMenu;
 class StatusNotifierItem;
 class TrayIcon;
 
-/// A status item as the desktops of freedesktop.org show one: over the session bus where somebody
-/// watches for such items, else as a picture in the tray.
+/// A status item of the freedesktop.org desktops: over the session bus while a
+/// StatusNotifierWatcher runs there, else as a picture in the X tray.
 ///
-/// The watcher may come, go and come back at any time. Calls are sent and never waited for; a bus
-/// or a watcher that is missing, slow or dead changes nothing else. Changes go out together when
-/// the event loop comes round.
+/// The watcher may appear and vanish at any time. Calls never wait for their answers, so a bus or a
+/// watcher that is missing, slow or dead does not hold up the program. Changes are collected and
+/// sent together in the next turn of the event loop.
 class FreedesktopStatusItem final : public QObject, public StatusItem
 {
     Q_OBJECT
@@ -42,7 +42,7 @@ private:
     std::unique_ptr<StatusNotifierItem> _notifier;
     std::unique_ptr<DBusMenu> _dbusMenu;
     std::unique_ptr<BusNameWatch> _watch;
-    /// Whether somebody watches for items; unknown until the bus has answered.
+    /// Whether a watcher runs; unknown until the bus has answered.
     std::optional<bool> _isWatched;
     QTimer _publishTimer;
 };

@@ -14,7 +14,8 @@ quint32 KeyboardLayout::numberOf(const QKeyEvent &press)
 std::vector<quint32> KeyboardLayout::symbolsOf(quint32 keyNumber, quint32 state)
 {
     constexpr std::size_t levels = 2;
-    // Two bits of the state count the layouts; the server lists but two of them at fixed places.
+    // Bits 13 and 14 of the state hold the number of the layout. The keyboard map has only the
+    // first two layouts at fixed positions.
     const std::size_t layout = (state >> 13) & 3;
     xcb_connection_t *connection = X11::connection();
     if (!connection || layout > 1)

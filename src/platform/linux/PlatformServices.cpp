@@ -9,8 +9,8 @@
 void PlatformServices::prepareProcess()
 {
     tuneProcess();
-    SessionBus::doWithoutUnlessItAnswers();
-    // Timers place their windows, which Wayland leaves to nobody.
+    SessionBus::disableUnlessItAnswers();
+    // Timers position their windows, which Wayland does not allow.
     const bool hasX11 = !qEnvironmentVariableIsEmpty("DISPLAY");
     if (hasX11 && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "xcb;wayland");

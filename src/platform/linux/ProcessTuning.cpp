@@ -9,7 +9,7 @@
 void tuneProcess()
 {
     // With shared memory every repaint waits until the X server reports that it has read the
-    // previous one. That triples the wake-ups, to save the copying of a few thousand bytes.
+    // previous one. That triples the wake-ups and saves only copying a few thousand bytes.
     if (!qEnvironmentVariableIsSet("QT_XCB_NO_MITSHM"))
         qputenv("QT_XCB_NO_MITSHM", "1");
 }
@@ -17,8 +17,8 @@ void tuneProcess()
 void returnFreeMemory()
 {
 #ifdef __GLIBC__
-    // By itself glibc returns only what is free at the end of the heap, where the memory of a
-    // closed window rarely is: 19 MiB of a hundred windows.
+    // By itself glibc returns only free memory at the end of the heap, where that of a closed
+    // window rarely is. A hundred closed windows kept 19 MiB.
     malloc_trim(0);
 #endif
 }

@@ -7,11 +7,11 @@
 namespace
 {
 constexpr auto kAddress = "DBUS_SESSION_BUS_ADDRESS";
-/// An address of a kind that nobody knows, and so one that leads nowhere.
-constexpr auto kNowhere = "disabled:";
+/// An address with an unknown transport, to which no library can connect.
+constexpr auto kUnusableAddress = "disabled:";
 
-/// Where libraries look for a bus that nobody has named.
-QString usualSocket()
+/// Where libraries look for the bus when the environment has no address.
+QString defaultSocket()
 {
     const QString runtimeDir = qEnvironmentVariable("XDG_RUNTIME_DIR");
     return runtimeDir.isEmpty() ? QString() : runtimeDir + QStringLiteral("/bus");
@@ -21,19 +21,19 @@ QString usualSocket()
 bool SessionBus::isPresent()
 {
     if (qEnvironmentVariableIsSet(kAddress))
-        return qgetenv(kAddress) != kNowhere;
-    return QFile::exists(usualSocket());
+        return qgetenv(kAddress) != kUnusableAddress;
+    return QFile::exists(defaultSocket());
 }
 
-void SessionBus::doWithoutUnlessItAnswers()
+void SessionBus::disableUnlessItAnswers()
 {
     if (!isPresent()) {
-        qputenv(kAddress, kNowhere);
+        qputenv(kAddress, kUnusableAddress);
         return;
     }
     const QByteArray address = qEnvironmentVariableIsSet(kAddress)
                                    ? qgetenv(kAddress)
-                                   : "unix:path=" + QFile::encodeName(usualSocket());
+                                   : "unix:path=" + QFile::encodeName(defaultSocket());
     if (BusProbe::hangs(address))
-        qputenv(kAddress, kNowhere);
+        qputenv(kAddress, kUnusableAddress);
 }

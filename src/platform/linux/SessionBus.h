@@ -1,12 +1,13 @@
 #pragma once
 
-/// Whether the desktop has a session bus. One that is missing is done without: the libraries that
-/// we use would otherwise start one for themselves, which would outlive the program.
+/// The session bus of the desktop. If it is missing or hangs, the program does without.
 namespace SessionBus
 {
+/// Whether there is a session bus to connect to.
 [[nodiscard]] bool isPresent();
 
-/// Keeps everybody in this process from starting a bus where there is none, and from waiting for
-/// one that hangs. Comes before all that might ask for it, the application object included.
-void doWithoutUnlessItAnswers();
+/// Keeps the libraries of this process from starting a bus of their own, which would outlive the
+/// program, and from waiting for a bus that hangs. Call it before anything that may connect to the
+/// bus, the application object included.
+void disableUnlessItAnswers();
 } // namespace SessionBus

@@ -12,16 +12,16 @@
 
 namespace
 {
-constexpr int kPatienceMs = 2000;
+constexpr int kTimeoutMs = 2000;
 const QString kInterface = QStringLiteral("org.freedesktop.Application");
-/// By these names a desktop says which start this is: on X and on Wayland.
+/// The keys under which a desktop identifies a launch: on X11 and on Wayland.
 const QString kStartupId = QStringLiteral("desktop-startup-id");
 const QString kActivationToken = QStringLiteral("activation-token");
 constexpr auto kStartupIdVariable = "DESKTOP_STARTUP_ID";
 constexpr auto kActivationTokenVariable = "XDG_ACTIVATION_TOKEN";
 
-/// The text of this name, which goes on to the environment or the X server; one that is longer
-/// than any desktop makes it is none.
+/// The text under this key, which is passed on to the environment or the X server. Empty if it is
+/// longer than any desktop makes it.
 QString shortText(const QVariantMap &platformData, const QString &name)
 {
     constexpr qsizetype longest = 1024;
@@ -40,7 +40,7 @@ QString objectPath()
 }
 } // namespace
 
-/// What is seen of the program on the bus.
+/// The program's interface on the bus.
 class BusInterface final : public QDBusAbstractAdaptor
 {
     Q_OBJECT
@@ -54,7 +54,7 @@ public:
 public Q_SLOTS:
     void Activate(const QVariantMap &platform_data) { handle({}, platform_data); }
 
-    /// Timers have no files; whoever brings some means the program.
+    /// Timers have no files, so this only activates the program.
     void Open(const QStringList & /*uris*/, const QVariantMap &platform_data)
     {
         handle({}, platform_data);
@@ -97,11 +97,11 @@ bool SingleInstance::claim()
     if (!BusQuestion::isPossible())
         return true;
     QDBusConnection bus = QDBusConnection::sessionBus();
-    // Before the name: whoever waits for the name asks at once.
+    // Before the name, because a process that waits for the name sends its call at once.
     bus.registerObject(objectPath(), this);
     const QDBusReply<QDBusConnectionInterface::RegisterServiceReply> owner =
         bus.interface()->registerService(busName());
-    // A bus that forbids names forbids them to everybody.
+    // If the bus refuses the name, no other instance can have it.
     return !owner.isValid() || owner.value() == QDBusConnectionInterface::ServiceRegistered;
 }
 
@@ -115,7 +115,7 @@ bool SingleInstance::forward(const QString &action, const QVariantMap &launch) c
     else
         call.setArguments({action, QVariantList(), launch});
     call.setAutoStartService(false);
-    const QDBusMessage answer = QDBusConnection::sessionBus().call(call, QDBus::Block, kPatienceMs);
+    const QDBusMessage answer = QDBusConnection::sessionBus().call(call, QDBus::Block, kTimeoutMs);
     return answer.type() == QDBusMessage::ReplyMessage;
 }
 

@@ -8,7 +8,7 @@
 
 namespace
 {
-/// The text as the protocol has it: within quotes, with a backslash before what would end them.
+/// The message of the protocol: the id in quotes, with quotes and backslashes escaped.
 QByteArray removal(const QString &id)
 {
     QByteArray quoted = id.toUtf8();
@@ -16,8 +16,8 @@ QByteArray removal(const QString &id)
     return "remove: ID=\"" + quoted + '"';
 }
 
-/// Sends the text to everybody who listens, in pieces of the size of an event, the last of which
-/// holds the zero at the end.
+/// Sends the text to all clients that listen on the root window, in pieces of the size of an event.
+/// The last piece holds the terminating zero.
 void broadcast(xcb_connection_t *connection, const QByteArray &text)
 {
     const xcb_window_t root = X11::rootOf(connection);

@@ -2,8 +2,7 @@
 
 class QString;
 
-/// Tells the desktop that what it has launched under this identification is there, so that the
-/// pointer need not show any longer that something is being started. By the Startup Notification
-/// Protocol of freedesktop.org; for a launch that opens no window by itself. Nothing happens with
-/// an empty identification or away from X.
+/// Tells the desktop that the launch with this id is complete, so that it stops showing a busy
+/// pointer. Follows the Startup Notification Protocol of freedesktop.org; meant for a launch that
+/// opens no window. Does nothing with an empty id or without X11.
 void endStartupNotification(const QString &id);

@@ -24,7 +24,7 @@ void StatusNotifierItem::show(const Content &content)
     }
     if (_content.hasMenu != before.hasMenu)
         Q_EMIT NewMenu();
-    // Last, so that a panel that shows the item has been told of what it shows.
+    // Last, so that a panel knows the content before it shows the item.
     if (_content.isEmpty() != before.isEmpty())
         Q_EMIT NewStatus(status());
 }

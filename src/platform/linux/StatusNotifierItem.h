@@ -9,12 +9,12 @@
 
 #include <functional>
 
-/// What panels read and call of a status item on the session bus: the interface
+/// The status item as panels read and call it over the session bus: the interface
 /// org.kde.StatusNotifierItem, with the label that the Ayatana panels add to it.
 ///
 /// Properties, slots and signals that begin with a capital are the protocol's. A signal is sent
-/// for what has changed and nothing else; the panel then asks for it. The item is passive, which
-/// is how panels call one that is not to be seen, while it has neither icon nor label.
+/// only for what has changed; the panel then reads the new value. While the item has neither icon
+/// nor label its status is "Passive", and panels hide it.
 class StatusNotifierItem final : public QObject
 {
     Q_OBJECT
@@ -40,7 +40,7 @@ class StatusNotifierItem final : public QObject
     Q_PROPERTY(uint XAyatanaOrderingIndex READ orderingIndex)
 
 public:
-    /// What is to be seen.
+    /// What the item shows.
     struct Content
     {
         StatusIcon icon;
@@ -52,9 +52,8 @@ public:
 
     using Handler = std::function<void()>;
 
-    /// The item whose menu lies at this path of the bus while it has one. A press with the left
-    /// button asks for the first; a panel that leaves the showing of menus to programs, for the
-    /// second.
+    /// Takes the object path of the menu, which is used while the content has a menu. A left click
+    /// calls `activate`; a panel that shows no menus itself calls `showMenu`.
     StatusNotifierItem(QString menuPath, Handler activate, Handler showMenu);
 
     /// Shows this in place of what was shown before.
@@ -68,7 +67,7 @@ public:
     [[nodiscard]] StatusNotifier::Pixmaps iconPixmap() const { return _pixmaps; }
     [[nodiscard]] StatusNotifier::ToolTip toolTip() const;
     [[nodiscard]] bool itemIsMenu() const { return _content.hasMenu; }
-    /// The path of the menu, or the one that says that there is none.
+    /// The path of the menu, or without a menu the protocol's placeholder.
     [[nodiscard]] QDBusObjectPath menu() const;
     [[nodiscard]] QString label() const { return _content.label; }
     [[nodiscard]] static uint orderingIndex() { return 0; }
@@ -78,10 +77,10 @@ public:
 public Q_SLOTS:
     void Activate(int, int) { _activate(); }
     void ContextMenu(int, int) { _showMenu(); }
-    // The protocol asks for these; the middle button and the wheel mean nothing here.
+    // Required by the protocol; the middle button and the wheel do nothing.
     void SecondaryActivate(int, int) {}
     void Scroll(int, const QString &) {}
-    /// What lets the next window come to the front where only a press of the user may do that.
+    /// Passes on the token that lets the next window come to the front after the user's click.
     void ProvideXdgActivationToken(const QString &token);
 
 Q_SIGNALS:
@@ -94,7 +93,7 @@ Q_SIGNALS:
 
 private:
     Content _content;
-    /// Kept, because some panels ask for everything whenever anything changes.
+    /// Cached, because some panels read everything whenever anything changes.
     StatusNotifier::Pixmaps _pixmaps;
     QString _menuPath;
     Handler _activate;

@@ -11,7 +11,7 @@ struct StatusIcon;
 /// The compound types of the interface org.kde.StatusNotifierItem.
 namespace StatusNotifier
 {
-/// A picture: 32 bits for each pixel, alpha first, in network byte order.
+/// A picture with 32 bits per pixel: ARGB in network byte order.
 struct Pixmap
 {
     int width = 0;
@@ -33,10 +33,10 @@ const QDBusArgument &operator>>(const QDBusArgument &argument, Pixmap &pixmap);
 QDBusArgument &operator<<(QDBusArgument &argument, const ToolTip &toolTip);
 const QDBusArgument &operator>>(const QDBusArgument &argument, ToolTip &toolTip);
 
-/// Makes the types known to the bus. As often as you like.
+/// Registers the types with Qt D-Bus. May be called more than once.
 void registerTypes();
 
-/// The icon in the sizes that panels have; none when it is null.
+/// The icon in the sizes that panels use; empty when it is null.
 [[nodiscard]] Pixmaps pixmapsOf(const StatusIcon &icon);
 } // namespace StatusNotifier
 

@@ -4,7 +4,7 @@
 
 #include <QWidget>
 
-void askWindowManagerFor(const QWidget &window)
+void askWindowManagerToActivate(const QWidget &window)
 {
     const std::optional<WindowManager> manager = WindowManager::ofDisplay();
     if (!manager)

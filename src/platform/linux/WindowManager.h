@@ -6,30 +6,30 @@
 #include <optional>
 #include <vector>
 
-/// The window manager of an X display: what is said to it, and asked of it, over the program's
-/// connection. Names are those of the convention between window managers and programs.
+/// Sends requests to the window manager of an X display and reads its properties, over the
+/// program's connection. Hints and states are named as in the Extended Window Manager Hints.
 class WindowManager final
 {
 public:
-    /// That of the program's display; nothing away from X.
+    /// The window manager of the program's display; nothing without X11.
     [[nodiscard]] static std::optional<WindowManager> ofDisplay();
 
-    /// Turns to the workspace of the window.
+    /// Switches to the workspace of the window.
     void goToWorkspaceOf(xcb_window_t window) const;
-    /// Makes it the active window, as if the user had chosen it in a list of windows.
+    /// Activates the window, as if the user had chosen it in a list of windows.
     void activate(xcb_window_t window) const;
 
-    /// Whether it says that it knows this hint.
+    /// Whether the window manager announces that it supports this hint.
     [[nodiscard]] bool supports(QByteArrayView hint) const;
     /// Whether a window is in this state.
     [[nodiscard]] bool hasState(xcb_window_t window, QByteArrayView state) const;
-    /// Asks for a window to be brought into this state, or out of it.
+    /// Asks for this state to be added to the window or removed from it.
     void setState(xcb_window_t window, QByteArrayView state, bool on) const;
 
 private:
     explicit WindowManager(xcb_connection_t *connection);
 
-    /// What such a property holds; nothing where it is missing or of another type.
+    /// The values of the property; empty if it is missing or of another type.
     [[nodiscard]] std::vector<uint32_t> numbers(QByteArrayView property, xcb_window_t window,
                                                 xcb_atom_t type) const;
     [[nodiscard]] bool lists(QByteArrayView property, xcb_window_t window,

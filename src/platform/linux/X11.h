@@ -6,21 +6,21 @@
 #include <memory>
 #include <xcb/xcb.h>
 
-/// What everything that speaks to the X server needs.
+/// Helpers for requests to the X server.
 namespace X11
 {
-/// A truth value of the protocol.
+/// False, as the protocol encodes it.
 inline constexpr uint8_t kNo = 0;
 
-/// The program's connection; null away from X.
+/// The program's connection; null without X11.
 [[nodiscard]] xcb_connection_t *connection();
 
 [[nodiscard]] xcb_window_t rootOf(xcb_connection_t *connection);
 
-/// The number that the server has for a name; asks it.
+/// The server's number for a name. Waits for the server.
 [[nodiscard]] xcb_atom_t atom(xcb_connection_t *connection, QByteArrayView name);
 
-/// An answer of the server, which is freed with its scope; null when the server gave none.
+/// Owns a reply of the server and frees it; null when the server gave none.
 template<class Reply> [[nodiscard]] std::unique_ptr<Reply, decltype(&free)> owned(Reply *reply)
 {
     return {reply, &free};

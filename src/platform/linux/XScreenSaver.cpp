@@ -6,8 +6,8 @@
 
 namespace
 {
-/// Whether the server knows the request. Asking a server for an extension that it lacks would end
-/// the connection.
+/// Whether the server supports the request. A request of an extension that the server lacks would
+/// end the connection.
 bool canSuspend(xcb_connection_t *connection)
 {
     const xcb_query_extension_reply_t *extension =

@@ -3,7 +3,7 @@
 /// The screen saver of the X server, which blanks the screen where the desktop does not.
 namespace XScreenSaver
 {
-/// Keeps it from coming up, or lets it again; each is said once. The server lets it again by itself
-/// when the program ends. Does nothing where there is no X server that can.
+/// Suspends the screen saver, or resumes it after one call that suspended it. The server resumes it
+/// when the program ends. Does nothing without an X server that supports this.
 void suspend(bool suspended);
 } // namespace XScreenSaver
