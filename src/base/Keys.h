@@ -7,20 +7,20 @@
 #include <optional>
 #include <variant>
 
-// Every key under which something is stored, and the name of every notice. No other file spells
-// one, so that a key cannot be read in one place and written under another name in the next.
+// All keys of stored values and all names of notices. Other files use these constants, so that a
+// value cannot be written under one name and read under another.
 
-/// The key of something that is stored, with the type as which it is read. What is missing or of
-/// another type reads as off, 0 or empty, and where the type is optional as nothing.
+/// The key of a stored value, with the type as which it is read. A value that is missing or of
+/// another type reads as off, 0 or empty, and as nothing if the type is optional.
 template<class Value> struct SettingsKey
 {
     QStringView name;
 
-    /// The key as the settings take it. The characters are not copied.
+    /// The key as UserDefaults takes it. Does not copy the characters.
     [[nodiscard]] QString text() const { return QString::fromRawData(name.data(), name.size()); }
 };
 
-/// A key of any type, for what has to look at all of them.
+/// A key of any type, for code that handles all keys.
 using AnySettingsKey =
     std::variant<SettingsKey<bool>, SettingsKey<float>, SettingsKey<QString>,
                  SettingsKey<QStringList>, SettingsKey<QVariantMap>, SettingsKey<qint32>,
@@ -31,7 +31,7 @@ namespace Keys
 {
 // Options that all timers share. A switch is stored as 1 or 0.
 
-/// No timer is heard.
+/// Timers play no sounds.
 inline constexpr SettingsKey<bool> kSoundOff{u"soundOff"};
 /// No beeps before the end of a countdown.
 inline constexpr SettingsKey<bool> kSuppressCountdown{u"suppressCountdown"};
@@ -39,16 +39,16 @@ inline constexpr SettingsKey<bool> kSuppressCountdown{u"suppressCountdown"};
 inline constexpr SettingsKey<bool> kAutoStartPresets{u"autoStartPresets"};
 /// No notification on the desktop at the end of a countdown.
 inline constexpr SettingsKey<bool> kGrowlDisabled{u"growlDisabled"};
-/// A running timer changes its display at every fifth tick only.
+/// A running timer updates its display at every fifth tick only.
 inline constexpr SettingsKey<bool> kEnergySaverMode{u"energySaverMode"};
 /// No status item in the panel.
 inline constexpr SettingsKey<bool> kNoStatusBar{u"noStatusBar"};
-/// What a timer says at its end. Missing and empty mean the program's own text.
+/// The text that a timer shows at its end. Missing and empty mean the built-in text.
 inline constexpr SettingsKey<QString> kFinishedText{u"finishedText"};
-/// The stored text of what opens at launch. Anything that is none of these opens one timer.
+/// The stored text of a launch choice. Any other text opens one timer.
 inline constexpr SettingsKey<QString> kLaunchBehavior{u"launchBehavior"};
 
-// Sounds that all timers share, each by the path of its file.
+// Sounds that all timers share, each stored as the path of its file.
 
 /// The sounds that the user has added, newest first.
 inline constexpr SettingsKey<QStringList> kSoundHistory{u"soundHistory"};
@@ -58,11 +58,11 @@ inline constexpr SettingsKey<QString> kCountdownPath{u"countdownPath"};
 
 // Timers.
 
-/// What the first timer of the next launch takes over, a record of TimerKeys.
+/// The settings of the first timer of the next launch: a record of TimerKeys.
 inline constexpr SettingsKey<QVariantMap> kDefaultWufferSettings{u"defaultWufferSettings"};
-/// The beginning of the key of a preset, which holds such a record too; its number follows.
+/// The beginning of the key of a preset, followed by its number. A preset is such a record, too.
 inline constexpr QStringView kPresetPrefix = u"Preset ";
-/// Where windows stood: a record of PlaceKeys under the key of each record above.
+/// The places of windows: under the key of each record above, a record of PlaceKeys.
 inline constexpr SettingsKey<QVariantMap> kWindowFrames{u"windowFrames"};
 
 // The quantities of the converter. Missing means 0.
@@ -71,7 +71,7 @@ inline constexpr SettingsKey<float> kFahrenheitValue{u"fahrenheitValue"};
 inline constexpr SettingsKey<float> kGramsValue{u"gramsValue"};
 inline constexpr SettingsKey<float> kMilliliterValue{u"mLValue"};
 
-/// All of them but those of the presets, of which any number may be asked for.
+/// All keys but those of the presets, which are made from kPresetPrefix.
 inline constexpr std::array<AnySettingsKey, 16> kAll{
     kSoundOff,        kSuppressCountdown, kAutoStartPresets, kGrowlDisabled,
     kEnergySaverMode, kNoStatusBar,       kFinishedText,     kLaunchBehavior,
@@ -83,21 +83,21 @@ inline constexpr std::array<AnySettingsKey, 16> kAll{
 /// The keys of a record with the settings of one timer.
 namespace TimerKeys
 {
-/// The name that the user has typed. Missing and empty mean none.
+/// The name that the user has typed. Missing and empty mean no name.
 inline constexpr SettingsKey<QString> kTitle{u"title"};
-/// What the three number fields say.
+/// The values of the three number fields.
 inline constexpr SettingsKey<qint32> kHours{u"hours"};
 inline constexpr SettingsKey<qint32> kMinutes{u"minutes"};
 inline constexpr SettingsKey<qint32> kSeconds{u"seconds"};
-/// The alarm goes on until the user stops it.
+/// The alarm repeats until the user stops it.
 inline constexpr SettingsKey<bool> kKeepWuffing{u"keepWuffing"};
 /// The timer fills the screen when it starts.
 inline constexpr SettingsKey<bool> kFullScreen{u"fullScreen"};
-/// The stored text of the finish action. Missing means that none is selected.
+/// The stored text of the finish action. Missing means that no action is selected.
 inline constexpr SettingsKey<std::optional<QString>> kFinishOption{u"finishOption"};
-/// The place in the list of presets, from 0, of the one that follows. Missing means the first.
+/// The index of the preset that follows in the list of presets. Missing means the first.
 inline constexpr SettingsKey<std::optional<qint32>> kPresetSelection{u"presetSelection"};
-/// The timer's own sounds: what is selected in its lists. Missing leaves the selection as it is.
+/// The timer's own sounds: the selections in its two lists. Missing leaves the selection as it is.
 inline constexpr SettingsKey<std::optional<QString>> kIndividualAlarmPath{u"individualAlarmPath"};
 inline constexpr SettingsKey<std::optional<QString>> kIndividualCountdownPath{
     u"individualCountdownPath"};
@@ -116,8 +116,8 @@ inline constexpr std::array<AnySettingsKey, 10> kAll{
 };
 } // namespace TimerKeys
 
-/// The keys of a record with the place of one window, in device-independent pixels. A place of
-/// which either is missing is none.
+/// The keys of a record with the place of one window, in device-independent pixels. Without both
+/// values the record is ignored.
 namespace PlaceKeys
 {
 inline constexpr SettingsKey<std::optional<qint32>> kX{u"x"};
@@ -131,22 +131,21 @@ struct Notice
 {
     QStringView name;
 
-    /// The name as the NotificationCenter takes it. The characters are not copied.
+    /// The name as the NotificationCenter takes it. Does not copy the characters.
     operator QString() const { return QString::fromRawData(name.data(), name.size()); }
 };
 
 namespace Notices
 {
 /// Posted by a Wuffer, the object, at every fifth tick of its run and whenever it has started,
-/// stopped, come to its end or closed. The status item follows.
+/// stopped, reached its end or closed. Updates the status item.
 inline constexpr Notice kStatusChanged{u"statusChanged"};
-/// Posted by a Wuffer, the object, that has been saved into a preset. The menu of the presets
-/// follows.
+/// Posted by a Wuffer, the object, after it was saved as a preset. Updates the menu of the presets.
 inline constexpr Notice kPresetsChanged{u"presetsChangedNotification"};
 /// Posted by the Preferences, the object, after each change of an option or a sound that all
-/// timers share. Every Wuffer follows.
+/// timers share. Every Wuffer then reads the settings again.
 inline constexpr Notice kPrefsChanged{u"prefsChangedNotification"};
-/// Posted by a Wuffer, without an object, to have the Preferences show their sounds.
+/// Posted by a Wuffer, without an object, to make the Preferences show their page of sounds.
 inline constexpr Notice kManageSounds{u"manageSoundsNotification"};
 /// Posted by a ClickableImageView, the object, at each click. The Preferences mute or unmute.
 inline constexpr Notice kClickableImageViewClicked{u"ClickableImageViewClicked"};

@@ -4,8 +4,8 @@
 
 #include <memory>
 
-/// The regular file at a path, opened without ever waiting: a pipe or a device in its place is
-/// none. Makes no file and cuts none off. Closed with its scope. Any thread.
+/// The regular file at a path, opened without blocking: a pipe or a device there is not opened.
+/// Never creates or truncates a file. The file is closed at the end of the scope. Any thread.
 class RegularFile final
 {
 public:
@@ -14,14 +14,15 @@ public:
     RegularFile(const QString &path, Access access);
 
     [[nodiscard]] bool isOpen() const { return _file != nullptr; }
-    /// True when nothing lies at the path, not even at the end of a link.
+    /// True when there is no file at the path, or the path is a link to a missing file.
     [[nodiscard]] bool isMissing() const { return _isMissing; }
 
-    /// Whether the open file is empty and no process holds a lock on it. Says no on systems where
-    /// that cannot be found out.
+    /// Whether the open file is empty and no other process holds a lock on it. Always false on
+    /// systems where this cannot be checked.
     [[nodiscard]] bool isEmptyAndUnlocked() const;
 
-    /// Gives the file away for reading from its beginning, once; null when it is not open.
+    /// Hands the file over for reading from its beginning; null when it is not open or was handed
+    /// over before.
     [[nodiscard]] std::unique_ptr<QIODevice> takeDevice() { return std::move(_file); }
 
 private:
