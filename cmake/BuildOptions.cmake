@@ -17,7 +17,7 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
         -Woverloaded-virtual -Wnon-virtual-dtor -Wcast-qual -Wformat=2 -Wnull-dereference
         -Wduplicated-cond -Wduplicated-branches -Wlogical-op -Wextra-semi -Wsuggest-override
         -Wdouble-promotion -Wimplicit-fallthrough -Wzero-as-null-pointer-constant)
-    # Optimising, GCC sees null pointers in Qt's own headers where there are none.
+    # With optimisation, GCC warns of null pointers in Qt's headers where there are none.
     target_compile_options(wuffer_build_options INTERFACE
         $<$<CONFIG:Release>:-Wno-null-dereference>)
 elseif(NOT MSVC)
@@ -28,15 +28,15 @@ if(WUFFER_WARNINGS_AS_ERRORS AND NOT MSVC)
     target_compile_options(wuffer_build_options INTERFACE -Werror)
 endif()
 
-# A mistake with memory ends the program rather than let a sound file, say, run code. The
-# sanitizers, which find such mistakes, want to see to all of that themselves.
+# Hardening: a memory error ends the program, so that a crafted file, such as a sound, cannot run
+# code. The sanitizers bring checks of their own, which these would disturb.
 if(CMAKE_SYSTEM_NAME STREQUAL "Linux" AND NOT WUFFER_SANITIZE)
     include(CheckPIESupported)
     check_pie_supported(LANGUAGES CXX)
     set(CMAKE_POSITION_INDEPENDENT_CODE ON)
     target_compile_options(wuffer_build_options INTERFACE
         -fstack-protector-strong
-        # Works on what the optimiser knows.
+        # Has no effect without optimisation.
         $<$<NOT:$<CONFIG:Debug>>:-U_FORTIFY_SOURCE> $<$<NOT:$<CONFIG:Debug>>:-D_FORTIFY_SOURCE=2>)
     target_link_options(wuffer_build_options INTERFACE -Wl,-z,relro -Wl,-z,now)
 endif()
@@ -45,7 +45,7 @@ if(WUFFER_SANITIZE)
     set(sanitizers -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
     target_compile_options(wuffer_build_options INTERFACE ${sanitizers})
     target_link_options(wuffer_build_options INTERFACE ${sanitizers})
-    # The instrumentation hides from GCC what it has already proved about pointers.
+    # With the instrumentation, GCC warns of null pointers that cannot occur.
     target_compile_options(wuffer_build_options INTERFACE
         $<$<CXX_COMPILER_ID:GNU>:-Wno-null-dereference>)
 endif()
@@ -59,15 +59,15 @@ if(WUFFER_COVERAGE)
     target_link_options(wuffer_build_options INTERFACE --coverage)
 endif()
 
-# The parts of the program as libraries, so that no test program is linked with a copy of them.
+# The parts of the program as shared libraries, so that test programs hold no copies of them.
 if(BUILD_SHARED_LIBS)
-    # An installed program of such a build finds its parts in the build.
+    # A program of such a build that is installed loads its libraries from the build folder.
     set(CMAKE_LIBRARY_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/libraries")
     set(CMAKE_INSTALL_RPATH "${CMAKE_LIBRARY_OUTPUT_DIRECTORY}")
     set(CMAKE_BUILD_WITH_INSTALL_RPATH ON)
-    # A program and its libraries share the static members of templates, such as those of Service.
+    # Makes a program and its libraries share the static members of templates, such as Service.
     set(CMAKE_ENABLE_EXPORTS ON)
-    # Each library links all that it uses. Clang's sanitizers are known to programs only.
+    # Each library must link all that it uses. Clang links its sanitizers into programs only.
     if(CMAKE_SYSTEM_NAME STREQUAL "Linux" AND NOT WUFFER_SANITIZE)
         string(APPEND CMAKE_SHARED_LINKER_FLAGS " -Wl,-z,defs")
     endif()

@@ -1,11 +1,11 @@
-# A layer: the library wuffer_<name> of the current folder of src, which is called like the layer.
+# Defines a layer: the library wuffer_<name> of the current folder, which is src/<name>.
 #
 #   wuffer_layer(<name> SOURCES <file>... LINKS <library>... [PRIVATE_LINKS <library>...]
 #       [LINUX_SOURCES <file>...] [GENERIC_SOURCES <file>...] PRECOMPILED_HEADERS <set>)
 #
-# Of the last two lists, the one for WUFFER_PLATFORM is taken.
-# Its headers are included as "<name>/<header>". Each layer has an include folder of its own, which
-# only those see that link the layer, so that nothing can include what it does not link.
+# WUFFER_PLATFORM selects LINUX_SOURCES or GENERIC_SOURCES.
+# Headers are included as "<name>/<header>". Each layer has its own include folder, which only the
+# targets that link the layer see. So no layer can include a header of one that it does not link.
 function(wuffer_layer name)
     cmake_parse_arguments(PARSE_ARGV 1 arg "" "PRECOMPILED_HEADERS"
         "SOURCES;LINKS;PRIVATE_LINKS;LINUX_SOURCES;GENERIC_SOURCES")

@@ -1,8 +1,7 @@
-# The system whose services the program uses, and what those need.
+# Selects the system whose services the program uses, and finds the libraries for them.
 #
-# linux is what desktops on Linux have; generic is what Qt and standard C++ have everywhere. A layer
-# that depends on the system has a folder of each name, with the same small set of functions and
-# classes in both.
+# linux uses the services of Linux desktops; generic uses only Qt and standard C++. A layer that
+# depends on the system has a folder of each name; both define the same functions and classes.
 if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
     set(default_platform linux)
 else()
@@ -22,5 +21,5 @@ elseif(WUFFER_PLATFORM STREQUAL "generic")
     set(WUFFER_FOR_LINUX OFF)
     set(WUFFER_PLATFORM_LIBRARIES)
 else()
-    message(FATAL_ERROR "WUFFER_PLATFORM is \"${WUFFER_PLATFORM}\"; there are linux and generic.")
+    message(FATAL_ERROR "WUFFER_PLATFORM is \"${WUFFER_PLATFORM}\"; it must be linux or generic.")
 endif()

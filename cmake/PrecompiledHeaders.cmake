@@ -1,6 +1,6 @@
-# Compiles the headers that most files include once for all of them, which makes a build several
-# times as fast. A file then sees more than it includes. That is why only the build that is made
-# most often does so: every other one finds out what includes too little.
+# Precompiles the headers that most files include, which makes a build several times as fast. A file
+# then compiles even if it does not include all that it uses. Therefore only the dev preset does so;
+# the others detect missing includes.
 option(WUFFER_PRECOMPILED_HEADERS "Compile the headers that most files include only once" OFF)
 
 # Defines a set of precompiled headers.
@@ -9,7 +9,7 @@ function(wuffer_precompiled_headers set)
     if(NOT WUFFER_PRECOMPILED_HEADERS)
         return()
     endif()
-    # Headers are compiled for a library only, so here is one of nothing else.
+    # CMake precompiles headers for a target only, so this library exists just for that.
     set(library "wuffer_precompiled_${set}")
     file(WRITE "${CMAKE_CURRENT_BINARY_DIR}/${library}.cpp" "")
     add_library(${library} OBJECT "${CMAKE_CURRENT_BINARY_DIR}/${library}.cpp")
@@ -19,11 +19,11 @@ function(wuffer_precompiled_headers set)
     target_precompile_headers(${library} PRIVATE ${arg_HEADERS})
 endfunction()
 
-# Lets a target use a set. Its files must be compiled like all others of the project.
+# Makes a target use a set. Its files must be compiled with the same options as the set.
 function(wuffer_use_precompiled_headers target set)
     if(WUFFER_PRECOMPILED_HEADERS)
         target_precompile_headers(${target} REUSE_FROM "wuffer_precompiled_${set}")
-        # Lets ccache look at what such a file includes.
+        # Lets ccache see which headers such a file includes.
         target_compile_options(${target} PRIVATE $<$<CXX_COMPILER_ID:GNU>:-fpch-preprocess>)
     endif()
 endfunction()
@@ -35,6 +35,6 @@ set(WUFFER_COMMON_WIDGETS_HEADERS
     ${WUFFER_COMMON_CORE_HEADERS}
     QAction QApplication QIcon QKeyEvent QMainWindow QMenu QPainter QWidget QWindow)
 
-# For what knows nothing of windows, and for what does.
+# One set for targets without windows, one for targets with them.
 wuffer_precompiled_headers(core LINKS Qt6::Core HEADERS ${WUFFER_COMMON_CORE_HEADERS})
 wuffer_precompiled_headers(widgets LINKS Qt6::Widgets HEADERS ${WUFFER_COMMON_WIDGETS_HEADERS})

@@ -1,6 +1,6 @@
 # shellcheck shell=bash
-# What ./run, ./test and tools/lint have in common: installing packages and building.
-# Sourced by them, never run.
+# Functions that ./run, ./test and the tools share: installing packages and building.
+# Sourced by these scripts, never run.
 
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 
@@ -30,7 +30,7 @@ uses_debian_packages() {
     has apt-get && has dpkg-query
 }
 
-# The packages of the given sections of the list, one a line.
+# The packages in the given sections of the list, one per line.
 listed_packages() {
     local section
     for section in "$@"; do
@@ -58,14 +58,14 @@ as_administrator() {
     fi
 }
 
-# Waits for another installation that is under way, and asks nothing.
+# Waits until another running installation has ended, and asks no questions.
 run_apt_get() {
     as_administrator env DEBIAN_FRONTEND=noninteractive \
         apt-get --quiet --yes -o DPkg::Lock::Timeout=600 "$@" </dev/null
 }
 
-# Installs what is missing of the given sections. Elsewhere than on Debian and its relatives it
-# does nothing: there, configure says what is needed.
+# Installs the missing packages of the given sections. Does nothing on systems without Debian
+# packages; there, configure names what is needed.
 install_packages() {
     uses_debian_packages || return 0
     local missing command
@@ -75,8 +75,8 @@ install_packages() {
     command="apt-get install --no-install-recommends ${missing[*]}"
     ((EUID == 0)) || has sudo ||
         fail "Packages are missing, and there is no sudo to install them. As root, run: $command"
-    say "Installing what is missing: ${missing[*]}"
-    run_apt_get update || say "The package lists could not be refreshed; trying with those at hand."
+    say "Installing missing packages: ${missing[*]}"
+    run_apt_get update || say "The package lists could not be updated; trying with the old ones."
     run_apt_get install --no-install-recommends "${missing[@]}" ||
         fail "The packages could not be installed. An administrator can do it with: $command"
 }
@@ -89,8 +89,8 @@ say_what_building_needs() {
         "Qt DBus, and libxcb with its screen saver extension."
 }
 
-# Configures a preset unless that is done already. The build configures again by itself when a
-# CMake file changes; the presets are the one thing it does not watch.
+# Configures a preset unless that is done already. When a CMake file changes, the build configures
+# itself again; it does not do so for CMakePresets.json.
 configure() {
     local preset=$1 done_mark=$root/build/$1/configured
     [[ ! -e $done_mark || $root/CMakePresets.json -nt $done_mark ]] || return 0

@@ -1,6 +1,6 @@
 # shellcheck shell=bash
 # Runs the program where there is no display: on an X server without a screen, with a window
-# manager and a session bus, all of which end with it. Sourced by ./run, never run.
+# manager and a session bus. All of these end with the program. Sourced by ./run, never run.
 
 # shellcheck source=tools/lib.sh
 source "$(dirname "${BASH_SOURCE[0]}")/lib.sh"
@@ -16,24 +16,24 @@ require_virtual_display() {
     require_commands Xvfb openbox dbus-daemon xprop import identify setsid setpriv
 }
 
-# Starts a program of the virtual display in the background. It stands outside of the terminal's
-# process group, so that Ctrl-C reaches Wuffer first, and ends with this script however that ends.
+# Starts a program of the virtual display in the background. It runs in a session of its own, so
+# that Ctrl-C does not reach it, and ends with this script in any case.
 start_server() {
     setsid setpriv --pdeathsig TERM "$@" >>"$log" 2>&1 &
     servers+=("$!")
 }
 
-# The same for a program that, once it is ready, writes where it is to be found to its
-# descriptor 3; that goes into the variable named first.
+# The same for a program that, once it is ready, writes its address to descriptor 3. Stores the
+# address in the variable named by the first argument.
 start_server_and_read() {
     local variable=$1 pipe
     shift
     exec {pipe}< <(exec setsid setpriv --pdeathsig TERM "$@" 3>&1 >>"$log" 2>&1)
     servers+=("$!")
-    read -r -t 20 -u "$pipe" "${variable?}" || fail "$1 did not start; $log says more."
+    read -r -t 20 -u "$pipe" "${variable?}" || fail "$1 did not start; see $log."
 }
 
-# Asks a process to end, insists after five seconds, and returns when it is gone.
+# Terminates a process, kills it after five seconds, and returns when it is gone.
 end_process() {
     local id=$1 tries
     kill -TERM "$id" 2>/dev/null || return 0
@@ -54,7 +54,7 @@ end_virtual_display() {
     [[ -z $scratch ]] || rm -rf "$scratch"
 }
 
-# Repeats a command ten times a second until it succeeds, for so many seconds at most.
+# Repeats a command ten times a second until it succeeds, for the given number of seconds at most.
 wait_until() {
     local tries=$(($1 * 10))
     shift
@@ -74,8 +74,8 @@ has_session_bus() {
 
 start_virtual_display() {
     local number
-    # Without -noreset it would begin anew, and throw the window manager out, when a client that
-    # came before that one leaves.
+    # Without -noreset the server resets when its last client disconnects. That may be the xprop
+    # below, just while openbox connects.
     start_server_and_read number Xvfb -displayfd 3 -screen 0 1280x800x24 -noreset -nolisten tcp
     export DISPLAY=:$number
     if ! has_session_bus; then
@@ -84,19 +84,19 @@ start_virtual_display() {
         export DBUS_SESSION_BUS_ADDRESS
     fi
     start_server openbox
-    wait_until 10 window_manager_is_ready || fail "openbox did not start; $log says more."
+    wait_until 10 window_manager_is_ready || fail "openbox did not start; see $log."
 }
 
 program_runs() {
     kill -0 "$program_id" 2>/dev/null
 }
 
-# The first window that the window manager shows; only Wuffer has any here.
+# The first window in the window manager's list; only Wuffer has windows here.
 first_window() {
     xprop -root _NET_CLIENT_LIST 2>/dev/null | sed -n 's/.*# \(0x[0-9a-f]*\).*/\1/p'
 }
 
-# A window that has not been drawn yet is black throughout.
+# A window that has not been painted yet is completely black.
 is_drawn() {
     [[ $(import -silent -window "$1" png:- 2>/dev/null |
         identify -format '%[fx:maxima > 0]' - 2>/dev/null) == 1 ]]
