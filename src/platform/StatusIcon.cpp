@@ -42,8 +42,8 @@ QColor plateFor(const QColor &ink)
 /// from becoming wide, and the digits of a long one from running together.
 QPainterPath fitted(const QString &text, const QRectF &room)
 {
-    constexpr double tallest = 1.9;
-    constexpr double widest = 1.1;
+    constexpr double maxHeightFactor = 1.9;
+    constexpr double maxWidthFactor = 1.1;
     QFont font;
     font.setBold(true);
     font.setPixelSize(100);
@@ -54,8 +54,8 @@ QPainterPath fitted(const QString &text, const QRectF &room)
         return {};
     double scaleX = room.width() / box.width();
     double scaleY = room.height() / box.height();
-    scaleX = std::min(scaleX, scaleY * widest);
-    scaleY = std::min(scaleY, scaleX * tallest);
+    scaleX = std::min(scaleX, scaleY * maxWidthFactor);
+    scaleY = std::min(scaleY, scaleX * maxHeightFactor);
     QTransform transform;
     transform.translate(room.center().x(), room.center().y());
     transform.scale(scaleX, scaleY);

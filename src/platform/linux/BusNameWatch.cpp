@@ -7,7 +7,7 @@ BusNameWatch::BusNameWatch()
     _watcher.setWatchMode(QDBusServiceWatcher::WatchForOwnerChange);
     connect(&_watcher, &QDBusServiceWatcher::serviceOwnerChanged, this,
             [this](const QString &, const QString &oldOwner, const QString &newOwner) {
-                tell(oldOwner, newOwner);
+                report(oldOwner, newOwner);
             });
 }
 
@@ -22,7 +22,7 @@ void BusNameWatch::stop()
     _watcher.setWatchedServices({});
 }
 
-void BusNameWatch::tell(const QString &oldOwner, const QString &newOwner)
+void BusNameWatch::report(const QString &oldOwner, const QString &newOwner)
 {
     if (newOwner.isEmpty())
         Q_EMIT vanished();

@@ -23,7 +23,7 @@ Q_SIGNALS:
     void vanished();
 
 private:
-    void tell(const QString &oldOwner, const QString &newOwner);
+    void report(const QString &oldOwner, const QString &newOwner);
 
     QDBusServiceWatcher _watcher;
 };

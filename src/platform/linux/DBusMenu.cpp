@@ -17,12 +17,12 @@ constexpr int kTextDelay = 100; // ms
 const QString kLabel = QStringLiteral("label");
 
 /// Doubles underscores, because the protocol marks the mnemonic with a single one.
-QString literal(QString text)
+QString escaped(QString text)
 {
     return text.replace(QLatin1Char('_'), QStringLiteral("__"));
 }
 
-QVariantMap chosen(const QVariantMap &properties, const QStringList &names)
+QVariantMap filtered(const QVariantMap &properties, const QStringList &names)
 {
     if (names.isEmpty())
         return properties;
@@ -41,7 +41,7 @@ QVariantMap rootProperties()
 
 QVariantMap propertiesOf(const StatusMenu::Line &line)
 {
-    return {{kLabel, literal(line.text)}};
+    return {{kLabel, escaped(line.text)}};
 }
 
 bool areSameLines(const std::vector<StatusMenu::Line> &one,
@@ -104,14 +104,14 @@ uint DBusMenu::GetLayout(int parentId, int recursionDepth, const QStringList &pr
         bringUpToDate();
     layout.id = parentId;
     if (parentId == kRoot) {
-        layout.properties = chosen(rootProperties(), propertyNames);
-        for (const StatusMenu::Line &line : _told) {
+        layout.properties = filtered(rootProperties(), propertyNames);
+        for (const StatusMenu::Line &line : _knownLines) {
             if (recursionDepth != 0)
-                layout.children.append({line.id, chosen(propertiesOf(line), propertyNames), {}});
+                layout.children.append({line.id, filtered(propertiesOf(line), propertyNames), {}});
         }
-    } else if (const auto line = std::ranges::find(_told, parentId, &StatusMenu::Line::id);
-               line != _told.end()) {
-        layout.properties = chosen(propertiesOf(*line), propertyNames);
+    } else if (const auto line = std::ranges::find(_knownLines, parentId, &StatusMenu::Line::id);
+               line != _knownLines.end()) {
+        layout.properties = filtered(propertiesOf(*line), propertyNames);
     }
     return _revision;
 }
@@ -124,10 +124,10 @@ DBusMenuTypes::Items DBusMenu::GetGroupProperties(const QList<int> &ids,
     DBusMenuTypes::Items items;
     const auto isAskedFor = [&](int id) { return ids.isEmpty() || ids.contains(id); };
     if (isAskedFor(kRoot))
-        items.append({kRoot, chosen(rootProperties(), propertyNames)});
-    for (const StatusMenu::Line &line : _told) {
+        items.append({kRoot, filtered(rootProperties(), propertyNames)});
+    for (const StatusMenu::Line &line : _knownLines) {
         if (isAskedFor(line.id))
-            items.append({line.id, chosen(propertiesOf(line), propertyNames)});
+            items.append({line.id, filtered(propertiesOf(line), propertyNames)});
     }
     return items;
 }
@@ -181,7 +181,7 @@ std::vector<StatusMenu::Line> DBusMenu::currentLines() const
 
 bool DBusMenu::hasLine(int id) const
 {
-    return std::ranges::find(_told, id, &StatusMenu::Line::id) != _told.end();
+    return std::ranges::find(_knownLines, id, &StatusMenu::Line::id) != _knownLines.end();
 }
 
 void DBusMenu::handle(int id, const QString &eventId)
@@ -217,7 +217,7 @@ void DBusMenu::close()
 void DBusMenu::updateWhileOpen()
 {
     if (_open)
-        tellTexts(currentLines());
+        sendTexts(currentLines());
 }
 
 void DBusMenu::updateLines()
@@ -229,21 +229,21 @@ void DBusMenu::updateLines()
 bool DBusMenu::bringUpToDate()
 {
     const std::vector<StatusMenu::Line> lines = currentLines();
-    if (areSameLines(lines, _told))
-        return tellTexts(lines);
-    _told = lines;
+    if (areSameLines(lines, _knownLines))
+        return sendTexts(lines);
+    _knownLines = lines;
     ++_revision;
     Q_EMIT LayoutUpdated(_revision, kRoot);
     return true;
 }
 
-bool DBusMenu::tellTexts(const std::vector<StatusMenu::Line> &lines)
+bool DBusMenu::sendTexts(const std::vector<StatusMenu::Line> &lines)
 {
     QHash<int, QString> texts;
     for (const StatusMenu::Line &line : lines)
         texts.insert(line.id, line.text);
     DBusMenuTypes::Items updated;
-    for (StatusMenu::Line &line : _told) {
+    for (StatusMenu::Line &line : _knownLines) {
         const QString text = texts.value(line.id, line.text);
         if (text == line.text)
             continue;

@@ -72,14 +72,14 @@ private:
     void updateWhileOpen();
     void updateLines();
     bool bringUpToDate();
-    bool tellTexts(const std::vector<StatusMenu::Line> &lines);
+    bool sendTexts(const std::vector<StatusMenu::Line> &lines);
 
     std::function<void()> _whenClosed;
     QPointer<StatusMenu> _menu;
     /// The list that the panel's lines come from; kept when the menu is set to null.
     QPointer<StatusMenu> _source;
     /// The lines that the panel knows or is about to read.
-    std::vector<StatusMenu::Line> _told;
+    std::vector<StatusMenu::Line> _knownLines;
     uint _revision = 1;
     bool _open = false;
     /// Reports when the panel that has the menu open disappears.

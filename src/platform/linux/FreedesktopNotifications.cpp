@@ -167,10 +167,10 @@ void FreedesktopNotifications::listen()
         return;
     // From any sender: for one name only, Qt would ask the bus for its owner and block meanwhile.
     _listening = QDBusConnection::sessionBus().connect({}, kPath, kInterface, {}, this,
-                                                       SLOT(hear(QDBusMessage)));
+                                                       SLOT(receive(QDBusMessage)));
 }
 
-void FreedesktopNotifications::hear(const QDBusMessage &signal)
+void FreedesktopNotifications::receive(const QDBusMessage &signal)
 {
     const QVariantList arguments = signal.arguments();
     if (arguments.size() != 2 || arguments.front().typeId() != QMetaType::UInt)

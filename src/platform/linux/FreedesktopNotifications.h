@@ -23,7 +23,7 @@ public:
     void withdraw(const QObject &sender) override;
 
 private Q_SLOTS:
-    void hear(const QDBusMessage &signal);
+    void receive(const QDBusMessage &signal);
 
 private:
     struct Conversation;

@@ -129,7 +129,7 @@ void FreedesktopScreenBlanking::answered(std::size_t inhibitor, const QDBusMessa
     _asking = false;
     const Inhibitor &asked = kInhibitors[inhibitor];
     if (answer.type() == QDBusMessage::ReplyMessage && answer.signature() == asked.granted) {
-        _return = std::make_unique<QDBusMessage>(asked.giveBack(asked, answer));
+        _returningCall = std::make_unique<QDBusMessage>(asked.giveBack(asked, answer));
         if (!_wanted)
             giveBack();
     } else if (_wanted && _appeared) {
@@ -152,6 +152,6 @@ void FreedesktopScreenBlanking::screenSaverAppeared()
 
 void FreedesktopScreenBlanking::giveBack()
 {
-    if (_return)
-        QDBusConnection::sessionBus().asyncCall(*std::exchange(_return, nullptr));
+    if (_returningCall)
+        QDBusConnection::sessionBus().asyncCall(*std::exchange(_returningCall, nullptr));
 }

@@ -44,6 +44,6 @@ private:
     bool _appeared = false;
     QString _reason;
     /// The call that returns the grant; null without a grant.
-    std::unique_ptr<QDBusMessage> _return;
+    std::unique_ptr<QDBusMessage> _returningCall;
     std::unique_ptr<BusNameWatch> _watch;
 };

@@ -15,16 +15,16 @@ WindowManager::WindowManager(xcb_connection_t *connection) :
 void WindowManager::goToWorkspaceOf(xcb_window_t window) const
 {
     constexpr uint32_t everyWorkspace = 0xFFFFFFFF;
-    const auto its = numbers("_NET_WM_DESKTOP", window, XCB_ATOM_CARDINAL);
-    if (its.size() == 1 && its.front() != everyWorkspace &&
-        its != numbers("_NET_CURRENT_DESKTOP", _root, XCB_ATOM_CARDINAL))
-        send("_NET_CURRENT_DESKTOP", _root, {its.front(), XCB_CURRENT_TIME});
+    const auto workspace = numbers("_NET_WM_DESKTOP", window, XCB_ATOM_CARDINAL);
+    if (workspace.size() == 1 && workspace.front() != everyWorkspace &&
+        workspace != numbers("_NET_CURRENT_DESKTOP", _root, XCB_ATOM_CARDINAL))
+        send("_NET_CURRENT_DESKTOP", _root, {workspace.front(), XCB_CURRENT_TIME});
 }
 
 void WindowManager::activate(xcb_window_t window) const
 {
-    constexpr uint32_t onBehalfOfTheUser = 2;
-    send("_NET_ACTIVE_WINDOW", window, {onBehalfOfTheUser, XCB_CURRENT_TIME});
+    constexpr uint32_t fromUser = 2;
+    send("_NET_ACTIVE_WINDOW", window, {fromUser, XCB_CURRENT_TIME});
 }
 
 bool WindowManager::supports(QByteArrayView hint) const
@@ -39,19 +39,19 @@ bool WindowManager::hasState(xcb_window_t window, QByteArrayView state) const
 
 void WindowManager::setState(xcb_window_t window, QByteArrayView state, bool on) const
 {
-    constexpr uint32_t ofAProgram = 1;
+    constexpr uint32_t fromApplication = 1;
     constexpr uint32_t noSecondState = 0;
     const uint32_t addOrRemove = on ? 1 : 0;
     send("_NET_WM_STATE", window,
-         {addOrRemove, X11::atom(_connection, state), noSecondState, ofAProgram});
+         {addOrRemove, X11::atom(_connection, state), noSecondState, fromApplication});
 }
 
 std::vector<uint32_t> WindowManager::numbers(QByteArrayView property, xcb_window_t window,
                                              xcb_atom_t type) const
 {
-    constexpr uint32_t most = 1024;
+    constexpr uint32_t maxLength = 1024;
     const auto question = xcb_get_property(_connection, X11::kNo, window,
-                                           X11::atom(_connection, property), type, 0, most);
+                                           X11::atom(_connection, property), type, 0, maxLength);
     const auto answer = X11::owned(xcb_get_property_reply(_connection, question, nullptr));
     if (!answer || answer->format != 32)
         return {};
