@@ -49,7 +49,7 @@ QStringList faults(Resident &resident)
             "the screen stays on while a timer fills it");
     for (const auto &user : users) {
         require(linksAreSymmetric(user->timer), "links are symmetric");
-        require(walkEndsAtNobody(user->timer, open), "there is no circle");
+        require(chainEndsWithin(user->timer, open), "there is no circle");
     }
     for (const FakeNotifications::Shown &shown : resident.notifications.standing) {
         require(is([&](const auto &user) {

@@ -8,8 +8,8 @@
 #include <QStringList>
 #include <QTest>
 
-/// Somebody else on the session bus, who talks to one object of the program under test and hears
-/// what it says. Questions are asked without blocking the program, which runs in this process.
+/// Another process's place on the session bus: calls one object of the program under test and
+/// receives its signals. Calls are asynchronous, because the program runs in this process.
 class BusPeer final : public QObject
 {
     Q_OBJECT
@@ -20,12 +20,12 @@ public:
         _path(std::move(path)), _interface(std::move(interface))
     {
         if (!_bus.connect({}, _path, _interface, {}, this, SLOT(hear(QDBusMessage))))
-            qFatal("the signals of %s cannot be heard", qPrintable(_path));
+            qFatal("cannot connect to the signals of %s", qPrintable(_path));
     }
     ~BusPeer() override { QDBusConnection::disconnectFromBus(_bus.name()); }
     Q_DISABLE_COPY_MOVE(BusPeer)
 
-    /// Calls a method of the interface; gives the answer, which may be an error.
+    /// Calls a method of the interface. Returns the answer, which may be an error.
     [[nodiscard]] QDBusMessage ask(const QString &method, const QVariantList &arguments = {})
     {
         return ask(_interface, method, arguments);
@@ -48,18 +48,18 @@ public:
                    : QVariant();
     }
 
-    /// The signals heard since last asked, in the order of their coming.
+    /// The signals received since the last call, in order.
     [[nodiscard]] QList<QDBusMessage> takeHeard()
     {
-        // What the program is about to say.
+        // Lets the program send what it has queued.
         QCoreApplication::processEvents();
-        // An answer comes after all signals sent before it.
+        // The answer to this call arrives after all signals sent before it.
         static_cast<void>(property(QStringLiteral("Version")));
         QCoreApplication::processEvents();
         return std::exchange(_heard, {});
     }
 
-    /// Their names, sorted.
+    /// The names of the signals received since the last call, sorted.
     [[nodiscard]] QStringList takeNames()
     {
         QStringList names;

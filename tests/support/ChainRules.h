@@ -2,7 +2,7 @@
 
 #include "timer/Wuffer.h"
 
-/// Whether those next to the timer in its chain know of it, and it is not linked to itself.
+/// Whether the timer's neighbours in the chain link back to it, and it is not linked to itself.
 inline bool linksAreSymmetric(const Wuffer &timer)
 {
     const Wuffer *next = timer.getTargetWuffer();
@@ -11,8 +11,8 @@ inline bool linksAreSymmetric(const Wuffer &timer)
            (!previous || previous->getTargetWuffer() == &timer) && next != &timer;
 }
 
-/// Whether a walk along the chain ends after so many steps at most.
-inline bool walkEndsAtNobody(const Wuffer &timer, int longest)
+/// Whether the chain after the timer ends within this many links.
+inline bool chainEndsWithin(const Wuffer &timer, int longest)
 {
     const Wuffer *next = &timer;
     for (int steps = 0; next && steps <= longest; ++steps)

@@ -5,7 +5,7 @@
 
 #include <QStringList>
 
-/// A clock in force, and a diary of what the timers of the test do.
+/// A test clock that serves as the program's clock, and a diary that the test's timers write into.
 class ClockFixture
 {
 public:
@@ -18,7 +18,7 @@ public:
         return [this, entry] { diary << QString::fromLatin1(entry); };
     }
 
-    /// The whole of the diary, with spaces between.
+    /// All entries of the diary, separated by spaces.
     [[nodiscard]] QString entries() const { return diary.join(QLatin1Char(' ')); }
 
 private:

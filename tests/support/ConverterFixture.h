@@ -10,7 +10,7 @@
 
 #include <array>
 
-/// The converter in a window that is shown.
+/// The converter in its window, shown.
 struct ConverterWindow : QMainWindow
 {
     ConverterWindow()
@@ -55,7 +55,7 @@ struct ConverterWindow : QMainWindow
     Converter converter;
 };
 
-/// The same on services of its own.
+/// The converter's window with services of its own.
 struct ConverterFixture : TestServices
 {
     [[nodiscard]] float stored(const char *key) const

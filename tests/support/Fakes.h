@@ -16,8 +16,7 @@
 
 class FakeSoundSystem;
 
-/// A sound that is heard by the test only. It plays until the test says that it has ended, or for
-/// ever while it loops.
+/// A sound that plays silently until the test ends it. A sound that loops ends only with stop().
 class FakeSound final : public Sound
 {
 public:
@@ -58,20 +57,20 @@ public:
     [[nodiscard]] bool canOpenFiles() override { return opensFiles; }
     [[nodiscard]] std::unique_ptr<Sound> soundWithContentsOfFile(const QString &path) override;
 
-    /// Makes the file one of this duration, in seconds. Files have none to begin with.
+    /// Sets the duration of a file, in seconds; without this call it is 0.
     void setFileDuration(const QString &path, double seconds) { _fileDurations[path] = seconds; }
 
-    /// The living sound of this name that was made last; null when there is none.
+    /// The newest existing sound of this name; null if there is none.
     [[nodiscard]] FakeSound *sound(const QString &name) const;
     [[nodiscard]] bool isPlaying(const QString &name) const;
     /// Lets every sound reach its end.
     void endAll();
 
-    /// The lines of the diary that begin so.
+    /// The lines of the diary that begin with this text.
     [[nodiscard]] QStringList diary(const QString &beginning = {}) const;
     void clearDiary() { _diary.clear(); }
 
-    /// False when what opens files is missing. There are no sounds at all then.
+    /// False as on a computer without the library that opens files; no sound can be made then.
     bool opensFiles = true;
 
     /// Called whenever a sound begins.
@@ -87,7 +86,7 @@ private:
     QStringList _diary;
 };
 
-/// Keeps what would have been shown, how it came up again, and what would still be there.
+/// Records the notifications: the news, the ones shown again, and those still on the desktop.
 class FakeNotifications final : public DesktopNotifications
 {
 public:
@@ -110,7 +109,7 @@ public:
         std::erase_if(standing, [&](const Shown &each) { return each.sender == &sender; });
     }
 
-    /// Lets what was shown at this place go, as the user or the desktop does.
+    /// Closes the notification at this index of `standing`, as the user or the desktop does.
     void close(std::size_t place, DesktopNotification::End end)
     {
         const auto gone = standing.begin() + static_cast<std::ptrdiff_t>(place);
@@ -120,9 +119,11 @@ public:
             closed(end);
     }
 
-    /// The news, and whatever else was shown.
+    /// The notifications of new events, in order.
     std::vector<Shown> shown;
+    /// The changes and reminders, in order.
     std::vector<Shown> shownAgain;
+    /// Those that are on the desktop now.
     std::vector<Shown> standing;
 };
 
@@ -137,7 +138,7 @@ protected:
     void end() override { isInhibited = false; }
 };
 
-/// Counts what the desktop was asked for.
+/// Records what the program asks the desktop for.
 class FakeDesktop final : public Desktop
 {
 public:
@@ -150,26 +151,26 @@ public:
     int beeps = 0;
 };
 
-/// Chooses the files that the test has put in its hands, in that order; with none left it cancels.
+/// Answers with the files that the test has chosen, in order; after the last it cancels.
 class FakeOpenPanel final : public OpenPanel
 {
 public:
     std::optional<QUrl> runModal(QWidget &window, const QString &title) override;
 
-    /// Lets it choose this file, after those that it was given before.
+    /// Adds a file to the answers.
     void choose(const QString &path) { _choices.push_back(QUrl::fromLocalFile(path)); }
     void choose(const QUrl &url) { _choices.push_back(url); }
 
-    /// The titles under which it was shown.
+    /// The titles of the panels shown so far.
     QStringList titles;
-    /// The window over which it was shown last.
+    /// The window over which the last panel was shown.
     QWidget *lastWindow = nullptr;
 
 private:
     std::vector<QUrl> _choices;
 };
 
-/// Shows nothing, and counts how often it would have been shown anew.
+/// Shows nothing, and counts the changes that a real item would have shown.
 class FakeStatusItem final : public StatusItem
 {
 public:
@@ -179,7 +180,7 @@ protected:
     void changed() override { ++changes; }
 };
 
-/// A list with the lines that the test gives it, that keeps which have been chosen.
+/// A menu with the lines that the test sets. It records which lines are chosen.
 class FakeStatusMenu final : public StatusMenu
 {
 public:

@@ -3,8 +3,8 @@
 #include <QWidget>
 #include <QtTest/QTest>
 
-/// The descendant of this class and object name. Without one the test program ends, saying what
-/// was missing.
+/// The descendant of this class and object name. If there is none, the test program ends with a
+/// message that says what was missing.
 template<class Class> Class &child(const QObject &parent, const char *name)
 {
     auto *found = parent.findChild<Class *>(QString::fromLatin1(name));

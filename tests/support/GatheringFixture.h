@@ -7,18 +7,18 @@
 #include <memory>
 #include <vector>
 
-/// Timers that end, and what the desktop shows of it.
+/// Timers that end, and the notifications that the desktop then shows.
 class GatheringFixture : public ClockFixture
 {
 public:
     FakeNotifications desktop;
     GatheredNotifications gathered{desktop};
     std::vector<std::unique_ptr<QObject>> timers;
-    /// The names of those whose notifications have gone otherwise than by being withdrawn.
+    /// The names of the timers whose notifications have expired or have been dismissed.
     QStringList expired;
     QStringList dismissed;
 
-    /// Lets so many new timers end at once.
+    /// Ends this many new timers at once.
     void end(int count)
     {
         for (int i = 0; i < count; ++i) {
@@ -32,7 +32,7 @@ public:
         gathered.notify(timer, ringing(timer, name));
     }
 
-    /// Lets the alarm of the timer at this place end by itself.
+    /// Ends the alarm of the timer at this index, as when its time is over.
     void quieten(std::size_t place)
     {
         DesktopNotification over = ringing(*timers[place], nameAt(place));
@@ -41,7 +41,7 @@ public:
         gathered.notify(*timers[place], over);
     }
 
-    /// Shows again what had gone.
+    /// Shows the notification of the timer at this index again.
     void remind(std::size_t place)
     {
         DesktopNotification again = ringing(*timers[place], nameAt(place));
@@ -49,7 +49,7 @@ public:
         gathered.notify(*timers[place], again);
     }
 
-    /// The texts of what stands on the desktop now.
+    /// The texts of the notifications on the desktop now.
     [[nodiscard]] QStringList texts() const
     {
         QStringList texts;
@@ -61,7 +61,7 @@ public:
     [[nodiscard]] const DesktopNotification &only() const
     {
         if (desktop.standing.size() != 1)
-            qFatal("%zu stand instead of one", desktop.standing.size());
+            qFatal("there are %zu notifications instead of one", desktop.standing.size());
         return desktop.standing.front().notification;
     }
 

@@ -10,7 +10,7 @@
 #include <QLabel>
 #include <QListWidget>
 
-/// A program with one timer, and a reader of its help.
+/// The program with one timer, and a user who reads the help.
 class Reader
 {
 public:
@@ -20,14 +20,14 @@ public:
         activate(timerWindow());
     }
 
-    /// What the program shows of the help, which must have been opened.
+    /// The help panel. The help must have been opened.
     [[nodiscard]] static HelpPanel &panel()
     {
         for (const QWidget *window : QApplication::topLevelWidgets()) {
             if (auto *panel = window->findChild<HelpPanel *>())
                 return *panel;
         }
-        qFatal("there is no help");
+        qFatal("the help is not open");
     }
     [[nodiscard]] static QMainWindow &window()
     {
@@ -37,7 +37,7 @@ public:
     [[nodiscard]] static QListWidget &list() { return child<QListWidget>(panel(), "_pageList"); }
     [[nodiscard]] static QLineEdit &field() { return child<QLineEdit>(panel(), "_searchField"); }
 
-    /// The name of the page that is shown.
+    /// The name of the current page.
     [[nodiscard]] static QString page()
     {
         return browser().pages().at(static_cast<std::size_t>(browser().currentPage())).name;
@@ -61,7 +61,7 @@ public:
         controller.showHelp();
         activate(window());
     }
-    /// Presses a key in whatever has the focus.
+    /// Presses a key in the window that has the focus.
     static void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {})
     {
         QTest::keyClick(QGuiApplication::focusWindow(), key, modifiers);

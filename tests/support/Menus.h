@@ -6,8 +6,8 @@
 #include <QMenuBar>
 #include <QtTest/QTest>
 
-/// The menu of this title in the window's menu bar, or in one of its menus. Without one the test
-/// program ends, saying what was missing.
+/// The menu of this title in the window's menu bar, or in one of its menus. If there is none, the
+/// test program ends with a message that says what was missing.
 inline QMenu &menu(const QMainWindow &window, const QString &title)
 {
     for (const QAction *top : window.menuBar()->actions()) {
@@ -31,7 +31,7 @@ inline QStringList textsOf(const QMenu &menu)
     return texts;
 }
 
-/// Makes the window the active one.
+/// Activates the window, and waits until it is active.
 inline void activate(QWidget &window)
 {
     window.activateWindow();

@@ -2,7 +2,7 @@
 
 #include "base/NotificationCenter.h"
 
-/// Counts the notices of one name while it lives.
+/// Counts the notices of this name for as long as the counter lives.
 class NoticeCounter final : public QObject
 {
 public:

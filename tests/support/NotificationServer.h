@@ -9,8 +9,8 @@
 
 #include <vector>
 
-/// A notification server on the session bus, under its well-known name while this object lives,
-/// that keeps what it is told. Its slots are those of the protocol.
+/// A notification server on the session bus. It owns the well-known name while this object lives,
+/// and records the calls. The slots are the methods of its D-Bus interface.
 class NotificationServer final : public QObject, protected QDBusContext
 {
     Q_OBJECT
@@ -41,10 +41,10 @@ public:
     ~NotificationServer() override { QDBusConnection::disconnectFromBus(QStringLiteral("server")); }
     Q_DISABLE_COPY_MOVE(NotificationServer)
 
-    /// Lets it hear everything and answer nothing.
+    /// From now on the server receives calls but holds back the answers.
     void stopAnswering() { _answers = false; }
 
-    /// Answers everything that was left without an answer, and all that follows.
+    /// Sends the answers held back, and answers later calls at once.
     void answerAgain()
     {
         _answers = true;
@@ -52,14 +52,14 @@ public:
             _bus.send(answer);
     }
 
-    /// How many answers it holds back.
+    /// How many answers the server holds back.
     [[nodiscard]] std::size_t heldBack() const { return _heldBack.size(); }
 
-    /// Says that a button of the notification was pressed, or, by the key "default", that it was
-    /// clicked on.
+    /// Sends the signal for a press of the button with this key, or, with the key "default", for a
+    /// click on the notification.
     void press(uint id, const QString &key) { say(QStringLiteral("ActionInvoked"), {id, key}); }
 
-    /// Says that the user has closed the notification.
+    /// Sends the signal that the user has closed the notification.
     void dismiss(uint id)
     {
         constexpr uint byTheUser = 2;
@@ -77,10 +77,10 @@ public:
 
     std::vector<Shown> shown;
 
-    /// The numbers that it was asked to close, in turn.
+    /// The ids of the notifications that the program has closed, in order.
     std::vector<uint> closed;
 
-    /// The number of the notification shown last. Unlike those of other servers it begins at 100.
+    /// The id given last. The ids begin at 100, unlike those of other servers.
     uint lastId = 99;
 
 public Q_SLOTS:

@@ -4,8 +4,8 @@
 
 #include <unistd.h>
 
-/// Takes the superuser's powers from a test that has them, for as long as this object lives, so
-/// that what a file permits means something.
+/// Runs the test as an ordinary user while this object lives, even if root has started it: file
+/// permissions do not bind root.
 class OrdinaryUser final
 {
 public:
@@ -18,7 +18,7 @@ public:
     ~OrdinaryUser()
     {
         if (_before == 0 && seteuid(_before) != 0)
-            qFatal("cannot become the superuser again");
+            qFatal("cannot become root again");
     }
     Q_DISABLE_COPY_MOVE(OrdinaryUser)
 

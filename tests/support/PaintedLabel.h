@@ -4,7 +4,7 @@
 
 #include <QImage>
 
-/// A label of its own, of this font size.
+/// A label outside any window, with a font of this size in points.
 class PaintedLabel
 {
 public:
@@ -16,7 +16,7 @@ public:
         label.setText(text);
     }
 
-    /// The label as it would be painted at this size.
+    /// The label painted at this size.
     [[nodiscard]] QImage painted(QSize size)
     {
         label.resize(size);
@@ -29,7 +29,7 @@ public:
     DisplayLabel label;
 };
 
-/// The smallest rectangle that holds everything that is not background.
+/// The smallest rectangle around all pixels that differ from the top left one.
 inline QRect inkOf(const QImage &image)
 {
     const QRgb background = image.pixel(0, 0);

@@ -18,7 +18,7 @@
 #include <QMainWindow>
 #include <QTabWidget>
 
-/// The preferences in their window, and the verbs to use them by, on services of their own.
+/// The preferences in their window with services of their own, and what a user does with them.
 class PreferencesFixture : public TestServices
 {
 public:
@@ -26,19 +26,19 @@ public:
     QAction muteMenu;
     std::unique_ptr<Preferences> preferences;
 
-    /// Makes the preferences, once, from what is in the settings by then.
+    /// Creates the preferences from the current settings. Call it once.
     Preferences &open();
     [[nodiscard]] Wuffer &openTimer() { return WufferApplication::instance().openWuffer(); }
 
     // What a user does.
     void click(const char *box) const { part<QCheckBox>(box).click(); }
-    /// Selects the entry that shows this text, as from the open list.
+    /// Selects the entry with this text, as a click in the open list does.
     void choose(const char *combo, const QString &text) const;
     void type(const QString &text) const;
 
-    // What there is.
+    // What the settings and the window hold.
     void set(const char *key, const QVariant &value);
-    /// The settings file.
+    /// The contents of the settings file; empty if it cannot be read.
     [[nodiscard]] QJsonObject stored();
     /// The entries of a combo box, in order.
     [[nodiscard]] static QStringList entries(const QComboBox &combo);

@@ -4,8 +4,8 @@
 
 #include <QProcess>
 
-/// A session bus that only this test program knows of, for as long as this object lives. To be
-/// made before the application object.
+/// A session bus for this test program alone, which runs while this object lives. Create it before
+/// the application object.
 class PrivateBus final
 {
 public:
@@ -15,7 +15,7 @@ public:
                       {QStringLiteral("--session"), QStringLiteral("--print-address"),
                        QStringLiteral("--nofork"), QStringLiteral("--nopidfile")});
         if (!_daemon.waitForReadyRead())
-            qFatal("there is no dbus-daemon: %s", qPrintable(_daemon.errorString()));
+            qFatal("dbus-daemon does not start: %s", qPrintable(_daemon.errorString()));
         _address = QString::fromUtf8(_daemon.readLine()).trimmed();
         qputenv("DBUS_SESSION_BUS_ADDRESS", _address.toUtf8());
     }
@@ -34,8 +34,8 @@ private:
     QString _address;
 };
 
-/// The surroundings of a test class that talks to the session bus: the program's application object
-/// on a bus of its own.
+/// The surroundings of a test class that uses the session bus: a private bus and the program's
+/// application object on it.
 class OnPrivateBus final
 {
 public:

@@ -18,16 +18,16 @@ namespace
 {
 constexpr int kMostTimers = 6;
 constexpr double kHour = 3600;
-/// Enough for a timer in the energy saver to look at the time.
+/// Long enough for a timer in the energy saver mode to check the time, in seconds.
 constexpr double kMoment = 0.19;
-/// So many ends are waited for in a row; then the computer sleeps, or a loop of a second would
-/// keep it busy all night.
+/// How many ends one wait goes through before the computer sleeps. Without this limit a timer that
+/// loops every second would keep the test busy all night.
 constexpr int kMostEnds = 6;
-/// The tags of the items that open a preset begin here.
+/// The tag of the first menu item that opens a preset.
 constexpr int kFirstTag = 1000;
 } // namespace
 
-/// Something that the resident does, and how often beside the others.
+/// Something that the resident does; the weight says how often, relative to the other habits.
 struct Resident::Habit
 {
     int weight;
@@ -59,7 +59,7 @@ const std::vector<Resident::Habit> &Resident::habits()
         {2, "want the full screen", &R::wantFullScreen},
         {2, "end the full screen", &R::endFullScreen},
         {5, "answer a notification", &R::answerNotification},
-        {3, "let a notification go", &R::letNotificationGo},
+        {3, "close a notification", &R::closeNotification},
         {2, "mute", &R::mute},
         {4, "change a preference", &R::changePreference},
         {1, "start all", &R::startAll},
@@ -86,9 +86,9 @@ const char *Resident::act()
     for (; number >= habit->weight; ++habit)
         number -= habit->weight;
     (this->*habit->act)();
-    // Whatever was begun, such as the Return key's moment of rest, comes to its end.
+    // Lets short delays run out, such as the one after the Return key.
     clock.advance(0.02);
-    // What waits for its turn has it: closed timers go, and the home window comes.
+    // Delivers posted events: closed timers are deleted, and the home window appears.
     QCoreApplication::sendPostedEvents();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     _witness->look();
@@ -110,7 +110,7 @@ int Resident::livingTimers() const
 
 void Resident::adopt()
 {
-    // One that started on the full screen leaves it, so that its parts are found in the window.
+    // A timer that started in full screen mode leaves it, so that its parts are in the window.
     WufferApplication::instance().cancelFullScreenMode();
     Wuffer &timer = *WufferApplication::getWuffers().back();
     _users.push_back(std::make_unique<TimerUser>(timer));
@@ -206,7 +206,7 @@ void Resident::typeName()
 void Resident::start()
 {
     TimerUser &user = any();
-    // Who has not typed a time starts what is there, be it nothing.
+    // Starts with what the fields hold, even if that is zero.
     if (!user.timer.isRunning() && user.goButton().isEnabled())
         user.pressGo();
 }
@@ -242,11 +242,11 @@ void Resident::countDownToADate()
         sheet.reject();
         return;
     }
-    // Some take their time, until what they have picked is over.
+    // Sometimes the user waits so long that the date picked has passed.
     sheet.setDateValue(clock.calendarNow().addSecs(upTo(200'000)));
     if (inOneOf(4))
         sleep(upTo(300'000));
-    // Unless another timer has started this one meanwhile, which takes the sheet away.
+    // The sheet is gone if another timer has started this one meanwhile.
     if (sheet.isVisible())
         sheet.accept();
 }
@@ -311,7 +311,7 @@ void Resident::answerNotification()
         answered.show();
 }
 
-void Resident::letNotificationGo()
+void Resident::closeNotification()
 {
     if (notifications.standing.empty())
         return;
@@ -373,7 +373,7 @@ double Resident::nextEnd()
 
 void Resident::passQuietly(double seconds)
 {
-    // Every tick is there around the ends. In between, one now and then must do.
+    // Every tick fires around the ends. In between, the clock jumps.
     constexpr double around = 0.6;
     int ends = 0;
     while (seconds > 0 && ends < kMostEnds) {
@@ -402,6 +402,6 @@ void Resident::sleep(double seconds)
 void Resident::endSounds()
 {
     sounds.endAll();
-    // Long enough for the alarms to notice, and to begin what follows.
+    // Long enough for the timers to notice that and to start what follows.
     clock.advance(0.21);
 }

@@ -7,20 +7,20 @@
 
 #include <QRandomGenerator>
 
-/// Somebody who has the program running all the time, and does with it whatever comes to mind.
-/// What that is depends on the seed alone.
+/// A user who keeps the program running all the time and does random things with it. The seed alone
+/// decides which.
 class Resident final : public TestServices
 {
 public:
     explicit Resident(quint32 seed);
 
-    /// One arbitrary act; says what it was.
+    /// Does one random thing and returns its name.
     const char *act();
-    /// Goes to bed: the computer sleeps until the next morning.
+    /// Suspends the computer for a night.
     void night();
 
     [[nodiscard]] const std::vector<std::unique_ptr<TimerUser>> &users() const { return _users; }
-    /// How many timers there are that nobody has destroyed, of all that were ever opened.
+    /// How many of the timers ever opened have not been destroyed.
     [[nodiscard]] int livingTimers() const;
     [[nodiscard]] int everOpened() const { return int(_everOpened.size()); }
 
@@ -53,15 +53,15 @@ private:
     void changePreference();
     void startAll();
     void answerNotification();
-    void letNotificationGo();
+    void closeNotification();
     void wait();
     void watch();
     void shutTheLid();
 
-    /// Takes to the newest timer, which somebody has just opened.
+    /// Adds a TimerUser for the newest timer, which has just been opened.
     void adopt();
     void closeAt(int place);
-    /// A timer, opened if there is none.
+    /// A random timer; opens one if there is none.
     TimerUser &any();
     int upTo(int highest) { return _random.bounded(highest) + 1; }
     bool inOneOf(int cases) { return _random.bounded(cases) == 0; }

@@ -9,12 +9,12 @@
 
 #include <chrono>
 
-/// Waits until everything that is on its way between the program, which runs in this process, and
-/// the owner of a name on the session bus has arrived and has been answered.
+/// Waits until all messages between the program, which runs in this process, and the owner of a
+/// name on the session bus have arrived and have been answered.
 ///
-/// A ping goes the same way as what the program has sent before, and its answer comes after what
-/// the owner has sent before. Each answer may lead to another question, so there are more pings
-/// than the longest conversation has messages.
+/// The bus keeps messages in order: a ping arrives after all earlier calls of the program, and its
+/// answer after all earlier messages of the owner. Each answer may lead to another call, so there
+/// are more pings than the longest exchange has messages.
 inline void settleWith(const QString &name)
 {
     constexpr int kPings = 8;
@@ -33,7 +33,7 @@ inline void settleWith(const QString &name)
     }
 }
 
-/// The same between the program and the bus itself.
+/// The same for messages between the program and the bus itself.
 inline void settleWithBus()
 {
     settleWith(QStringLiteral("org.freedesktop.DBus"));

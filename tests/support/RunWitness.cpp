@@ -16,8 +16,8 @@
 
 namespace
 {
-/// How late a timer may be on a computer that is awake: in the energy saver it looks at the time
-/// at every fifth tick only.
+/// How late a timer may ring on a computer that is awake, in seconds: in the energy saver mode it
+/// checks the time only at every fifth tick.
 constexpr double kLate = 0.19;
 constexpr int kDay = 86400;
 constexpr int kBeepsOfARun = 12;
@@ -27,7 +27,7 @@ bool isRinging(const Wuffer &timer)
     return child<QPushButton>(*timer.window(), "_goButton").text() == kGoButtonReset;
 }
 
-/// The seconds in a text like "1h 2m 3s"; nothing when it is no such text.
+/// The seconds in a text like "1h 2m 3s"; nullopt for any other text.
 std::optional<int> secondsIn(const QString &text)
 {
     static const QRegularExpression form(
@@ -39,7 +39,7 @@ std::optional<int> secondsIn(const QString &text)
            match.captured(3).toInt();
 }
 
-/// The one that ends first, of several the newest.
+/// The timer that ends first; the newest of them if several end at the same time.
 const Wuffer *firstToEnd(const std::vector<Wuffer *> &running)
 {
     const Wuffer *first = nullptr;
@@ -69,7 +69,7 @@ void RunWitness::noticed(const Wuffer &timer)
     } else if (known == _runs.end()) {
         begin(timer);
     } else {
-        require(known->end == *timer.targetDate(), "a run keeps its end");
+        require(known->end == *timer.targetDate(), "a run keeps its end time");
         if (isRinging(timer) && !known->hasRung)
             ring(*known);
     }
@@ -109,9 +109,9 @@ void RunWitness::compareSigns()
     _services.sounds.clearDiary();
     beeps += beepsHeard;
     require(beepsHeard == 0 || !(isSet("soundOff") || isSet("suppressCountdown")),
-            "no beep sounds where none is wanted");
+            "no beep sounds while the settings forbid it");
     require(beeps <= runs * kBeepsOfARun, "a run beeps twelve times at most");
-    require(_seen == _expected, "each end is told of once, in the ways that are wanted");
+    require(_seen == _expected, "each end is announced once, in the ways that are set");
 }
 
 void RunWitness::lookAtStatusItem()
@@ -126,8 +126,8 @@ void RunWitness::lookAtStatusItem()
     const Wuffer *first = firstToEnd(running);
     require(item.target() == first, "the status item is for the timer that ends first");
     require(item.attributedTitle().text == first->statusString() + QLatin1Char(' '),
-            "the status item says what the display says");
-    require((item.menu() != nullptr) == (running.size() > 1), "two timers need a menu");
+            "the status item shows the text of the display");
+    require((item.menu() != nullptr) == (running.size() > 1), "only several timers have a menu");
     require(!item.menu() || item.menu()->lines().size() == running.size(),
             "the menu has a line for each running timer");
 }
@@ -137,11 +137,12 @@ void RunWitness::look()
     compareSigns();
     for (const Wuffer *timer : WufferApplication::getWuffers()) {
         const auto run = _runs.constFind(timer);
-        require((run != _runs.constEnd()) == timer->isRunning(), "every start and stop is told");
+        require((run != _runs.constEnd()) == timer->isRunning(),
+                "every start and stop has a notice");
         if (run != _runs.constEnd())
             lookAt(*timer, *run);
         else
-            require(!isRinging(*timer), "only a timer that runs rings");
+            require(!isRinging(*timer), "only a running timer rings");
     }
 }
 
@@ -154,20 +155,21 @@ void RunWitness::lookAt(const Wuffer &timer, const Run &run)
     if (run.hasRung || remaining <= 0 || duration >= kDay)
         return;
     const std::optional<int> shown = secondsIn(timer.statusString());
-    require(shown && std::abs(*shown + 0.5 - remaining) < 0.5 + kLate, "the display is right");
-    // The line is elsewhere while the timer fills the screen, and empty at the start.
+    require(shown && std::abs(*shown + 0.5 - remaining) < 0.5 + kLate,
+            "the display shows the time that remains");
+    // In full screen mode the line is not in the window; at the start it is empty.
     const auto *line = timer.window()->findChild<DisplayLabel *>(QStringLiteral("_elapsedLabel"));
     if (!line || line->text().isEmpty() || !shown)
         return;
-    // Each is cut to its whole seconds.
+    // Both are rounded down to whole seconds, so the sum may be one second short.
     const std::optional<int> elapsed = secondsIn(line->text().section(QLatin1Char(' '), 1));
     const double sum = *shown + elapsed.value_or(-kDay);
-    require(sum == duration || sum == duration - 1, "elapsed and remaining are the duration");
+    require(sum == duration || sum == duration - 1, "elapsed and remaining add up to the duration");
 }
 
 double RunWitness::overdue(const Run &run)
 {
-    // Less than nothing is over as soon as it begins.
+    // A run with a negative duration is over as soon as it begins.
     return -std::max(run.begin, run.end).timeIntervalSinceNow();
 }
 

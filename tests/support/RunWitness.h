@@ -9,21 +9,22 @@
 
 class Wuffer;
 
-/// Follows every run of every timer by the notices that they give, and keeps what was wrong: a run
-/// must ring once, at its end and not before, in all the ways that the settings ask for and in no
-/// other; and with each notice the status item must show what runs.
+/// Follows every run of every timer through the timers' notices, and records every violation of two
+/// rules: a run rings once, at its end and not before, in exactly the ways that the settings ask
+/// for; and after each notice the status item shows what runs.
 ///
-/// To be made after the controller, so that it looks when the status item is up to date.
+/// Create it after the controller: the witness then gets each notice when the status item is
+/// already up to date.
 class RunWitness final : public QObject
 {
 public:
     explicit RunWitness(TestServices &services);
 
-    /// Looks for what no notice tells of; to be called whenever time has passed and before a
-    /// setting changes.
+    /// Checks what no notice reports. Call it whenever time has passed and before a setting
+    /// changes.
     void look();
 
-    /// What was wrong so far.
+    /// The violations found so far.
     QStringList complaints;
     int runs = 0;
     int rings = 0;
@@ -36,7 +37,7 @@ private:
         Date end;
         bool hasRung = false;
     };
-    /// What a ring is made of.
+    /// How often the timers have called for attention, in each of the three ways.
     struct Signs
     {
         int notifications = 0;

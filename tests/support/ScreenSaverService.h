@@ -11,9 +11,9 @@
 #include <utility>
 #include <vector>
 
-/// A service on the session bus that is asked to keep the screen from going blank: the screen
-/// saver, or the portal, whichever name and path it is given. It is there while this object lives
-/// and keeps what it is told.
+/// A service on the session bus that programs ask to keep the screen on: the screen saver or the
+/// portal, depending on the name and the path. It is registered while this object lives and records
+/// the calls.
 class InhibitService : public QObject, protected QDBusContext
 {
     Q_OBJECT
@@ -29,9 +29,9 @@ public:
     ~InhibitService() override { QDBusConnection::disconnectFromBus(_name); }
     Q_DISABLE_COPY_MOVE(InhibitService)
 
-    /// Lets it hear everything and answer nothing.
+    /// From now on the service receives calls but holds back the answers.
     void stopAnswering() { _answers = false; }
-    /// Answers everything that was left without an answer, and all that follows.
+    /// Sends the answers held back, and answers later calls at once.
     void answerAgain()
     {
         _answers = true;
@@ -40,8 +40,7 @@ public:
     }
     [[nodiscard]] std::size_t heldBack() const { return _heldBack.size(); }
 
-    /// What it was asked for and has been given back, in turn: "inhibit Wuffer: reason", "release
-    /// 7".
+    /// The calls in order: "inhibit Wuffer: reason", "release 7".
     QStringList diary;
 
 protected:
@@ -61,7 +60,7 @@ private:
     std::vector<QDBusMessage> _heldBack;
 };
 
-/// The screen saver of a desktop. Its slots are those of the protocol.
+/// A desktop's screen saver. The slots are the methods of its D-Bus interface.
 class ScreenSaverService final : public InhibitService
 {
     Q_OBJECT
@@ -86,7 +85,7 @@ private:
     uint _cookie = 6;
 };
 
-/// What the portal has granted, until it is closed.
+/// An inhibition that the portal has granted; Close() ends it.
 class PortalRequest final : public QObject
 {
     Q_OBJECT
@@ -102,7 +101,7 @@ private:
     QStringList &_diary;
 };
 
-/// The portal of a desktop. Its slots are those of the protocol.
+/// A desktop's portal. The slots are the methods of its D-Bus interface.
 class InhibitPortal final : public InhibitService
 {
     Q_OBJECT

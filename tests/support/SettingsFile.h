@@ -8,7 +8,7 @@
 #include <QJsonObject>
 #include <QTemporaryDir>
 
-/// A settings file in a folder of its own, looked at from outside the program.
+/// A settings file in a folder of its own, read and written without UserDefaults.
 class SettingsFile
 {
 public:
@@ -26,7 +26,7 @@ public:
     /// What the file holds; an empty object when it holds no JSON object.
     [[nodiscard]] QJsonObject object() const { return QJsonDocument::fromJson(text()).object(); }
 
-    /// The text of the file in the folder that has this name; null when there is none.
+    /// The text of the file of this name in the same folder; null if there is none.
     [[nodiscard]] QByteArray textBeside(const QString &name) const
     {
         return textOf(_folder.filePath(name));

@@ -2,11 +2,11 @@
 
 #include "support/TimerFixture.h"
 
-/// A timer on a computer that is suspended, and what it has been heard and seen to do since.
+/// A timer on a computer that gets suspended, and counts of what the user hears and sees after it.
 class Sleeper final : public TimerFixture
 {
 public:
-    /// Suspends the computer for so long, and lets it be awake for a moment.
+    /// Suspends the computer for this many seconds, then keeps it awake for a moment.
     void sleepAndWake(double seconds)
     {
         sounds.clearDiary();
@@ -16,7 +16,7 @@ public:
         pass(0.19);
     }
 
-    /// Lets every sound end that plays, and whatever follows begin.
+    /// Ends every sound that plays, and waits until the next sounds begin.
     void endSounds()
     {
         sounds.endAll();

@@ -35,10 +35,10 @@ void writeTone(const QString &path, const Tone &tone, Packing packing)
         int mode = SF_BITRATE_MODE_VARIABLE;
         sf_command(file, SFC_SET_BITRATE_MODE, &mode, sizeof mode);
         if (sf_command(file, SFC_GET_BITRATE_MODE, nullptr, 0) != SF_BITRATE_MODE_VARIABLE)
-            qFatal("this libsndfile writes no variable bit rates");
+            qFatal("this libsndfile cannot write variable bit rates");
     }
     const auto frames = static_cast<sf_count_t>(std::llround(tone.seconds * tone.sampleRate));
     const std::vector<float> values = samples(tone, frames);
     if (sf_writef_float(file, values.data(), frames) != frames || sf_close(file) != 0)
-        qFatal("cannot fill %s", qUtf8Printable(path));
+        qFatal("cannot write the samples of %s", qUtf8Printable(path));
 }

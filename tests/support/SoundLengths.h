@@ -11,13 +11,14 @@
 #include <limits>
 #include <numeric>
 
-// How long sounds last, for tests that really play them.
+// Measures how long sounds last, for tests that really play them.
 
-/// How late the end of a sound may be noticed here, in seconds.
+/// How late the tests may notice the end of a sound, in seconds.
 inline constexpr double kSlack = 0.2;
 
-/// How long each thread of this process has waited for a processor while it could have run, in
-/// seconds. A busy computer delays a sound by that, and the sound itself has no part in it.
+/// For how many seconds each thread of this process was ready to run but had to wait for a
+/// processor. On a busy computer a sound lasts longer by that much, through no fault of the
+/// program.
 inline QHash<QString, double> secondsWaited()
 {
     QHash<QString, double> waited;
@@ -30,7 +31,7 @@ inline QHash<QString, double> secondsWaited()
     return waited;
 }
 
-/// How much longer they have waited since.
+/// How many seconds all threads together have waited since `before` was measured.
 inline double secondsWaitedSince(const QHash<QString, double> &before)
 {
     const QHash<QString, double> now = secondsWaited();
@@ -47,7 +48,7 @@ inline QElapsedTimer startedTimer()
     return timer;
 }
 
-/// Waits for the end of the sound. Gives the seconds since the timer was started; infinity if the
+/// Waits for the end of the sound. Returns the seconds since the timer was started; infinity if the
 /// sound does not end.
 inline double secondsUntilSilent(const Sound &sound, QElapsedTimer timer = startedTimer())
 {
@@ -56,7 +57,7 @@ inline double secondsUntilSilent(const Sound &sound, QElapsedTimer timer = start
                : std::numeric_limits<double>::infinity();
 }
 
-/// Plays, and verifies that it takes about so many seconds.
+/// Calls `play`, and verifies that the number of seconds it returns is about the expected one.
 #define VERIFY_LASTS(play, expected)                                                               \
     do {                                                                                           \
         const QHash<QString, double> before = secondsWaited();                                     \

@@ -5,8 +5,8 @@
 #include <QObject>
 #include <QStringList>
 
-/// A watcher for status items on the session bus, under its well-known name while this object
-/// lives, that keeps who has registered with it.
+/// A watcher for status items on the session bus. It owns the well-known name while this object
+/// lives, and records which services register with it.
 class StatusWatcher final : public QObject
 {
     Q_OBJECT
@@ -14,9 +14,9 @@ class StatusWatcher final : public QObject
 
 public:
     enum Place {
-        /// It has the name at once.
+        /// The watcher owns the name at once.
         First,
-        /// It gets the name when its owner goes.
+        /// The watcher gets the name when the current owner leaves.
         Next,
     };
 

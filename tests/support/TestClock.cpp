@@ -12,7 +12,7 @@ void TestClock::advance(double seconds)
 {
     const double end = _now + seconds;
     while (nextDue() <= end) {
-        // A step of the clock later, so that rounding down cannot keep a timer waiting.
+        // One clock step late, because now() rounds down and the timer must be due by then.
         _now = std::max(_now, nextDue() + 0x1p-20);
         ++_wakeUps;
         fireDueTimers();

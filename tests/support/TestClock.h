@@ -9,15 +9,15 @@ public:
     [[nodiscard]] double now() const override { return inSteps(_now); }
     [[nodiscard]] QDateTime calendarNow() const override;
 
-    /// Lets so many seconds pass: every timer that comes due on the way fires at its moment and
-    /// in its turn.
+    /// Lets this many seconds pass. Every timer that falls due meanwhile fires at its own time, in
+    /// order.
     void advance(double seconds);
 
-    /// Lets so many seconds pass during which nothing wakes, as when the computer sleeps; what
-    /// is due fires afterwards.
+    /// Lets this many seconds pass as on a suspended computer: timers that fall due meanwhile
+    /// fire at the end.
     void sleep(double seconds);
 
-    /// Moves what the calendar says, as when somebody sets the computer's time.
+    /// Shifts the calendar time, as when the user sets the computer's clock.
     void setCalendarOffset(double seconds) { _calendarOffset = seconds; }
 
     /// True when no timer is waiting.
@@ -29,7 +29,7 @@ public:
 private:
     void nextDueChanged() override {}
 
-    // An arbitrary morning, off the full second so that nothing works only on one.
+    // An arbitrary morning, not at a full second, so that no test passes only at one.
     double _now = 1'800'000'000.375;
     double _calendarOffset = 0;
     int _wakeUps = 0;

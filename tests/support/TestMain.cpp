@@ -13,7 +13,7 @@ namespace
 {
 using Tests = std::map<std::string, KnownTest::Run, std::less<>>;
 
-/// All test classes of this program. They make themselves known before main() begins.
+/// All test classes of this program. They register themselves before main() begins.
 Tests &tests()
 {
     static Tests all;
@@ -31,7 +31,7 @@ int listTests(const char *program)
 
 void Test::init()
 {
-    // The display that is only in memory says so whenever a window wants more of it.
+    // The offscreen platform warns whenever a window asks for something that it lacks.
     const auto unexpected = QStringLiteral("^(?!This plugin does not support )");
     QTest::failOnWarning(QRegularExpression(unexpected));
 }
@@ -48,7 +48,7 @@ KnownTest::KnownTest(const char *className, Run run)
 {
     const std::string name = std::string(className).substr(std::string("tst_").size());
     if (!tests().emplace(name, run).second)
-        qFatal("there are two tests %s", name.c_str());
+        qFatal("two test classes are named %s", name.c_str());
 }
 
 int main(int argc, char *argv[])
@@ -56,7 +56,7 @@ int main(int argc, char *argv[])
     const auto test = tests().find(argc > 1 ? argv[1] : "");
     if (test == tests().end())
         return listTests(argv[0]);
-    // The test sees the arguments of a program of its own.
+    // Qt Test gets the arguments without the name of the class.
     argv[1] = argv[0];
     return test->second(argc - 1, argv + 1);
 }

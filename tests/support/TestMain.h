@@ -5,7 +5,7 @@
 
 #include <memory>
 
-/// A test object every test of which fails when the program writes a warning that nobody expects.
+/// A test class in which every test fails if the program writes an unexpected warning.
 class Test : public QObject
 {
     Q_OBJECT
@@ -14,8 +14,8 @@ protected Q_SLOTS:
     void init();
 };
 
-/// The surroundings that most test classes run in: the program's application object, which leaves
-/// the settings of the user alone.
+/// The surroundings of most test classes: the program's application object, which here does not
+/// touch the user's settings.
 class InApplication final
 {
 public:
@@ -27,7 +27,7 @@ private:
     std::unique_ptr<QCoreApplication> _application;
 };
 
-/// An application object that knows of no windows.
+/// An application object without support for windows.
 class WithoutWindows final
 {
 public:
@@ -44,7 +44,8 @@ public:
     WithoutApplication(int & /*argc*/, char ** /*argv*/) {}
 };
 
-/// Runs the tests of a class in its surroundings, which are given to a class that takes them.
+/// Runs the tests of a class in its surroundings. The class gets them if its constructor takes
+/// them.
 template<typename Class, typename Surroundings = InApplication> int runTest(int argc, char **argv)
 {
     [[maybe_unused]] const Surroundings surroundings(argc, argv);
@@ -57,9 +58,9 @@ template<typename Class, typename Surroundings = InApplication> int runTest(int 
     }
 }
 
-/// Makes a test class known to the program that it is a part of, by its name without "tst_". The
-/// program runs the one class that its first argument names: each has a process of its own, and an
-/// application object that no other has used.
+/// Registers a test class with its test program, under its name without "tst_". The program runs
+/// only the class that its first argument names, so each class has its own process and a fresh
+/// application object.
 class KnownTest final
 {
 public:
@@ -67,7 +68,7 @@ public:
     KnownTest(const char *className, Run run);
 };
 
-/// Enters a test class, and the surroundings it runs in unless they are InApplication.
+/// Registers a test class, and as a second argument its surroundings; the default is InApplication.
 #define WUFFER_TEST(...) WUFFER_TEST_IN(__VA_ARGS__, InApplication)
 #define WUFFER_TEST_IN(Class, Surroundings, ...)                                                   \
     namespace                                                                                      \

@@ -7,8 +7,8 @@
 
 #include <QTemporaryDir>
 
-/// The services of one test: time that the test moves, settings of its own, and fakes that record
-/// what they are told. Closes every timer that the test has left open.
+/// The services of one test: a clock that the test moves, settings of its own, and fakes that
+/// record what the program does. The destructor closes every timer that is still open.
 class TestServices
 {
 public:
@@ -16,7 +16,7 @@ public:
     ~TestServices();
     Q_DISABLE_COPY_MOVE(TestServices)
 
-    /// The file that the settings are kept in.
+    /// The path of the settings file.
     [[nodiscard]] QString settingsPath() const;
 
 private:

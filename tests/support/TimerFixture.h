@@ -4,11 +4,11 @@
 #include "support/TestServices.h"
 #include "support/TimerUser.h"
 
-/// One timer in its window, on services of its own.
+/// One timer in its window, with services of its own.
 class TimerFixture : public TestServices, public TimerUser
 {
 public:
     void pass(double seconds) { clock.advance(seconds); }
-    /// Switches a global setting, as the preferences do.
+    /// Changes a global setting and posts the notice for it, as the preferences do.
     void set(const char *key, const QVariant &value);
 };

@@ -14,13 +14,13 @@
 #include <QLineEdit>
 #include <QPushButton>
 
-/// One timer in its window, and the verbs to use it by.
+/// One timer in its window, and what a user does with it.
 class TimerUser
 {
 public:
     /// Opens a timer.
     TimerUser() = default;
-    /// Takes to one that is open.
+    /// Uses a timer that is already open.
     explicit TimerUser(Wuffer &open) : timer(open) {}
 
     Wuffer &timer = WufferApplication::instance().openWuffer();
@@ -32,7 +32,7 @@ public:
     void startCountdown(int seconds);
     void tick(const char *box, bool on = true) { part<QCheckBox>(box).setChecked(on); }
     void chooseFinish(const QString &action);
-    /// Chooses the entry at this place of the picker.
+    /// Chooses the entry of the picker at this index.
     void pick(int index);
     void chooseAlarm(const QString &path);
     void chooseBeep(const QString &path);
@@ -58,13 +58,13 @@ public:
         return child<Class>(*timer.window(), name);
     }
 
-    /// Found while it is in the window, like the labels.
+    /// Looked up at once, like the display box and its labels below.
     QLineEdit &titleField = part<QLineEdit>("_titleField");
 
 private:
     [[nodiscard]] QHash<QByteArray, DisplayLabel *> findLabels() const;
 
-    // Found while they are in the window, which they leave for the full screen.
+    // Looked up at once, because full screen mode takes them out of the window.
     DisplayBox &displayBox = part<DisplayBox>("_displayBox");
     QHash<QByteArray, DisplayLabel *> labels = findLabels();
 };

@@ -1,6 +1,6 @@
-// Preloaded into a program under the address sanitizer, tells at every second how many bytes of the
-// heap the program uses, in the file that WUFFER_LIVE_HEAP names. The memory of its process tells
-// less: the sanitizer holds back what is freed, and keeps books on it.
+// A library to preload into a program built with the address sanitizer. Every second it writes the
+// number of heap bytes in use to the file that WUFFER_LIVE_HEAP names. The size of the process says
+// less: the sanitizer keeps freed memory back and needs memory for its own records.
 
 #include <chrono>
 #include <csignal>
@@ -11,20 +11,20 @@
 #include <string>
 #include <thread>
 
-// Of the sanitizer's interface, whose header does not come with every compiler.
+// From the sanitizer's interface, whose header does not come with every compiler.
 extern "C" std::size_t __sanitizer_get_current_allocated_bytes();
 
 namespace
 {
 void tell(const std::string &path)
 {
-    // So that no signal meant for the program comes here.
+    // Signals are meant for the program's own threads.
     sigset_t signals;
     sigfillset(&signals);
     pthread_sigmask(SIG_SETMASK, &signals, nullptr);
     std::ofstream file(path);
     for (;;) {
-        // As wide as the widest, so that a reader never sees the rest of another.
+        // Of fixed width, so that each number overwrites all digits of the one before.
         file.seekp(0);
         file << std::setw(20) << __sanitizer_get_current_allocated_bytes() << std::flush;
         std::this_thread::sleep_for(std::chrono::seconds(1));

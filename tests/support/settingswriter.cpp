@@ -9,8 +9,8 @@
 
 namespace
 {
-/// Changes settings at random moments, each change in several of them, and says of each when it
-/// was made.
+/// Changes several settings together at random moments, and prints the number and the time of each
+/// change.
 class Writer final
 {
 public:
@@ -33,7 +33,7 @@ private:
             std::chrono::steady_clock::now().time_since_epoch();
         std::printf("%d %.6f\n", count, now.count());
         std::fflush(stdout);
-        // Now and then in quick succession.
+        // One change in three is followed by the next at once.
         _again.start(_random.bounded(3) == 0 ? 0 : _random.bounded(500));
     }
 
@@ -43,7 +43,7 @@ private:
 };
 } // namespace
 
-/// Changes the settings at the path given until it is killed.
+/// Changes the settings in the file that the first argument names, until the process is killed.
 int main(int argc, char **argv)
 {
     const QCoreApplication application(argc, argv);

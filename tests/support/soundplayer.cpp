@@ -7,20 +7,20 @@
 #include <map>
 #include <sstream>
 
-// Plays sounds at the command of a test. Each line of the standard input is one order,
+// Plays sounds at the command of a test. Each line of the standard input is an order:
 //
 //     load NAME PATH     play NAME       volume NAME VOLUME    playing NAME
 //     destroy NAME       stop NAME       loops NAME 0|1        standin NAME FILE
 //     quit
 //
-// and is answered by a line with a result and by how many microseconds the order took.
+// The answer to each is a line with its result and the microseconds that it took.
 
 namespace
 {
 class Player final
 {
 public:
-    /// Carries out an order; gives what there is to tell.
+    /// Carries out an order. Returns the duration for "load", 1 or 0 for "playing", else 0.
     double carryOut(std::istringstream &order);
 
 private:

@@ -1,14 +1,14 @@
 #include "support/Fakes.h"
 #include "support/TestMain.h"
 
-/// What the tests of everything else rely on.
+/// The fakes must behave, because all other tests rely on them.
 class tst_Fakes final : public Test
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void aSoundEndsUnlessItLoops();
-    void theEndOfAllSoundsRevivesNoneThatWasStopped();
+    void endingAllSoundsDoesNotReviveAStoppedSound();
 };
 
 void tst_Fakes::aSoundEndsUnlessItLoops()
@@ -24,7 +24,7 @@ void tst_Fakes::aSoundEndsUnlessItLoops()
     QVERIFY(forEver->isPlaying());
 }
 
-void tst_Fakes::theEndOfAllSoundsRevivesNoneThatWasStopped()
+void tst_Fakes::endingAllSoundsDoesNotReviveAStoppedSound()
 {
     FakeSoundSystem sounds;
     const auto stopped = sounds.soundNamed(QStringLiteral("stopped.wav"));
