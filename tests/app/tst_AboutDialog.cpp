@@ -11,14 +11,14 @@
 #include <QPushButton>
 #include <QTextDocumentFragment>
 
-/// What the program says of itself.
+/// The dialog with the program's name, version, owner and licences.
 class tst_AboutDialog final : public Test
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void itSaysNameAndVersion();
-    void itSaysWhoseItIsAsTheLicenceDoes();
+    void itNamesTheOwnerAsTheLicenceDoes();
     void itNamesTheLibrariesAndTheirLicences();
     void itsTextsCanBeSelectedByKeyboardAndMouse();
     void escapeAndReturnCloseIt();
@@ -26,17 +26,17 @@ private Q_SLOTS:
     void itComesBackAndThereIsOneOnly();
 
 private:
-    /// The dialog, which the Help menu has opened and which is active.
+    /// Opens the dialog by the Help menu, and waits until it is active.
     static AboutDialog &opened()
     {
         const WufferWindow &window = *WufferApplication::getWuffers().front()->window();
         menu(window, QStringLiteral("Help")).actions().last()->trigger();
         AboutDialog *dialog = shown().value(0);
         if (!dialog)
-            qFatal("nothing has opened");
+            qFatal("the dialog has not opened");
         activate(*dialog);
         if (!QTest::qWaitFor([&] { return QApplication::activeWindow() == dialog; }))
-            qFatal("it has not become active");
+            qFatal("the dialog has not become active");
         return *dialog;
     }
     static QList<AboutDialog *> shown()
@@ -86,7 +86,7 @@ void tst_AboutDialog::itSaysNameAndVersion()
     QVERIFY(!child<QLabel>(dialog, "_iconLabel").pixmap().isNull());
 }
 
-void tst_AboutDialog::itSaysWhoseItIsAsTheLicenceDoes()
+void tst_AboutDialog::itNamesTheOwnerAsTheLicenceDoes()
 {
     QFile file(QFINDTESTDATA("../LICENSE"));
     QVERIFY(file.open(QIODevice::ReadOnly));

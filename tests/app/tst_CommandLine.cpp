@@ -14,25 +14,25 @@ class tst_CommandLine final : public Test
     Q_OBJECT
 
 private Q_SLOTS:
-    void withoutArgumentsNothingInParticularIsWanted();
+    void withoutArgumentsTheOrderIsToActivate();
     void everyOrderHasAnOption();
-    void ofSeveralOrdersTheLastHolds();
-    void theBusAsksForAService();
+    void theLastOfSeveralOrdersCounts();
+    void theServiceOptionAsksForAService();
     void questionsAreAnswered_data();
     void questionsAreAnswered();
-    void whatNobodyKnowsIsExplained_data();
-    void whatNobodyKnowsIsExplained();
-    void answersGoWhereTheyBelong();
-    void whatIsNoQuestionNeedsADisplay();
+    void unknownArgumentsAreExplained_data();
+    void unknownArgumentsAreExplained();
+    void answersGoToTheOutputAndErrorsToTheErrorOutput();
+    void onlyQuestionsAreAnsweredWithoutADisplay();
     void ordersHaveNamesAndBack();
 };
 
-/// What is written to this stream while the function runs.
+/// The bytes that the function writes to this stream.
 static QByteArray written(FILE *stream, const std::function<void()> &function)
 {
     QTemporaryFile file;
     if (!file.open())
-        qFatal("there is no room for a file");
+        qFatal("cannot create a temporary file");
     std::fflush(stream);
     const int before = ::dup(::fileno(stream));
     ::dup2(file.handle(), ::fileno(stream));
@@ -49,7 +49,7 @@ static CommandLine read(const QStringList &arguments)
     return readCommandLine(QStringList(QStringLiteral("wuffer")) + arguments);
 }
 
-void tst_CommandLine::withoutArgumentsNothingInParticularIsWanted()
+void tst_CommandLine::withoutArgumentsTheOrderIsToActivate()
 {
     const CommandLine line = read({});
     QVERIFY(line.order == LaunchOrder::Activate);
@@ -65,13 +65,13 @@ void tst_CommandLine::everyOrderHasAnOption()
     QVERIFY(read({QStringLiteral("--converter")}).order == LaunchOrder::Converter);
 }
 
-void tst_CommandLine::ofSeveralOrdersTheLastHolds()
+void tst_CommandLine::theLastOfSeveralOrdersCounts()
 {
     const CommandLine line = read({QStringLiteral("--converter"), QStringLiteral("--new-timer")});
     QVERIFY(line.order == LaunchOrder::NewTimer);
 }
 
-void tst_CommandLine::theBusAsksForAService()
+void tst_CommandLine::theServiceOptionAsksForAService()
 {
     const CommandLine line = read({QStringLiteral("--service")});
     QVERIFY(line.service);
@@ -100,7 +100,7 @@ void tst_CommandLine::questionsAreAnswered()
     QCOMPARE(line.exitStatus, 0);
 }
 
-void tst_CommandLine::whatNobodyKnowsIsExplained_data()
+void tst_CommandLine::unknownArgumentsAreExplained_data()
 {
     QTest::addColumn<QString>("argument");
     QTest::newRow("option") << QStringLiteral("--sing");
@@ -108,7 +108,7 @@ void tst_CommandLine::whatNobodyKnowsIsExplained_data()
     QTest::newRow("value for an option without one") << QStringLiteral("--converter=2");
 }
 
-void tst_CommandLine::whatNobodyKnowsIsExplained()
+void tst_CommandLine::unknownArgumentsAreExplained()
 {
     QFETCH(const QString, argument);
     const CommandLine line = read({argument});
@@ -126,7 +126,7 @@ void tst_CommandLine::ordersHaveNamesAndBack()
     QVERIFY(!launchOrderNamed(QStringLiteral("New-Timer")));
 }
 
-void tst_CommandLine::answersGoWhereTheyBelong()
+void tst_CommandLine::answersGoToTheOutputAndErrorsToTheErrorOutput()
 {
     const CommandLine answer{.answer = QStringLiteral("Wuffer 1\n")};
     const CommandLine complaint{.answer = QStringLiteral("no such option\n"), .exitStatus = 2};
@@ -142,7 +142,7 @@ void tst_CommandLine::answersGoWhereTheyBelong()
     QVERIFY(!answered);
 }
 
-void tst_CommandLine::whatIsNoQuestionNeedsADisplay()
+void tst_CommandLine::onlyQuestionsAreAnsweredWithoutADisplay()
 {
     for (const char *option : {"--new-timer", "--versions", "-help", "tea.txt"}) {
         QByteArray program("wuffer");

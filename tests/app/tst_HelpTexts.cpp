@@ -12,8 +12,8 @@
 
 namespace
 {
-/// The rows of the tables of a document, each after the heading above its table, cells and heading
-/// joined by bars.
+/// The rows of all tables of a document. Each begins with the heading above its table; heading and
+/// cells are joined by bars.
 QStringList tableRows(const QTextDocument &document)
 {
     QStringList rows;
@@ -47,7 +47,7 @@ QString keysOf(const QAction &item)
     return keys.join(QStringLiteral(", "));
 }
 
-/// "File menu|New Timer|Ctrl+N" for every item of the menu bar that has keys, presets apart.
+/// "File menu|New Timer|Ctrl+N" for every item of the menu bar that has keys, except the presets.
 QStringList menuRows(const QMainWindow &window)
 {
     QStringList rows;
@@ -73,7 +73,7 @@ QSet<QString> presetKeys(const QMainWindow &window)
     return keys;
 }
 
-/// What the groups of the expression match in all pages, joined by bars.
+/// The groups captured by each match of the expression in all pages, joined by bars.
 QStringList matchesInPages(const char *expression)
 {
     QStringList found;
@@ -85,7 +85,7 @@ QStringList matchesInPages(const char *expression)
     }
     return found;
 }
-/// What stands on the controls of a window, and in its menus.
+/// The texts of a window's controls and menus.
 QStringList textsIn(const QWidget &window)
 {
     QStringList texts;
@@ -107,7 +107,7 @@ QStringList textsIn(const QWidget &window)
 }
 } // namespace
 
-/// What the help says of keys, menus and buttons, beside the real ones.
+/// Compares what the help says about keys, menus and buttons with the real ones.
 class tst_HelpTexts final : public Test
 {
     Q_OBJECT
@@ -117,7 +117,7 @@ private Q_SLOTS:
     void theTableOfShortcutsEqualsTheMenus();
     void theKeysOfThePresetsAreThoseOfTheMenu();
     void everyKeyInTheTextIsInTheMenus();
-    void everyItemInTheTextIsWhereItIsSaidToBe();
+    void everyItemInTheTextIsInTheMenuThatItNames();
     void everyNameInTheTextStandsInAWindow();
 };
 
@@ -179,7 +179,7 @@ void tst_HelpTexts::everyKeyInTheTextIsInTheMenus()
         QVERIFY2(known.contains(keys), qPrintable(keys));
 }
 
-void tst_HelpTexts::everyItemInTheTextIsWhereItIsSaidToBe()
+void tst_HelpTexts::everyItemInTheTextIsInTheMenuThatItNames()
 {
     Reader reader;
     reader.open();

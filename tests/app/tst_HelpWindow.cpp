@@ -7,7 +7,7 @@
 
 #include <algorithm>
 
-/// The help: how it is opened, moved about in and searched.
+/// How the user opens the help, moves through it and searches it.
 class tst_HelpWindow final : public Test
 {
     Q_OBJECT
@@ -137,7 +137,7 @@ void tst_HelpWindow::returnGoesFromHitToHitAndBeginsAgain()
     reader.open();
     reader.searchFor("marks");
     QCOMPARE(Reader::page(), QStringLiteral("index"));
-    // Two pages have the word: one says that countdown sounds mark the last seconds.
+    // The word is on two pages; one says that countdown sounds mark the last seconds.
     const auto hits = Reader::count().section(QLatin1Char(' '), 1).toInt();
     QCOMPARE(hits, 2);
     Reader::press(Qt::Key_Return);
@@ -213,7 +213,7 @@ void tst_HelpWindow::escapeEndsTheSearchAndThenCloses()
     QFETCH(const QString, focus);
     Reader reader;
     reader.open();
-    // So that there is a page to go back to.
+    // Visits a second page, so that there is one to go back to.
     Reader::browser().showPage(QStringLiteral("keyboard"));
     reader.searchFor("chain");
     child<QWidget>(Reader::panel(), focus.toLatin1().constData()).setFocus();
@@ -243,7 +243,7 @@ void tst_HelpWindow::alreadyReadPagesComeBack()
     auto &back = child<QToolButton>(Reader::panel(), "_backButton");
     auto &forward = child<QToolButton>(Reader::panel(), "_forwardButton");
     QVERIFY(!back.isEnabled() && !forward.isEnabled());
-    // The first link of the first page.
+    // Follows the first link of the first page.
     Reader::press(Qt::Key_Tab);
     Reader::press(Qt::Key_Return);
     QCOMPARE(Reader::page(), QStringLiteral("first-timer"));

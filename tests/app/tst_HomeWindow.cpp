@@ -10,7 +10,7 @@
 #include <QSignalSpy>
 #include <QTimer>
 
-/// The window that is there when no other is.
+/// The window that the program shows when no other window is open.
 class tst_HomeWindow final : public Test
 {
     Q_OBJECT
@@ -29,7 +29,7 @@ private Q_SLOTS:
     void longNamesAreCutOffAndToldInFull();
     void aSavedPresetIsShownAtOnce();
     void itHasTheMenus();
-    // Last: a program that has ended does not open windows again.
+    // These come last: a program that has ended opens no more windows.
     void closingItEndsTheProgram();
     void quittingShowsNone();
 };
@@ -40,7 +40,7 @@ struct Program : TestServices
 {
     WufferController controller;
 
-    /// Launches the program so that no timer opens.
+    /// Launches the program with the setting that opens no timer.
     void launch()
     {
         defaults.setObject(QStringLiteral("Do Nothing"), QStringLiteral("launchBehavior"));
@@ -48,7 +48,7 @@ struct Program : TestServices
     }
 };
 
-/// The home window if it is open.
+/// The home window; null if it is not open.
 HomeWindow *home()
 {
     for (QWidget *window : QApplication::topLevelWidgets()) {
@@ -59,7 +59,7 @@ HomeWindow *home()
     return nullptr;
 }
 
-/// Its buttons for presets, in the order of the list.
+/// The home window's buttons for presets, in the order of the list.
 QList<QPushButton *> presets()
 {
     QList<QPushButton *> buttons = home()->findChildren<QPushButton *>();
@@ -162,7 +162,7 @@ void tst_HomeWindow::closingItEndsTheProgram()
     program.launch();
     const QSignalSpy closed(home(), &HomeWindow::closed);
     QTimer::singleShot(0, home(), &QWidget::close);
-    // Comes back only when the program is to end.
+    // exec() returns only when the program ends.
     QCOMPARE(QCoreApplication::exec(), 0);
     QCOMPARE(closed.count(), 1);
 }
@@ -176,7 +176,7 @@ void tst_HomeWindow::quittingShowsNone()
             [&] { shown = true; });
     QTimer::singleShot(0, &program.controller, &WufferController::quit);
     QCOMPARE(QCoreApplication::exec(), 0);
-    // What was put off until the windows had closed.
+    // Delivers the events that were queued while the windows closed.
     QCoreApplication::processEvents();
     QVERIFY(!shown);
     QVERIFY(!home());

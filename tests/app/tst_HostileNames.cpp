@@ -12,20 +12,20 @@
 
 namespace
 {
-/// As wide as a window or a menu may be: the narrowest screen of today.
+/// The greatest width of a window or a menu, in pixels: that of the narrowest screen in use.
 constexpr int kScreen = 1024;
 
 const QString kPreset = QStringLiteral("Preset 1");
 
-/// A menu item's text as it is read, with its marks for keys taken out.
+/// A menu item's text as the user reads it, without the ampersands for mnemonics.
 QString read(QString text)
 {
     return text.replace(QStringLiteral("&&"), QStringLiteral("&"));
 }
 } // namespace
 
-/// Names that look like something else, or are longer than any name: each place shows them as
-/// text, and none grows beyond the screen.
+/// Names that look like markup or commands, or are extremely long. Every place shows them as plain
+/// text and stays within the screen.
 class tst_HostileNames final : public Test
 {
     Q_OBJECT
@@ -91,7 +91,7 @@ private Q_SLOTS:
 void tst_HostileNames::names()
 {
     QTest::addColumn<QString>("name");
-    /// The same in one line, where there is only one.
+    // The name in one line, for places with room for one line only.
     QTest::addColumn<QString>("line");
     const auto add = [](const char *row, const QString &name) {
         QTest::newRow(row) << name << name;

@@ -8,14 +8,14 @@
 
 #include <QTimer>
 
-/// What opens at the first launch, and what later ones do to the program that runs.
+/// What opens at the first launch, and what later launches do to the running program.
 class tst_LaunchOrders final : public Test
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void theFirstLaunchOpensWhatItIsFor_data();
-    void theFirstLaunchOpensWhatItIsFor();
+    void theOrderOfTheFirstLaunchDecidesWhatOpens_data();
+    void theOrderOfTheFirstLaunchDecidesWhatOpens();
     void aNewTimerIsLikeTheOneOfTheLastTime();
     void startingAllStartsWhatOpens();
     void aLaterLaunchOpensANewTimer();
@@ -25,19 +25,19 @@ private Q_SLOTS:
     void aLaterLaunchBringsTheLastActiveWindowForward();
     void aLaterLaunchBringsBackAMinimizedTimer();
     void aLaterLaunchLeavesClosedWindowsClosed();
-    void whoAsksOftenIsAnsweredOnce();
-    void anActionThatNobodyKnowsOpensNothing();
-    void aServiceOpensNothingUntilItIsTold();
-    void whatAServiceIsToldFirstDecidesWhatOpens();
-    void whatAServiceIsToldNextIsDoneByTheRunningProgram();
-    // Last: a program that has ended opens no windows again.
-    void aServiceThatIsToldInTimeStays();
-    void aServiceThatIsToldNothingEnds();
+    void manyRequestsAtOnceRaiseTheWindowOnce();
+    void anUnknownActionOpensNothing();
+    void aServiceOpensNothingBeforeItsFirstOrder();
+    void theFirstOrderOfAServiceDecidesWhatOpens();
+    void laterOrdersGoToTheRunningProgram();
+    // These come last: a program that has ended opens no more windows.
+    void aServiceWithAnOrderInTimeStays();
+    void aServiceWithoutAnOrderEnds();
 };
 
 namespace
 {
-/// The program as main puts it together.
+/// The program, put together as in main().
 struct Program : TestServices
 {
     WufferController controller;
@@ -71,7 +71,7 @@ QStringList openWindows()
 }
 } // namespace
 
-void tst_LaunchOrders::theFirstLaunchOpensWhatItIsFor_data()
+void tst_LaunchOrders::theOrderOfTheFirstLaunchDecidesWhatOpens_data()
 {
     QTest::addColumn<int>("order");
     QTest::addColumn<QString>("choice");
@@ -93,7 +93,7 @@ void tst_LaunchOrders::theFirstLaunchOpensWhatItIsFor_data()
                                << QStringList{QStringLiteral("Converter")};
 }
 
-void tst_LaunchOrders::theFirstLaunchOpensWhatItIsFor()
+void tst_LaunchOrders::theOrderOfTheFirstLaunchDecidesWhatOpens()
 {
     QFETCH(const int, order);
     QFETCH(const QString, choice);
@@ -161,7 +161,7 @@ void tst_LaunchOrders::aLaterLaunchBringsTheLastActiveWindowForward()
     QWidget &first = *WufferApplication::getWuffers().front()->window();
     program.ask("new-timer");
     program.ask("new-timer");
-    // Neither the one that was active first nor the newest.
+    // The window that was active last is neither the oldest nor the newest.
     QWidget &second = *WufferApplication::getWuffers().at(1)->window();
     for (QWidget *window : {&first, &second}) {
         window->activateWindow();
@@ -184,7 +184,7 @@ void tst_LaunchOrders::aLaterLaunchBringsBackAMinimizedTimer()
     QVERIFY(!window.isMinimized());
 }
 
-void tst_LaunchOrders::whoAsksOftenIsAnsweredOnce()
+void tst_LaunchOrders::manyRequestsAtOnceRaiseTheWindowOnce()
 {
     Program program;
     program.launch(LaunchOrder::Activate);
@@ -209,7 +209,7 @@ void tst_LaunchOrders::whoAsksOftenIsAnsweredOnce()
     QCOMPARE(timers(), std::size_t(1));
 }
 
-void tst_LaunchOrders::anActionThatNobodyKnowsOpensNothing()
+void tst_LaunchOrders::anUnknownActionOpensNothing()
 {
     Program program;
     program.launch(LaunchOrder::Activate);
@@ -217,7 +217,7 @@ void tst_LaunchOrders::anActionThatNobodyKnowsOpensNothing()
     QCOMPARE(openWindows(), QStringList{QStringLiteral("Wuffer")});
 }
 
-void tst_LaunchOrders::aServiceOpensNothingUntilItIsTold()
+void tst_LaunchOrders::aServiceOpensNothingBeforeItsFirstOrder()
 {
     Program program;
     program.orders.begin({.service = true, .answer = {}});
@@ -226,7 +226,7 @@ void tst_LaunchOrders::aServiceOpensNothingUntilItIsTold()
     QCOMPARE(openWindows(), QStringList{QStringLiteral("Wuffer")});
 }
 
-void tst_LaunchOrders::whatAServiceIsToldFirstDecidesWhatOpens()
+void tst_LaunchOrders::theFirstOrderOfAServiceDecidesWhatOpens()
 {
     Program program;
     program.orders.begin({.service = true, .answer = {}});
@@ -234,7 +234,7 @@ void tst_LaunchOrders::whatAServiceIsToldFirstDecidesWhatOpens()
     QCOMPARE(openWindows(), QStringList{QStringLiteral("Wuffer")});
 }
 
-void tst_LaunchOrders::aServiceThatIsToldInTimeStays()
+void tst_LaunchOrders::aServiceWithAnOrderInTimeStays()
 {
     Program program;
     program.orders.begin({.service = true, .answer = {}});
@@ -242,7 +242,7 @@ void tst_LaunchOrders::aServiceThatIsToldInTimeStays()
     program.ask("");
     bool quits = true;
     std::size_t open = 0;
-    // Only a program that runs can end itself.
+    // quit() works only while the event loop runs.
     QTimer::singleShot(0, &program.controller, [&] {
         program.clock.advance(60);
         quits = WufferApplication::isQuitting();
@@ -254,16 +254,16 @@ void tst_LaunchOrders::aServiceThatIsToldInTimeStays()
     QCOMPARE(open, std::size_t(1));
 }
 
-void tst_LaunchOrders::aServiceThatIsToldNothingEnds()
+void tst_LaunchOrders::aServiceWithoutAnOrderEnds()
 {
     Program program;
     program.orders.begin({.service = true, .answer = {}});
     QTimer::singleShot(0, &program.controller, [&] { program.clock.advance(10); });
-    // Comes back only when the program is to end.
+    // exec() returns only when the program ends.
     QCOMPARE(QCoreApplication::exec(), 0);
 }
 
-void tst_LaunchOrders::whatAServiceIsToldNextIsDoneByTheRunningProgram()
+void tst_LaunchOrders::laterOrdersGoToTheRunningProgram()
 {
     Program program;
     program.orders.begin({.service = true, .answer = {}});

@@ -18,12 +18,12 @@ std::atomic<int> livingObjects;
 using ObjectHook = void (*)(QObject *object);
 } // namespace
 
-// What Qt calls, for debuggers such as this, whenever an object comes or goes.
+// Qt's table of hooks for debuggers, which it calls whenever a QObject is created or destroyed.
 extern Q_CORE_EXPORT quintptr qtHookData[];
 
 namespace
 {
-/// Counts the objects of the whole process that come and go while this lives.
+/// Counts the objects of the whole process that are created and destroyed while the counter lives.
 class ObjectCount final
 {
 public:
@@ -43,12 +43,12 @@ public:
     [[nodiscard]] int more() const { return livingObjects; }
 
 private:
-    // Places in the table of hooks.
+    // Indexes in the table of hooks.
     static constexpr int kAdded = 3;
     static constexpr int kRemoved = 4;
 };
 
-/// A running program that opens one window after the other.
+/// A running program that opens and closes one timer after the other.
 class Program : public TestServices
 {
 public:
@@ -58,7 +58,7 @@ public:
         controller.awakeFromNib();
     }
 
-    /// Opens a timer, does with it what many windows differ in, and closes it.
+    /// Opens a timer, uses it in a way that depends on the number, and closes it.
     void openAndClose(int number)
     {
         controller.newWuffer();
@@ -78,13 +78,13 @@ public:
                 each.pressGo();
             }};
         uses.at(std::size_t(number) % uses.size())(user);
-        // Every other one closes in its alarm, if it is started.
+        // Of the timers that are started, every other one closes during its alarm.
         clock.advance(number % 2 == 0 ? 0.5 : 1.5);
         user.timer.window()->close();
         settle();
     }
 
-    /// Lets the settings be written, as happens a moment after each change.
+    /// Writes the settings, as the program does a moment after each change.
     void write() { defaults.synchronize(); }
 
     static void settle()
@@ -97,7 +97,7 @@ public:
 };
 } // namespace
 
-/// Windows that have been closed, however they were used, leave nothing behind.
+/// Closed windows leave no objects and no open files behind, however they were used.
 class tst_LeavingNothing final : public Test
 {
     Q_OBJECT
@@ -121,7 +121,7 @@ void tst_LeavingNothing::objectsAreCounted()
 void tst_LeavingNothing::manyClosedWindowsLeaveNothing()
 {
     Program program;
-    // Once each, for what is made on the first use and kept.
+    // A first round creates the objects that the program makes once and keeps.
     for (int number = 0; number < 12; ++number)
         program.openAndClose(number);
     const auto widgets = QApplication::allWidgets().size();

@@ -25,7 +25,7 @@ private Q_SLOTS:
     void aTimerAloneIsOfferedNoOther();
 
 private:
-    /// Presses the button in the drawer of the timer, and gives the list that opens.
+    /// Presses the button in the timer's drawer, and returns the list that opens.
     static QMenu &listUnderTheButton(const Wuffer &timer)
     {
         timer.window()->show();
@@ -34,7 +34,7 @@ private:
         button.click();
         auto *list = button.findChild<QMenu *>();
         if (!list || !list->isVisible())
-            qFatal("no list has opened");
+            qFatal("the list has not opened");
         return *list;
     }
     static QMenu &links(const WufferWindow &window)
@@ -140,7 +140,7 @@ void tst_LinkMenu::keysAloneAreEnough()
 
 void tst_LinkMenu::theButtonInTheDrawerOpensTheListOfItsTimer()
 {
-    // Whichever window is active.
+    // The list belongs to the button's timer, even if another timer's window is active.
     activate(*_timers[2]->window());
     QMenu &list = listUnderTheButton(*_timers[0]);
     const QStringList texts{QStringLiteral("None"), QStringLiteral("-"),

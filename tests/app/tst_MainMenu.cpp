@@ -8,7 +8,7 @@
 #include <QMenuBar>
 #include <QRegularExpression>
 
-/// The menus: what is in them, on whom they act, and when.
+/// The menus: their items, the timer that an item acts on, and when it is enabled.
 class tst_MainMenu final : public Test
 {
     Q_OBJECT
@@ -20,7 +20,7 @@ private Q_SLOTS:
     void aTimersItemActsOnTheActiveTimer();
     void itemsFollowTheActiveWindow();
     void itemsFollowTheStateOfTheTimer();
-    void itemsAreAskedWhenTheMenuOpens();
+    void itemsAreUpdatedWhenTheMenuOpens();
     void withoutAnActiveTimerItsItemsAreDisabled();
     void aShortcutObeysTheSameRules();
     void closeClosesTheActiveWindow();
@@ -158,7 +158,7 @@ void tst_MainMenu::itemsFollowTheStateOfTheTimer()
     QVERIFY(!item(window, QStringLiteral("Keep Wuffing")).isEnabled());
 }
 
-void tst_MainMenu::itemsAreAskedWhenTheMenuOpens()
+void tst_MainMenu::itemsAreUpdatedWhenTheMenuOpens()
 {
     const TestServices services;
     WufferController controller;
@@ -250,7 +250,7 @@ void tst_MainMenu::muteIsRenamedWithEveryChange()
     QVERIFY(!services.defaults.boolForKey(QStringLiteral("soundOff")));
     QTest::mouseClick(&child<QWidget>(window, "_soundOffImage"), Qt::LeftButton);
     QVERIFY(item(window, QStringLiteral("Unmute All")).isEnabled());
-    // From another window, by its keys.
+    // From another window, by the keys of the item.
     controller.showPreferences();
     QTRY_VERIFY(QApplication::activeWindow() && QApplication::activeWindow() != &window);
     QTest::keyClick(QGuiApplication::focusWindow(), Qt::Key_M,

@@ -9,7 +9,7 @@
 #include <QRegularExpression>
 #include <QSet>
 
-/// What stands in the menus, and the items that show the state of a timer.
+/// The texts and keys in the menus, and the items that show the state of a timer.
 class tst_MainMenuTable final : public Test
 {
     Q_OBJECT
@@ -23,7 +23,7 @@ private Q_SLOTS:
     void theFirstItemFollowsTheChain();
     void theFirstItemIsRightWhenAChainHasRun();
     void theFirstItemDoesWhatTheButtonDoes();
-    void theFirstItemIsAskedWhenTheMenuOpens();
+    void theFirstItemIsUpdatedWhenTheMenuOpens();
     void withoutATimerThereIsNothingToStartOrRename();
     void renameGoesToTheName();
     void renameSelectsANameThatIsBeingEdited();
@@ -33,7 +33,7 @@ private:
     static QMenu &timerMenu() { return menu(*newest().window(), QStringLiteral("Timer")); }
     static QAction &first() { return *timerMenu().actions().at(0); }
     static QAction &rename() { return *timerMenu().actions().at(1); }
-    /// What the first item says; in brackets while it is disabled.
+    /// The text of the first item of the Timer menu; in brackets while the item is disabled.
     static QString firstItem()
     {
         return first().isEnabled() ? first().text() : QStringLiteral("(%1)").arg(first().text());
@@ -42,14 +42,14 @@ private:
     {
         return child<QLineEdit>(*timer.window(), "_titleField");
     }
-    /// Lets the alarm that has just begun come to its end.
+    /// Ends the alarm that has just begun.
     void endAlarm()
     {
         _services->sounds.sound(QStringLiteral("wolvesWuff.wav"))->reachEnd();
         _services->clock.advance(0.3);
     }
 
-    // Each test has services of its own and one timer, which is active.
+    // Each test gets new services and one timer, which is active.
     std::unique_ptr<TestServices> _services;
     std::unique_ptr<WufferController> _controller;
 
@@ -71,7 +71,7 @@ private Q_SLOTS:
 
 namespace
 {
-/// Texts that are the same elsewhere in the program, and so have no mnemonic.
+/// Whether the program uses this text elsewhere, too; such a text has no mnemonic.
 bool isFixed(const QString &text)
 {
     static const QRegularExpression fixed(
@@ -80,7 +80,7 @@ bool isFixed(const QString &text)
     return fixed.match(text).hasMatch();
 }
 
-/// The menu and those within it.
+/// The menu and its submenus.
 QList<QMenu *> withSubmenus(QMenu &menu)
 {
     QList<QMenu *> menus{&menu};
@@ -91,7 +91,7 @@ QList<QMenu *> withSubmenus(QMenu &menu)
     return menus;
 }
 
-/// Complains of an item without a mnemonic, or with one that another has.
+/// Fails if an item has no mnemonic, or the same as another item.
 void checkMnemonics(const QList<QAction *> &items)
 {
     QSet<QString> letters;
@@ -119,13 +119,13 @@ void tst_MainMenuTable::everyItemHasAMnemonicOfItsOwn()
             ++menus;
         }
     }
-    // The five, and two within them.
+    // The five menus of the menu bar and two submenus.
     QCOMPARE(menus, 7);
 }
 
 void tst_MainMenuTable::quitAndCloseHaveTheirKeysOnEveryDesktop()
 {
-    // The desktop of the tests has no key that quits, like some that users have.
+    // The offscreen platform has no standard key for Quit, like some desktops.
     QVERIFY(QKeySequence::keyBindings(QKeySequence::Quit).isEmpty());
     const QList<QAction *> file = menu(*newest().window(), QStringLiteral("File")).actions();
     QCOMPARE(file.last()->shortcut(), QKeySequence(QStringLiteral("Ctrl+Q")));
@@ -197,7 +197,7 @@ void tst_MainMenuTable::theFirstItemIsRightWhenAChainHasRun()
     QCOMPARE(firstItem(), QStringLiteral("Stop"));
     _services->clock.advance(1.1);
     endAlarm();
-    // The link is still there, so that only its head can start it again.
+    // The link remains, so only the head can start the chain again.
     QVERIFY(!tail.goButton().isEnabled());
     QCOMPARE(firstItem(), QStringLiteral("(Chained)"));
 }
@@ -211,7 +211,7 @@ void tst_MainMenuTable::theFirstItemDoesWhatTheButtonDoes()
     QVERIFY(!newest().isRunning());
 }
 
-void tst_MainMenuTable::theFirstItemIsAskedWhenTheMenuOpens()
+void tst_MainMenuTable::theFirstItemIsUpdatedWhenTheMenuOpens()
 {
     first().setText(QStringLiteral("old"));
     first().setEnabled(false);
@@ -237,7 +237,7 @@ void tst_MainMenuTable::renameGoesToTheName()
     QVERIFY(name(timer).hasFocus());
     QTest::keyClicks(&name(timer), QStringLiteral("Eggs"));
     QCOMPARE(timer.title(), QStringLiteral("Eggs"));
-    // Also while it runs.
+    // Also while the timer runs.
     timer.goPressed();
     QTest::keyClick(QGuiApplication::focusWindow(), Qt::Key_F2);
     QCOMPARE(name(timer).selectedText(), QStringLiteral("Eggs"));

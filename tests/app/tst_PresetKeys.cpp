@@ -7,7 +7,7 @@
 
 #include <QKeyEvent>
 
-/// The keys of the presets on keyboards that have something else on the keys of the digits.
+/// The keys of the presets on keyboards whose digit row gives other characters.
 class tst_PresetKeys final : public Test
 {
     Q_OBJECT
@@ -36,8 +36,8 @@ private:
     static std::size_t count() { return WufferApplication::getWuffers().size(); }
     static QLineEdit &name() { return child<QLineEdit>(*newest().window(), "_titleField"); }
 
-    /// Presses a key of this number, which says that, as the window system does when the press has
-    /// been no shortcut.
+    /// Sends the press of a key with this symbol and this scan code, as the window system does if
+    /// the press was no shortcut.
     static void press(Qt::Key key, Qt::KeyboardModifiers modifiers, quint32 number,
                       bool repeats = false)
     {
@@ -54,7 +54,7 @@ private:
             .value(QStringLiteral("minutes"));
     }
 
-    // Each test has services of its own and one timer, which is active.
+    // Each test gets new services and one timer, which is active.
     std::unique_ptr<TestServices> _services;
     std::unique_ptr<WufferController> _controller;
 
@@ -76,7 +76,7 @@ private Q_SLOTS:
 
 namespace
 {
-/// What the row of the digits says on a French keyboard.
+/// The characters of the digit row on a French keyboard.
 constexpr std::array kFrenchRow{
     Qt::Key_Ampersand, Qt::Key_Eacute, Qt::Key_QuoteDbl,   Qt::Key_Apostrophe, Qt::Key_ParenLeft,
     Qt::Key_Minus,     Qt::Key_Egrave, Qt::Key_Underscore, Qt::Key_Ccedilla,   Qt::Key_Agrave};
@@ -201,7 +201,7 @@ void tst_PresetKeys::aHeldKeyOpensOneTimerWhenItsRepeatsLookLikePresses()
             event.setTimestamp(moment);
             event.setAccepted(false);
             QCoreApplication::sendEvent(QApplication::activeWindow()->windowHandle(), &event);
-            // A question that is not accepted would become a shortcut.
+            // Qt would look for a shortcut if the ShortcutOverride event were not accepted.
             QCOMPARE(event.isAccepted(), type != QEvent::KeyRelease);
         }
     }

@@ -41,7 +41,7 @@ private:
     }
     static std::size_t count() { return WufferApplication::getWuffers().size(); }
 
-    // Each test has services of its own and one timer, which is active.
+    // Each test gets new services and one timer, which is active.
     std::unique_ptr<TestServices> _services;
     std::unique_ptr<WufferController> _controller;
 

@@ -1,7 +1,7 @@
 #include "support/TestMain.h"
 #include "support/TimerFixture.h"
 
-/// When the screen must not go blank.
+/// When the program keeps the screen on.
 class tst_ScreenStaysOn final : public Test
 {
     Q_OBJECT

@@ -6,7 +6,7 @@
 
 namespace
 {
-/// A timer, and a controller that shows it and all others in the status item.
+/// A timer, and a controller that shows all timers in the status item.
 class StatusFixture : public TimerFixture
 {
 public:
@@ -16,7 +16,7 @@ public:
         controller.awakeFromNib();
     }
 
-    /// Another timer, started for so many seconds.
+    /// Starts another timer for this many seconds.
     Wuffer &startAnother(int seconds)
     {
         Wuffer &another = WufferApplication::instance().openWuffer();
@@ -36,7 +36,7 @@ public:
     [[nodiscard]] QString title() const { return statusItem.attributedTitle().text; }
     [[nodiscard]] bool hasImage() const { return !statusItem.image().isNull(); }
 
-    /// The lines of the menu; nothing without one.
+    /// The texts of the menu's lines; empty if there is no menu.
     [[nodiscard]] QStringList lines() const
     {
         QStringList texts;
@@ -53,7 +53,7 @@ public:
 const QColor kRed = QColor::fromRgbF(0.9F, 0.0F, 0.0F);
 } // namespace
 
-/// What the status item shows of real timers, at once after each of their notices.
+/// What the status item shows of real timers right after each of their notices.
 class tst_StatusPresenter final : public Test
 {
     Q_OBJECT
@@ -67,7 +67,7 @@ private Q_SLOTS:
     void theAlarmShowsUntilItIsReset();
     void aTimerStartedAtLaunchShowsAtItsFirstNotice();
     void aPressBringsTheOneTimerToTheFront();
-    void aPressAfterTheEndReachesNobody();
+    void aPressAfterTheLastTimerHasStoppedDoesNothing();
     void twoTimersAreListedSoonestFirst();
     void theTitleIsThatOfTheSoonest();
     void theTargetIsTheSoonest();
@@ -78,15 +78,15 @@ private Q_SLOTS:
     void theMenuIsTheSameAllAlong();
     void aLineKeepsItsNumber();
     void choosingALineBringsThatTimerToTheFront();
-    void choosingALineThatHasGoneIsNoMatter();
+    void choosingALineThatIsGoneDoesNothing();
     void theLinesSayWhatIsOnTheDisplays();
     void theImageStaysWhileTimersRun();
-    void whereNoneIsWantedTheItemIsEmpty();
+    void theItemIsEmptyWhenSwitchedOff();
     void switchingOffEmptiesTheItemAndTouchesNothingElse();
     void switchingOnAgainShowsEverythingAtTheNextNotice();
     void aTimerClosedWhileSwitchedOffIsNotInTheMenu();
     void removingTheItemLeavesTargetAndMenu();
-    void aNoticeThatChangesNothingShowsNothing();
+    void aNoticeWithoutAChangeUpdatesNothing();
     void manyTimersCostNoMoreThanTheirTitle();
     void theItemIsEmptyWhenTheControllerHasGone();
 };
@@ -178,7 +178,7 @@ void tst_StatusPresenter::aPressBringsTheOneTimerToTheFront()
     QVERIFY(QTest::qWaitForWindowActive(t.timer.window()));
 }
 
-void tst_StatusPresenter::aPressAfterTheEndReachesNobody()
+void tst_StatusPresenter::aPressAfterTheLastTimerHasStoppedDoesNothing()
 {
     StatusFixture t;
     t.startCountdown(60);
@@ -306,7 +306,7 @@ void tst_StatusPresenter::choosingALineBringsThatTimerToTheFront()
     QVERIFY(QTest::qWaitForWindowActive(t.timer.window()));
 }
 
-void tst_StatusPresenter::choosingALineThatHasGoneIsNoMatter()
+void tst_StatusPresenter::choosingALineThatIsGoneDoesNothing()
 {
     StatusFixture t;
     t.startCountdown(60);
@@ -341,7 +341,7 @@ void tst_StatusPresenter::theImageStaysWhileTimersRun()
     QCOMPARE(t.statusItem.image().cacheKey(), image);
 }
 
-void tst_StatusPresenter::whereNoneIsWantedTheItemIsEmpty()
+void tst_StatusPresenter::theItemIsEmptyWhenSwitchedOff()
 {
     StatusFixture t;
     t.set("noStatusBar", 1);
@@ -405,7 +405,7 @@ void tst_StatusPresenter::removingTheItemLeavesTargetAndMenu()
     QVERIFY(t.statusItem.target());
 }
 
-void tst_StatusPresenter::aNoticeThatChangesNothingShowsNothing()
+void tst_StatusPresenter::aNoticeWithoutAChangeUpdatesNothing()
 {
     StatusFixture t;
     t.startCountdown(60);

@@ -6,7 +6,7 @@
 #include <QMenuBar>
 #include <QWindow>
 
-/// The registry of timers, and the press that ends full-screen mode.
+/// The list of timers, and the key or mouse press that ends full screen mode.
 class tst_WufferApplication final : public Test
 {
     Q_OBJECT
@@ -24,8 +24,8 @@ private Q_SLOTS:
     void aKeyPressEndsFullScreenAndIsNotTyped();
     void theNextKeyPressIsTyped();
     void aHeldKeyDoesNothingMore();
-    void anotherKeyLetGoDoesNotFreeTheHeldOne();
-    void aHeldKeyThatRepeatsIsNotLetGo();
+    void releasingAnotherKeyDoesNotFreeTheHeldOne();
+    void aRepeatOfAHeldKeyIsNoRelease();
     void theHeldKeyThatBroughtTheFullScreenDoesNotEndIt();
     void aMenuShortcutEndsFullScreenOnly();
     void aModifierAloneDoesNotEndFullScreen();
@@ -45,7 +45,7 @@ private:
         t.timer.showWufferWindow();
         QVERIFY(QTest::qWaitForWindowActive(t.timer.window()));
     }
-    /// Presses a key the way the window system does: at the window, shortcuts first.
+    /// Sends a key press to the window as the window system does, so that shortcuts come first.
     static void press(const QWidget &window, Qt::Key key,
                       Qt::KeyboardModifiers modifiers = Qt::NoModifier)
     {
@@ -195,7 +195,7 @@ void tst_WufferApplication::aHeldKeyDoesNothingMore()
     QWidget *field = &t.part<QLineEdit>("_minutesField");
     press(*t.box().window(), Qt::Key_7);
     QVERIFY(!t.isFullScreen());
-    // What a held key sends until it is let go.
+    // The events of a held key until it is released.
     QKeyEvent question(QEvent::ShortcutOverride, Qt::Key_7, Qt::NoModifier, QStringLiteral("7"),
                        true);
     QKeyEvent repeat(QEvent::KeyPress, Qt::Key_7, Qt::NoModifier, QStringLiteral("7"), true);
@@ -208,7 +208,7 @@ void tst_WufferApplication::aHeldKeyDoesNothingMore()
     QCOMPARE(t.fields(), QStringLiteral("0 7 0"));
 }
 
-void tst_WufferApplication::anotherKeyLetGoDoesNotFreeTheHeldOne()
+void tst_WufferApplication::releasingAnotherKeyDoesNotFreeTheHeldOne()
 {
     TimerFixture t;
     show(t);
@@ -374,13 +374,13 @@ void tst_WufferApplication::returnInAnOpenListPicksAndDoesNotStart()
     QVERIFY(!t.timer.isRunning());
 }
 
-void tst_WufferApplication::aHeldKeyThatRepeatsIsNotLetGo()
+void tst_WufferApplication::aRepeatOfAHeldKeyIsNoRelease()
 {
     TimerFixture t;
     show(t);
     t.timer.setFullScreenMode(true);
     press(*t.box().window(), Qt::Key_7);
-    // On X a held key is let go and pressed again and again.
+    // On X11 a held key sends releases and presses in turn.
     QWidget *field = &t.part<QLineEdit>("_minutesField");
     for (const QEvent::Type type : {QEvent::KeyRelease, QEvent::KeyPress}) {
         QKeyEvent repeat(type, Qt::Key_7, Qt::NoModifier, QStringLiteral("7"), true);

@@ -13,7 +13,7 @@
 
 Q_DECLARE_METATYPE(WufferController::Operation)
 
-/// What opens at launch, new timers and their places, and the windows beside them.
+/// What opens at launch, where new timers are placed, and the program's other windows.
 class tst_WufferController final : public Test
 {
     Q_OBJECT
@@ -227,7 +227,7 @@ void tst_WufferController::theConverterAwaitsANumber()
     QCOMPARE(field.objectName(), QStringLiteral("_millilitersField"));
     QTest::keyClicks(&field, QStringLiteral("250"));
     QCOMPARE(services.defaults.floatForKey(QStringLiteral("mLValue")), 250.0F);
-    // Shown again, it is as it was.
+    // A window that is shown again is unchanged.
     field.window()->close();
     controller.showConverter();
     QCOMPARE(field.text(), QStringLiteral("250"));

@@ -12,8 +12,8 @@
 
 #include <algorithm>
 
-/// A year with the program, in which it is never ended: whatever is done in whatever order, timers
-/// ring as they should, and nothing of what has been closed is left.
+/// Runs the program for a year without a restart. Whatever the user does, in any order, timers ring
+/// when they should, and closed windows leave nothing behind.
 class tst_YearOfUse final : public Test
 {
     Q_OBJECT
@@ -28,7 +28,7 @@ namespace
 constexpr int kDays = 365;
 constexpr int kActsADay = 6;
 
-/// What is wrong at the moment; empty when nothing is.
+/// The rules that are broken at the moment; empty if all is well.
 QStringList faults(Resident &resident)
 {
     QStringList faults = std::exchange(resident.witness().complaints, {});
@@ -41,27 +41,27 @@ QStringList faults(Resident &resident)
     const int open = int(users.size());
     require(int(WufferApplication::getWuffers().size()) == open, "closed windows leave the list");
     require(resident.livingTimers() == open, "closed timers are destroyed");
-    require(HomeKeeper::openWindow() != nullptr, "there is a way in");
+    require(HomeKeeper::openWindow() != nullptr, "at least one window is open");
     require(is([](const auto &user) { return user->timer.isRunning(); }) || resident.clock.isIdle(),
-            "nothing waits for the clock unless a timer runs");
+            "the clock is idle unless a timer runs");
     require(is([](const auto &user) { return user->isFullScreen(); }) ==
                 resident.screenBlanking.isInhibited,
-            "the screen stays on while a timer fills it");
+            "the screen is kept on exactly while a timer is in full screen mode");
     for (const auto &user : users) {
         require(linksAreSymmetric(user->timer), "links are symmetric");
-        require(chainEndsWithin(user->timer, open), "there is no circle");
+        require(chainEndsWithin(user->timer, open), "no chain is a circle");
     }
     for (const FakeNotifications::Shown &shown : resident.notifications.standing) {
         require(is([&](const auto &user) {
                     const bool rings = user->go() == QStringLiteral("Reset");
                     return &user->timer == shown.sender && (rings || !shown.notification.stop);
                 }),
-                "a notification stands for an open timer, and offers to stop only one that rings");
+                "a notification belongs to an open timer, and offers Stop only while it rings");
     }
     return faults;
 }
 
-/// The settings as another program would read them.
+/// The settings as another program reads them from the file.
 QJsonObject settingsOnDisk(Resident &resident)
 {
     resident.defaults.synchronize();
@@ -71,7 +71,8 @@ QJsonObject settingsOnDisk(Resident &resident)
     return QJsonDocument::fromJson(file.readAll()).object();
 }
 
-/// Whether all that is kept of timers reads as what it was written as.
+/// Whether the records of all timers in the settings come back unchanged when the program reads and
+/// writes them.
 bool recordsAreReadable(const QJsonObject &settings)
 {
     QStringList keys = settings.keys();
@@ -100,7 +101,7 @@ void tst_YearOfUse::itIsSoundOnEveryDay_data()
 void tst_YearOfUse::itIsSoundOnEveryDay()
 {
     QFETCH(const quint32, seed);
-    // A chain that finds its next timer running says so, which happens all the time here.
+    // Here a chain often finds its next timer running, and logs a warning each time.
     QLoggingCategory::setFilterRules(QStringLiteral("wuffer.warning=false"));
     Resident resident(seed);
     for (int day = 0; day < kDays; ++day) {
@@ -116,7 +117,7 @@ void tst_YearOfUse::itIsSoundOnEveryDay()
         resident.night();
         QVERIFY2(recordsAreReadable(settingsOnDisk(resident)), qPrintable(QString::number(day)));
     }
-    // It was a busy year.
+    // The year must have been busy enough to prove something.
     const RunWitness &witness = resident.witness();
     qInfo("%d timers, %d runs, %d rings, %d beeps", resident.everOpened(), witness.runs,
           witness.rings, witness.beeps);
