@@ -9,22 +9,22 @@ namespace
 const QString kLoop = QStringLiteral("Loop this Wuffer");
 const QString kPreset = QStringLiteral("Start a Preset");
 
-/// A timer whose alarm the user may answer, and another place for the user to be.
+/// A timer whose alarm the user may answer, and another window that the user may turn to.
 class Fixture : public TimerFixture
 {
 public:
     Fixture() { open(timer); }
 
-    /// Turns to a window, as the user does.
+    /// Activates a window, as the user does.
     static void goTo(QWidget &window)
     {
         window.activateWindow();
         settle();
         if (!window.isActiveWindow())
-            qFatal("the window does not become the active one");
+            qFatal("the window does not become active");
     }
     void goElsewhere() { goTo(elsewhere); }
-    /// Shows the window of a timer and leaves it.
+    /// Shows the window of a timer, then activates the other window.
     void open(const Wuffer &shown)
     {
         shown.window()->show();
@@ -39,13 +39,13 @@ public:
         startCountdown(1);
         pass(2);
     }
-    /// Lets the sounds reach their ends, and the timers notice it.
+    /// Ends the sounds, and waits until the timers have noticed.
     void endAlarm()
     {
         sounds.endAll();
         pass(0.21);
     }
-    /// Lets the window system do what it was asked for.
+    /// Processes the events of the window system.
     static void settle() { QCoreApplication::processEvents(); }
     [[nodiscard]] std::size_t standing() const { return notifications.standing.size(); }
 
@@ -57,7 +57,7 @@ using Act = std::function<void(Fixture &)>;
 
 Q_DECLARE_METATYPE(Act)
 
-/// The notification of an alarm stands until the user has answered it, and not less.
+/// The notification of an alarm stays until the user answers it.
 class tst_AlarmAnswer final : public Test
 {
     Q_OBJECT
@@ -68,7 +68,7 @@ private Q_SLOTS:
     void anAnswerTakesItsTraceAway_data() { anAnswerTakesItAway_data(); }
     void anAnswerTakesItsTraceAway();
     void startingAllTakesItsTraceAway();
-    void startingAllIsNoAnswerToOneThatRings();
+    void startingAllDoesNotAnswerARingingTimer();
     void aWindowThatWasActiveBeforeIsNoAnswer();
     void theActivationOfAnotherTimerIsNoAnswer();
     void stoppingAnotherTimerIsNoAnswer();
@@ -134,7 +134,7 @@ void tst_AlarmAnswer::startingAllTakesItsTraceAway()
     QCOMPARE(t.standing(), 0U);
 }
 
-void tst_AlarmAnswer::startingAllIsNoAnswerToOneThatRings()
+void tst_AlarmAnswer::startingAllDoesNotAnswerARingingTimer()
 {
     Fixture t;
     WufferController controller;
@@ -189,7 +189,7 @@ void tst_AlarmAnswer::aWindowThatClosesInFrontOfItIsNoAnswer()
     t.endAlarm();
     Fixture::goTo(*other.timer.window());
     other.timer.window()->close();
-    // As a window manager does by itself.
+    // The window manager activates the next window by itself.
     t.comeBack();
     QCOMPARE(t.standing(), 1U);
     t.goElsewhere();
@@ -288,7 +288,7 @@ void tst_AlarmAnswer::leavingTheFullScreenForAnotherTimerIsNoAnswer()
     other.startCountdown(1);
     t.pass(1.5);
     QVERIFY(!t.isFullScreen());
-    // Either may be the next in the order of the windows.
+    // The window manager may activate either window next.
     Fixture::goTo(*other.timer.window());
     t.comeBack();
     QCOMPARE(t.standing(), 2U);

@@ -8,14 +8,14 @@ const QString kWuff = QStringLiteral("wolvesWuff.wav");
 const QColor kRed = QColor::fromRgbF(0.9F, 0.0F, 0.0F);
 } // namespace
 
-/// From zero until the alarm is over, and what follows then.
+/// The alarm phase, from zero until the alarm ends, and what follows it.
 class tst_AlarmPhase final : public Test
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void theEndIsShownInRed();
-    void theEndIsToldToTheUserAndToTheProgram();
+    void theEndIsAnnouncedToTheUserAndPostedAsANotice();
     void aTimerInItsAlarmCountsAsRunning();
     void theAlarmLastsAsLongAsItsSound();
     void theUsersResetRunsNoFinishAction();
@@ -35,7 +35,7 @@ private Q_SLOTS:
     void aMutedTimerAsksForAttention();
     void aMutedLoopGoesOnAfterFiveSeconds();
     void unmutingDuringTheAlarmEndsIt();
-    void anEmptyFinishActionIsNone();
+    void anEmptyFinishActionDoesNothing();
     void theFinishedTextIsTheUsers();
     void aLongFinishedTextShrinks();
     void theAlarmIsLookedAtEveryFifthOfASecond();
@@ -59,7 +59,7 @@ void tst_AlarmPhase::theEndIsShownInRed()
     QVERIFY(!t.part<QLineEdit>("_minutesField").isEnabled());
 }
 
-void tst_AlarmPhase::theEndIsToldToTheUserAndToTheProgram()
+void tst_AlarmPhase::theEndIsAnnouncedToTheUserAndPostedAsANotice()
 {
     TimerFixture t;
     t.startCountdown(0);
@@ -162,7 +162,7 @@ void tst_AlarmPhase::aLoopedSoundIsNotAskedForWhenSomethingFollows()
     t.pressGo();
     FakeSound *sound = t.sounds.sound(kWuff);
 
-    // While counting the box counts for nothing once another action is selected ...
+    // While the timer counts, the box has no effect if another action is selected ...
     t.chooseFinish(QStringLiteral("Loop this Wuffer"));
     t.tick("_keepWuffingBox");
     t.startCountdown(5);
@@ -214,7 +214,7 @@ void tst_AlarmPhase::anotherActionForgetsThePasses()
     t.sounds.sound(kWuff)->reachEnd();
     t.pass(1.5);
     QCOMPARE(t.elapsed(), QStringLiteral("1s (x2)"));
-    // No action at all is an action that runs.
+    // An empty selection counts as another action, too.
     t.part<QComboBox>("_finishedCombo").setCurrentIndex(-1);
     t.sounds.sound(kWuff)->reachEnd();
     t.pass(0.3);
@@ -344,7 +344,7 @@ void tst_AlarmPhase::unmutingDuringTheAlarmEndsIt()
     QVERIFY(!t.timer.isRunning());
 }
 
-void tst_AlarmPhase::anEmptyFinishActionIsNone()
+void tst_AlarmPhase::anEmptyFinishActionDoesNothing()
 {
     TimerFixture t;
     t.part<QComboBox>("_finishedCombo").setCurrentIndex(-1);
@@ -397,7 +397,7 @@ void tst_AlarmPhase::aMutedAlarmLastsFiveSecondsAndNoLess()
     TimerFixture t;
     t.set("soundOff", 1);
     t.chooseFinish(QStringLiteral("Loop this Wuffer"));
-    // Late enough for an alarm tick to fall just before the five seconds are over.
+    // Wakes at a time that puts an alarm tick just before the five seconds are over.
     t.startCountdown(0);
     t.clock.sleep(0.19);
     t.pass(4.805);
@@ -442,7 +442,7 @@ void tst_AlarmPhase::aMutedAlarmLastsFiveSecondsAndNoMore()
     TimerFixture t;
     t.set("soundOff", 1);
     t.chooseFinish(QStringLiteral("Loop this Wuffer"));
-    // Late enough for an alarm tick to fall just after the five seconds.
+    // Wakes at a time that puts an alarm tick just after the five seconds.
     t.startCountdown(0);
     t.clock.sleep(0.21);
     t.pass(4.78);

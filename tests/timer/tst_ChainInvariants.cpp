@@ -10,7 +10,7 @@ namespace
 constexpr int kMostTimers = 7;
 constexpr int kFewestTimers = 2;
 
-/// What a person, or time, may do to a few timers.
+/// A user who does random things to a few timers; one of the steps is to let time pass.
 class Bystander : public TestServices
 {
 public:
@@ -20,7 +20,7 @@ public:
             open();
     }
 
-    /// One arbitrary step; says what it was.
+    /// Does one random thing and returns its name.
     QString step()
     {
         constexpr int kinds = 10;
@@ -83,7 +83,7 @@ private:
         TimerUser &user = any();
         if (user.timer.isRunning()) {
             user.pressGo();
-            // What a stop by the user shows lasts until the chain is next looked at.
+            // A stop by the user shows this until the next refresh of the chain.
             if (user.go() != QStringLiteral("Start") || !user.goButton().isEnabled())
                 qFatal("a stopped timer shows %s", qPrintable(user.go()));
             user.timer.refreshChainStatusForAllChainedWuffers();
@@ -148,28 +148,28 @@ bool aLinkIsTheFinishAction(const TimerUser &user)
 }
 } // namespace
 
-/// Whatever is done to a few timers in whatever order, their chains stay sound.
+/// Whatever the user does to a few timers, in any order, their chains stay valid.
 class tst_ChainInvariants final : public Test
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void chainsStaySoundWhateverHappens_data();
-    void chainsStaySoundWhateverHappens();
+    void chainsStayValidWhateverHappens_data();
+    void chainsStayValidWhateverHappens();
 };
 
-void tst_ChainInvariants::chainsStaySoundWhateverHappens_data()
+void tst_ChainInvariants::chainsStayValidWhateverHappens_data()
 {
     QTest::addColumn<quint32>("seed");
     for (quint32 seed = 1; seed <= 8; ++seed)
         QTest::addRow("seed %u", seed) << seed;
 }
 
-void tst_ChainInvariants::chainsStaySoundWhateverHappens()
+void tst_ChainInvariants::chainsStayValidWhateverHappens()
 {
     constexpr int steps = 3000;
     QFETCH(const quint32, seed);
-    // A chain that finds its next timer running says so, which happens all the time here.
+    // Here a chain often finds its next timer running, and logs a warning each time.
     QLoggingCategory::setFilterRules(QStringLiteral("wuffer.warning=false"));
     Bystander bystander(seed);
     int longest = 0;
@@ -184,14 +184,14 @@ void tst_ChainInvariants::chainsStaySoundWhateverHappens()
         for (const std::unique_ptr<TimerUser> &user : bystander.users()) {
             QVERIFY2(linksAreSymmetric(user->timer), fails("links are symmetric").constData());
             QVERIFY2(chainEndsWithin(user->timer, kMostTimers),
-                     fails("there is no circle").constData());
+                     fails("no chain is a circle").constData());
             QVERIFY2(showsItsState(*user), fails("a member shows its state").constData());
             QVERIFY2(aLinkIsTheFinishAction(*user),
                      fails("a link is the finish action").constData());
             longest = std::max(longest, int(user->timer.chainedWuffers().size()));
         }
     }
-    // The steps did lead somewhere.
+    // The steps must have built long chains, or the test has shown little.
     QVERIFY(longest >= 4);
 }
 

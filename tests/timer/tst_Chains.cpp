@@ -8,13 +8,13 @@ const QString kWuffer = QStringLiteral("Start other open Wuffer");
 const QColor kRed = QColor::fromRgbF(0.9F, 0, 0);
 } // namespace
 
-/// Timers that start one another.
+/// Timers that start each other at their ends.
 class tst_Chains final : public Test
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void oneAloneIsNotChained();
+    void aSingleTimerIsNotChained();
     void aLinkIsKnownOnBothSides();
     void aLinkIsChosenAsTheFinishAction();
     void aLinkedTimerDoesNotKeepWuffing();
@@ -22,7 +22,7 @@ private Q_SLOTS:
     void linksMakeTheseChains_data();
     void linksMakeTheseChains();
     void aTimerIsNotLinkedToItself();
-    void linkingToNobodyCutsTheLink();
+    void linkingToNoTimerCutsTheLink();
     void linkingAgainChangesNothing();
     void closingAMemberLeavesTheOthersAlone();
     void closingARunningMemberCutsItsLinksToo();
@@ -35,7 +35,7 @@ private Q_SLOTS:
     void onlyTheHeadCanBeStarted();
     void aChainRunsFromItsHeadToItsTail();
     void theUsersStopShowsStartUntilTheNextRefresh();
-    void theUsersResetStartsNobody();
+    void theUsersResetStartsNoTimer();
     void aTimerThatIsClosedByItsStartStaysClosed();
     void aTimerThatIsClosedByItsEndDoesNothingMore();
     void aNewNameIsShownByTheTimerBefore();
@@ -54,7 +54,7 @@ private:
 
 namespace
 {
-/// Four timers by the names A to D.
+/// Four timers named A to D.
 class FourTimers : public TestServices
 {
 public:
@@ -71,13 +71,13 @@ public:
     {
         (*this)[first.at(0)].timer.setTargetWuffer(&(*this)[second.at(0)].timer);
     }
-    /// "A>B A>C": links made in this order.
+    /// Makes links in this order: "A>B A>C".
     void make(const QString &links)
     {
         for (const QString &each : links.split(QLatin1Char(' ')))
             link(each.left(1), each.right(1));
     }
-    /// All chains of more than one, and all that are alone, by their heads' names.
+    /// The names of each chain's members, single timers included: "AB C D".
     [[nodiscard]] QString chains() const
     {
         QStringList all;
@@ -104,7 +104,7 @@ public:
 };
 } // namespace
 
-void tst_Chains::oneAloneIsNotChained()
+void tst_Chains::aSingleTimerIsNotChained()
 {
     const TimerFixture t;
     QVERIFY(!t.timer.isChained());
@@ -174,7 +174,7 @@ void tst_Chains::linksMakeTheseChains_data()
         QTest::newRow(links) << QString::fromLatin1(links) << QString::fromLatin1(chains)
                              << QString::fromLatin1(linked);
     };
-    // The last column names those whose finish action is to start another.
+    // The last column names the timers whose finish action is to start another timer.
     row("A>B", "AB C D", "A");
     row("A>B B>A", "BA C D", "B");
     row("A>B B>C", "ABC D", "AB");
@@ -195,7 +195,7 @@ void tst_Chains::linksMakeTheseChains()
     QFETCH(const QString, chains);
     FourTimers t;
     t.make(links);
-    // Listed by their heads in the order of the names.
+    // The chains may come in any order.
     QStringList found = t.chains().split(QLatin1Char(' '));
     QStringList expected = chains.split(QLatin1Char(' '));
     found.sort();
@@ -225,7 +225,7 @@ void tst_Chains::aTimerIsNotLinkedToItself()
     QCOMPARE(chain(t.a), QStringLiteral("AB"));
 }
 
-void tst_Chains::linkingToNobodyCutsTheLink()
+void tst_Chains::linkingToNoTimerCutsTheLink()
 {
     FourTimers t;
     t.make(QStringLiteral("A>B B>C"));
@@ -388,7 +388,7 @@ void tst_Chains::theUsersStopShowsStartUntilTheNextRefresh()
     QVERIFY(!t.b.goButton().isEnabled());
 }
 
-void tst_Chains::theUsersResetStartsNobody()
+void tst_Chains::theUsersResetStartsNoTimer()
 {
     FourTimers t;
     t.make(QStringLiteral("A>B"));

@@ -6,14 +6,14 @@
 #include <QDialog>
 #include <QFile>
 
-/// What the closing of its window does to a timer.
+/// What happens to a timer when its window closes.
 class tst_Closing final : public Test
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void aClosedTimerLeavesTheListAtOnce();
-    void aClosedTimerTellsTheRest();
+    void aTimerThatClosesPostsANotice();
     void closingARunningTimerEndsIt();
     void closingSilencesTheSounds();
     void noFinishActionOfAClosedTimerRuns();
@@ -24,8 +24,8 @@ private Q_SLOTS:
     void closingTakesTheSheetAlong();
     void aClosedTimerIsDestroyed();
     void aRunningTimerClosesWithoutATrace();
-    void aClosedTimerIsGoneWhenTheRestIsTold();
-    void aTimerThatIsDestroyedInSightGoesQuietly();
+    void aClosedTimerIsOffTheListWhenItsNoticeComes();
+    void aVisibleTimerCanBeDestroyedWhileItsNameIsEdited();
 
 private:
     static void letGo() { QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); }
@@ -39,7 +39,7 @@ void tst_Closing::aClosedTimerLeavesTheListAtOnce()
     QVERIFY(WufferApplication::getWuffers().empty());
 }
 
-void tst_Closing::aClosedTimerTellsTheRest()
+void tst_Closing::aTimerThatClosesPostsANotice()
 {
     const TimerFixture t;
     const NoticeCounter notices(QStringLiteral("statusChanged"));
@@ -151,7 +151,7 @@ void tst_Closing::aRunningTimerClosesWithoutATrace()
     QVERIFY(!QFile::exists(t.settingsPath()));
 }
 
-void tst_Closing::aClosedTimerIsGoneWhenTheRestIsTold()
+void tst_Closing::aClosedTimerIsOffTheListWhenItsNoticeComes()
 {
     const TimerFixture t;
     bool listed = true;
@@ -168,7 +168,7 @@ void tst_Closing::aClosedTimerIsGoneWhenTheRestIsTold()
     QVERIFY(!enabled);
 }
 
-void tst_Closing::aTimerThatIsDestroyedInSightGoesQuietly()
+void tst_Closing::aVisibleTimerCanBeDestroyedWhileItsNameIsEdited()
 {
     const TestServices services;
     auto timer = std::make_unique<Wuffer>(WufferApplication::instance());

@@ -7,7 +7,7 @@ namespace
 const QColor kRed = QColor::fromRgbF(0.9F, 0.0F, 0.0F);
 } // namespace
 
-/// What the display says, in which size and colour; and the names of a timer.
+/// The texts of the display with their sizes and colours, and the names of a timer.
 class tst_Display final : public Test
 {
     Q_OBJECT
@@ -20,7 +20,7 @@ private Q_SLOTS:
     void zeroOrLessRestoresTheIdleDisplay();
     void theLastElevenSecondsAreRed();
     void itStaysRedWhenStoppedInTheLastSeconds();
-    void theColorOfTheElapsedLineIsAskedForApart();
+    void theElapsedLineTakesTheColorOnlyIfAskedTo();
     void theBigTextShrinksToTheWidthOfTenCharacters_data();
     void theBigTextShrinksToTheWidthOfTenCharacters();
     void everyTextOfTheDisplayIsInCourier();
@@ -102,7 +102,7 @@ void tst_Display::itStaysRedWhenStoppedInTheLastSeconds()
     QCOMPARE(t.display(), QStringLiteral("5s"));
 }
 
-void tst_Display::theColorOfTheElapsedLineIsAskedForApart()
+void tst_Display::theElapsedLineTakesTheColorOnlyIfAskedTo()
 {
     TimerFixture t;
     t.timer.setColorForDisplayText(TextColor::Blue, false);

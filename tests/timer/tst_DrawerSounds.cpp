@@ -9,7 +9,7 @@ const auto kWuff = QStringLiteral("wolvesWuff.wav");
 const auto kCrow = QStringLiteral("crow.wav");
 const auto kBell = QStringLiteral("/sounds/Bell.aiff");
 
-/// A timer in sight, its drawer open.
+/// A visible timer with its drawer open.
 class Fixture : public TimerFixture
 {
 public:
@@ -31,7 +31,7 @@ public:
 };
 } // namespace
 
-/// The buttons in the drawer of a timer by which its sounds can be heard.
+/// The buttons in a timer's drawer that play its sounds.
 class tst_DrawerSounds final : public Test
 {
     Q_OBJECT

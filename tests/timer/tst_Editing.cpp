@@ -186,7 +186,7 @@ void tst_Editing::tabsWalkThroughTheWindowInOrder()
                                QStringLiteral("_soundOffImage"),
                                QStringLiteral("_finishedDrawerButton")};
     QCOMPARE(walk, expected);
-    // The drawer is closed, so the walk begins again.
+    // The drawer is closed, so the last Tab has gone back to the first control.
     QCOMPARE(QApplication::focusWidget()->objectName(), QStringLiteral("_titleField"));
 }
 

@@ -24,15 +24,15 @@ private Q_SLOTS:
     void presetsFollowEachOther();
     void theTenthPlaceRunsTheTimerAgain();
     void aRecordForTheTenthPlaceIsLoaded();
-    void noPlaceStartsPresetZero();
+    void aPickerWithoutASelectionStartsPresetZero();
     void aLinkStartsTheOtherTimer();
-    void aLinkToNobodyIsLogged();
+    void aLinkWithoutATargetIsLogged();
     void aLinkToARunningTimerIsLogged();
     void aLinkToATimerInItsAlarmIsLogged();
     void nothingSelectedDoesNothing();
 
 private:
-    /// Lets a countdown of one second and its alarm end.
+    /// Runs a countdown of one second and its alarm to the end.
     static void finish(TimerFixture &t)
     {
         t.startCountdown(1);
@@ -160,7 +160,7 @@ void tst_FinishActions::aRecordForTheTenthPlaceIsLoaded()
     QCOMPARE(t.titleField.text(), QStringLiteral("Ten"));
 }
 
-void tst_FinishActions::noPlaceStartsPresetZero()
+void tst_FinishActions::aPickerWithoutASelectionStartsPresetZero()
 {
     TimerFixture t;
     t.chooseFinish(kPreset);
@@ -182,7 +182,7 @@ void tst_FinishActions::aLinkStartsTheOtherTimer()
     QVERIFY(QTest::qWaitForWindowActive(other.timer.window()));
 }
 
-void tst_FinishActions::aLinkToNobodyIsLogged()
+void tst_FinishActions::aLinkWithoutATargetIsLogged()
 {
     TimerFixture t;
     t.chooseFinish(kWuffer);

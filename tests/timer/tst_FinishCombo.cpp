@@ -12,7 +12,7 @@ const QString kPreset = QStringLiteral("Start a Preset");
 const QString kWuffer = QStringLiteral("Start other open Wuffer");
 } // namespace
 
-/// How it is chosen what follows the end of a countdown.
+/// How the user chooses what follows the end of a countdown.
 class tst_FinishCombo final : public Test
 {
     Q_OBJECT
@@ -22,8 +22,8 @@ private Q_SLOTS:
     void thePickerIsShownWhereThereIsAChoice_data();
     void thePickerIsShownWhereThereIsAChoice();
     void thePickerListsThePresetsInTheirOrder();
-    void thePickerKeepsThePlace();
-    void thePickerIsNeverWithoutAPlace();
+    void thePickerKeepsItsSelection();
+    void thePickerAlwaysHasASelection();
     void thePickerIsRefilledWhenItOpens();
     void thePickerSaysHowToLink();
     void thePickerShowsTheLink();
@@ -86,24 +86,24 @@ void tst_FinishCombo::thePickerListsThePresetsInTheirOrder()
     QCOMPARE(t.picker().itemText(9), QStringLiteral("Preset 0 - 0h 0m 0s"));
 }
 
-void tst_FinishCombo::thePickerKeepsThePlace()
+void tst_FinishCombo::thePickerKeepsItsSelection()
 {
     TimerFixture t;
     t.chooseFinish(kPreset);
     t.pick(6);
     t.timer.handleFinishedComboChange();
     QCOMPARE(t.picker().currentIndex(), 6);
-    // Hidden, it keeps its list and place.
+    // A hidden picker keeps its list and its selection.
     t.chooseFinish(kLoop);
     t.chooseFinish(kPreset);
     QCOMPARE(t.picker().currentIndex(), 6);
-    // The one line that tells of a link is a first place.
+    // For a link the picker has one line only, so the selection goes to the first.
     t.chooseFinish(kWuffer);
     t.chooseFinish(kPreset);
     QCOMPARE(t.picker().currentIndex(), 0);
 }
 
-void tst_FinishCombo::thePickerIsNeverWithoutAPlace()
+void tst_FinishCombo::thePickerAlwaysHasASelection()
 {
     TimerFixture t;
     t.chooseFinish(kPreset);
@@ -235,7 +235,7 @@ void tst_FinishCombo::anotherOptionCutsTheLink()
     QCOMPARE(t.finish(), option);
     QCOMPARE(other.go(), QStringLiteral("Start"));
     QVERIFY(other.goButton().isEnabled());
-    // The same option again leaves everything as it is.
+    // Choosing the same option again changes nothing.
     t.timer.setTargetWuffer(&other.timer);
     t.chooseFinish(kWuffer);
     QCOMPARE(t.timer.getTargetWuffer(), &other.timer);

@@ -4,7 +4,7 @@
 
 namespace
 {
-/// A timer in sight and active, its drawer open.
+/// A timer with an active window and an open drawer.
 class Fixture : public TimerFixture
 {
 public:

@@ -10,24 +10,24 @@ const QStringList kFirstFive{QStringLiteral("T1"), QStringLiteral("T2"), QString
                              QStringLiteral("T4"), QStringLiteral("T5")};
 } // namespace
 
-/// What becomes of gathered notifications when alarms end by themselves, when the user answers, and
-/// when the desktop takes them away.
+/// What happens to gathered notifications when alarms end by themselves, when the user answers, and
+/// when the desktop closes them.
 class tst_GatheredAnswers final : public Test
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void aChangeTakesThePlaceOfWhatStands();
-    void changesAreNotTooManyToStandByThemselves();
+    void threeTimersKeepTheirOwnNotificationsWhenTheyChange();
     void changesOfOneTimerAreHeldBackLikeItsNews();
-    void stopIsOfferedAsLongAsOneRings();
+    void stopIsOfferedWhileAnyTimerRings();
     void aChangeThatIsNotSeenIsNotShown();
-    void showAnswersForThoseThatRingNoMore();
+    void showAlsoDismissesTheTimersThatRingNoMore();
     void showLeavesTheOthersToBeStopped();
-    void stopAnswersAlsoForThoseThatRingNoMore();
-    void theEndOfTheSummaryIsThatOfEach();
-    void thoseThatComeBackTogetherAreOneAndQuiet();
-    void newsAmongThoseThatComeBackIsNews();
+    void stopAlsoDismissesTheTimersThatRingNoMore();
+    void theEndOfTheSummaryIsReportedToEachTimer();
+    void simultaneousRemindersAreOneQuietSummary();
+    void newsAmongRemindersMakesTheSummaryNews();
 };
 
 void tst_GatheredAnswers::aChangeTakesThePlaceOfWhatStands()
@@ -42,7 +42,7 @@ void tst_GatheredAnswers::aChangeTakesThePlaceOfWhatStands()
     QVERIFY(t.clock.isIdle());
 }
 
-void tst_GatheredAnswers::changesAreNotTooManyToStandByThemselves()
+void tst_GatheredAnswers::threeTimersKeepTheirOwnNotificationsWhenTheyChange()
 {
     GatheringFixture t;
     t.end(3);
@@ -66,13 +66,13 @@ void tst_GatheredAnswers::changesOfOneTimerAreHeldBackLikeItsNews()
         t.clock.advance(0.05);
         t.end(*t.timers.front(), QStringLiteral("T1"));
     }
-    // Three alone, each with its change, and then about one a second for ten seconds.
+    // Three by themselves, each with its change, and then about one per second for ten seconds.
     QVERIFY(t.desktop.shown.size() + t.desktop.shownAgain.size() <= 6U + 11U);
     t.clock.advance(1);
     QCOMPARE(t.only().text, QStringLiteral("T1: 5s"));
 }
 
-void tst_GatheredAnswers::stopIsOfferedAsLongAsOneRings()
+void tst_GatheredAnswers::stopIsOfferedWhileAnyTimerRings()
 {
     GatheringFixture t;
     t.end(5);
@@ -100,7 +100,7 @@ void tst_GatheredAnswers::aChangeThatIsNotSeenIsNotShown()
     QCOMPARE(t.desktop.shown.size() + t.desktop.shownAgain.size(), before);
 }
 
-void tst_GatheredAnswers::showAnswersForThoseThatRingNoMore()
+void tst_GatheredAnswers::showAlsoDismissesTheTimersThatRingNoMore()
 {
     GatheringFixture t;
     t.end(5);
@@ -124,7 +124,7 @@ void tst_GatheredAnswers::showLeavesTheOthersToBeStopped()
     t.clock.advance(5);
     const std::function<void()> show = t.only().show;
     show();
-    // As a desktop does when one of its buttons was pressed.
+    // A desktop closes a notification when the user presses one of its buttons.
     t.desktop.close(0, End::Dismissed);
     QCOMPARE(t.dismissed, QStringList({QStringLiteral("T2"), QStringLiteral("T5")}));
     t.clock.advance(5);
@@ -134,7 +134,7 @@ void tst_GatheredAnswers::showLeavesTheOthersToBeStopped()
     QCOMPARE(t.texts(), QStringList());
 }
 
-void tst_GatheredAnswers::stopAnswersAlsoForThoseThatRingNoMore()
+void tst_GatheredAnswers::stopAlsoDismissesTheTimersThatRingNoMore()
 {
     GatheringFixture t;
     t.end(5);
@@ -148,7 +148,7 @@ void tst_GatheredAnswers::stopAnswersAlsoForThoseThatRingNoMore()
     QCOMPARE(t.texts(), QStringList());
 }
 
-void tst_GatheredAnswers::theEndOfTheSummaryIsThatOfEach()
+void tst_GatheredAnswers::theEndOfTheSummaryIsReportedToEachTimer()
 {
     GatheringFixture t;
     t.end(5);
@@ -158,7 +158,7 @@ void tst_GatheredAnswers::theEndOfTheSummaryIsThatOfEach()
     QCOMPARE(t.dismissed, QStringList());
 }
 
-void tst_GatheredAnswers::thoseThatComeBackTogetherAreOneAndQuiet()
+void tst_GatheredAnswers::simultaneousRemindersAreOneQuietSummary()
 {
     GatheringFixture t;
     t.end(5);
@@ -173,7 +173,7 @@ void tst_GatheredAnswers::thoseThatComeBackTogetherAreOneAndQuiet()
     QVERIFY(t.only().stop);
 }
 
-void tst_GatheredAnswers::newsAmongThoseThatComeBackIsNews()
+void tst_GatheredAnswers::newsAmongRemindersMakesTheSummaryNews()
 {
     GatheringFixture t;
     t.end(5);

@@ -15,7 +15,7 @@ QColor background(const TimerUser &user)
     return user.timer.window()->palette().color(QPalette::Window);
 }
 
-/// Moves the mouse so far to the right over the widget, with a button and Control held.
+/// Moves the mouse this many pixels to the right over the widget, with a button and Control held.
 void drag(QWidget &widget, Qt::MouseButton button, QPoint from, int way)
 {
     const QPoint to = from + QPoint(way, 0);
@@ -24,15 +24,15 @@ void drag(QWidget &widget, Qt::MouseButton button, QPoint from, int way)
     QCoreApplication::sendEvent(&widget, &move);
 }
 
-/// Far enough for a drag.
+/// A distance that starts a drag, in pixels.
 int far()
 {
     return QApplication::startDragDistance();
 }
 } // namespace
 
-/// What is dragged from a timer's window and over it. A drag has no source unless there is a real
-/// one, which the tests on a desktop make; here are the rules that can be seen without.
+/// Drags from a timer's window and over it. Only a real drag has a source, so the tests on a
+/// desktop cover those; here are the rules that need no source.
 class tst_LinkDrag final : public Test
 {
     Q_OBJECT
@@ -89,7 +89,7 @@ void tst_LinkDrag::theHighlightIsReadableInEveryTheme()
         QCOMPARE(box.palette().color(QPalette::WindowText), QColor(Qt::black));
         t.timer.window()->highlightChain(false);
         QCOMPARE(box.palette().color(QPalette::WindowText), QColor(Qt::white));
-        // The theme may change later.
+        // The colours follow a later change of the theme.
         QApplication::setPalette(light);
         QTRY_COMPARE(background(t), light.color(QPalette::Window));
     }
@@ -168,7 +168,7 @@ void tst_LinkDrag::aDragBeginsAtTheDistanceOfTheDesktop()
     QTest::mousePress(&window, button, Keyboard::kControl, from);
     drag(window, button, from, far() - 1);
     QVERIFY(window.findChildren<QDrag *>().isEmpty());
-    // The display that is only in memory ends a drag as soon as it has begun, and says so.
+    // The offscreen platform ends a drag at once and writes this warning.
     QTest::ignoreMessage(QtWarningMsg, "Unimplemented code.");
     drag(window, button, from, far());
     const QList<QDrag *> drags = window.findChildren<QDrag *>();
@@ -184,7 +184,7 @@ void tst_LinkDrag::aPressIsForgottenWhenItEnds()
     WufferWindow &window = *t.timer.window();
     window.show();
     QTest::mouseClick(&window, Qt::LeftButton, {}, QPoint(4, 60));
-    // Pulled off the button that was pressed after that.
+    // Drags from a button that was pressed after the click had ended.
     QTest::mousePress(&t.goButton(), Qt::LeftButton, Keyboard::kControl, QPoint(5, 5));
     drag(t.goButton(), Qt::LeftButton, QPoint(5, 5), 500);
     drag(t.goButton(), Qt::LeftButton, QPoint(5, 5), 600);

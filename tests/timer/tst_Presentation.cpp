@@ -8,7 +8,7 @@
 
 namespace
 {
-/// Slides drawers for a minute, so that a test can look in between, or not at all.
+/// Sets how long drawers slide, so that a test can look at them meanwhile, or have no slide at all.
 class SlideStyle final : public QProxyStyle
 {
 public:
@@ -26,7 +26,7 @@ private:
     int _milliseconds;
 };
 
-/// Counts how often a window changes its size while this lives.
+/// Counts how often a window changes its size while the counter lives.
 class ResizeCounter final : public QObject
 {
 public:
@@ -46,7 +46,7 @@ const QString kMore = QStringLiteral("More Options");
 const QString kHide = QStringLiteral("Hide Options");
 } // namespace
 
-/// Full screen, the drawer, the front, and the timer's menu items.
+/// Full screen mode, the drawer, bringing a window to the front, and the timer's menu items.
 class tst_Presentation final : public Test
 {
     Q_OBJECT

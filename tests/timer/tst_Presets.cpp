@@ -12,13 +12,13 @@ namespace
 {
 const QString kChanged = QStringLiteral("presetsChangedNotification");
 
-/// Something that happens to a timer.
+/// Something that the user or the program does to a timer.
 using Act = std::function<void(TimerFixture &)>;
 } // namespace
 
 Q_DECLARE_METATYPE(Act)
 
-/// The ten presets: their records, saving a timer into one, and the mark of one unchanged.
+/// The ten presets: their records, saving a timer to one, and the mark of an unchanged preset.
 class tst_Presets final : public Test
 {
     Q_OBJECT
@@ -36,7 +36,7 @@ private Q_SLOTS:
     void savingKeepsThePlaceOfTheWindow();
     void savingNamesAnUnnamedTimer();
     void savingShowsWhereItWent();
-    void savingTellsTheRest();
+    void savingPostsANotice();
     void aRunningTimerIsNotSaved();
     void aTimerInItsAlarmIsNotSaved();
     void aStopwatchIsNotSaved();
@@ -188,7 +188,7 @@ void tst_Presets::savingShowsWhereItWent()
     QCOMPARE(t.timer.currentTextColor(), QColor(Qt::blue));
 }
 
-void tst_Presets::savingTellsTheRest()
+void tst_Presets::savingPostsANotice()
 {
     const TimerFixture t;
     const NoticeCounter notices(kChanged);
@@ -324,7 +324,7 @@ void tst_Presets::anElapsedLineInAnotherColourKeepsIt()
     const TimerFixture t;
     const TimerUser other;
     t.timer.setPreset(4);
-    // The line of a chain is red, while the rest still shows the preset.
+    // The line about the chain is red, while the rest still has the mark of a preset.
     t.timer.setTargetWuffer(&other.timer);
     t.timer.setPresetColor();
     t.timer.refreshChainStatus();

@@ -10,8 +10,8 @@ namespace
 {
 constexpr double kTick = 0.037;
 
-/// A timer whose window is on the screen, or hidden as one that is minimised or on another
-/// workspace is: its widgets go on believing that they are shown.
+/// A timer whose window is exposed or not. Like a window that is minimised or on another workspace,
+/// an unexposed window keeps its widgets visible for Qt.
 class ShownTimer : public TimerFixture
 {
 public:
@@ -36,7 +36,7 @@ public:
 };
 } // namespace
 
-/// What a timer leaves out while nobody sees its display, and what it does not.
+/// What work a timer saves while its display cannot be seen, and what it still does.
 class tst_RestingDisplay final : public Test
 {
     Q_OBJECT
@@ -140,7 +140,7 @@ void tst_RestingDisplay::aDisplayThatComesIntoViewIsUpToDate()
     ShownTimer t;
     t.startCountdown(600);
     t.setExposed(false);
-    // Between two of the ticks at which it works.
+    // Between two of the ticks at which the timer works.
     t.pass(60 + 6 * kTick);
     const QString before = t.milliseconds();
     const Date now = Date::now();

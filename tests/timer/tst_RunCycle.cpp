@@ -32,12 +32,12 @@ private Q_SLOTS:
     void aStopwatchRunLeavesTheDurationToResetAlone();
     void theButtonPressGivesTheKeepWuffingBoxBack();
     void aMutedTimersKeepWuffingBoxStaysDisabled();
-    void theRestIsToldWhenAllIsDone();
-    void everyFifthTickTellsTheRestOfTheProgram();
-    void ticksTellOfTheStatusAndNotOfTheState();
-    void whoeverIsToldMayStopTheTimer();
+    void theNoticeComesWhenTheTimerHasFinishedItsChange();
+    void everyFifthTickPostsANotice();
+    void ticksPostNoticesOfTheStatusAndEmitNoChangeOfState();
+    void anObserverOfTheNoticeMayStopTheTimer();
     void theCountOfTicksGoesOnOverAStop();
-    void startAndStopEachTellTheRestOnce();
+    void startAndStopEachPostOneNotice();
     void savingEnergyWorksEveryFifthTickOnly();
     void startingIsNotRefusedByADisabledButton();
     void hundredTimersWakeTheProcessAsOftenAsOne();
@@ -181,7 +181,7 @@ void tst_RunCycle::textThatIsNoNumberCountsAsZero()
     t.part<QLineEdit>("_secondsField").setText(QStringLiteral("5.9"));
     QCOMPARE(t.timer.timeLeftFromFields(), 125.0);
     t.pressGo();
-    // Nothing that was typed is lost.
+    // The fields keep what was typed.
     QCOMPARE(t.fields(), QStringLiteral("none  2 or so 5.9"));
 }
 
@@ -221,7 +221,7 @@ void tst_RunCycle::resettingWhileRunningStops()
     QVERIFY(t.clock.isIdle());
 }
 
-void tst_RunCycle::everyFifthTickTellsTheRestOfTheProgram()
+void tst_RunCycle::everyFifthTickPostsANotice()
 {
     TimerFixture t;
     t.startCountdown(100);
@@ -249,7 +249,7 @@ void tst_RunCycle::theCountOfTicksGoesOnOverAStop()
     QCOMPARE(notices.count, 1);
 }
 
-void tst_RunCycle::startAndStopEachTellTheRestOnce()
+void tst_RunCycle::startAndStopEachPostOneNotice()
 {
     TimerFixture t;
     const NoticeCounter notices(QStringLiteral("statusChanged"));
@@ -259,7 +259,7 @@ void tst_RunCycle::startAndStopEachTellTheRestOnce()
     QCOMPARE(notices.count, 2);
     t.startCountdown(0);
     t.pass(0.038);
-    // One for the start and one for the end of the countdown.
+    // One more for the second start, and one for the end of the countdown.
     QCOMPARE(notices.count, 4);
 }
 
@@ -275,7 +275,7 @@ void tst_RunCycle::savingEnergyWorksEveryFifthTickOnly()
     t.pass(0.037);
     QCOMPARE(t.display(), QStringLiteral("1s"));
     QCOMPARE(notices.count, 1);
-    // The 54th tick is the first after the end, the 55th the first of those that work.
+    // The 54th tick is after the end already, but the timer works only at the 55th.
     t.pass(54.5 * 0.037 - 5.5 * 0.037);
     QVERIFY(t.display() != QStringLiteral("Wuff!"));
     t.pass(0.037);
@@ -358,7 +358,7 @@ void tst_RunCycle::aMutedTimersKeepWuffingBoxStaysDisabled()
     QVERIFY(!t.part<QCheckBox>("_keepWuffingBox").isEnabled());
 }
 
-void tst_RunCycle::theRestIsToldWhenAllIsDone()
+void tst_RunCycle::theNoticeComesWhenTheTimerHasFinishedItsChange()
 {
     TimerFixture t;
     QStringList told;
@@ -393,7 +393,7 @@ void tst_RunCycle::theVeryMomentOfTheEndIsTheEnd()
     QCOMPARE(t.display(), QStringLiteral("Wuff!"));
 }
 
-void tst_RunCycle::ticksTellOfTheStatusAndNotOfTheState()
+void tst_RunCycle::ticksPostNoticesOfTheStatusAndEmitNoChangeOfState()
 {
     TimerFixture t;
     t.startCountdown(60);
@@ -406,7 +406,7 @@ void tst_RunCycle::ticksTellOfTheStatusAndNotOfTheState()
     QVERIFY(state.count() > 0);
 }
 
-void tst_RunCycle::whoeverIsToldMayStopTheTimer()
+void tst_RunCycle::anObserverOfTheNoticeMayStopTheTimer()
 {
     TimerFixture t;
     t.startCountdown(60);

@@ -19,7 +19,7 @@ QVariantMap record(std::initializer_list<std::pair<QString, QVariant>> values)
 }
 } // namespace
 
-/// What a timer stores, and what it takes from what is stored.
+/// What a timer stores in its record, and what it loads from one.
 class tst_SettingsRecord final : public Test
 {
     Q_OBJECT
@@ -40,7 +40,7 @@ private Q_SLOTS:
     void nothingStoredChangesNothing();
     void anUnknownOptionSelectsNothing();
     void nothingSelectedIsNotStored();
-    void aHandWrittenLinkLeadsToNobody();
+    void aHandWrittenLinkLeadsToNoTimer();
     void aMutedTimerDoesNotTakeOverKeepWuffing();
     void whatWasSavedWithALinkDoesNothing();
     void aPlaceOutsideTheListIsPassedOn();
@@ -200,7 +200,7 @@ void tst_SettingsRecord::missingKeysEmptyTheControls()
     QVERIFY(!t.part<QCheckBox>("_keepWuffingBox").isChecked());
     QVERIFY(!t.part<QCheckBox>("_fullScreenBox").isChecked());
     QCOMPARE(t.part<QComboBox>("_finishedCombo").currentIndex(), -1);
-    // Nothing selected is no finish action, and no reason to go on ringing.
+    // Without a selection there is no finish action, and the alarm is not repeated.
     QVERIFY(!t.part<QCheckBox>("_keepWuffingBox").isEnabled());
     t.startCountdown(1);
     t.pass(1.1);
@@ -257,7 +257,7 @@ void tst_SettingsRecord::nothingSelectedIsNotStored()
     QVERIFY(!value(t, kDefault, "finishOption").isValid());
 }
 
-void tst_SettingsRecord::aHandWrittenLinkLeadsToNobody()
+void tst_SettingsRecord::aHandWrittenLinkLeadsToNoTimer()
 {
     TimerFixture t;
     t.defaults.setObject(
@@ -397,7 +397,7 @@ void tst_SettingsRecord::aRunningStateIsNotRestored()
     other.timer.stopwatch();
     other.timer.loadSettingsFromDefaultsWithKey(kDefault, true);
     QVERIFY(!other.timer.isRunning());
-    // It is still the stopwatch that it was.
+    // Loading has not changed the stopwatch mode.
     QVERIFY(!other.part<QComboBox>("_finishedCombo").isEnabled());
 }
 

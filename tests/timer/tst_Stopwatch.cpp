@@ -2,7 +2,7 @@
 #include "support/TestMain.h"
 #include "support/TimerFixture.h"
 
-/// Counting up.
+/// The stopwatch mode, in which a timer counts up.
 class tst_Stopwatch final : public Test
 {
     Q_OBJECT

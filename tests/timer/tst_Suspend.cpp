@@ -7,7 +7,7 @@ namespace
 constexpr double kHour = 3600;
 const QString kLoop = QStringLiteral("Loop this Wuffer");
 
-/// What a timer is doing when the computer is suspended.
+/// Brings a timer into the state that it has when the computer is suspended.
 using Prepare = void (*)(Sleeper &t);
 
 void countDown(Sleeper &t)
@@ -85,7 +85,7 @@ void standStillAfterAStop(Sleeper &t)
 
 Q_DECLARE_METATYPE(Prepare)
 
-/// What a timer does when the computer wakes up again, whatever it was doing before.
+/// What a timer does when the computer resumes, for each state that the timer may be in.
 class tst_Suspend final : public Test
 {
     Q_OBJECT
@@ -169,7 +169,7 @@ void tst_Suspend::theBeepsGoOnAtTheirPace()
     t.pass(0.8);
     QCOMPARE(t.beeps(), 1);
     t.pass(4.1);
-    // One for each second that was left, and none for those slept through.
+    // One beep for each second left after the resume; those missed are not made up for.
     QCOMPARE(t.beeps(), 5);
     QCOMPARE(t.rings(), 1);
 }

@@ -8,7 +8,7 @@ namespace
 constexpr double kHour = 3600;
 } // namespace
 
-/// What several timers do, each for itself and those of a chain, when the computer wakes up again.
+/// What several timers, independent or in a chain, do when the computer resumes.
 class tst_SuspendOfMany final : public Test
 {
     Q_OBJECT
@@ -25,7 +25,7 @@ void tst_SuspendOfMany::everyTimerThatHasEndedRingsOnce()
     Sleeper t;
     TimerUser second;
     TimerUser third;
-    // The second rings already, and the third has yet to end.
+    // The second timer already rings; the third has not ended yet.
     second.startCountdown(1);
     t.pass(2);
     TimerUser fourth;
@@ -53,7 +53,7 @@ void tst_SuspendOfMany::aChainGoesOnWhereItWas()
     t.timer.setTargetWuffer(&second.timer);
     second.timer.setTargetWuffer(&third.timer);
     t.pressGo();
-    // All three would have ended meanwhile, but each begins when the one before has rung.
+    // All three could have ended meanwhile, but each starts only when the one before has rung.
     t.sleepAndWake(kHour);
     QCOMPARE(t.rings(), 1);
     QVERIFY(!second.timer.isRunning());

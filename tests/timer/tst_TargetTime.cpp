@@ -93,7 +93,7 @@ void tst_TargetTime::theTimeAfterConfirmingIsAnOrdinaryCountdown()
     child<QDialogButtonBox>(sheet(t), "_targetButtons").button(QDialogButtonBox::Ok)->click();
     QVERIFY(!sheet(t).isVisible());
     QVERIFY(t.timer.isRunning());
-    // The clock of the test stands at three eighths of a second.
+    // The test clock begins at three eighths of a second.
     QCOMPARE(t.fields(), QStringLiteral("1 59 59.625"));
     QCOMPARE(t.display(), QStringLiteral("1h 59m 59s"));
     t.pass(7199.04);
@@ -155,8 +155,8 @@ void tst_TargetTime::changesOfSummerTimeAreCounted()
     TimerFixture t;
     const QDateTime now = t.clock.calendarNow();
     t.timer.targetTime();
-    // Half a year on the same time of day is an hour nearer or farther where the clocks change
-    // in between, as they do in one of the places where this test runs.
+    // In a zone with summer time, as one of those that this test runs in, the same time of day in
+    // half a year is an hour nearer or farther.
     sheet(t).setDateValue(now.addDays(180));
     const qint64 expected = now.secsTo(now.addDays(180)) - 1;
     t.timer.startWithTargetTime();

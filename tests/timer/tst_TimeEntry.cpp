@@ -22,7 +22,7 @@ public:
             qFatal("the timer is not active");
     }
 
-    /// Types into whatever has the focus, which may change from key to key.
+    /// Types into the widget that has the focus, which may change from key to key.
     static void type(const QString &text)
     {
         for (const QChar character : text)
@@ -38,7 +38,7 @@ public:
 };
 } // namespace
 
-/// How a time gets into the fields by hand.
+/// How the user enters a time into the fields.
 class tst_TimeEntry final : public Test
 {
     Q_OBJECT
@@ -143,7 +143,7 @@ void tst_TimeEntry::anotherFieldBeginsAnew()
 {
     const Typist t(7);
     Typist::type(QStringLiteral("5:3"));
-    // By the tab key away and back: what was typed before it is another time.
+    // Leaves the field and comes back; this ends the time typed before.
     Typist::press(Qt::Key_Backtab);
     Typist::press(Qt::Key_Tab);
     Typist::type(QStringLiteral("9:1"));

@@ -9,7 +9,7 @@
 #include <QSignalSpy>
 #include <QWheelEvent>
 
-/// One of the fields into which a time is typed.
+/// One of the fields that a time is typed into.
 class tst_TimeField final : public Test
 {
     Q_OBJECT
@@ -31,8 +31,8 @@ private Q_SLOTS:
     void whatIsPastedIsOffered();
     void theMenuPastesToo();
     void whatIsDroppedIsOffered();
-    void whatSaysNoTimeIsNotTaken_data();
-    void whatSaysNoTimeIsNotTaken();
+    void aTextWithoutATimeIsRefused_data();
+    void aTextWithoutATimeIsRefused();
     void aDragThatPassesOverLeavesTheSelection();
     void anEditCanBeUndone();
     void aComposedTextIsTypedCharacterByCharacter();
@@ -277,7 +277,7 @@ void tst_TimeField::whatIsDroppedIsOffered()
     QCOMPARE(field.text(), QStringLiteral("7"));
 }
 
-void tst_TimeField::whatSaysNoTimeIsNotTaken_data()
+void tst_TimeField::aTextWithoutATimeIsRefused_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<bool>("isFile");
@@ -287,7 +287,7 @@ void tst_TimeField::whatSaysNoTimeIsNotTaken_data()
     QTest::newRow("a file that also says a time") << QStringLiteral("5:30") << true;
 }
 
-void tst_TimeField::whatSaysNoTimeIsNotTaken()
+void tst_TimeField::aTextWithoutATimeIsRefused()
 {
     QFETCH(const QString, text);
     QFETCH(const bool, isFile);

@@ -111,7 +111,7 @@ void tst_TimerSounds::theAlarmCutsABeepOffEvenWhenMuted()
     TimerFixture t;
     t.timer.playBeep();
     t.set("soundOff", 1);
-    // Muting has stopped the beep, so it is started again behind the timer's back.
+    // Muting has stopped the beep, so the test starts it again.
     t.sounds.sound(kCrow)->play();
     t.timer.playDone();
     QVERIFY(!t.sounds.isPlaying(kCrow));
@@ -163,7 +163,7 @@ void tst_TimerSounds::theSameFileIsNotLoadedAgain()
         t.timer.playDone();
         t.timer.playBeep();
     }
-    // Once as the alarm and once as the beep.
+    // The file is loaded once as the alarm and once as the beep.
     QCOMPARE(t.sounds.diary(QStringLiteral("make")).size(), 2);
     QCOMPARE(t.sounds.diary(QStringLiteral("play")).size(), 6);
 }

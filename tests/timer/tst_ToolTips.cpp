@@ -6,13 +6,14 @@
 
 namespace
 {
-/// What the tool tip of the control shows.
+/// The text of the control's tool tip.
 QString tip(const TimerUser &user, const char *name)
 {
     return QTextDocumentFragment::fromHtml(user.part<QWidget>(name).toolTip()).toPlainText();
 }
 
-/// What both places that tell of links say; “differ” where they do not say the same.
+/// The text about links in the tool tips of the elapsed line and the button; “differ” if the two
+/// are not equal.
 QString links(const TimerUser &user)
 {
     const QString text = tip(user, "_elapsedLabel");
@@ -20,7 +21,7 @@ QString links(const TimerUser &user)
 }
 } // namespace
 
-/// What the controls of a timer say of themselves.
+/// The tool tips of a timer's controls.
 class tst_ToolTips final : public Test
 {
     Q_OBJECT
@@ -108,7 +109,7 @@ void tst_ToolTips::aTimerAloneNamesNoOther()
 
 namespace
 {
-/// Eggs start Tea, and Tea starts Bath.
+/// Three linked timers: Eggs starts Tea, and Tea starts Bath.
 class Chain : public TestServices
 {
 public:

@@ -1,7 +1,7 @@
 #include "support/TestMain.h"
 #include "support/TimerFixture.h"
 
-/// What is typed once a timer is ready to be set takes the place of the number in focus.
+/// Once a timer is ready to be set, the first digits typed replace the number in the focused field.
 class tst_TypingReplaces final : public Test
 {
     Q_OBJECT
@@ -33,7 +33,7 @@ private:
     static void show(const TimerFixture &t);
     static void turnTo(QWidget &other);
     static void type(const char *text);
-    /// The menu bar gets the focus and gives it back, as at Alt and Escape.
+    /// Moves the focus to the menu bar and back, as Alt and Escape do.
     static void openAndCloseMenuBar()
     {
         for (const QEvent::Type type : {QEvent::FocusOut, QEvent::FocusIn}) {
@@ -224,7 +224,7 @@ void tst_TypingReplaces::notWhereTheUserHasPutTheCaret()
     show(t);
     type("0");
     QCOMPARE(t.fields(), QStringLiteral("0 50 0"));
-    // Nor where the mouse has put it.
+    // A caret set with the mouse stays, too.
     t.timer.setFieldsWithTimeLeft(300);
     auto &minutes = t.part<QLineEdit>("_minutesField");
     QTest::mouseClick(&minutes, Qt::LeftButton, {}, minutes.rect().center());
@@ -293,7 +293,7 @@ void tst_TypingReplaces::aClickOnTheButtonLeavesTheFocusInTheField()
 
 void tst_TypingReplaces::nothingIsSelectedWhileItRuns()
 {
-    // In a window that is not the active one.
+    // In a window that is not active.
     TimerFixture t;
     t.timer.setFieldsWithTimeLeft(300);
     const auto &minutes = t.part<QLineEdit>("_minutesField");

@@ -9,7 +9,7 @@ const QString kBell = QStringLiteral("/home/somebody/Bell.aiff");
 const QString kMissing = QStringLiteral("/no/such.wav");
 } // namespace
 
-/// What a timer plays for a choice that cannot be played.
+/// What a timer plays if the chosen sound cannot be played.
 class tst_UnusableSounds final : public Test
 {
     Q_OBJECT
@@ -46,7 +46,7 @@ void tst_UnusableSounds::anUnusableFileAloneIsReplacedByTheBuiltInAlarm()
              QStringList{QStringLiteral("play wolvesWuff.wav at 1")});
     t.pass(1);
     QVERIFY(t.timer.isRunning());
-    // The choice stays as it is: the file may come back.
+    // The choice stays, because the file may come back.
     QCOMPARE(t.part<WebbyComboBox>("_alarmSoundCombo").dataObjectOfSelectedItem(), kMissing);
 }
 

@@ -13,7 +13,7 @@ QVariantMap record(std::initializer_list<std::pair<QString, QVariant>> values)
 }
 } // namespace
 
-/// Where the window of a timer stands after a load.
+/// Where a timer's window is placed when the timer loads a record.
 class tst_WindowFrames final : public Test
 {
     Q_OBJECT
@@ -107,7 +107,7 @@ void tst_WindowFrames::theWindowMovesOffEveryOther()
 void tst_WindowFrames::windowsAtEveryPlaceStopTheMoving()
 {
     const TestServices services;
-    // As many as a cascade has places on this screen, from one end to the other and round again.
+    // Fills every place of a cascade on this screen with a window.
     const TimerUser last;
     last.timer.window()->move(0, 0);
     last.timer.storeSettingsInDefaultsWithKey(kPreset);
@@ -122,7 +122,7 @@ void tst_WindowFrames::windowsAtEveryPlaceStopTheMoving()
     QVERIFY(places.size() > 10);
     last.timer.loadSettingsFromDefaultsWithKey(kPreset, true);
     QVERIFY(last.timer.window()->isVisible());
-    // It went round and round, and stands where the last of its moves has left it.
+    // The window has gone round the cascade until the limit of moves stopped it.
     constexpr int moves = 202;
     QCOMPARE(place(last), places.at(moves % places.size()));
 }
