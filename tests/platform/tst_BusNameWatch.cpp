@@ -12,7 +12,7 @@ namespace
 const QString kName = QStringLiteral("org.wuffer.Test");
 const QString kOtherName = QStringLiteral("org.wuffer.Test.Other");
 
-/// A program that owns names on the bus while it lives, or waits for them.
+/// A program on the bus that owns names, or waits in the queue for them, while this object lives.
 class Owner final
 {
 public:
@@ -34,7 +34,7 @@ private:
 };
 } // namespace
 
-/// Runs on a session bus of its own, where the test owns the names that are watched.
+/// Runs on a private session bus, where the test owns the watched names.
 class tst_BusNameWatch final : public Test
 {
     Q_OBJECT
@@ -49,16 +49,16 @@ private Q_SLOTS:
     void cleanup();
     void aNameThatFindsAnOwnerHasAppeared();
     void aNameWithoutAnOwnerHasVanished();
-    void aNameThatPassesOnIsTakenOver();
+    void aNameThatPassesToTheNextOwnerIsTakenOver();
     void aProgramThatEndsHasVanished();
     void onlyTheLastNameIsWatched();
-    void nothingIsToldAfterTheStop();
+    void aStoppedWatchReportsNothing();
 
 private:
-    /// What has been told so far, once all that has happened on the bus has arrived.
+    /// The callbacks so far, after all signals of the bus have arrived.
     [[nodiscard]] QString told()
     {
-        // A notice of the bus comes before the answer to what was asked after it.
+        // The answer to this call arrives after all signals that the bus has sent before it.
         static_cast<void>(QDBusConnection::sessionBus().interface()->isServiceRegistered(kName));
         QCoreApplication::processEvents();
         return _told.join(QLatin1Char(' '));
@@ -106,7 +106,7 @@ void tst_BusNameWatch::aNameWithoutAnOwnerHasVanished()
     QCOMPARE(told(), QStringLiteral("vanished"));
 }
 
-void tst_BusNameWatch::aNameThatPassesOnIsTakenOver()
+void tst_BusNameWatch::aNameThatPassesToTheNextOwnerIsTakenOver()
 {
     _owner->take(kName);
     Owner next(_address, QStringLiteral("next"));
@@ -134,7 +134,7 @@ void tst_BusNameWatch::onlyTheLastNameIsWatched()
     QCOMPARE(told(), QStringLiteral("appeared"));
 }
 
-void tst_BusNameWatch::nothingIsToldAfterTheStop()
+void tst_BusNameWatch::aStoppedWatchReportsNothing()
 {
     _watch->watch(kName);
     _watch->stop();

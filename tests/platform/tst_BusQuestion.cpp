@@ -16,19 +16,19 @@ QDBusMessage questionToTheBus(const char *method)
 }
 } // namespace
 
-/// Runs on a session bus of its own, which answers the questions itself.
+/// Runs on a private session bus. The bus itself answers the calls.
 class tst_BusQuestion final : public Test
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void thereIsABus();
+    void theBusIsPresent();
     void theAnswerComesLater();
     void anErrorIsAnAnswer();
-    void nothingIsToldOnceTheContextIsGone();
+    void noAnswerIsDeliveredOnceTheContextIsGone();
 };
 
-void tst_BusQuestion::thereIsABus()
+void tst_BusQuestion::theBusIsPresent()
 {
     QVERIFY(BusQuestion::isPossible());
     const QByteArray address = qgetenv("DBUS_SESSION_BUS_ADDRESS");
@@ -55,14 +55,14 @@ void tst_BusQuestion::anErrorIsAnAnswer()
     QTRY_COMPARE(type, QDBusMessage::ErrorMessage);
 }
 
-void tst_BusQuestion::nothingIsToldOnceTheContextIsGone()
+void tst_BusQuestion::noAnswerIsDeliveredOnceTheContextIsGone()
 {
     int answers = 0;
     auto context = std::make_unique<QObject>();
     const auto count = [&](const QDBusMessage &) { ++answers; };
     BusQuestion::ask(questionToTheBus("ListNames"), *context, BusQuestion::kDefaultTimeout, count);
     context.reset();
-    // The bus answers in the order in which it was asked.
+    // The bus answers calls in order, so the first answer would come before this one.
     BusQuestion::ask(questionToTheBus("ListNames"), *this, BusQuestion::kDefaultTimeout, count);
     QTRY_VERIFY(answers > 0);
     QCOMPARE(answers, 1);

@@ -31,7 +31,7 @@ QStringList labels(const DBusMenuTypes::Items &items)
 }
 } // namespace
 
-/// Runs on a session bus of its own, where the test is the panel that shows the menu.
+/// Runs on a private session bus, where the test plays the panel that shows the menu.
 class tst_DBusMenu final : public Test
 {
     Q_OBJECT
@@ -48,10 +48,10 @@ private Q_SLOTS:
     void theLayoutIsAsDeepAsAskedFor_data();
     void theLayoutIsAsDeepAsAskedFor();
     void aLineHasItsOwnLayout();
-    void onlyThePropertiesAskedForAreTold();
+    void onlyThePropertiesAskedForAreSent();
     void anUnderscoreIsNoMnemonic();
-    void groupsOfPropertiesAreTold();
-    void onePropertyIsTold();
+    void groupsOfPropertiesAreSent();
+    void aSinglePropertyIsSent();
     void theProtocolsPropertiesAreThere();
     void aClickChoosesTheLine();
     void anythingElseChoosesNothing();
@@ -62,11 +62,11 @@ private Q_SLOTS:
     void otherTextsSayNothingWhileTheMenuIsClosed();
     void aPanelThatIsAboutToShowItGetsTheTexts();
     void anOpenMenuFollowsTheTexts();
-    void anOpenMenuFollowsTextsThatNeverRest();
+    void anOpenMenuFollowsTextsThatKeepChanging();
     void anOpenMenuKeepsItsLinesUntilItCloses();
     void anOpenMenuThatLosesItsListStillChooses();
     void aClickClosesTheMenu();
-    void closingIsToldOnce();
+    void closingIsReportedOnce();
     void aPanelThatIsGoneHasItOpenNoLonger();
     void aListThatIsGoneLeavesAnEmptyMenu();
     void twoHundredLinesCostOneSignal();
@@ -163,7 +163,7 @@ void tst_DBusMenu::aLineHasItsOwnLayout()
     QVERIFY(layout(99).properties.isEmpty());
 }
 
-void tst_DBusMenu::onlyThePropertiesAskedForAreTold()
+void tst_DBusMenu::onlyThePropertiesAskedForAreSent()
 {
     const DBusMenuTypes::Layout root = layout(0, -1, {QStringLiteral("label")});
     QVERIFY(root.properties.isEmpty());
@@ -177,7 +177,7 @@ void tst_DBusMenu::anUnderscoreIsNoMnemonic()
     QCOMPARE(labels(layout()), QStringList{QStringLiteral("a__b & c")});
 }
 
-void tst_DBusMenu::groupsOfPropertiesAreTold()
+void tst_DBusMenu::groupsOfPropertiesAreSent()
 {
     const auto group = [&](const QList<int> &ids) {
         const QDBusMessage answer = _peer->ask(QStringLiteral("GetGroupProperties"),
@@ -188,7 +188,7 @@ void tst_DBusMenu::groupsOfPropertiesAreTold()
     QCOMPARE(group({}).size(), 3);
 }
 
-void tst_DBusMenu::onePropertyIsTold()
+void tst_DBusMenu::aSinglePropertyIsSent()
 {
     const auto property = [&](int id, const char *name) {
         return _peer->ask(QStringLiteral("GetProperty"), {id, QString::fromLatin1(name)})
@@ -343,7 +343,7 @@ void tst_DBusMenu::aClickClosesTheMenu()
     QCOMPARE(_closings, 1);
 }
 
-void tst_DBusMenu::closingIsToldOnce()
+void tst_DBusMenu::closingIsReportedOnce()
 {
     event(0, kClosed);
     QCOMPARE(_closings, 0);
@@ -389,11 +389,11 @@ void tst_DBusMenu::twoHundredLinesCostOneSignal()
     QCOMPARE(qdbus_cast<DBusMenuTypes::Items>(heard.first().arguments().constFirst()).size(), 200);
 }
 
-void tst_DBusMenu::anOpenMenuFollowsTextsThatNeverRest()
+void tst_DBusMenu::anOpenMenuFollowsTextsThatKeepChanging()
 {
     static_cast<void>(layout());
     event(0, kOpened);
-    // As often as a timer that runs shows another time.
+    // As often as the display of a running timer changes.
     for (int tick = 0; tick < 15; ++tick) {
         _list->current[1].text = QString::number(tick);
         Q_EMIT _list->textsChanged();

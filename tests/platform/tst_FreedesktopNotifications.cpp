@@ -18,14 +18,14 @@ DesktopNotification saying(const QString &text)
     return {QStringLiteral("Tea"), text, QStringLiteral("wuff")};
 }
 
-/// Lets pass what is on its way.
+/// Waits until all messages to and from the notification server have arrived.
 void settleWithServer()
 {
     settleWith(QStringLiteral("org.freedesktop.Notifications"));
 }
 } // namespace
 
-/// Runs on a session bus of its own, where the test is the notification server.
+/// Runs on a private session bus, where the test plays the notification server.
 class tst_FreedesktopNotifications final : public Test
 {
     Q_OBJECT
@@ -47,13 +47,13 @@ private Q_SLOTS:
     void ofSeveralQuickOnesTheFirstAndTheLatestAreShown();
     void aSenderMayBeDestroyedBeforeTheAnswer();
     void theServiceMayBeDestroyedBeforeTheAnswer();
-    void aMissingServerIsNoMatterAndIsFoundWhenItAppears();
+    void aMissingServerIsHarmlessAndIsFoundWhenItAppears();
     void aServerThatNeverAnswersBlocksNothing();
-    void aRestartedServerIsNotToldTheNumbersOfTheOldOne();
+    void aRestartedServerGetsNoIdsOfTheOldOne();
     void withoutABusNothingIsAskedFor();
 
 private:
-    /// Puts a server that has shown nothing yet in the place of the last.
+    /// Replaces the server by a new one that has shown nothing yet.
     [[nodiscard]] NotificationServer &serve(const QStringList &capabilities = {})
     {
         return _server.emplace(_address, capabilities);
@@ -227,7 +227,7 @@ void tst_FreedesktopNotifications::aSenderMayBeDestroyedBeforeTheAnswer()
     }
     server.answerAgain();
 
-    // It leaves nothing behind.
+    // The destroyed sender's notification is never sent.
     settleWithServer();
     QCOMPARE(server.shown.size(), 0U);
 }
@@ -248,14 +248,14 @@ void tst_FreedesktopNotifications::theServiceMayBeDestroyedBeforeTheAnswer()
     QCOMPARE(server.shown.size(), 0U);
 }
 
-void tst_FreedesktopNotifications::aMissingServerIsNoMatterAndIsFoundWhenItAppears()
+void tst_FreedesktopNotifications::aMissingServerIsHarmlessAndIsFoundWhenItAppears()
 {
     _server.reset();
     FreedesktopNotifications notifications;
     const QObject sender;
     notifications.notify(sender, saying(QStringLiteral("unheard")));
-    // The bus answers that there is none. Where it can start one it answers later, and then the
-    // first is heard, too.
+    // The bus answers that there is no server. A bus that can start one would answer later, and the
+    // server would then get the first notification, too.
     settleWithBus();
 
     const NotificationServer &server = serve();
@@ -280,13 +280,13 @@ void tst_FreedesktopNotifications::aServerThatNeverAnswersBlocksNothing()
     }
 
     QVERIFY(elapsed.elapsed() < 500);
-    // One question for each, however much there is to say.
+    // One pending call for each sender, however many notifications it has.
     QTRY_COMPARE(server.heldBack(), 2U);
     settleWithServer();
     QCOMPARE(server.heldBack(), 2U);
 }
 
-void tst_FreedesktopNotifications::aRestartedServerIsNotToldTheNumbersOfTheOldOne()
+void tst_FreedesktopNotifications::aRestartedServerGetsNoIdsOfTheOldOne()
 {
     const NotificationServer &before = serve();
     FreedesktopNotifications notifications;

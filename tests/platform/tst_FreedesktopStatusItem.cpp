@@ -34,7 +34,7 @@ StatusTitle title(const char *text, const QColor &color = Qt::black)
 }
 } // namespace
 
-/// Runs on a session bus of its own, where the test is the panel.
+/// Runs on a private session bus, where the test plays the panel.
 class tst_FreedesktopStatusItem final : public Test
 {
     Q_OBJECT
@@ -62,16 +62,16 @@ private Q_SLOTS:
     void aPressSendsTheAction();
     void aPressWithAMenuShowsItForPanelsThatCannot();
     void theMiddleButtonAndTheWheelDoNothing();
-    void onlyWhatChangesIsSaid_data();
-    void onlyWhatChangesIsSaid();
-    void manyChangesAtOnceAreSaidOnce();
+    void onlyChangesAreSignalled_data();
+    void onlyChangesAreSignalled();
+    void manyChangesAtOnceAreSignalledOnce();
     void theNewLabelComesWithItsSignal();
-    void withoutAWatcherNothingIsSaid();
+    void withoutAWatcherNothingIsSignalled();
     void aWatcherThatComesLateGetsWhatIsShown();
-    void aMissingBusIsNoMatter();
+    void aMissingBusIsHarmless();
 
 private:
-    /// Lets a watcher appear and waits for the item.
+    /// Starts a watcher, and waits until the item has registered.
     void watch()
     {
         _watcher.emplace(_address);
@@ -262,7 +262,7 @@ void tst_FreedesktopStatusItem::theMiddleButtonAndTheWheelDoNothing()
     QVERIFY(!qEnvironmentVariableIsSet("XDG_ACTIVATION_TOKEN"));
 }
 
-void tst_FreedesktopStatusItem::onlyWhatChangesIsSaid_data()
+void tst_FreedesktopStatusItem::onlyChangesAreSignalled_data()
 {
     using Change = std::function<void(StatusItem &)>;
     QTest::addColumn<Change>("change");
@@ -304,7 +304,7 @@ void tst_FreedesktopStatusItem::onlyWhatChangesIsSaid_data()
         "a menu", [](StatusItem &item) { item.setMenu(&menu); }, "NewMenu");
 }
 
-void tst_FreedesktopStatusItem::onlyWhatChangesIsSaid()
+void tst_FreedesktopStatusItem::onlyChangesAreSignalled()
 {
     QFETCH(const std::function<void(StatusItem &)>, change);
     _item->setImage(image());
@@ -316,7 +316,7 @@ void tst_FreedesktopStatusItem::onlyWhatChangesIsSaid()
     QTEST(peer.takeNames(), "said");
 }
 
-void tst_FreedesktopStatusItem::manyChangesAtOnceAreSaidOnce()
+void tst_FreedesktopStatusItem::manyChangesAtOnceAreSignalledOnce()
 {
     watch();
     BusPeer peer = panel();
@@ -340,7 +340,7 @@ void tst_FreedesktopStatusItem::theNewLabelComesWithItsSignal()
     QCOMPARE(arguments, (QVariantList{QStringLiteral("5m 3s "), QString()}));
 }
 
-void tst_FreedesktopStatusItem::withoutAWatcherNothingIsSaid()
+void tst_FreedesktopStatusItem::withoutAWatcherNothingIsSignalled()
 {
     BusPeer peer = panel();
     _item->setAttributedTitle(title("5m 3s "));
@@ -357,7 +357,7 @@ void tst_FreedesktopStatusItem::aWatcherThatComesLateGetsWhatIsShown()
     QCOMPARE(peer.property(QStringLiteral("Status")), QStringLiteral("Active"));
 }
 
-void tst_FreedesktopStatusItem::aMissingBusIsNoMatter()
+void tst_FreedesktopStatusItem::aMissingBusIsHarmless()
 {
     const QTemporaryDir nowhere;
     _item.reset();

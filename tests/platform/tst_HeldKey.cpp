@@ -6,7 +6,7 @@
 
 namespace
 {
-/// A key of this number that is pressed or let go at a moment.
+/// The press or release of the key with this scan code; the moment is in milliseconds.
 class Event final : public QKeyEvent
 {
 public:
@@ -18,7 +18,7 @@ public:
 };
 } // namespace
 
-/// What is a press, and what a repeat.
+/// Which key events are presses, and which are repeats of a held key.
 class tst_HeldKey final : public QObject
 {
     Q_OBJECT

@@ -13,8 +13,8 @@ const QString kShow = QStringLiteral("show");
 const QString kStop = QStringLiteral("stop");
 } // namespace
 
-/// What a notification offers, and how it goes. Runs on a session bus of its own, where the test
-/// is the notification server.
+/// The buttons of a notification, and how it is closed. Runs on a private session bus, where the
+/// test plays the notification server.
 class tst_NotificationActions final : public Test
 {
     Q_OBJECT
@@ -37,7 +37,7 @@ private Q_SLOTS:
     void aPressDoesWhatTheButtonSays_data();
     void aPressDoesWhatTheButtonSays();
     void aPressOnAnotherNotificationDoesNothing();
-    void aPressThatSomebodyElseTellsOfDoesNothing();
+    void aPressReportedByAnotherProgramDoesNothing();
     void aPressOnAWithdrawnNotificationDoesNothing();
     void aPressOnADestroyedSendersNotificationDoesNothing();
     void nonsenseDoesNothing();
@@ -45,15 +45,15 @@ private Q_SLOTS:
     void itIsWithdrawn();
     void itGoesWithItsSender();
     void itIsNotWithdrawnTwice();
-    void whatHasNotBeenSentIsNeverShown();
-    void whatHasNoNumberYetIsWithdrawnWhenItHas();
-    void whatIsShownAgainBeforeItHasANumberStays();
-    void aRestartedServerIsNotToldToCloseTheOldOnes();
-    void howItWentIsReported_data();
-    void howItWentIsReported();
+    void aNotificationWithdrawnBeforeItIsSentIsNeverShown();
+    void aNotificationWithoutAnIdYetIsWithdrawnWhenItHasOne();
+    void aNotificationShownAgainBeforeItHasAnIdStays();
+    void aRestartedServerIsNotAskedToCloseOldNotifications();
+    void howItWasClosedIsReported_data();
+    void howItWasClosedIsReported();
     void aDismissedOneIsReportedAndForgotten();
     void theNextAfterADismissedOneReplacesNothing();
-    void anotherServersAnswerThatIsNoNumberIsDoneWithout();
+    void anInvalidIdFromTheServerIsIgnored();
 
 private:
     [[nodiscard]] NotificationServer &serve(const QStringList &capabilities = {kActions})
@@ -73,14 +73,14 @@ private:
                         _diary << (expired ? QStringLiteral("expired") : QStringLiteral("closed"));
                     }};
     }
-    /// Shows one and waits until its number, 100, is known.
+    /// Shows a notification, and waits until the program knows its id, 100.
     void show(FreedesktopNotifications &notifications, const QObject &sender)
     {
         notifications.notify(sender, withActions());
         QTRY_VERIFY(!_server->shown.empty());
         settle();
     }
-    /// Lets pass what is on its way.
+    /// Waits until all messages to and from the notification server have arrived.
     static void settle() { settleWith(QStringLiteral("org.freedesktop.Notifications")); }
 
     const QString _address;
@@ -158,7 +158,7 @@ void tst_NotificationActions::aPressOnAnotherNotificationDoesNothing()
     QCOMPARE(_diary, QStringList());
 }
 
-void tst_NotificationActions::aPressThatSomebodyElseTellsOfDoesNothing()
+void tst_NotificationActions::aPressReportedByAnotherProgramDoesNothing()
 {
     const NotificationServer &server = serve();
     FreedesktopNotifications notifications;
@@ -272,7 +272,7 @@ void tst_NotificationActions::itIsNotWithdrawnTwice()
     QCOMPARE(server.closed, std::vector<uint>{100});
 }
 
-void tst_NotificationActions::whatHasNotBeenSentIsNeverShown()
+void tst_NotificationActions::aNotificationWithdrawnBeforeItIsSentIsNeverShown()
 {
     NotificationServer &server = serve();
     FreedesktopNotifications notifications;
@@ -289,7 +289,7 @@ void tst_NotificationActions::whatHasNotBeenSentIsNeverShown()
     QTRY_COMPARE(server.shown.size(), 1U);
 }
 
-void tst_NotificationActions::whatHasNoNumberYetIsWithdrawnWhenItHas()
+void tst_NotificationActions::aNotificationWithoutAnIdYetIsWithdrawnWhenItHasOne()
 {
     NotificationServer &server = serve();
     FreedesktopNotifications notifications;
@@ -307,7 +307,7 @@ void tst_NotificationActions::whatHasNoNumberYetIsWithdrawnWhenItHas()
     QTRY_COMPARE(server.closed, std::vector<uint>{100});
 }
 
-void tst_NotificationActions::whatIsShownAgainBeforeItHasANumberStays()
+void tst_NotificationActions::aNotificationShownAgainBeforeItHasAnIdStays()
 {
     NotificationServer &server = serve();
     FreedesktopNotifications notifications;
@@ -327,7 +327,7 @@ void tst_NotificationActions::whatIsShownAgainBeforeItHasANumberStays()
     QVERIFY(server.closed.empty());
 }
 
-void tst_NotificationActions::aRestartedServerIsNotToldToCloseTheOldOnes()
+void tst_NotificationActions::aRestartedServerIsNotAskedToCloseOldNotifications()
 {
     static_cast<void>(serve());
     FreedesktopNotifications notifications;
@@ -343,7 +343,7 @@ void tst_NotificationActions::aRestartedServerIsNotToldToCloseTheOldOnes()
     QVERIFY(after.closed.empty());
 }
 
-void tst_NotificationActions::howItWentIsReported_data()
+void tst_NotificationActions::howItWasClosedIsReported_data()
 {
     QTest::addColumn<QVariant>("reason");
     QTest::addColumn<QString>("end");
@@ -355,7 +355,7 @@ void tst_NotificationActions::howItWentIsReported_data()
     QTest::newRow("nonsense") << QVariant(QStringLiteral("1")) << QStringLiteral("closed");
 }
 
-void tst_NotificationActions::howItWentIsReported()
+void tst_NotificationActions::howItWasClosedIsReported()
 {
     QFETCH(const QVariant, reason);
     QFETCH(const QString, end);
@@ -396,10 +396,10 @@ void tst_NotificationActions::theNextAfterADismissedOneReplacesNothing()
     QCOMPARE(server.shown.back().replacedId, 0U);
 }
 
-void tst_NotificationActions::anotherServersAnswerThatIsNoNumberIsDoneWithout()
+void tst_NotificationActions::anInvalidIdFromTheServerIsIgnored()
 {
     NotificationServer &server = serve();
-    server.lastId = 4'294'967'295U; // The next number is 0, which is none.
+    server.lastId = 4'294'967'295U; // The next id is 0, which is not a valid one.
     FreedesktopNotifications notifications;
     const QObject sender;
     show(notifications, sender);

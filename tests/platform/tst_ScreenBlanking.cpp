@@ -14,14 +14,14 @@ namespace
 const QString kReason = QStringLiteral("to be read from afar");
 const QString kAsked = QStringLiteral("inhibit Wuffer: to be read from afar");
 
-/// Lets pass what is on its way.
+/// Waits until all messages to and from the screen saver have arrived.
 void settleWithScreenSaver()
 {
     settleWith(QStringLiteral("org.freedesktop.ScreenSaver"));
 }
 } // namespace
 
-/// Runs on a session bus of its own, where the test is the desktop.
+/// Runs on a private session bus, where the test plays the desktop.
 class tst_ScreenBlanking final : public Test
 {
     Q_OBJECT
@@ -36,17 +36,17 @@ private Q_SLOTS:
 
     void theScreenSaverIsAskedAndReleased();
     void nothingIsAskedBefore();
-    void twoAskersAreOneQuestionAndTheLastReleases();
+    void twoAskersMakeOneRequestAndTheLastReleasesIt();
     void askingTwiceIsReleasedOnce();
     void aScreenSaverAtItsOldPathIsFound();
     void withoutAScreenSaverThePortalIsAskedAndReleased();
     void aReleaseBeforeTheAnswerReleasesWhenItComes();
-    void anAnswerThatIsWantedAgainIsKept();
+    void anInhibitionWantedAgainBeforeTheAnswerIsKept();
     void aFrozenScreenSaverBlocksNothing();
     void aScreenSaverThatIsRestartedIsAskedAgain();
-    void aScreenSaverThatIsRestartedIsNotToldTheNumbersOfTheOldOne();
+    void aRestartedScreenSaverGetsNoCookiesOfTheOldOne();
     void aScreenSaverThatIsRestartedBeforeItHasAnsweredIsAskedAgain();
-    void withoutAnybodyNothingHappens();
+    void withoutAScreenSaverOrAPortalNothingHappens();
     void withoutABusNothingIsAskedFor();
 
 private:
@@ -64,7 +64,7 @@ void tst_ScreenBlanking::theScreenSaverIsAskedAndReleased()
 
     blanking.inhibit(asker, kReason);
     QTRY_COMPARE(server.diary, QStringList({kAsked}));
-    // The answer is on its way back.
+    // Waits for the answer.
     settleWithScreenSaver();
     blanking.release(asker);
 
@@ -81,7 +81,7 @@ void tst_ScreenBlanking::nothingIsAskedBefore()
     QCOMPARE(server.diary, QStringList());
 }
 
-void tst_ScreenBlanking::twoAskersAreOneQuestionAndTheLastReleases()
+void tst_ScreenBlanking::twoAskersMakeOneRequestAndTheLastReleasesIt()
 {
     const ScreenSaverService &server = serve();
     FreedesktopScreenBlanking blanking;
@@ -160,7 +160,7 @@ void tst_ScreenBlanking::aReleaseBeforeTheAnswerReleasesWhenItComes()
     QTRY_COMPARE(server.diary, QStringList({kAsked, QStringLiteral("release 7")}));
 }
 
-void tst_ScreenBlanking::anAnswerThatIsWantedAgainIsKept()
+void tst_ScreenBlanking::anInhibitionWantedAgainBeforeTheAnswerIsKept()
 {
     ScreenSaverService &server = serve();
     FreedesktopScreenBlanking blanking;
@@ -217,7 +217,7 @@ void tst_ScreenBlanking::aScreenSaverThatIsRestartedIsAskedAgain()
     QTRY_COMPARE(after.diary, QStringList({kAsked, QStringLiteral("release 7")}));
 }
 
-void tst_ScreenBlanking::aScreenSaverThatIsRestartedIsNotToldTheNumbersOfTheOldOne()
+void tst_ScreenBlanking::aRestartedScreenSaverGetsNoCookiesOfTheOldOne()
 {
     const ScreenSaverService &before = serve();
     FreedesktopScreenBlanking blanking;
@@ -231,12 +231,12 @@ void tst_ScreenBlanking::aScreenSaverThatIsRestartedIsNotToldTheNumbersOfTheOldO
     after.stopAnswering();
     blanking.release(asker);
 
-    // It may have been asked when it came, but what it has not granted it is not given back.
+    // The new screen saver may get a request, but never the release of a cookie of the old one.
     settleWithScreenSaver();
     QVERIFY(!after.diary.contains(QStringLiteral("release 7")));
 }
 
-void tst_ScreenBlanking::withoutAnybodyNothingHappens()
+void tst_ScreenBlanking::withoutAScreenSaverOrAPortalNothingHappens()
 {
     FreedesktopScreenBlanking blanking;
     const QObject asker;

@@ -16,7 +16,7 @@ namespace
 {
 constexpr auto kAddress = "DBUS_SESSION_BUS_ADDRESS";
 
-/// The end of a local socket.
+/// One end of a local socket.
 class Socket final
 {
 public:
@@ -29,7 +29,7 @@ public:
     ~Socket() { ::close(_end); }
     Q_DISABLE_COPY_MOVE(Socket)
 
-    /// Lets others call, and never answers; only so many may wait for it.
+    /// Listens, but never accepts a connection. `waiting` is the length of the queue.
     [[nodiscard]] bool listen(int waiting) const
     {
         return ::bind(_end, address(), sizeof _address) == 0 && ::listen(_end, waiting) == 0;
@@ -47,7 +47,7 @@ private:
 };
 } // namespace
 
-/// Whether there is a session bus that is worth talking to.
+/// Whether the program finds a session bus that answers.
 class tst_SessionBus final : public Test
 {
     Q_OBJECT
@@ -56,10 +56,10 @@ private Q_SLOTS:
     void init();
     void aBusThatIsNamedIsThere();
     void aBusThatIsNotNamedIsLookedForInItsUsualPlace();
-    void whereThereIsNoBusNobodyLooksForOne();
+    void aMissingBusIsDisabledForLibrariesToo();
     void aBusThatRefusesIsKept();
-    void aBusThatDoesNotAnswerIsDoneWithout();
-    void aBusThatTakesNobodyInIsDoneWithout();
+    void aBusThatDoesNotAnswerIsNotUsed();
+    void aBusWithAFullQueueIsNotUsed();
 
 private:
     [[nodiscard]] QByteArray usualPlace() const
@@ -94,11 +94,11 @@ void tst_SessionBus::aBusThatIsNotNamedIsLookedForInItsUsualPlace()
     QVERIFY(!SessionBus::isPresent());
 }
 
-void tst_SessionBus::whereThereIsNoBusNobodyLooksForOne()
+void tst_SessionBus::aMissingBusIsDisabledForLibrariesToo()
 {
     SessionBus::disableUnlessItAnswers();
     QVERIFY(!SessionBus::isPresent());
-    // Libraries would look for one, and start it, where they are told nothing.
+    // Without this address, libraries would look for a bus and start one.
     QCOMPARE(qgetenv(kAddress), QByteArray("disabled:"));
 }
 
@@ -110,7 +110,7 @@ void tst_SessionBus::aBusThatRefusesIsKept()
     QCOMPARE(qgetenv(kAddress), address);
 }
 
-void tst_SessionBus::aBusThatDoesNotAnswerIsDoneWithout()
+void tst_SessionBus::aBusThatDoesNotAnswerIsNotUsed()
 {
     const Socket bus(usualPlace());
     QVERIFY(bus.listen(5));
@@ -118,7 +118,7 @@ void tst_SessionBus::aBusThatDoesNotAnswerIsDoneWithout()
     QVERIFY(!SessionBus::isPresent());
 }
 
-void tst_SessionBus::aBusThatTakesNobodyInIsDoneWithout()
+void tst_SessionBus::aBusWithAFullQueueIsNotUsed()
 {
     const Socket bus(usualPlace());
     QVERIFY(bus.listen(0));

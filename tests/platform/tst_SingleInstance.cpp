@@ -10,7 +10,7 @@
 #include <csignal>
 #include <optional>
 
-/// The program is one in its session, and hears what others want of it.
+/// Only one instance of the program runs in a session, and it gets the requests of later launches.
 class tst_SingleInstance final : public Test
 {
     Q_OBJECT
@@ -20,20 +20,20 @@ public:
 
 private Q_SLOTS:
     void theFirstOwnsTheName();
-    void whoComesLaterDoesNot();
+    void aLaterInstanceDoesNotOwnTheName();
     void withoutABusEveryLaunchIsTheFirst();
     void activationIsPassedOn();
     void actionsArePassedOn();
     void filesAreAnActivation();
     void aTokenIsNotLeftForOtherProgramsToFind();
-    void whoRunsOnBesideTheFirstTakesItsPlace();
-    void whatTheDesktopSaysOfALaunchIsHandedOn();
-    void nobodyAnswersWhenThereIsNoFirst();
-    void aFirstThatHangsIsGivenUp();
+    void aSecondInstanceThatStaysInheritsTheName();
+    void theTokensOfALaunchArePassedOn();
+    void withoutAFirstInstanceForwardingFails();
+    void forwardingToAFirstInstanceThatHangsFails();
     void aBusThatIsAliveDoesNotHang();
     void aBusThatIsStoppedHangs();
-    void whereNobodyListensNothingHangs_data();
-    void whereNobodyListensNothingHangs();
+    void anAddressWithoutAListenerDoesNotHang_data();
+    void anAddressWithoutAListenerDoesNotHang();
 
 private:
     const PrivateBus &_bus;
@@ -45,7 +45,7 @@ const QString kName = QStringLiteral("org.wuffer.Wuffer");
 const QString kPath = QStringLiteral("/org/wuffer/Wuffer");
 const QString kInterface = QStringLiteral("org.freedesktop.Application");
 
-/// Another program that was started earlier: it owns the name, and hears nothing.
+/// An instance that was started earlier. It owns the name, but takes no calls.
 class OtherInstance final
 {
 public:
@@ -62,7 +62,7 @@ public:
     }
     Q_DISABLE_COPY_MOVE(OtherInstance)
 
-    /// Lets it take calls, which are answered when the event loop comes round.
+    /// From now on the instance takes calls, and answers them in this thread's event loop.
     void listen() { _bus.registerObject(kPath, &_object, QDBusConnection::ExportAllSlots); }
 
 private:
@@ -83,7 +83,7 @@ void tst_SingleInstance::theFirstOwnsTheName()
     QCOMPARE(ownerOfTheName(), QDBusConnection::sessionBus().baseService());
 }
 
-void tst_SingleInstance::whoComesLaterDoesNot()
+void tst_SingleInstance::aLaterInstanceDoesNotOwnTheName()
 {
     QVERIFY(QDBusConnection::sessionBus().unregisterService(kName));
     const OtherInstance other(_bus.address());
@@ -136,11 +136,11 @@ void tst_SingleInstance::aTokenIsNotLeftForOtherProgramsToFind()
     desktop.tell(QStringLiteral("Activate"),
                  {QVariantMap{{QStringLiteral("activation-token"), QStringLiteral("abc")}}});
     QCOMPARE(asked.count(), 1);
-    // Only Wayland would take it out of there.
+    // Only Qt's Wayland platform would take the token out of the environment.
     QVERIFY(!qEnvironmentVariableIsSet("XDG_ACTIVATION_TOKEN"));
 }
 
-void tst_SingleInstance::whoRunsOnBesideTheFirstTakesItsPlace()
+void tst_SingleInstance::aSecondInstanceThatStaysInheritsTheName()
 {
     QDBusConnection::sessionBus().unregisterService(kName);
     std::optional<OtherInstance> other(std::in_place, _bus.address());
@@ -152,7 +152,7 @@ void tst_SingleInstance::whoRunsOnBesideTheFirstTakesItsPlace()
     QTRY_COMPARE(ownerOfTheName(), QDBusConnection::sessionBus().baseService());
 }
 
-void tst_SingleInstance::nobodyAnswersWhenThereIsNoFirst()
+void tst_SingleInstance::withoutAFirstInstanceForwardingFails()
 {
     QDBusConnection::sessionBus().unregisterService(kName);
     const SingleInstance instance;
@@ -160,11 +160,11 @@ void tst_SingleInstance::nobodyAnswersWhenThereIsNoFirst()
     QVERIFY(!instance.forward(QStringLiteral("new-timer"), {}));
 }
 
-void tst_SingleInstance::aFirstThatHangsIsGivenUp()
+void tst_SingleInstance::forwardingToAFirstInstanceThatHangsFails()
 {
     QDBusConnection::sessionBus().unregisterService(kName);
     OtherInstance other(_bus.address());
-    // It lives in this thread, which waits.
+    // The other instance lives in this thread, which blocks in forward(), so it cannot answer.
     other.listen();
     const SingleInstance instance;
     QVERIFY(!instance.forward(QStringLiteral("new-timer"), {}));
@@ -183,7 +183,7 @@ void tst_SingleInstance::aBusThatIsStoppedHangs()
     QVERIFY(hangs);
 }
 
-void tst_SingleInstance::whereNobodyListensNothingHangs_data()
+void tst_SingleInstance::anAddressWithoutAListenerDoesNotHang_data()
 {
     QTest::addColumn<QByteArray>("address");
     QTest::newRow("no address") << QByteArray();
@@ -196,13 +196,13 @@ void tst_SingleInstance::whereNobodyListensNothingHangs_data()
     QTest::newRow("disabled") << QByteArray("disabled:");
 }
 
-void tst_SingleInstance::whereNobodyListensNothingHangs()
+void tst_SingleInstance::anAddressWithoutAListenerDoesNotHang()
 {
     QFETCH(const QByteArray, address);
     QVERIFY(!BusProbe::hangs(address));
 }
 
-void tst_SingleInstance::whatTheDesktopSaysOfALaunchIsHandedOn()
+void tst_SingleInstance::theTokensOfALaunchArePassedOn()
 {
     qunsetenv("DESKTOP_STARTUP_ID");
     qunsetenv("XDG_ACTIVATION_TOKEN");

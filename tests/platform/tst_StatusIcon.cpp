@@ -44,7 +44,7 @@ StatusIcon iconFor(const char *title, const QColor &color, const QPalette &palet
     return StatusIcon::of(image(), {QString::fromUtf8(title), color}, palette);
 }
 
-/// How many pixels of the picture have this colour.
+/// The number of pixels of this colour.
 int count(const QImage &picture, const QColor &color)
 {
     int found = 0;
@@ -58,7 +58,7 @@ int count(const QImage &picture, const QColor &color)
 const QColor kRed(230, 0, 0);
 } // namespace
 
-/// The picture that stands in the panel.
+/// The icon that the panel shows.
 class tst_StatusIcon final : public Test
 {
     Q_OBJECT
@@ -70,7 +70,7 @@ private Q_SLOTS:
     void anotherColorStaysOnABackgroundThatItStandsOutFrom();
     void withoutATimeTheImageShows();
     void theLastMomentsShowTheImageOnTheirColor();
-    void nothingIsNull();
+    void withoutAnImageAndATitleTheIconIsNull();
     void everySizeIsFilledByTheText_data();
     void everySizeIsFilledByTheText();
     void equalIconsAreEqual();
@@ -139,7 +139,7 @@ void tst_StatusIcon::theLastMomentsShowTheImageOnTheirColor()
     QCOMPARE(picture.pixelColor(0, 0).alpha(), 0);
 }
 
-void tst_StatusIcon::nothingIsNull()
+void tst_StatusIcon::withoutAnImageAndATitleTheIconIsNull()
 {
     QVERIFY(StatusIcon::of({}, {}, light()).isNull());
     QVERIFY(!iconFor("", Qt::black).isNull());
@@ -156,7 +156,7 @@ void tst_StatusIcon::everySizeIsFilledByTheText_data()
     }
 }
 
-/// The columns and rows that the text reaches, in pixels.
+/// The size of the rectangle around the text, in pixels.
 static QSize reach(const QImage &picture, const QColor &plate)
 {
     QRect reached;

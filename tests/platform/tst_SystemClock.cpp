@@ -11,7 +11,7 @@
 
 #include <cmath>
 
-/// The only tests that let real time pass, and little of it.
+/// These tests let real time pass, but only little.
 class tst_SystemClock final : public QObject
 {
     Q_OBJECT
@@ -29,7 +29,7 @@ private Q_SLOTS:
 
 namespace
 {
-/// How often the event loop wakes in this many milliseconds, the end of the wait included.
+/// How often the event loop wakes in this many milliseconds, including the end of the wait.
 int wakeUpsIn(int milliseconds)
 {
     int wakeUps = 0;
@@ -141,7 +141,7 @@ void tst_SystemClock::nothingWakesTheProcessOnceNoTimerIsActive()
     SystemClock clock;
     const Service<Clock> service(clock);
     ClockTimer timer([] {});
-    // The loop of the test wakes once to end, and perhaps once to begin.
+    // The test's own event loop wakes once at its end, and perhaps once at its start.
     constexpr int unavoidable = 2;
     QVERIFY(wakeUpsIn(60) <= unavoidable);
     timer.startRepeating(0.005);

@@ -4,7 +4,7 @@
 #include <QDesktopServices>
 #include <QUrl>
 
-/// What the real desktop is asked for, as far as it can be seen without one.
+/// The requests to the real desktop, as far as a test without a desktop can see them.
 class tst_SystemDesktop final : public Test
 {
     Q_OBJECT

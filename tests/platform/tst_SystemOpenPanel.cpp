@@ -13,23 +13,23 @@ namespace
 {
 const auto kTitle = QStringLiteral("Select a sound file");
 
-/// Shows the panel and does this to it.
+/// Shows the panel, and calls the function with its dialog.
 std::optional<QUrl> run(SystemOpenPanel &panel, const std::function<void(QFileDialog &)> &act)
 {
     QWidget window;
     window.show();
-    QTimer soon;
-    soon.setSingleShot(true);
-    QObject::connect(&soon, &QTimer::timeout, &window, [&] {
+    QTimer whenOpen;
+    whenOpen.setSingleShot(true);
+    QObject::connect(&whenOpen, &QTimer::timeout, &window, [&] {
         auto *dialog = window.findChild<QFileDialog *>();
         if (!dialog)
             qFatal("there is no file dialog");
         act(*dialog);
-        // One that a failed test has left open would wait for ever.
+        // A dialog that a failed test leaves open would block the test program for ever.
         if (dialog->isVisible())
             dialog->reject();
     });
-    soon.start(0);
+    whenOpen.start(0);
     return panel.runModal(window, kTitle);
 }
 
@@ -72,7 +72,7 @@ private:
 void tst_SystemOpenPanel::initTestCase()
 {
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
-    // The folders are the test's own, and stand for those of a user.
+    // The test makes its own folders, which stand for those of a user.
     QStandardPaths::setTestModeEnabled(false);
     qputenv("HOME", _home.path().toLocal8Bit());
     qputenv("XDG_CONFIG_HOME", inHome(QStringLiteral("config")).toLocal8Bit());
