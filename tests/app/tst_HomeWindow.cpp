@@ -26,7 +26,7 @@ private Q_SLOTS:
     void aNewTimerOpensFromIt();
     void everyPresetOpensFromIt();
     void namesOfPresetsAreShownAsTheyAre();
-    void longNamesAreCutOffAndToldInFull();
+    void longNamesAreElidedAndShownInFullByTheToolTip();
     void aSavedPresetIsShownAtOnce();
     void itHasTheMenus();
     // These come last: a program that has ended opens no more windows.
@@ -221,7 +221,7 @@ void tst_HomeWindow::namesOfPresetsAreShownAsTheyAre()
     QCOMPARE(presets().constFirst()->toolTip(), QString());
 }
 
-void tst_HomeWindow::longNamesAreCutOffAndToldInFull()
+void tst_HomeWindow::longNamesAreElidedAndShownInFullByTheToolTip()
 {
     Program program;
     const QString name = QStringLiteral("<i>&soup</i>\n").repeated(1000);

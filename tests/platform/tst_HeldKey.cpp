@@ -31,7 +31,7 @@ private Q_SLOTS:
         QTest::addColumn<bool>("repeats");
         QTest::addColumn<bool>("expected");
         QTest::newRow("pressed anew") << 10U << quint64(1080) << false << false;
-        QTest::newRow("let go at the same moment") << 10U << quint64(1000) << false << true;
+        QTest::newRow("released at the same moment") << 10U << quint64(1000) << false << true;
         QTest::newRow("another key at that moment") << 11U << quint64(1000) << false << false;
         QTest::newRow("known as a repeat") << 10U << quint64(1040) << true << true;
         QTest::newRow("of no keyboard") << 0U << quint64(1000) << false << false;

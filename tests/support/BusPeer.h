@@ -8,7 +8,7 @@
 #include <QStringList>
 #include <QTest>
 
-/// Another process's place on the session bus: calls one object of the program under test and
+/// Stands for another program on the session bus: calls one object of the program under test and
 /// receives its signals. Calls are asynchronous, because the program runs in this process.
 class BusPeer final : public QObject
 {

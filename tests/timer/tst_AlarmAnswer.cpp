@@ -189,7 +189,7 @@ void tst_AlarmAnswer::aWindowThatClosesInFrontOfItIsNoAnswer()
     t.endAlarm();
     Fixture::goTo(*other.timer.window());
     other.timer.window()->close();
-    // The window manager activates the next window by itself.
+    // Stands for the window manager, which activates the next window by itself.
     t.comeBack();
     QCOMPARE(t.standing(), 1U);
     t.goElsewhere();

@@ -22,7 +22,7 @@ private Q_SLOTS:
     void theUsersResetLeavesTheFieldsAlone();
     void keepWuffingRepeatsTheSoundUntilReset();
     void keepWuffingMayBeTickedDuringTheAlarm();
-    void aLoopedSoundIsNotAskedForWhenSomethingFollows();
+    void withAnotherActionTheSoundLoopsOnlyFromTheAlarmOn();
     void loopingRunsAgainAndCountsThePasses();
     void loopingTellsThePassesInTheNotification();
     void anotherActionForgetsThePasses();
@@ -154,7 +154,7 @@ void tst_AlarmPhase::keepWuffingMayBeTickedDuringTheAlarm()
     QVERIFY(!t.sounds.sound(kWuff)->loops());
 }
 
-void tst_AlarmPhase::aLoopedSoundIsNotAskedForWhenSomethingFollows()
+void tst_AlarmPhase::withAnotherActionTheSoundLoopsOnlyFromTheAlarmOn()
 {
     TimerFixture t;
     t.startCountdown(1);
