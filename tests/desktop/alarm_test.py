@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Lets alarms ring at a real sound server, also at one that fails while they do.
+"""Plays alarms on a real sound server, also on one that fails while they ring.
 
 Usage: alarm_test.py WUFFER FOLDER [unittest arguments]
 """
@@ -14,7 +14,7 @@ from support.samples import AUDIBLE, loudest, strength, write_tone
 from support.waiting import wait_until
 
 ALARM = 2.24
-# Of the user's own alarm.
+# The frequency of the user's own alarm sound, in hertz.
 TONE = 1000
 
 
@@ -22,16 +22,17 @@ class AlarmTest(DesktopTest):
     sound = True
 
     def start_two(self, keep_wuffing=False, **options):
-        """Starts two timers, one soon after the other; gives the later moment of zero."""
+        """Starts two timers, one soon after the other; returns when the later one reaches zero."""
         self.program = self.launch(**options)
         for count in (1, 2):
             if count == 2:
                 self.display.key("ctrl+n")
                 window = self.program.wait_for_windows(2)[1]
-                wait_until(lambda: self.display.active_window() == window, 5, "it is active")
+                wait_until(lambda: self.display.active_window() == window, 5,
+                           "the window is active")
             if keep_wuffing:
                 self.display.key("ctrl+k")
-            # The other one rings first.
+            # Only the waits since the last start count: that timer rings last.
             waits = self.waits(self.program)
             _, pressed = self.program.start_countdown(count)
         self.waited = waits
@@ -46,7 +47,7 @@ class AlarmTest(DesktopTest):
         wait_until(lambda: self.heard().first_sound_after(moment), 1, "the alarm is heard")
 
     def check_silence_after_reset(self):
-        """Nothing is heard from 100 ms after the key on."""
+        """Fails if a sound is heard later than 100 ms after the key is pressed."""
         waits = self.waits(self.program)
         self.display.key("Return")
         moment = time.monotonic()
@@ -55,7 +56,7 @@ class AlarmTest(DesktopTest):
         self.report(f"silent {delay * 1000:.0f} ms after the key")
         self.assertLess(delay, 0.1 + waits.seconds())
 
-    def test_keep_wuffing_goes_on_until_reset_for_each_timer_by_itself(self):
+    def test_each_timer_that_keeps_wuffing_rings_until_it_is_reset(self):
         zero = self.start_two(keep_wuffing=True)
         self.wait_for_buttons("Reset", 2)
         self.wait_until_heard()
@@ -74,7 +75,7 @@ class AlarmTest(DesktopTest):
 
     # Failures
 
-    # In each of them one timer rings when it happens and the other beeps.
+    # Each failure happens while one timer rings and the other beeps.
 
     def strike(self, break_down):
         zero = self.start_two()
@@ -84,7 +85,7 @@ class AlarmTest(DesktopTest):
         self.check_end(zero)
 
     def check_end(self, zero):
-        """The alarms end by themselves, when they would be over if they were heard."""
+        """Both alarms end by themselves at the time at which their sound would have ended."""
         self.check_life()
         self.wait_for_buttons("Reset", 2)
         self.check_life()
@@ -104,7 +105,7 @@ class AlarmTest(DesktopTest):
         self.assertIsNone(self.program.process.poll())
 
     def test_the_sound_server_dies_and_comes_back(self):
-        # It comes back while the timers ring, in its own time.
+        # The server restarts in a thread, while the timers ring.
         start = threading.Thread(target=self.session.sound.start)
 
         def break_down():
@@ -130,7 +131,7 @@ class AlarmTest(DesktopTest):
             self.session.sound.thaw()
 
     def launch_with_own_alarm(self):
-        """Launches with an alarm of the user's own; gives its path."""
+        """Launches with a sound file of the user's as the alarm; returns its path."""
         path = os.path.join(self.session.folder, "own.wav")
         write_tone(path, TONE, 1)
         self.program = self.launch(
@@ -138,11 +139,11 @@ class AlarmTest(DesktopTest):
         return path
 
     def check_built_in_alarm(self):
-        """It is heard, from zero to its end."""
+        """The built-in alarm is heard, from zero to its end."""
         waits = self.waits(self.program)
         self.program.wait_for_text("Time", "Wuff!", 3)
         zero = time.monotonic()
-        # Long enough for the pauses of the built-in alarm.
+        # Longer than the pauses within the built-in alarm.
         samples = self.heard().hear(1.2)
         self.assertGreater(loudest(samples), AUDIBLE)
         self.assertLess(strength(samples, TONE), 0.1 * loudest(samples))

@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Takes the session bus and what lives on it from the program while its timers ring.
+"""Kills the session bus and the services on it while the timers run and ring.
 
 Usage: bus_death_test.py WUFFER FOLDER [unittest arguments]
 """
@@ -17,11 +17,11 @@ ALARM = 2.24
 
 
 class BusDeathTest(DesktopTest):
-    """The accessibility tree goes with the bus, so here only what can be seen and heard tells."""
+    """The accessibility tree dies with the bus, so these tests judge pixels and sound only."""
 
     @classmethod
     def setUpClass(cls):
-        """Each test takes its session apart."""
+        """No shared session: each test destroys its own."""
 
     def setUp(self):
         self.session = Session(self.size)
@@ -34,30 +34,30 @@ class BusDeathTest(DesktopTest):
         return RED in self.display.colors(self.display.geometry(program.windows()[0]))
 
     def ring(self, program):
-        """Gives the moment at which the alarm has begun."""
+        """Starts a countdown of a second, waits for its alarm, and returns when that began."""
         _, pressed = program.start_countdown(1)
-        # It is red before, too.
+        # The last seconds are red as well, so wait until the alarm must have begun.
         time.sleep(pressed + 1.2 - time.monotonic())
         self.assertTrue(self.is_red(program))
         return pressed + 1
 
     def wait_until_quiet(self, program):
-        wait_until(lambda: not self.is_red(program), 5, "it rings no more", 0.02)
+        wait_until(lambda: not self.is_red(program), 5, "the timer has stopped ringing", 0.02)
 
     def kill_bus(self):
         self.session.bus_daemon.kill()
         self.session.bus_daemon.wait()
 
     def check_calm(self, program):
-        """Without work to do the program comes to rest and sleeps."""
-        wait_until(lambda: self.work(program, 0.25)[0] < 5, 5, "the program has come to rest")
+        """The program sleeps when it has nothing to do."""
+        wait_until(lambda: self.work(program, 0.25)[0] < 5, 5, "the program is idle")
         wakeups, busy = self.work(program, 1)
         self.report(f"{wakeups} wake-ups and {busy * 1000:.0f} ms of work in a second")
         self.assertLess(wakeups, 20)
         self.assertLess(busy, 0.1)
 
     def work(self, program, seconds):
-        """How often the program wakes up in so many seconds, and for how long it works."""
+        """Returns the wake-ups within the given seconds, and the processor time used."""
         before, ticks = program.wakeups(), self.ticks(program)
         time.sleep(seconds)
         return (program.wakeups() - before,
@@ -77,7 +77,7 @@ class BusDeathTest(DesktopTest):
         self.display.key("Return")
         self.wait_until_quiet(program)
         self.check_calm(program)
-        # The next one rings, too.
+        # The next alarm rings, too.
         self.display.key("Return")
         time.sleep(1.2)
         self.assertTrue(self.is_red(program))
@@ -103,10 +103,10 @@ class BusDeathTest(DesktopTest):
         waits = self.waits(program)
         _, pressed = program.start_countdown(3)
         self.kill_bus()
-        # In the other window it would not have to ask for attention.
+        # A timer asks for attention only if its window is not active: activate another one.
         self.display.key("ctrl+comma")
         program.wait_for_windows(2)
-        wait_until(lambda: self.display.active_window() != timer, 2, "it is not active")
+        wait_until(lambda: self.display.active_window() != timer, 2, "the timer is not active")
         wait_until(lambda: self.display.is_urgent(timer), 5, "the timer asks for attention")
         self.assertAlmostEqual(time.monotonic() - pressed, 3, delta=0.3 + waits.seconds())
         self.quit(program)

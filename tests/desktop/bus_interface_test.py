@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Looks at what the program exports on the session bus, and misuses it.
+"""Checks what the program exports on the session bus, and misuses it.
 
 Usage: bus_interface_test.py WUFFER FOLDER [unittest arguments]
 """
@@ -19,7 +19,7 @@ ITEM = ("/StatusNotifierItem", "org.kde.StatusNotifierItem")
 MENU = ("/StatusNotifierItem/Menu", "com.canonical.dbusmenu")
 MUTED = '{"soundOff": 1, "growlDisabled": 1}'
 
-# What every object on a bus has.
+# The interfaces that every D-Bus object has.
 STANDARD = {"org.freedesktop.DBus.Introspectable", "org.freedesktop.DBus.Peer",
             "org.freedesktop.DBus.Properties"}
 
@@ -52,18 +52,19 @@ HUGE = "x" * 10_000_000
 
 
 class BusInterfaceTest(DesktopTest):
-    """Two timers run, so that there is something to do harm to."""
+    """Two timers run during each test, and must still run at its end."""
 
     def setUp(self):
         super().setUp()
-        # Freed memory that the sanitizers set aside would look like growth.
+        # The sanitizers keep freed memory in quarantine, which would look like a leak.
         sanitizers = os.environ.get("ASAN_OPTIONS", "") + ":quarantine_size_mb=1"
         self.program = self.launch(settings=MUTED, environment={"ASAN_OPTIONS": sanitizers})
         for count in (1, 2):
             if count == 2:
                 self.display.key("ctrl+n")
                 window = self.program.wait_for_windows(2)[1]
-                wait_until(lambda: self.display.active_window() == window, 5, "it is active")
+                wait_until(lambda: self.display.active_window() == window, 5,
+                           "the window is active")
             self.program.wait_for_focus_in("Minutes")
             self.display.type("50")
             self.display.key("Return")
@@ -87,7 +88,7 @@ class BusInterfaceTest(DesktopTest):
                                           Gio.DBusCallFlags.NO_AUTO_START, timeout, None)
 
     def try_call(self, where, method, arguments=None):
-        """Whether it was taken; a refusal must be an answer, too."""
+        """Returns whether the call succeeded; a refused call must be answered with an error."""
         try:
             self.call(where, method, arguments)
             return True
@@ -96,7 +97,7 @@ class BusInterfaceTest(DesktopTest):
             return False
 
     def send(self, where, method, arguments):
-        """A call that waits for no answer."""
+        """Sends a call and does not wait for the reply."""
         message = Gio.DBusMessage.new_method_call(NAME, *where, method)
         message.set_flags(Gio.DBusMessageFlags.NO_REPLY_EXPECTED)
         message.set_body(arguments)
@@ -107,7 +108,7 @@ class BusInterfaceTest(DesktopTest):
         return ElementTree.fromstring(text)
 
     def exported(self, path="/"):
-        """What there is, by path and interface."""
+        """Returns the exported members by path and interface."""
         found = {}
         node = self.introspect(path)
         for interface in node.findall("interface"):
@@ -195,7 +196,7 @@ class BusInterfaceTest(DesktopTest):
         start = time.monotonic()
         for _ in range(count):
             self.send(where, method, arguments)
-        # It is answered in its turn, after all the others.
+        # Calls are answered in order, so this reply comes after all the others.
         self.call(where, method, arguments, 20_000)
         self.assertLess(self.program.answers(), 0.5)
         self.report(f"{count} calls of {method} in {time.monotonic() - start:.1f} s")

@@ -15,13 +15,14 @@ PLACES = ((20, 20), (660, 20), (20, 400), (660, 400))
 
 class ChainTest(DesktopTest):
     def launch_timers(self, count):
-        """So many timers side by side, of two seconds each."""
+        """Launches this many timers of two seconds each, side by side."""
         self.program = self.launch()
         for number in range(1, count + 1):
             if number > 1:
                 self.display.key("ctrl+n")
                 window = self.program.wait_for_windows(number)[-1]
-                wait_until(lambda w=window: self.display.active_window() == w, 5, "it is active")
+                wait_until(lambda w=window: self.display.active_window() == w, 5,
+                           "the window is active")
             self.program.wait_for_focus_in("Minutes")
             self.program.type_seconds(2)
         windows = self.program.windows()
@@ -30,7 +31,7 @@ class ChainTest(DesktopTest):
         return windows
 
     def margin(self, window):
-        """A point of the window where nothing takes the mouse."""
+        """Returns a point of the window where no control takes the mouse press."""
         place = self.display.geometry(window)
         return place.x + 5, place.bottom - 5
 
@@ -44,11 +45,11 @@ class ChainTest(DesktopTest):
 
     def is_lit(self, window):
         x, y = self.margin(window)
-        # Not where the dragged picture is.
+        # Away from the pointer, whose drag picture would cover the colour.
         return self.display.color_at(x + 300, y) == WHITE
 
     def shown_in(self, window):
-        """What the elapsed line of the window on the screen says."""
+        """Returns the text of the window's elapsed line."""
         place = self.display.geometry(window)
         found = [label.name for label in self.program.all("display",
                                                                 description="Elapsed time")
@@ -67,7 +68,7 @@ class ChainTest(DesktopTest):
         self.link(first, second)
         self.wait_for_chain(first, second)
         self.assertEqual(self.display.active_window(), first)
-        # With the right button no key is needed.
+        # A drag with the right button needs no Ctrl key.
         self.link(second, third, button=3, key=None)
         self.wait_for_chain(first, second, third)
         self.assertEqual(len(self.program.all("button", "Chained")), 2)
@@ -76,7 +77,7 @@ class ChainTest(DesktopTest):
         start = time.monotonic()
         self.display.key("Return")
         for window in (first, second, third):
-            wait_until(lambda w=window: self.shown_in(w) == "2s", 8, "it is in its alarm")
+            wait_until(lambda w=window: self.shown_in(w) == "2s", 8, "the timer rings")
             self.assertEqual(len(self.program.all("button", "Reset")), 1)
             moment = time.monotonic() - start
             self.report(f"alarm after {moment:.2f} s")
@@ -92,7 +93,7 @@ class ChainTest(DesktopTest):
         with self.display.dragging(self.margin(third), self.margin(first), key="ctrl"):
             for window in (first, second, third, fourth):
                 wait_until(lambda w=window: self.is_lit(w), 3, "the window is lit")
-            # Away from all of them.
+            # Off all windows.
             self.display.move_pointer(1270, 790)
             for window in (first, second, third, fourth):
                 wait_until(lambda w=window: not self.is_lit(w), 3, "the window is not lit")
@@ -120,7 +121,7 @@ class ChainTest(DesktopTest):
             self.display.key("ctrl+o")
             wait_until(lambda w=window, c=closed: self.display.geometry(w).height > c + 50, 3,
                        "the drawer is out")
-        # From the drawer of the one to the drawer of the other.
+        # From one window's drawer to the other's.
         with self.display.dragging(self.label_in(second), self.label_in(first), key="ctrl"):
             wait_until(lambda: self.is_lit(first) and self.is_lit(second), 3, "both are lit")
         self.wait_for_chain(first, second)
@@ -129,7 +130,7 @@ class ChainTest(DesktopTest):
         self.quit(self.program)
 
     def label_in(self, window):
-        """A point on one of the labels in the drawer of the window."""
+        """Returns a point on a label in the drawer of the window."""
         area = self.display.geometry(window)
         places = [self.program.place(label) for label in self.program.all("display", "Alarm:")]
         inside = [place for place in places if area.x <= place.x < area.right]
@@ -152,11 +153,11 @@ class ChainTest(DesktopTest):
         first, second, third = self.launch_timers(3)
         self.link(first, second)
         with self.display.dragging(self.margin(third), self.margin(second), key="ctrl"):
-            wait_until(lambda: self.is_lit(first) and self.is_lit(third), 3, "they are lit")
+            wait_until(lambda: self.is_lit(first) and self.is_lit(third), 3, "both are lit")
             self.display.close_window(second)
             self.program.wait_for_windows(2)
             wait_until(lambda: not self.is_lit(first) and not self.is_lit(third), 3,
-                       "none is lit")
+                       "no window is lit")
         self.assertEqual(len(self.program.all("button", "Start")), 2)
         self.link(first, third)
         self.wait_for_chain(first, third)
@@ -173,7 +174,7 @@ class ChainTest(DesktopTest):
         self.report(f"moved by {moved.x - before.x}, {moved.y - before.y}")
         self.assertEqual(moved[2:], before[2:])
         self.assertEqual(len(self.program.all("button", "Start")), 2)
-        # The mouse is free again.
+        # The move has released the mouse: links work again.
         self.link(first, second)
         self.quit(self.program)
 
@@ -200,7 +201,7 @@ class ChainTest(DesktopTest):
         with self.display.dragging(chained, self.margin(third), key="ctrl"):
             wait_until(lambda: self.is_lit(third) and self.is_lit(second), 3, "both are lit")
         self.wait_for_chain(third, second)
-        # Keep wuffing cannot be ticked where a timer follows; with the right button no key is needed.
+        # "Keep wuffing" is disabled for a timer with a successor. The right button needs no key.
         box = self.button_in(third, "Keep wuffing", "box")
         with self.display.dragging(box, self.margin(first), button=3):
             wait_until(lambda: self.is_lit(first) and self.is_lit(third), 3, "both are lit")
@@ -212,7 +213,7 @@ class ChainTest(DesktopTest):
         self.quit(self.program)
 
     def button_in(self, window, name, role="button"):
-        """The middle of the button in the window."""
+        """Returns the middle of the button in the window."""
         area = self.display.geometry(window)
         places = [self.program.place(button) for button in self.program.all(role, name)]
         inside = [place for place in places if area.x <= place.x < area.right

@@ -12,7 +12,7 @@ from support.samples import RATE, loudest, rms
 from support.waiting import wait_until
 
 RED = (230, 0, 0)
-# How many samples are looked at together: those of ten milliseconds.
+# Samples in ten milliseconds: recordings are searched in steps of this length.
 STRETCH = RATE // 100
 
 
@@ -62,7 +62,7 @@ class CountdownTest(DesktopTest):
 
     @measures_moments
     def test_the_last_twelve_seconds_beep_ever_louder(self):
-        # On a busy computer a gap may tear one of the beeps, and makes it two or too quiet.
+        # On a busy computer, a gap in the playback may split a beep in two or make it too quiet.
         program = self.launch()
         waits = self.waits(program)
         before, after = program.start_countdown(13)
@@ -74,7 +74,7 @@ class CountdownTest(DesktopTest):
         volumes = [volume for _, volume in beeps]
         self.report("beeps with " + ", ".join(f"{after + 13 - moment:.2f}" for moment, _ in beeps)
                     + " s left, the last " + f"{volumes[-1] / volumes[0]:.1f} times the first")
-        # The first of twelve, between 12 and 11 seconds, is silent.
+        # The first of the twelve beeps, between 12 and 11 seconds, has volume 0.
         self.assertEqual(len(beeps), 11)
         self.assertAlmostEqual(after + 13 - beeps[0][0], 11, delta=0.2 + waited)
         for step in steps:
@@ -91,7 +91,7 @@ class CountdownTest(DesktopTest):
         self.quit(program)
 
     def beeps(self, start, end):
-        """The moments at which the beeps began, and how loud they were."""
+        """Returns the start and the loudness of each beep between two moments."""
         found = []
         heard = self.heard().between(start, end)
         for place in range(0, len(heard), STRETCH):
@@ -101,7 +101,7 @@ class CountdownTest(DesktopTest):
                     found.append([moment, moment, []])
                 found[-1][1] = moment
                 found[-1][2].extend(stretch)
-        # Every beep is as long as every other, so what little is cut off at the ends is the same.
+        # All beeps have the same length, so the search cuts the same little off each of them.
         return [(first, rms(samples)) for first, _, samples in found]
 
 

@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Fills screens of two sizes with the display, and gives them back.
+"""Enters and leaves the full screen, on screens of two sizes.
 
 Usage: full_screen_test.py WUFFER FOLDER [unittest arguments]
 """
@@ -37,14 +37,14 @@ class FullScreenTest(DesktopTest):
         self.place = self.screen.frame(self.window)
 
     def covering_window(self):
-        """The window that covers the whole screen, if there is one."""
+        """Returns the window that covers the whole screen; None if there is none."""
         whole = Rect(0, 0, self.screen.width, self.screen.height)
         for window in self.program.windows():
             try:
                 if self.screen.frame(window) == whole == self.screen.geometry(window):
                     return window
             except WindowGone:
-                # It has gone since it was listed.
+                # The window has closed since it was listed.
                 continue
         return None
 
@@ -68,7 +68,7 @@ class FullScreenTest(DesktopTest):
         wait_until(lambda: pointer.is_visible(self.screen), 2, "the pointer shows")
         self.program.find("button", "Stop")
 
-    def test_any_key_ends_it_and_is_typed_nowhere(self):
+    def test_any_key_ends_the_full_screen_and_is_not_typed(self):
         self.start()
         for key in ("7", "space", "Return", "Escape", "ctrl+n", "ctrl+t", "F11"):
             with self.subTest(key):
@@ -77,12 +77,12 @@ class FullScreenTest(DesktopTest):
                 self.check_back()
         for field, text in (("Name", ""), ("Minutes", "60"), ("Seconds", "0")):
             self.assertEqual(self.program.text(field), text)
-        # Now the keyboard works in the window again, without a click.
+        # The timer's window has the keyboard focus again, without a click.
         self.screen.key("Return")
         self.program.wait_for_button("Start")
         self.quit(self.program)
 
-    def test_what_is_no_press_leaves_it_as_it_is(self):
+    def test_other_buttons_the_wheel_and_modifiers_do_not_end_it(self):
         self.start()
         self.enter()
         self.screen.act("click", 3)
@@ -93,7 +93,7 @@ class FullScreenTest(DesktopTest):
         self.stays()
         self.screen.act("keydown", "ctrl", "keyup", "ctrl", "key", "shift")
         self.stays()
-        # The press that ended the last one is let go in the next.
+        # The key whose press ended one full screen is released during the next.
         self.screen.act("keydown", "a")
         self.check_back()
         self.program.display.act("key", "F11")
@@ -136,7 +136,7 @@ class FullScreenTest(DesktopTest):
         self.assertEqual(self.display.frame(other), place)
         self.quit(program)
 
-    def test_a_timer_told_to_starts_in_it_and_its_alarm_ends_it(self):
+    def test_the_full_screen_option_lasts_from_the_start_to_the_end_of_the_alarm(self):
         program = self.program = self.launch()
         self.screen = self.display
         box = program.place(program.find("box", "Full screen"))
@@ -148,14 +148,15 @@ class FullScreenTest(DesktopTest):
         program.wait_for_text("Time", "Wuff!")
         Picture(self.display).save(os.path.join(self.output, "alarm on the full screen.png"))
         self.stays()
-        wait_until(lambda: not self.covering_window(), 5, "the end of the alarm ends it")
+        wait_until(lambda: not self.covering_window(), 5,
+                   "the end of the alarm ends the full screen")
         self.quit(program)
 
     def check_ink(self, name):
-        """Nothing of the display is cut off: around each text there is a free line."""
+        """No text of the display is cut off: each has a free line of pixels around it."""
         whole = Rect(0, 0, self.screen.width, self.screen.height)
         wait_until(lambda: Picture(self.screen).border(whole) == {PANEL}, 3,
-                   "the display is drawn, and not up to the edges", 0.1)
+                   "the display is drawn and leaves a margin", 0.1)
         picture = Picture(self.screen)
         picture.save(os.path.join(self.output, f"{name} {picture.width}x{picture.height}.png"))
         labels = [label for label in self.program.all("display")

@@ -22,7 +22,7 @@ PATH = "/org/wuffer/Wuffer"
 
 class HomeTest(DesktopTest):
     def launch_again(self, program, *arguments, environment=None):
-        """A launch while the program runs; gives how many seconds it took."""
+        """Launches the program while it runs; returns how many seconds that took."""
         start = time.monotonic()
         result = subprocess.run([program.executable, *arguments], timeout=10, check=False,
                                 env=dict(program.environment, **(environment or {})),
@@ -40,7 +40,7 @@ class HomeTest(DesktopTest):
         self.display.key("ctrl+w")
         self.assertNotEqual(program.wait_for_home(), timer)
         self.display.key("Return")
-        wait_until(lambda: program.has("field", "Minutes"), 5, "a timer is there")
+        wait_until(lambda: program.has("field", "Minutes"), 5, "a timer is open")
         program.wait_for_windows(1)
         self.display.key("ctrl+w")
         self.close_home(program)
@@ -64,7 +64,7 @@ class HomeTest(DesktopTest):
         self.display.type("5")
         self.report(f"{self.launch_again(program, '--new-timer'):.3f} s")
         second = program.wait_for_windows(2)[1]
-        wait_until(lambda: self.display.active_window() == second, 5, "it is active")
+        wait_until(lambda: self.display.active_window() == second, 5, "the window is active")
         self.display.type("5")
         self.launch_again(program, "--start-all")
         wait_until(lambda: len(program.all("button", "Stop")) == 2, 5, "two timers run")
@@ -80,9 +80,9 @@ class HomeTest(DesktopTest):
         program = self.launch()
         timer, = program.windows()
         self.display.key("ctrl+m")
-        wait_until(lambda: self.display.active_window() != timer, 5, "it is minimized")
+        wait_until(lambda: self.display.active_window() != timer, 5, "the timer is minimized")
         self.launch_again(program)
-        wait_until(lambda: self.display.active_window() == timer, 5, "it is back")
+        wait_until(lambda: self.display.active_window() == timer, 5, "the timer is active again")
         self.quit(program)
 
     def test_the_desktop_is_told_that_the_launch_is_over(self):
@@ -97,7 +97,7 @@ class HomeTest(DesktopTest):
         self.session.bus.call_sync(NAME, PATH, "org.freedesktop.Application", method, arguments,
                                    None, Gio.DBusCallFlags.NO_AUTO_START, 5000, None)
 
-    def test_started_as_a_service_it_waits_for_its_orders(self):
+    def test_started_as_a_service_it_opens_no_window_until_it_is_called(self):
         program = self.launch_service()
         self.assertEqual(program.windows(), [])
         self.call("ActivateAction", GLib.Variant("(sava{sv})", ("converter", [], {})))
@@ -113,7 +113,7 @@ class HomeTest(DesktopTest):
         wait_until(lambda: self.session.owns(NAME), 5, "the program owns its name")
         return program
 
-    def test_a_program_that_hangs_is_done_without(self):
+    def test_a_launch_opens_a_window_if_the_running_program_hangs(self):
         program = self.launch()
         os.kill(program.process.pid, signal.SIGSTOP)
         try:
@@ -127,10 +127,10 @@ class HomeTest(DesktopTest):
     def quit_when_active(self, program):
         window, = program.windows()
         self.display.activate(window)
-        wait_until(lambda: self.display.active_window() == window, 5, "it is active")
+        wait_until(lambda: self.display.active_window() == window, 5, "the window is active")
         self.quit(program)
 
-    def test_a_bus_that_hangs_is_done_without(self):
+    def test_a_launch_opens_a_window_if_the_bus_hangs(self):
         self.session.bus_daemon.send_signal(signal.SIGSTOP)
         try:
             start = time.monotonic()

@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Opens and saves presets on keyboards that have the digits elsewhere.
+"""Opens and saves presets with keyboard layouts that have the digits on other keys.
 
 Usage: keyboard_layout_test.py WUFFER FOLDER [unittest arguments]
 """
@@ -13,7 +13,7 @@ from support import processes
 from support.case import DesktopTest, main
 from support.waiting import wait_until
 
-# The numbers of keys: the 1 in the row of digits and the one left of it, the 1 of the keypad, Alt.
+# Key codes: the 1 in the row of digits, the key left of it, the 1 of the keypad, Alt.
 FIRST_KEY = 10
 LEFT_OF_FIRST_KEY = 49
 KEYPAD_1 = 87
@@ -41,12 +41,12 @@ class KeyboardLayoutTest(DesktopTest):
             x.XCloseDisplay(connection)
 
     def choose_layout(self, number):
-        """Switches to one of several layouts, as a person does with a key."""
+        """Switches to one of several layouts, as the layout key does."""
         with self.connection() as (x, connection):
             x.XkbLockGroup(connection, CORE_KEYBOARD, number)
 
     def press(self, *keys):
-        """Presses keys by their numbers, in whichever layout is in use."""
+        """Presses keys by their key codes, which do not depend on the layout."""
         test = ctypes.CDLL("libXtst.so.6")
         with self.connection() as (_, connection):
             for down, order in ((1, keys), (0, keys[::-1])):
@@ -54,7 +54,7 @@ class KeyboardLayoutTest(DesktopTest):
                     test.XTestFakeKeyEvent(connection, key, down, ctypes.c_ulong(0))
 
     def opens(self, program, keys, title):
-        """Presses the keys, by name or by number, which open a timer of this name."""
+        """Presses the keys, given by name or key code; expects a new timer with this title."""
         count = len(program.windows())
         if isinstance(keys, str):
             self.display.key(keys)
@@ -62,7 +62,7 @@ class KeyboardLayoutTest(DesktopTest):
             self.press(*keys)
         window = program.wait_for_windows(count + 1)[-1]
         wait_until(lambda: self.display.active_window() == window, 5, "the window is active")
-        wait_until(lambda: title in self.display.title(window), 5, f"it is {title}")
+        wait_until(lambda: title in self.display.title(window), 5, f"the title says {title}")
 
     def minutes_saved(self, program, number):
         with open(program.settings_path, encoding="utf-8") as file:
@@ -110,7 +110,7 @@ class KeyboardLayoutTest(DesktopTest):
         self.display.key("F2")
         program.wait_for_focus_in("Name")
         self.display.act("keydown", "alt", "keydown", FIRST_KEY)
-        # So long that the key repeats some twenty times.
+        # Long enough for about twenty key repeats.
         time.sleep(1.5)
         self.display.act("keyup", FIRST_KEY, "keyup", "alt")
         program.wait_for_windows(2)
@@ -120,7 +120,7 @@ class KeyboardLayoutTest(DesktopTest):
                          ["", "Preset 1"])
         self.quit(program)
 
-    def test_an_english_keyboard_does_not_mind_shift(self):
+    def test_an_english_keyboard_opens_and_saves_presets_with_shift_too(self):
         self.set_layout("us")
         program = self.launch()
         self.opens(program, f"alt+{FIRST_KEY + 2}", "Preset 3")
@@ -129,24 +129,24 @@ class KeyboardLayoutTest(DesktopTest):
         wait_until(lambda: program.all("display", "Saved to Preset 9", "Elapsed time"), 5, "saved")
         self.quit(program)
 
-    def test_a_layout_with_digits_in_another_order_keeps_its_own(self):
+    def test_the_digits_of_a_layout_in_another_order_count(self):
         self.set_layout("us", "-variant", "dvp")
         program = self.launch()
-        # The second key of that row has a bracket, and with Shift a seven.
+        # In this layout, the second key of the row types a bracket, and with Shift a 7.
         self.opens(program, f"alt+{FIRST_KEY + 1}", "Preset 7")
         self.opens(program, f"alt+shift+{FIRST_KEY + 1}", "Preset 7")
-        # The one behind the tenth has an exclamation mark, and with Shift an eight.
+        # The key right of the tenth types an exclamation mark, and with Shift an 8.
         self.opens(program, f"alt+{FIRST_KEY + 10}", "Preset 8")
-        # The first has no digit at all, and the one that others have there is elsewhere.
+        # The first key types no digit; the 1 that other layouts have there is on the fifth key.
         self.display.key(f"alt+{FIRST_KEY}")
         self.opens(program, f"alt+{FIRST_KEY + 4}", "Preset 1")
         self.assertEqual(len(program.windows()), 5)
         self.quit(program)
 
-    def test_a_letter_in_the_place_of_a_digit_is_none(self):
+    def test_a_key_with_a_letter_instead_of_a_digit_opens_no_preset(self):
         self.set_layout("hu")
         program = self.launch()
-        # The tenth has a letter; the digit that others have there is left of the first.
+        # The tenth key types a letter; the 0 is left of the first key.
         self.display.key(f"ctrl+{FIRST_KEY + 9}")
         self.display.key(f"alt+{FIRST_KEY + 9}")
         self.opens(program, f"alt+{LEFT_OF_FIRST_KEY}", "Preset 0")

@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Finds its way through the menus with the keyboard, as the window manager sees it.
+"""Uses the menus with the keyboard and judges by what the window manager reports.
 
 Usage: menus_test.py WUFFER FOLDER [unittest arguments]
 """
@@ -40,12 +40,12 @@ class MenuUser(DesktopTest):
         wait_until(lambda: self.popups() == before, 3, "the menu is closed")
 
     def popups(self):
-        """The windows on the screen that the window manager leaves alone."""
+        """Returns the override-redirect windows on the screen, such as open menus."""
         while True:
             try:
                 return set(filter(self.is_popup, self.own_windows()))
             except subprocess.CalledProcessError:
-                # One has gone while it was looked at.
+                # The window has closed while it was being examined.
                 continue
 
     def own_windows(self):
@@ -63,24 +63,24 @@ class MenuUser(DesktopTest):
 
     def wait_for_state(self, window, above):
         wait_until(lambda: (ABOVE in self.display.state(window)) == above, 3,
-                   f"it is kept on top: {above}")
+                   f"the window is kept on top: {above}")
 
 
 class MenusTest(MenuUser):
-    def test_a_timer_is_kept_on_top_and_let_go(self):
+    def test_a_timer_is_kept_on_top_until_the_item_is_chosen_again(self):
         program, first, second = self.launch_two()
         self.activate(first)
         self.choose("w", "t")
         self.wait_for_state(first, True)
         self.activate(second)
         self.assertTrue(self.is_above(first, second))
-        # It is still the same window at the same place, and the choice is not kept.
+        # The window was not replaced or moved, and the choice is not stored.
         self.assertEqual(program.windows(), [first, second])
         self.activate(first)
         self.choose("w", "t")
         self.wait_for_state(first, False)
         self.activate(second)
-        wait_until(lambda: self.is_above(second, first), 3, "the other is in front")
+        wait_until(lambda: self.is_above(second, first), 3, "the other window is in front")
         self.quit(program)
         with open(program.settings_path, encoding="utf-8") as file:
             self.assertNotIn("bove", file.read())
@@ -90,7 +90,7 @@ class MenusTest(MenuUser):
         processes.run(["wmctrl", "-i", "-r", hex(second), "-b", "add,above"],
                       self.display.environment)
         self.wait_for_state(second, True)
-        # Were the item not checked, choosing it would keep the window on top.
+        # If the item were not checked, choosing it would keep the window on top.
         self.choose("w", "t")
         self.wait_for_state(second, False)
         self.assertNotIn(ABOVE, self.display.state(first))
@@ -98,7 +98,7 @@ class MenusTest(MenuUser):
 
     def test_a_timer_is_brought_to_the_front_from_the_list(self):
         program, first, second = self.launch_two()
-        # Up goes to the last of the menu, which is the newest timer, and on to the one before.
+        # Up selects the last item, the newest timer; a second Up selects the timer before it.
         self.choose("w", "Up", "Up", "Return")
         self.wait_until_active(first)
         self.choose("w", "Up", "Return")
@@ -122,7 +122,7 @@ class MenusTest(MenuUser):
         self.display.key("F2")
         self.display.type("Tea")
         wait_until(lambda: program.all("display", "Tea") or "Tea" in self.display.title(
-            self.display.active_window()), 3, "it has its name")
+            self.display.active_window()), 3, "the timer has its name")
         self.assertNotIn("Preset", self.display.title(self.display.active_window()))
         self.activate(first)
         self.quit(program)
@@ -145,14 +145,14 @@ class MenusTest(MenuUser):
 
 
 class SimpleWindowManagerTest(MenuUser):
-    def test_nothing_is_kept_on_top_where_the_window_manager_does_not_say_that_it_can(self):
+    def test_keep_on_top_is_disabled_if_the_window_manager_does_not_support_it(self):
         self.assertIn(ABOVE, self.display.property("_NET_SUPPORTED"))
         processes.run(["xprop", "-root", "-f", "_NET_SUPPORTED", "32a",
                        "-set", "_NET_SUPPORTED", "_NET_ACTIVE_WINDOW"], self.display.environment)
         # Only the first session of a test program has an accessibility tree.
         program = self.launch(accessible=False)
         window, = program.windows()
-        # The letter of a disabled item does nothing.
+        # The mnemonic of a disabled item does nothing.
         self.choose("w", "t", "Escape")
         time.sleep(0.3)
         self.assertNotIn(ABOVE, self.display.state(window))

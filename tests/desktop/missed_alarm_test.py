@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""What is left of an alarm that was missed, how it is found, and how one that goes on is stopped.
+"""The notification that a missed alarm leaves, what removes it, and its Stop button.
 
 Usage: missed_alarm_test.py WUFFER FOLDER [unittest arguments]
 """
@@ -10,12 +10,12 @@ import time
 from support.case import DesktopTest, main
 from support.waiting import wait_until
 
-# For so long an activation may be that which the program has asked for.
+# In seconds: an activation this soon after an alarm may be the one the program asked for.
 OWN_ACTIVATION = 2
 
 
 def of_two_seconds(**settings):
-    """Settings with which the first timer runs two seconds, and presets five minutes."""
+    """Returns settings for a first timer of two seconds and presets of five minutes."""
     return json.dumps({
         "defaultWufferSettings": {"hours": 0, "minutes": 0, "seconds": 2, **settings},
         "Preset 1": {"title": "Tea", "hours": 0, "minutes": 5, "seconds": 0}})
@@ -32,7 +32,7 @@ class MissedAlarmTest(DesktopTest):
         wait_until(lambda: self.display.active_window() == window, 8, "the window is active")
 
     def start_and_leave(self, **settings):
-        """Starts the timer and opens another; gives the program and both windows."""
+        """Starts the timer and opens another; returns the program and both windows."""
         program = self.launch(settings=of_two_seconds(**settings))
         self.display.key("Return")
         program.wait_for_button("Stop")
@@ -42,7 +42,7 @@ class MissedAlarmTest(DesktopTest):
         return program, first, second
 
     def miss(self):
-        """Lets an alarm pass while another window is active."""
+        """Waits for an alarm to end while another window is active."""
         program, first, second = self.start_and_leave()
         self.wait_for_notifications(1)
         self.assertEqual(self.session.notifications.buttons(), ["Show", "Stop"])
@@ -51,7 +51,7 @@ class MissedAlarmTest(DesktopTest):
         self.assertEqual(self.session.notifications.shown(), 1)
         return program, first, second
 
-    def test_the_end_of_the_sound_leaves_it_with_show_alone(self):
+    def test_the_end_of_the_sound_leaves_the_notification_with_only_show(self):
         program, first, _ = self.miss()
         self.assertEqual(self.session.notifications.buttons(), ["Show"])
         self.session.notifications.press("Show")
@@ -61,14 +61,14 @@ class MissedAlarmTest(DesktopTest):
         self.assertEqual(shown["body"], "Wuffer: 2s")
         self.quit(program)
 
-    def test_turning_to_the_window_takes_it_away(self):
+    def test_activating_the_window_removes_the_notification(self):
         program, first, _ = self.miss()
         self.display.activate(first)
         self.wait_for_active(first)
         self.wait_for_notifications(0)
         self.quit(program)
 
-    def test_the_next_start_takes_it_away(self):
+    def test_the_next_start_removes_the_notification(self):
         program = self.launch(settings=of_two_seconds())
         self.display.key("Return")
         self.wait_for_notifications(1)
@@ -79,19 +79,19 @@ class MissedAlarmTest(DesktopTest):
         self.wait_for_notifications(0, 1)
         self.quit(program)
 
-    def test_closing_the_window_takes_it_away(self):
+    def test_closing_the_window_removes_the_notification(self):
         program, first, _ = self.miss()
         self.display.close_window(first)
         program.wait_for_windows(1)
         self.wait_for_notifications(0)
         self.quit(program)
 
-    def test_quitting_takes_it_away(self):
+    def test_quitting_removes_the_notification(self):
         program, _, _ = self.miss()
         self.quit(program)
         self.wait_for_notifications(0)
 
-    def test_a_preset_that_starts_leaves_it(self):
+    def test_a_preset_that_starts_keeps_the_notification(self):
         program, first, second = self.start_and_leave(finishOption="Start a Preset")
         self.wait_for_notifications(1)
         # The preset brings the window forward.

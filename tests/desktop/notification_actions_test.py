@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""What can be done with the notification of an alarm, when it goes, and what many come to.
+"""The buttons of an alarm's notification, what removes it, and many alarms at once.
 
 Usage: notification_actions_test.py WUFFER FOLDER [unittest arguments]
 """
@@ -13,7 +13,7 @@ MUTED = '{"soundOff": 1}'
 
 
 class NotificationActionsTest(DesktopTest):
-    """The sound is off, so that an alarm lasts until somebody ends it."""
+    """The sound is off, so that an alarm lasts until the test ends it."""
 
     def wait_for_notifications(self, count):
         wait_until(lambda: self.session.notifications.shown() == count, 3,
@@ -56,14 +56,14 @@ class NotificationActionsTest(DesktopTest):
         self.wait_for_notifications(0)
         self.quit(program)
 
-    def test_reset_takes_it_away(self):
+    def test_reset_removes_the_notification(self):
         program = self.ring()
         self.display.key("Return")
         program.wait_for_button("Start")
         self.wait_for_notifications(0)
         self.quit(program)
 
-    def test_closing_the_window_takes_it_away(self):
+    def test_closing_the_window_removes_the_notification(self):
         program = self.ring()
         self.display.key("ctrl+n")
         first, _ = program.wait_for_windows(2)
@@ -72,7 +72,7 @@ class NotificationActionsTest(DesktopTest):
         self.wait_for_notifications(0)
         self.quit(program)
 
-    def test_quitting_takes_it_away(self):
+    def test_quitting_removes_the_notification(self):
         program = self.ring()
         self.quit(program)
         self.wait_for_notifications(0)

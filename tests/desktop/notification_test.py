@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""What a desktop is told when a countdown ends, also one that does not listen.
+"""Notifications at the end of a countdown, also without a daemon that answers.
 
 Usage: notification_test.py WUFFER FOLDER [unittest arguments]
 """
@@ -37,7 +37,7 @@ class NotificationTest(DesktopTest):
         self.wait_for_notifications(1)
         self.stop(program)
         self.wait_for_notifications(0)
-        # Where the time was typed before.
+        # The focus returns to the field in which the time was typed.
         program.wait_for_focus_in("Seconds")
         self.display.type("2")
         self.display.key("Return")
@@ -60,7 +60,8 @@ class NotificationTest(DesktopTest):
         self.ring(program)
         self.display.key("ctrl+n")
         program.wait_for_windows(2)
-        wait_until(lambda: self.display.active_window() == program.windows()[1], 3, "it is active")
+        wait_until(lambda: self.display.active_window() == program.windows()[1], 3,
+                   "the window is active")
         program.start_countdown(1)
         self.wait_for_notifications(2)
         bodies = {shown["body"] for shown in self.session.notifications.take_all()}
@@ -68,7 +69,7 @@ class NotificationTest(DesktopTest):
         self.quit(program)
 
     def check_alarm(self, program):
-        """All of an alarm but the notification is there."""
+        """Everything of an alarm works except for the notification."""
         self.ring(program)
         self.assertEqual(program.shown("Time"), "Wuff!")
         self.assertLess(program.answers(), 0.5)
@@ -141,7 +142,7 @@ class NotificationTest(DesktopTest):
         program.start_countdown(1)
         self.display.key("ctrl+comma")
         preferences = program.wait_for_windows(2)[1]
-        wait_until(lambda: self.display.active_window() == preferences, 3, "it is active")
+        wait_until(lambda: self.display.active_window() == preferences, 3, "the window is active")
         self.assertFalse(self.display.is_urgent(timer))
         start = time.monotonic()
         program.wait_for_button("Reset")

@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Chooses and hears sounds in the preferences, and mutes timers.
+"""Chooses and plays sounds in the preferences, and mutes timers.
 
 Usage: preferences_test.py WUFFER FOLDER [unittest arguments]
 """
@@ -40,7 +40,7 @@ class PreferencesTest(DesktopTest):
         return window
 
     def pick(self, mnemonic, *keys):
-        """Opens the list of a combo box and goes to an entry with the keyboard."""
+        """Opens the list of a combo box and selects an entry with the keyboard."""
         self.display.key(mnemonic)
         time.sleep(0.2)
         self.display.key("Down")
@@ -84,7 +84,7 @@ class PreferencesTest(DesktopTest):
 
     def check_tone(self, program, tone):
         moment = time.monotonic()
-        wait_until(lambda: self.heard().first_sound_after(moment), 1, "it is heard")
+        wait_until(lambda: self.heard().first_sound_after(moment), 1, "the sound is heard")
         samples = self.hear(program, 0.5)
         self.report(f"heard at {frequency(samples):.1f} Hz")
         self.assertAlmostEqual(frequency(samples), tone, delta=10)
@@ -94,7 +94,8 @@ class PreferencesTest(DesktopTest):
         path = self.file(program, "my  chime.wav", TONE)
         window = self.open_sounds(program)
         self.add_sound(program, "alt+a", path)
-        wait_until(lambda: self.sound_in_use(program) == "my  chime", 5, "it is in use", 0.02)
+        wait_until(lambda: self.sound_in_use(program) == "my  chime", 5,
+                   "the added sound is in use", 0.02)
         self.wait_for_setting(program, "alarmPath", path)
         self.assertEqual(self.settings(program)["soundHistory"], [path])
         self.close(program, window)
@@ -113,7 +114,7 @@ class PreferencesTest(DesktopTest):
         self.assertNotIn("soundHistory", self.settings(program))
         self.close(program, window)
         self.ring(program)
-        # Long enough for the pauses of the built-in alarm.
+        # Longer than the pauses within the built-in alarm.
         samples = self.heard().hear(1.2)
         self.reset(program)
         self.assertGreater(loudest(samples), AUDIBLE)
@@ -124,12 +125,13 @@ class PreferencesTest(DesktopTest):
         program = self.launch()
         self.open_sounds(program)
         self.add_sound(program, "alt+a", self.file(program, "tone.wav", OTHER_TONE))
-        wait_until(lambda: self.sound_in_use(program) == "tone", 5, "it is in use", 0.02)
+        wait_until(lambda: self.sound_in_use(program) == "tone", 5,
+                   "the added sound is in use", 0.02)
         self.display.key("ctrl+n")
         window = program.wait_for_windows(3)[-1]
         wait_until(lambda: self.display.active_window() == window, 5, "the timer is active")
         _, pressed = program.start_countdown(1)
-        # It beeps before.
+        # Skip the beeps of the last seconds.
         time.sleep(pressed + 1.2 - time.monotonic())
         self.check_tone(program, OTHER_TONE)
         self.quit(program)
@@ -138,14 +140,15 @@ class PreferencesTest(DesktopTest):
         program = self.launch()
         self.open_sounds(program)
         self.add_sound(program, "alt+c", self.file(program, "tone.wav", TONE))
-        wait_until(lambda: self.sound_in_use(program, "Countdown") == "tone", 5, "it is in use")
+        wait_until(lambda: self.sound_in_use(program, "Countdown") == "tone", 5,
+                   "the added sound is in use")
         self.display.key("Tab", "space")
         program.wait_for_button("Stop the countdown sound")
         self.check_tone(program, TONE)
         self.display.key("space")
         program.wait_for_button("Play the countdown sound")
         wait_until(lambda: self.session.sound.streams() == 0, 3, "the stream is closed", 0.05)
-        # To its end, which gives the button back.
+        # Play to the end, at which the button changes back to Play.
         self.display.key("space")
         program.wait_for_button("Stop the countdown sound")
         program.wait_for_button("Play the countdown sound", 5)
@@ -178,7 +181,7 @@ class PreferencesTest(DesktopTest):
         self.assertEqual(self.settings(program)["alarmPath"], path)
 
     def test_a_click_on_the_speaker_silences_a_ringing_alarm(self):
-        # One without pauses, so that only the click can silence it.
+        # A sound without pauses, so that only the click can silence it.
         tone = os.path.join(self.session.folder, "tone.wav")
         write_tone(tone, TONE, 10)
         program = self.launch(settings=json.dumps({"soundHistory": [tone], "alarmPath": tone}))

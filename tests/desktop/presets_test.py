@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Saves timers into presets and opens them, over restarts and kills.
+"""Saves timers as presets and opens them, also after restarts and kills.
 
 Usage: presets_test.py WUFFER FOLDER [unittest arguments]
 """
@@ -25,7 +25,7 @@ class PresetsTest(DesktopTest):
         self.display.key("shift+Tab", "shift+Tab", "shift+Tab")
         program.wait_for_focus_in("Name")
         self.display.type("Tea")
-        wait_until(lambda: program.text("Name") == "Tea", 3, "it has its name")
+        wait_until(lambda: program.text("Name") == "Tea", 3, "the timer has its name")
 
     def check_tea(self, program):
         record = self.stored(program)["Preset 4"]
@@ -49,11 +49,12 @@ class PresetsTest(DesktopTest):
         program.start()
         self.display.key("alt+4")
         program.wait_for_windows(2)
-        wait_until(lambda: program.all("display", "Preset 4", "Elapsed time"), 3, "it is open")
+        wait_until(lambda: program.all("display", "Preset 4", "Elapsed time"), 3,
+                   "the preset is open")
         self.assertEqual(len(program.all("display", "Tea", "Time")), 1)
         self.assertEqual(len(program.all("display", "0h 4m 30s", "Milliseconds")), 1)
         self.assertEqual(self.display.frame(program.windows()[1])[:2], place[:2])
-        # The next one stands one step off.
+        # The next window opens one step further.
         self.display.key("alt+4")
         frame = self.display.frame(program.wait_for_windows(3)[2])
         self.assertEqual(frame[:2], (place.x + 28, place.y + 28))
@@ -74,13 +75,13 @@ class PresetsTest(DesktopTest):
     def test_a_timer_comes_back_as_it_was(self):
         program = self.launch()
         self.type_tea(program)
-        # Return ends the name, and is no press of the button.
+        # Return finishes the name and does not press the Start button.
         self.display.key("Return")
         place = self.display.move_window(program.windows()[0], 200, 100)
         program.close_all()
         for _ in range(3):
             program.start()
-            wait_until(lambda: program.text("Name") == "Tea", 3, "it has its name")
+            wait_until(lambda: program.text("Name") == "Tea", 3, "the timer has its name")
             self.assertEqual((program.text("Minutes"), program.text("Seconds")), ("4", "30"))
             window = program.windows()[0]
             self.assertEqual(self.display.frame(window)[:2], place[:2])

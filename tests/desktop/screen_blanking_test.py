@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Keeps the screen from going blank while a timer fills it, and at no other time.
+"""Checks that the screen stays on during the full screen, and only then.
 
 Usage: screen_blanking_test.py WUFFER FOLDER [unittest arguments]
 """
@@ -22,7 +22,7 @@ INTERFACE = Gio.DBusNodeInfo.new_for_xml(f"""<node><interface name="{NAME}">
 
 
 class ScreenSaver:
-    """The screen saver of a desktop, and who keeps it from coming up."""
+    """A screen saver service on the session bus that counts its inhibitors."""
 
     def __init__(self, bus):
         self.bus = bus
@@ -46,7 +46,7 @@ class ScreenSaver:
             answer.return_value(None)
 
     def held(self):
-        """How many hold it off now."""
+        """Returns the number of current inhibitors."""
         while GLib.MainContext.default().iteration(False):
             pass
         return len(self.holders)
@@ -101,7 +101,7 @@ class ScreenBlankingTest(DesktopTest):
         program.kill()
         self.wait_for_blank(blanking)
 
-    def test_the_screen_saver_is_held_off_during_the_full_screen_only(self):
+    def test_the_screen_saver_is_inhibited_during_the_full_screen_only(self):
         saver = ScreenSaver(self.session.bus)
         self.addCleanup(saver.close)
         program = self.start()
@@ -109,21 +109,22 @@ class ScreenBlankingTest(DesktopTest):
         self.assertEqual((saver.held(), saver.asked), (0, 0))
         for count in (1, 2):
             self.enter(program)
-            wait_until(lambda: saver.held() == 1, 3, "the screen saver is held off", 0.01)
+            wait_until(lambda: saver.held() == 1, 3, "the screen saver is inhibited", 0.01)
             self.leave(program)
-            wait_until(lambda: saver.held() == 0, 3, "the screen saver is let go", 0.01)
+            wait_until(lambda: saver.held() == 0, 3,
+                       "the screen saver is no longer inhibited", 0.01)
             self.assertEqual(saver.asked, count)
         self.quit(program)
 
-    def test_a_timer_that_is_closed_lets_the_screen_saver_go(self):
+    def test_closing_a_timer_ends_its_inhibition_of_the_screen_saver(self):
         saver = ScreenSaver(self.session.bus)
         self.addCleanup(saver.close)
         program = self.start()
         window, = program.windows()
         self.enter(program)
-        wait_until(lambda: saver.held() == 1, 3, "the screen saver is held off", 0.01)
+        wait_until(lambda: saver.held() == 1, 3, "the screen saver is inhibited", 0.01)
         self.display.close_window(window)
-        wait_until(lambda: saver.held() == 0, 3, "the screen saver is let go", 0.01)
+        wait_until(lambda: saver.held() == 0, 3, "the screen saver is no longer inhibited", 0.01)
 
 
 if __name__ == "__main__":

@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Starts, uses and ends the program where its settings cannot be read, or cannot be written.
+"""Runs the program with settings that it cannot read or cannot write.
 
 Usage: settings_place_test.py WUFFER FOLDER [unittest arguments]
 """
@@ -18,12 +18,12 @@ from support.waiting import wait_until
 
 KEPT = {"finishedText": "Tea!", "soundOff": 1, "from another version": {"kept": [1, 2]}}
 
-# The superuser without powers is bound by permissions like anybody else.
+# Runs a command without capabilities: file permissions then apply to root, too.
 POWERLESS = ("setpriv", "--bounding-set", "-all")
 
 
-def powers_can_be_given_up():
-    """Whether a program can be run that permissions bind, which not every container allows."""
+def capabilities_can_be_dropped():
+    """Whether setpriv can drop all capabilities, which not every container allows."""
     if os.geteuid() != 0:
         return True
     with tempfile.NamedTemporaryFile() as file:
@@ -33,13 +33,13 @@ def powers_can_be_given_up():
 
 
 def no_file_may_grow():
-    """As on a full disk: what is written to files does not get there."""
+    """Makes writes to files fail, as on a full disk."""
     resource.setrlimit(resource.RLIMIT_FSIZE, (0, resource.RLIM_INFINITY))
 
 
 class SettingsPlaceTest(DesktopTest):
     def prepare(self, text=None, **options):
-        """A run of the program that has not started, whose settings are this text."""
+        """Returns a program that is not started yet, with this text as its settings file."""
         program = Program(self.session, settings=text, **options)
         self.programs.append(program)
         self.folder = os.path.dirname(program.settings_path)
@@ -47,14 +47,15 @@ class SettingsPlaceTest(DesktopTest):
         return program
 
     def check_works(self, program, name="Eggs"):
-        """It starts, takes a name, counts down to its alarm, and ends."""
+        """The program starts, can be named, counts down to its alarm, and ends."""
         program.start()
         program.type_seconds(0)
         field = program.place(program.find("field", "Name"))
         self.display.click(field.x + 10, field.y + 10)
         self.display.type(name)
         self.display.key("Return")
-        wait_until(lambda: name in self.display.title(program.windows()[0]), 5, "it has a name")
+        wait_until(lambda: name in self.display.title(program.windows()[0]), 5,
+                   "the timer has its name")
         minutes = program.place(program.find("field", "Minutes"))
         self.display.click(minutes.x + 10, minutes.y + 10)
         self.display.key("Return")
@@ -69,13 +70,13 @@ class SettingsPlaceTest(DesktopTest):
             return file.read()
 
     def check_kept(self, path, kept):
-        """The name has been kept beside what was there."""
+        """The file holds the new name and everything it held before."""
         settings = json.loads(self.read(path))
         self.assertEqual(settings["defaultWufferSettings"]["title"], "Eggs")
         self.assertEqual({key: settings.get(key) for key in kept}, kept)
         self.assertEqual(stat.S_IMODE(os.stat(path).st_mode), 0o600)
 
-    # What lies in its place
+    # What is found at the path of the settings
 
     def test_missing(self):
         program = self.prepare()
@@ -157,11 +158,11 @@ class SettingsPlaceTest(DesktopTest):
         settings = json.loads(self.read(program.settings_path))
         self.assertEqual({key: settings.get(key) for key in KEPT}, dict(KEPT, soundOff=0))
 
-    # What is permitted
+    # Permissions
 
     def prepare_powerless(self, text=None):
         if not powers_can_be_given_up():
-            self.skipTest("permissions bind nobody here: setpriv cannot give up the powers")
+            self.skipTest("setpriv cannot drop capabilities: permissions do not apply to root")
         return self.prepare(text, through=POWERLESS if os.geteuid() == 0 else ())
 
     def test_unreadable(self):
@@ -175,7 +176,7 @@ class SettingsPlaceTest(DesktopTest):
         self.assertEqual(json.loads(self.read(aside)), KEPT)
 
     def check_untouched(self, program, *locked):
-        """Nothing in the folder is changed; then again when it may be."""
+        """The folder stays unchanged while it is locked, and is written to once it is not."""
         for path, mode in locked:
             os.chmod(path, mode)
         before = self.listing()

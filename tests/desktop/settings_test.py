@@ -27,7 +27,7 @@ class SettingsTest(DesktopTest):
         program = self.launch(settings=json.dumps(KEPT))
         moments = random.Random(1)
         for _ in range(6):
-            # Each of these may write: a start, a stop, a new window, a closed one.
+            # Each of these may write the settings: a start, a stop, a new window, a closed one.
             for keys in ("Tab", "5", "Return", "Return", "ctrl+n", "ctrl+w"):
                 self.display.key(keys)
             time.sleep(moments.uniform(0, 0.05))
@@ -58,7 +58,7 @@ class SettingsTest(DesktopTest):
                 aside = program.settings_path + ".unreadable"
                 with open(aside, encoding="utf-8") as file:
                     self.assertEqual(file.read(), broken)
-                # What is there now, if anything, can be read.
+                # If there is a new settings file, it is valid.
                 if os.path.exists(program.settings_path):
                     self.read(program)
                 program.start_countdown(0)

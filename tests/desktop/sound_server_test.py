@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Plays sounds at a sound server of its own and judges what can be heard there.
+"""Plays sounds on a sound server of its own and judges a recording of them.
 
 Usage: sound_server_test.py SOUNDPLAYER [unittest arguments]
 """
@@ -24,14 +24,14 @@ from support.waiting import wait_until
 
 SOUNDPLAYER = ""
 
-# The player's own sound: its name, its frequency, and how loud it is.
+# The sound built into the player: its name, frequency and amplitude.
 OWN_SOUND = "test-blip.wav"
 OWN_TONE = 500
 OWN_RMS = 11313
 
 
 class Player:
-    """The program under test, and the orders it takes."""
+    """The program under test, which takes orders on its standard input."""
 
     def __init__(self, environment):
         self.process = subprocess.Popen([SOUNDPLAYER], env=environment, stdin=subprocess.PIPE,
@@ -42,7 +42,7 @@ class Player:
         return self.orders(" ".join(str(word) for word in words))[0]
 
     def orders(self, *lines):
-        """Gives several orders without a pause; gives their results."""
+        """Sends several orders without a pause; returns their results."""
         self.process.stdin.write("".join(line + "\n" for line in lines))
         results = []
         for line in lines:
@@ -56,7 +56,7 @@ class Player:
         return self.order("playing", name) == 1
 
     def play(self, name):
-        """Plays; gives the moment before."""
+        """Plays the sound; returns the moment just before."""
         moment = time.monotonic()
         self.order("play", name)
         return moment
@@ -69,7 +69,7 @@ class Player:
             return next(line.split()[1] for line in status if line.startswith(field))
 
     def quit(self):
-        """Lets the program end; gives how many seconds that took and its exit status."""
+        """Quits the player; returns the seconds that took and the exit status."""
         start = time.monotonic()
         self.process.stdin.write("quit\n")
         status = self.process.wait(timeout=10)
@@ -115,7 +115,7 @@ class SoundServerTest(unittest.TestCase):
         return self.server.recorder
 
     def load(self, name, seconds=1.0, tone=1000, amplitude=0.5, rate=RATE):
-        """Writes a sine and loads it."""
+        """Writes a file with a sine tone and loads it."""
         path = os.path.join(self.folder, f"{name}.wav")
         with wave.open(path, "wb") as file:
             file.setnchannels(1)
@@ -135,7 +135,7 @@ class SoundServerTest(unittest.TestCase):
         wait_until(lambda: self.server.streams() == 0, 2, "no stream is left")
 
     def check_end(self, name, moment):
-        """The sound ends at the moment, whatever the server does."""
+        """The player reports the end of the sound at this moment, whatever the server does."""
         self.player.wait_for_end(name, 2)
         late = time.monotonic() - moment
         self.assertGreater(late, -0.2)
@@ -148,8 +148,8 @@ class SoundServerTest(unittest.TestCase):
         wait_until(lambda: self.recorder.first_sound_after(moment), 1, f"{name} is heard")
 
     def waits(self):
-        """Counts from now on how long this test, the player and the server have waited for a
-        processor."""
+        """Counts the time that this test, the player and the server wait for a processor from
+        now on."""
         return Waits(os.getpid(), self.player.process.pid, self.server.process.pid)
 
     def report(self, text):
@@ -182,7 +182,7 @@ class SoundServerTest(unittest.TestCase):
             waits = self.waits()
             moment = self.player.play("tone")
             self.player.wait_for_end("tone", 1)
-            wait_until(lambda m=moment: self.recorder.first_sound_after(m), 1, "it is heard")
+            wait_until(lambda m=moment: self.recorder.first_sound_after(m), 1, "the sound is heard")
             onset = self.recorder.first_sound_after(moment) - moment
             onsets.append(onset * 1000)
             self.assertLess(onset, 0.1 + waits.seconds())
@@ -242,12 +242,12 @@ class SoundServerTest(unittest.TestCase):
         self.start_loop("tone", seconds=0.1)
         heard = self.hear(1)
         self.assertLess(longest_silence(heard), 0.5)
-        # The steepest there is in the sine: nothing was left out or played twice.
+        # No step exceeds the steepest slope of the sine: nothing was skipped or played twice.
         steepest = 32767 * 0.5 * 2 * math.pi * 1000 / RATE
         self.assertLess(largest_step(heard), steepest * 1.05)
         self.assertAlmostEqual(frequency(heard), 1000, delta=2)
 
-    def test_a_loop_told_to_end_ends_with_its_pass(self):
+    def test_a_loop_that_is_switched_off_plays_its_pass_to_the_end(self):
         self.load("tone", seconds=0.5)
         self.player.order("loops", "tone", 1)
         moment = self.player.play("tone")
@@ -260,8 +260,8 @@ class SoundServerTest(unittest.TestCase):
         self.assertAlmostEqual(length, 1.0, delta=0.03)
 
     @measures_moments
-    def test_a_sound_told_to_loop_in_its_last_moments_goes_on(self):
-        # The test must itself do something at a moment, and on a busy computer it comes too late.
+    def test_a_sound_that_is_looped_just_before_its_end_goes_on(self):
+        # The test must send its order within 80 ms; on a busy computer it may be too late.
         self.load("tone", seconds=0.5)
         moment = self.player.play("tone")
         time.sleep(0.42)
@@ -289,7 +289,7 @@ class SoundServerTest(unittest.TestCase):
         self.assertEqual(loudest(self.recorder.hear(0.1)), 0)
         self.assertTrue(self.player.is_playing("tone"))
 
-    # Many
+    # Many sounds
 
     def test_forty_sounds_are_heard_at_once_and_stop_one_by_one(self):
         tones = {f"tone{i}": 300 + 50 * i for i in range(40)}
@@ -334,7 +334,7 @@ class SoundServerTest(unittest.TestCase):
         self.player.order("volume", "tone", 0.5)
         waits = self.waits()
         moment = self.player.play("tone")
-        wait_until(lambda: self.recorder.first_sound_after(moment), 1, "it is heard")
+        wait_until(lambda: self.recorder.first_sound_after(moment), 1, "the sound is heard")
         onset = self.recorder.first_sound_after(moment) - moment
         self.report(f"onset after {onset * 1000:.0f} ms")
         self.assertLess(onset, 0.1 + waits.seconds())
@@ -362,11 +362,11 @@ class SoundServerTest(unittest.TestCase):
         self.load_and_break("other", rate=22050)
         shutil.copy(os.path.join(self.folder, "kept.wav"), os.path.join(self.folder, "other.wav"))
         moment = self.player.play("other")
-        wait_until(lambda: self.recorder.first_sound_after(moment), 1, "it is heard")
+        wait_until(lambda: self.recorder.first_sound_after(moment), 1, "the sound is heard")
         time.sleep(0.1)
         self.assertAlmostEqual(frequency(self.hear(0.5)), 700, delta=5)
 
-    # Hard times
+    # A server that fails
 
     def test_a_server_that_dies_and_comes_back(self):
         self.load("short", seconds=1.0)

@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Watches the item in the panel, and presses it.
+"""Looks at the status item in the panel, and clicks it.
 
 Usage: status_item_test.py WUFFER FOLDER [unittest arguments]
 """
@@ -22,7 +22,7 @@ class StatusItemTest(DesktopTest):
         self.addCleanup(panel.close)
         program = self.launch(settings=settings)
         program.wait_for_focus_in("Minutes")
-        # Where the pointer is, nothing may pop up.
+        # Keep the pointer off the panel, so that no tooltip pops up.
         self.display.move_pointer(self.display.width // 2, self.display.height // 2)
         panel.look_at_empty()
         return program
@@ -37,7 +37,7 @@ class StatusItemTest(DesktopTest):
 
     def leave(self, window):
         self.display.act("windowminimize", window)
-        wait_until(lambda: self.display.active_window() != window, 3, "it is not active")
+        wait_until(lambda: self.display.active_window() != window, 3, "the window is not active")
 
     def check_one_timer(self, panel):
         program = self.start(panel)
@@ -49,7 +49,7 @@ class StatusItemTest(DesktopTest):
         panel.press()
         self.wait_until_active(window)
         self.display.act("set_desktop", 1)
-        wait_until(lambda: self.display.active_window() != window, 3, "it is not active")
+        wait_until(lambda: self.display.active_window() != window, 3, "the window is not active")
         panel.press()
         self.wait_until_active(window)
         self.assertEqual(self.display.property("_NET_CURRENT_DESKTOP"), "0")
@@ -62,7 +62,7 @@ class StatusItemTest(DesktopTest):
     def test_one_timer_shows_and_a_press_brings_it_back(self):
         self.quit(self.check_one_timer(XfcePanel(self.session)))
 
-    def test_where_nobody_watches_the_tray_takes_the_item_in(self):
+    def test_without_a_watcher_on_the_bus_the_item_is_in_the_tray(self):
         self.quit(self.check_one_timer(Tint2(self.session)))
 
     def test_the_last_seconds_and_the_alarm_are_red(self):
@@ -81,7 +81,7 @@ class StatusItemTest(DesktopTest):
         self.quit(program)
 
     def open_three(self, program, minutes):
-        """Three windows with running timers; gives the windows."""
+        """Opens three windows with running timers; returns the windows."""
         self.start_minutes(program, minutes[0])
         for count, each in enumerate(minutes[1:], start=2):
             self.display.key("ctrl+n")
@@ -99,7 +99,7 @@ class StatusItemTest(DesktopTest):
                 self.display.act("windowminimize", each)
             time.sleep(0.3)
             panel.press()
-            # Menus have no other sign from outside than that they take the keys.
+            # From outside, an open menu shows only by grabbing the keys, so just wait.
             time.sleep(0.7)
             self.display.key(*["Down"] * presses)
             time.sleep(0.1)
@@ -129,7 +129,7 @@ class StatusItemTest(DesktopTest):
         self.wait_until_active(window)
         self.quit(program)
 
-    def test_the_item_leaves_the_tray_when_somebody_watches(self):
+    def test_the_item_leaves_the_tray_when_a_watcher_appears(self):
         tray = Tint2(self.session)
         program = self.start(tray)
         self.start_minutes(program, 5)
@@ -164,15 +164,15 @@ class StatusItemTest(DesktopTest):
         finally:
             processes.signal_group(self.session.bus_daemon, signal.SIGCONT)
 
-    def test_a_bus_that_no_longer_answers_stops_nothing(self):
+    def test_the_program_works_on_when_the_bus_hangs(self):
         self.check_frozen_bus()
 
-    def test_nor_does_it_when_there_is_a_panel(self):
+    def test_the_program_works_on_when_the_bus_hangs_beside_a_panel(self):
         panel = XfcePanel(self.session)
         self.addCleanup(panel.close)
         self.check_frozen_bus()
 
-    def test_the_settings_can_do_without_it(self):
+    def test_a_setting_switches_the_item_off(self):
         panel = XfcePanel(self.session)
         program = self.start(panel, '{"noStatusBar": 1, "growlDisabled": 1}')
         self.start_minutes(program, 5)

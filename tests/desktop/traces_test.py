@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Looks for the files that a session of the program leaves anywhere.
+"""Looks for files that the program leaves behind in any folder.
 
 Usage: traces_test.py WUFFER FOLDER [unittest arguments]
 """
@@ -15,18 +15,18 @@ from support.waiting import wait_until
 
 SETTINGS = "config/wuffer/wuffer.json"
 
-# What is not the program's own, and why it cannot be helped.
+# Files that other software writes, with the reason.
 ALLOWED = {
-    # By this a sound server knows its users on other computers, too. The client library of the server
-    # makes it at the first connection where there is none. The one thing that keeps it from that,
-    # PULSE_COOKIE, goes before what users have configured, so it is left to them.
+    # The authentication cookie of the sound server. Its client library creates a missing cookie at
+    # the first connection. Only PULSE_COOKIE would prevent that, but it overrides the user's own
+    # configuration, so the program does not set it.
     "config/pulse/cookie",
 }
 
-# The sound that the user chooses.
+# The sound file that the user chooses.
 TONE = "tone.wav"
 
-# Where programs share memory.
+# The folder of shared memory.
 SHARED_MEMORY = "/dev/shm"
 
 
@@ -34,7 +34,7 @@ class TracesTest(DesktopTest):
     sound = True
 
     def prepare(self):
-        """A program all of whose folders are its own."""
+        """Returns a program with folders of its own for everything, not started yet."""
         program = Program(self.session)
         self.programs.append(program)
         for variable, name in (("XDG_CACHE_HOME", "cache"), ("XDG_STATE_HOME", "state"),
@@ -48,10 +48,10 @@ class TracesTest(DesktopTest):
                 for where, folders, names in os.walk(folder) for name in names}
 
     def activate(self, window):
-        wait_until(lambda: self.display.active_window() == window, 5, "it is active")
+        wait_until(lambda: self.display.active_window() == window, 5, "the window is active")
 
     def choose_file(self, program, path):
-        """Looks into the dialog for files, and the next time adds a sound there."""
+        """Opens the file dialog and cancels it, then opens it again and adds a sound."""
         for text, key in (("", "Escape"), (path, "Return")):
             self.display.key("alt+a")
             time.sleep(0.2)
@@ -65,13 +65,14 @@ class TracesTest(DesktopTest):
             program.wait_for_windows(2)
 
     def play(self, program):
-        wait_until(lambda: program.has("button", "Play the alarm sound"), 5, "it can be played")
+        wait_until(lambda: program.has("button", "Play the alarm sound"), 5,
+                   "the alarm sound can be played")
         play = program.place(program.find("button", "Play the alarm sound"))
         self.display.click(play.x + play.width // 2, play.y + play.height // 2)
         program.wait_for_button("Stop the alarm sound")
 
     def use(self, program):
-        """A timer to its end, a preset saved and opened, the options, a file chosen and played."""
+        """Runs a timer to its end, saves and opens a preset, opens the options, plays a file."""
         program.start_countdown(1)
         program.wait_for_button("Reset")
         self.display.key("Return")
@@ -90,7 +91,7 @@ class TracesTest(DesktopTest):
         tone = os.path.join(program.home, TONE)
         write_tone(tone, 1000, 20)
         self.choose_file(program, tone)
-        wait_until(lambda: program.shown("Alarm sound in use") == "tone", 5, "it is in use")
+        wait_until(lambda: program.shown("Alarm sound in use") == "tone", 5, "the tone is in use")
         self.play(program)
         self.display.key("ctrl+w")
         self.activate(program.wait_for_windows(1)[0])

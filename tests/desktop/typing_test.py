@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Sets timers by hand: with real keys, the wheel, and the text that is selected.
+"""Sets timers with real keys, the wheel, and the primary selection.
 
 Usage: typing_test.py WUFFER FOLDER [unittest arguments]
 """
@@ -31,19 +31,19 @@ class TypingTest(DesktopTest):
         self.assertEqual(self.fields(program), "0 4 57")
         return program
 
-    def test_what_is_typed_after_a_launch_replaces(self):
+    def test_typing_after_a_launch_replaces_the_time(self):
         program = self.launch_ready()
         self.display.type("10")
         self.wait_for_fields(program, "0 10 57")
         self.display.key("Return")
         program.wait_for_button("Stop")
         self.assertRegex(program.shown("Time"), "^10m 5[0-9]s$")
-        # With the mouse, too, the next time goes where the last one was typed.
+        # A click on Stop also returns the focus to the field that was typed into last.
         self.display.click(*self.middle_of(program, "button", "Stop"))
         program.wait_for_button("Start")
         program.wait_for_focus_in("Minutes")
         self.display.type("8")
-        wait_until(lambda: program.text("Minutes") == "8", 3, "8 has replaced what was left")
+        wait_until(lambda: program.text("Minutes") == "8", 3, "8 has replaced the remaining time")
         self.quit(program)
 
     def test_colons_and_letters_lead_through_the_fields(self):
@@ -64,9 +64,10 @@ class TypingTest(DesktopTest):
         self.wait_for_fields(program, "0 5 57")
         self.quit(program)
 
-    def test_a_menu_that_was_opened_in_between_changes_nothing(self):
+    def test_opening_a_menu_while_typing_changes_nothing(self):
         program = self.launch_ready()
-        # One closes the menu, the next leaves the menu bar; quicker than a hand they would be one.
+        # One Escape closes the menu, the next leaves the menu bar. Without a pause, the two would
+        # count as one.
         for key in ("alt+t", "Escape", "Escape"):
             self.display.key(key)
             time.sleep(0.3)
@@ -75,7 +76,7 @@ class TypingTest(DesktopTest):
         self.wait_for_fields(program, "0 10 57")
         self.quit(program)
 
-    def test_the_middle_button_pastes_what_is_selected(self):
+    def test_the_middle_button_pastes_the_selection(self):
         program = self.launch_ready()
         self.display.click(*self.middle_of(program, "field", "Name"))
         self.display.key("ctrl+a")

@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Counts how often the program wakes up, which no speed of the computer changes.
+"""Counts how often the program wakes up, which does not depend on the computer's speed.
 
 Usage: wakeups_test.py WUFFER FOLDER [unittest arguments]
 """
@@ -14,18 +14,18 @@ TICKS = 1 / 0.037
 
 
 class WakeupsTest(DesktopTest):
-    """Nobody listens to the accessibility tree here, as on most desktops."""
+    """Runs the program without accessibility clients, as on most desktops."""
 
     def wakeups(self, program, seconds):
-        """How often all threads of the program wake up in a second."""
+        """Returns the wake-ups of all threads of the program per second."""
         before = program.wakeups()
         start = time.monotonic()
         time.sleep(seconds)
         return (program.wakeups() - before) / (time.monotonic() - start)
 
     def rate(self, program):
-        """The same in a time in which the program hardly had to wait for a processor, if there is
-        one: the ticks of a program that may not run are too few."""
+        """Returns the wake-ups per second, measured again if the program had to wait for a
+        processor: it then misses ticks. After five attempts returns the last result."""
         for _ in range(5):
             waits = Waits(program.process.pid)
             rate = self.wakeups(program, 2)
@@ -34,7 +34,7 @@ class WakeupsTest(DesktopTest):
         return rate
 
     def wait_until_calm(self, program):
-        wait_until(lambda: self.wakeups(program, 0.5) == 0, 10, "the program has come to rest")
+        wait_until(lambda: self.wakeups(program, 0.5) == 0, 10, "the program is idle")
 
     def test_an_idle_program_sleeps(self):
         program = self.launch(accessible=False)
@@ -66,8 +66,8 @@ class WakeupsTest(DesktopTest):
         self.start_stopwatch()
         time.sleep(0.5)
         seen = self.rate(program)
-        # What nobody sees is not drawn. Drawing is an exchange with the X server, of which each
-        # answer is another wake-up.
+        # A minimised window is not drawn. Drawing exchanges messages with the X server, and each
+        # reply is another wake-up.
         rates = [self.wakeups_unseen(program)]
         for count in range(2, 11):
             self.display.key("ctrl+n")
@@ -76,7 +76,7 @@ class WakeupsTest(DesktopTest):
             self.start_stopwatch()
         rates.append(self.wakeups_unseen(program))
         self.report(f"{rates[0]:.1f} wake-ups a second with one timer, {rates[1]:.1f} with ten; "
-                    f"{seen:.1f} with one that is seen")
+                    f"{seen:.1f} with one that is visible")
         # An unseen timer works at every fifth of its ticks, and each counts its own.
         self.assertLess(rates[0], TICKS / 5 * 1.5)
         for rate in rates:
@@ -84,7 +84,7 @@ class WakeupsTest(DesktopTest):
             self.assertLess(rate, TICKS * 1.2)
         self.assertGreater(seen, TICKS * 0.8)
         self.assertLess(seen, TICKS * 4.5)
-        # One of them is seen again.
+        # One of the windows is visible again.
         self.assertGreater(self.rate(program), TICKS * 0.8)
         self.quit(program)
 

@@ -79,7 +79,7 @@ class WindowsTest(DesktopTest):
         program = self.launch()
         program.start_countdown(60)
         program.wait_for_button("Stop")
-        # What is changed now is remembered at the next stop, to which it does not come.
+        # A change during the run is stored at the next stop, and quitting comes before it.
         self.display.key("ctrl+k")
         self.quit(program)
         with open(program.settings_path, encoding="utf-8") as file:
@@ -98,7 +98,7 @@ class WindowsTest(DesktopTest):
         wait_until(lambda: len(program.all("button", "Stop")) == 3, 5, "three timers run")
         for label in program.all("display", description="Time"):
             self.assertIn(label.name, ("4m 59s", "4m 58s"))
-        # Those that run go on when it is said again.
+        # Starting all again does not restart the running timers.
         self.display.key("ctrl+shift+s")
         time.sleep(0.2)
         self.assertEqual(len(program.all("button", "Stop")), 3)
@@ -107,7 +107,7 @@ class WindowsTest(DesktopTest):
     def test_the_other_windows_come_up_in_front(self):
         program = self.launch()
         timer = program.windows()[0]
-        # The converter first: its key must not be one that the timer's field takes for itself.
+        # The converter first, while a field of the timer has the focus: it must not take the key.
         others = (("ctrl+shift+c", "Converter"), ("ctrl+shift+e", "Measurements"),
                   ("ctrl+comma", "Preferences"))
         for count, (key, title) in enumerate(others, start=2):
@@ -115,7 +115,7 @@ class WindowsTest(DesktopTest):
             window = program.wait_for_windows(count)[-1]
             self.wait_until_active(window)
             self.assertIn(title, self.display.title(window))
-        # Called again from another window, each comes back and there is no second one.
+        # Opened again from another window, each comes to the front and no second one appears.
         for key, title in others:
             self.display.key(key)
             wait_until(lambda t=title: t in self.display.title(self.display.active_window()), 5,
@@ -133,25 +133,25 @@ class WindowsTest(DesktopTest):
         wait_until(lambda: self.display.geometry(window).height > closed.height + 50, 3,
                    "the drawer is out")
         self.assertEqual(self.display.geometry(window)[:3], closed[:3])
-        wait_until(lambda: self.has_come_to_rest(window), 3, "the drawer has come to rest")
+        wait_until(lambda: self.has_come_to_rest(window), 3, "the drawer has stopped moving")
         self.display.key("ctrl+o")
         program.wait_for_button("More Options")
         wait_until(lambda: self.display.geometry(window) == closed, 3, "the drawer is in")
         self.quit(program)
 
     def test_the_date_sheet_begins_at_the_hour_and_says_how_long_that_is(self):
-        # A place where it is morning now, so that the evening is to come.
+        # A time zone in which it is morning now, so that the evening is still to come.
         west = time.gmtime().tm_hour - 8
         program = self.launch(environment={"TZ": f"TEST{west}"})
         program.wait_for_focus_in("Minutes")
         for minutes in ("90", "00"):
             sheet = self.open_sheet(program)
-            # Only where the hour is selected do these set it, and the minutes after it.
+            # These digits set hour and minutes only if the hour is selected at first.
             self.display.type("2359")
             wait_until(lambda: re.fullmatch(r"in \d+ h( \d+ min)?", self.distance(program)), 3,
                        "it is later today")
             self.report(f"{self.distance(program)} to 23:59")
-            # The seconds are those of the moment at which the sheet opened.
+            # The seconds stay those of the time at which the sheet opened.
             self.assertAlmostEqual(self.minutes_left(program), self.minutes_to_midnight(),
                                    delta=1)
             self.display.key("Escape")
@@ -176,7 +176,7 @@ class WindowsTest(DesktopTest):
         self.display.key("ctrl+d")
         sheet = program.wait_for_windows(2)[-1]
         self.wait_until_active(sheet)
-        wait_until(lambda: self.distance(program), 3, "it says how long that is")
+        wait_until(lambda: self.distance(program), 3, "the sheet says how long that is")
         return sheet
 
     def test_the_date_sheet_cannot_be_maximised(self):
@@ -186,7 +186,7 @@ class WindowsTest(DesktopTest):
         allowed = self.display.property("_NET_WM_ALLOWED_ACTIONS", sheet)
         self.assertIn("_NET_WM_ACTION_MOVE", allowed)
         self.assertNotIn("MAXIMIZE", allowed)
-        # For those that know the older hints: moved and closed it can be, but not maximised.
+        # The Motif hints, for older window managers: move and close, but not maximise.
         flags, functions = self.display.property("_MOTIF_WM_HINTS", sheet).split(", ")[:2]
         self.assertEqual(int(flags, 16) & 1, 1)
         self.assertEqual(int(functions, 16) & (1 << 2 | 1 << 4), 1 << 2)

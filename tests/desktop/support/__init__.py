@@ -1,1 +1,1 @@
-"""What the tests of the whole program on a real desktop share."""
+"""Shared code of the tests that run the whole program on a real desktop."""

@@ -1,4 +1,4 @@
-"""The controls of programs, as the accessibility tree shows them."""
+"""Reads the controls of programs from the accessibility tree."""
 
 import gi
 
@@ -17,8 +17,8 @@ ROLES = {
     "choice": Atspi.Role.COMBO_BOX,
 }
 
-# What holds none of these, and sometimes many other objects. A look must not take longer than what
-# it looks at.
+# Roles that contain none of the controls above, but may contain many other objects: skipping them
+# keeps a look shorter than the changes it observes.
 WITHOUT_CONTROLS = tuple(map(int, (
     Atspi.Role.MENU_BAR, Atspi.Role.LIST, Atspi.Role.PUSH_BUTTON, Atspi.Role.CHECK_BOX,
     Atspi.Role.IMAGE, Atspi.Role.LABEL)))
@@ -30,7 +30,7 @@ SECONDS = 10
 
 
 class Control:
-    """What one object in the tree said of itself when it was looked at."""
+    """One object of the tree, with the properties it had when it was read."""
 
     def __init__(self, program, path):
         self.program = program
@@ -51,15 +51,15 @@ class Control:
         return self.ask("org.a11y.atspi.Text", "GetText", whole)[0]
 
     def place(self):
-        """Where it is on the screen."""
+        """Returns the rectangle of the control on the screen."""
         return Rect(*self.ask("org.a11y.atspi.Component", "GetExtents", SCREEN)[0])
 
 
 class AccessibleProgram:
     """One program on the accessibility bus.
 
-    Many questions are asked at once and their answers awaited together: one by one, each would
-    wait for its turn on a busy computer twice.
+    Sends many calls at once and waits for all replies together. On a busy computer, one call after
+    the other would be slow: each waits twice for a processor.
     """
 
     def __init__(self, bus, name):
@@ -69,7 +69,7 @@ class AccessibleProgram:
         self.roles = {}
 
     def ask(self, questions):
-        """Gives the answers, each in its place; nothing where the object has gone meanwhile."""
+        """Returns the replies in the order of the calls; None for an object that is gone."""
         answers = [None] * len(questions)
         left = len(questions)
 
@@ -89,7 +89,7 @@ class AccessibleProgram:
         return answers
 
     def windows(self):
-        """How many there are; nothing when the program does not answer."""
+        """Returns the number of windows; None if the program does not answer."""
         answer, = self.ask([(ROOT, ACCESSIBLE, "GetChildren", None)])
         return len(answer[0]) if answer else 0
 
@@ -110,7 +110,7 @@ class AccessibleProgram:
         return descendants(start)
 
     def learn_roles(self, controls):
-        """No object changes its role, so each is asked once."""
+        """Reads the roles of new objects only: an object never changes its role."""
         new = [control for control in controls if control.path not in self.roles]
         answers = self.ask([(control.path, ACCESSIBLE, "GetRole", None) for control in new])
         self.roles.update((control.path, answer[0])
@@ -119,7 +119,7 @@ class AccessibleProgram:
             control.role = self.roles.get(control.path)
 
     def describe(self, controls):
-        """Lets controls tell their names, descriptions and states."""
+        """Reads the names, descriptions and states of controls."""
         answers = iter(self.ask([
             (control.path, *question) for control in controls for question in (
                 ("org.freedesktop.DBus.Properties", "Get",
@@ -134,7 +134,7 @@ class AccessibleProgram:
                 control.states = low | high << 32
 
     def controls(self, role, start=None):
-        """All controls of a role below one; without those that have gone meanwhile."""
+        """Returns all controls of a role below start, without those that are gone by now."""
         found = [control for control in self.look(start) if control.role == int(ROLES[role])]
         self.describe(found)
         return [control for control in found if control.name is not None]
@@ -149,7 +149,7 @@ def descendants(control):
 
 
 def find_program(bus, process_id):
-    """The program of this process, once it shows a window; nothing before."""
+    """Returns the program of this process; None until it shows a window."""
     registry = AccessibleProgram(bus, "org.a11y.atspi.Registry")
     names = [name for name, _ in (registry.ask([(ROOT, ACCESSIBLE, "GetChildren", None)])[0]
                                   or ([],))[0]]

@@ -1,4 +1,4 @@
-"""When the X server blanks its screen, and whether it does now."""
+"""Sets when the X server blanks its screen, and asks whether it is blank."""
 
 import ctypes
 
@@ -32,7 +32,7 @@ class Blanking:
             raise RuntimeError("the X server does not answer")
 
     def set_timeout(self, seconds):
-        """Blanks the screen after so many seconds without keys and mouse; 0 for never."""
+        """Blanks the screen after this many seconds without input; 0 for never."""
         prefer_blanking, allow_exposures = 1, 1
         X.XSetScreenSaver(self.connection, seconds, 0, prefer_blanking, allow_exposures)
         self.is_blank()

@@ -1,4 +1,4 @@
-"""What every test of the whole program begins and ends with."""
+"""The base class of all tests of the whole program."""
 
 import os
 import sys
@@ -50,7 +50,7 @@ class DesktopTest(unittest.TestCase):
             test is self and error for test, error in getattr(self._outcome, "errors", []))
 
     def launch(self, **options):
-        """Starts the program; it ends with the test."""
+        """Starts the program; the end of the test ends it."""
         program = Program(self.session, **options)
         self.programs.append(program)
         program.start()
@@ -72,8 +72,8 @@ class DesktopTest(unittest.TestCase):
         self.assertLess(seconds, 1.5)
 
     def waits(self, program):
-        """Counts from now on how long all have waited for a processor on the way from a key to
-        what is seen and heard of it."""
+        """Counts the time that every process between a key press and its visible or audible
+        effect waits for a processor, from now on."""
         servers = [self.display.server, self.display.manager]
         if self.session.sound:
             servers.append(self.session.sound.process)

@@ -1,4 +1,4 @@
-"""An X server without a screen, with a window manager; its windows, mouse and keys."""
+"""A virtual X server with a window manager; its windows, mouse and keys."""
 
 import contextlib
 import os
@@ -30,7 +30,7 @@ class Rect(NamedTuple):
 
 
 class Display:
-    """One display, free of all others."""
+    """One X display with a number that no other server uses."""
 
     def __init__(self, environment, size):
         processes.require("Xvfb", "openbox", "xprop", "xwininfo", "xdotool", "wmctrl")
@@ -49,7 +49,7 @@ class Display:
         self.manager = None
 
     def start_manager(self):
-        # It says that it is there before it is; what it is told to run comes after that.
+        # Openbox announces itself before it is ready; it runs its start-up command after that.
         self.manager = processes.start(
             ["openbox", "--startup", "xprop -root -format MANAGED 8s -set MANAGED yes"],
             self.environment)
@@ -81,7 +81,7 @@ class Display:
 
     @contextlib.contextmanager
     def dragging(self, start, end, button=1, key=None):
-        """Drags from one point to another, and lets go when the block within has ended."""
+        """Drags from one point to another, and releases the button at the end of the block."""
         steps = 10
         self.move_pointer(*start)
         if key:
@@ -89,7 +89,7 @@ class Display:
         self.act("mousedown", button)
         for step in range(1, steps + 1):
             self.move_pointer(*(a + (b - a) * step // steps for a, b in zip(start, end)))
-            # No hand is faster, and who is dragged over must be able to answer.
+            # No faster than a hand, so that the window under the pointer can answer.
             time.sleep(0.02)
         try:
             yield
@@ -101,7 +101,7 @@ class Display:
     # Colours
 
     def colors(self, area):
-        """The colours that a part of the screen shows now."""
+        """Returns the set of colours in a part of the screen."""
         pixels = set(memoryview(self.x.pixels(*area)).cast("I"))
         return {(pixel >> 16 & 255, pixel >> 8 & 255, pixel & 255) for pixel in pixels}
 
@@ -112,9 +112,9 @@ class Display:
     # Windows
 
     def move_window(self, window, x, y):
-        """Moves a window there, with or without its decorations, whichever it has asked for.
+        """Moves a window and returns the new place of its frame.
 
-        Gives where its frame is then.
+        The place is that of the frame or of the window itself, as the window's gravity demands.
         """
         self.act("windowmove", window, x, y)
         wait_until(lambda: (x, y) in (self.geometry(window)[:2], self.frame(window)[:2]), 3,
@@ -122,20 +122,20 @@ class Display:
         return self.frame(window)
 
     def close_window(self, window):
-        """Asks the window manager to, as a task bar does."""
+        """Asks the window manager to close a window, as a task bar does."""
         processes.run(["wmctrl", "-i", "-c", hex(window)], self.environment)
 
     def activate(self, window):
-        """Turns to a window, as a task bar does."""
+        """Asks the window manager to activate a window, as a task bar does."""
         processes.run(["wmctrl", "-i", "-a", hex(window)], self.environment)
 
     def maximise(self, window):
-        """Asks the window manager to, as a task bar does."""
+        """Asks the window manager to maximise a window, as a task bar does."""
         processes.run(["wmctrl", "-i", "-r", hex(window), "-b",
                        "add,maximized_vert,maximized_horz"], self.environment)
 
     def property(self, name, window=None):
-        """The text after the sign of equality, or of what xprop has to say instead."""
+        """Returns the value that xprop prints for a property, or its error text."""
         where = ["-id", str(window)] if window else ["-root"]
         result = subprocess.run(["xprop", *where, name], env=self.environment, check=False,
                                 timeout=10, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL,
@@ -143,7 +143,7 @@ class Display:
         return re.split(" = |# |: ", result.stdout.strip(), maxsplit=1)[-1]
 
     def windows(self, process_id):
-        """The windows of a process that the window manager shows, oldest first."""
+        """Returns the managed windows of a process, oldest first."""
         return [window for window in self.x.property(self.x.root, "_NET_CLIENT_LIST")
                 if self.x.property(window, "_NET_WM_PID") == [process_id]]
 
@@ -151,14 +151,14 @@ class Display:
         return next(iter(self.x.property(self.x.root, "_NET_ACTIVE_WINDOW")), 0)
 
     def focused_window(self):
-        """The window with the focus; 0 in the moment in which none has it."""
+        """Returns the window with the focus; 0 while no window has it."""
         return self.x.focus()
 
     def title(self, window):
         return self.x.text(window, "_NET_WM_NAME")
 
     def state(self, window):
-        """The names of its states."""
+        """Returns the names of the window's states."""
         return self.x.names(window, "_NET_WM_STATE")
 
     def is_urgent(self, window):
@@ -169,10 +169,10 @@ class Display:
         return processes.run(["xwininfo", "-id", str(window), *options], self.environment)
 
     def geometry(self, window):
-        """The place of a window without its decorations."""
+        """Returns the rectangle of a window without its decorations."""
         return Rect(*self.x.geometry(window))
 
     def frame(self, window):
-        """The place of a window with its decorations."""
+        """Returns the rectangle of a window with its decorations."""
         parent = self.x.parent(window)
         return self.geometry(window if parent == self.x.root else parent)

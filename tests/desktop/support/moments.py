@@ -1,4 +1,4 @@
-"""Tests that measure moments, on a computer that has other things to do as well."""
+"""Repeats tests that measure time and may fail because the computer is busy."""
 
 import functools
 
@@ -8,9 +8,9 @@ ATTEMPTS = 3
 def measures_moments(test):
     """Gives a test up to three attempts, each from its beginning.
 
-    A busy computer delivers a key, an answer or a piece of sound late now and then. What the
-    program itself does late or leaves out, it does each time, and then the test fails. It fails
-    at once when the program has crashed.
+    A busy computer sometimes delivers a key, a reply or a piece of sound late. A defect of the
+    program shows in every attempt, and then the test fails. It fails at once if the program has
+    crashed.
     """
     @functools.wraps(test)
     def run(self):

@@ -1,4 +1,4 @@
-"""Panels in which status items show."""
+"""Desktop panels that show status items."""
 
 import glob
 import os
@@ -54,7 +54,7 @@ systray_icon_size = 22
 
 
 class Panel:
-    """What all panels have in common: a strip of the screen, empty until something shows."""
+    """The base of all panels: a strip of the screen, empty until an item shows."""
 
     def __init__(self, display, top):
         self.display = display
@@ -62,12 +62,12 @@ class Panel:
         self.empty = None
 
     def pixels(self):
-        """What the strip shows now, as one number for each pixel."""
+        """Returns the strip's pixels, one number for each."""
         return memoryview(self.display.x.pixels(*self.strip)).cast("I")
 
     def look_at_empty(self):
-        """Takes note of what it looks like without an item, once it has come to rest."""
-        wait_until(self.is_at_rest, 10, "the panel has come to rest")
+        """Remembers the strip without an item, once it no longer changes."""
+        wait_until(self.is_at_rest, 10, "the panel no longer changes")
         self.empty = self.pixels()
 
     def is_at_rest(self):
@@ -76,7 +76,7 @@ class Panel:
         return self.pixels() == before
 
     def item(self):
-        """The place of the item in the strip; nothing while there is none."""
+        """Returns the place of the item in the strip; None if there is no item."""
         pixels = self.pixels()
         if pixels == self.empty:
             return None
@@ -102,7 +102,7 @@ class Panel:
 
 
 class XfcePanel(Panel):
-    """One that watches for items on the session bus."""
+    """A panel that is the watcher for items on the session bus."""
 
     WATCHER = "org.kde.StatusNotifierWatcher"
 
@@ -130,7 +130,7 @@ class XfcePanel(Panel):
 
     def stop(self):
         processes.end(self.process)
-        wait_until(lambda: not self.is_there(self.WATCHER), 5, "the panel has gone", 0.05)
+        wait_until(lambda: not self.is_there(self.WATCHER), 5, "the panel is closed", 0.05)
 
     def close(self):
         processes.end(self.process)
@@ -138,7 +138,7 @@ class XfcePanel(Panel):
 
 
 class Tint2(Panel):
-    """One that only takes windows in."""
+    """A panel with a tray for windows only, without a watcher on the session bus."""
 
     def __init__(self, session):
         super().__init__(session.display, session.display.height - HEIGHT)

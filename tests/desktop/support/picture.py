@@ -1,4 +1,4 @@
-"""Pictures of what a display shows."""
+"""Screenshots of a display."""
 
 import struct
 import zlib
@@ -20,7 +20,7 @@ class Picture:
         return tuple(self.pixels[start:start + 3])
 
     def row(self, y, left=0, right=None):
-        """The colours of a row, or of the part of it from left up to right."""
+        """Returns the colours of a row, or of its part from left up to, not including, right."""
         right = self.width if right is None else right
         part = self.pixels[(y * self.width + left) * 3:(y * self.width + right) * 3]
         return set(zip(part[::3], part[1::3], part[2::3]))
@@ -29,7 +29,7 @@ class Picture:
         return {self.at(x, y) for y in range(top, self.height if bottom is None else bottom)}
 
     def border(self, rect):
-        """The colours along the inner edge of a part."""
+        """Returns the set of colours along the inner edge of a rectangle."""
         return (self.row(rect.y, rect.x, rect.right)
                 | self.row(rect.bottom - 1, rect.x, rect.right)
                 | self.column(rect.x, rect.y, rect.bottom)
@@ -42,7 +42,7 @@ class Picture:
         return found
 
     def save(self, path):
-        """Writes it as PNG."""
+        """Writes the picture to a PNG file."""
         size = 3 * self.width
         rows = b"".join(b"\0" + self.pixels[start:start + size]
                         for start in range(0, size * self.height, size))
@@ -53,6 +53,6 @@ class Picture:
 
 
 def chunk(kind, data):
-    """A part of a PNG file."""
+    """Returns a chunk of a PNG file."""
     return (struct.pack(">I", len(data)) + kind + data
             + struct.pack(">I", zlib.crc32(kind + data)))

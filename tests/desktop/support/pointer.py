@@ -1,4 +1,4 @@
-"""The picture of the mouse pointer, which no other tool tells."""
+"""Reads the image of the mouse pointer from the X server."""
 
 import ctypes
 

@@ -1,4 +1,4 @@
-"""Programs that a test starts, and that must end with it."""
+"""Starts the programs that a test needs, and ends them with it."""
 
 import os
 import shutil
@@ -9,14 +9,14 @@ from support.waiting import wait_until
 
 
 def require(*tools):
-    """A tool that is not there fails the test and says so."""
+    """Fails the test if one of these tools is not installed."""
     for tool in tools:
         if not shutil.which(tool):
             raise RuntimeError(f"{tool} is not installed")
 
 
 def start(command, environment, **options):
-    """Starts a program in a process group of its own, which ends when the test program does."""
+    """Starts a program in its own process group; it ends when the test program does."""
     options.setdefault("stdout", subprocess.DEVNULL)
     options.setdefault("stderr", subprocess.DEVNULL)
     return subprocess.Popen(["setpriv", "--pdeathsig", "KILL", *command], env=environment,
@@ -24,7 +24,7 @@ def start(command, environment, **options):
 
 
 def end(process):
-    """Ends a program and what it has started."""
+    """Ends a program and the processes that it has started."""
     for number in (signal.SIGCONT, signal.SIGTERM):
         signal_group(process, number)
     try:
@@ -43,7 +43,7 @@ def signal_group(process, number):
 
 
 def marked(marker):
-    """The names, by process, of all that run with this text in their environment."""
+    """Returns the names of the processes with this text in their environment, by process id."""
     found = {}
     for entry in os.listdir("/proc"):
         try:
@@ -56,8 +56,8 @@ def marked(marker):
     return found
 
 
-def wait_for_no_one(marker):
-    """Waits until nobody runs with this text in the environment."""
+def wait_until_ended(marker):
+    """Waits until no process with this text in its environment runs."""
     try:
         wait_until(lambda: not marked(marker), 5, "every process has ended")
     except AssertionError as error:
@@ -65,13 +65,13 @@ def wait_for_no_one(marker):
 
 
 def run(command, environment):
-    """Runs a tool to its end; gives what it wrote."""
+    """Runs a tool to its end; returns its standard output."""
     return subprocess.run(command, env=environment, check=True, timeout=10,
                           stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True).stdout
 
 
 def wakeups(process_id):
-    """How often the threads of a process have gone to sleep of their own will."""
+    """Returns the number of voluntary context switches of all threads of a process."""
     total = 0
     for thread in os.listdir(f"/proc/{process_id}/task"):
         with open(f"/proc/{process_id}/task/{thread}/status", encoding="ascii") as status:

@@ -1,10 +1,10 @@
-"""How long processes had to wait for a processor, which is the computer's delay and not theirs."""
+"""How long processes waited for a processor: delay of the computer, not of the processes."""
 
 import glob
 
 
 def waits(process_id):
-    """The seconds that each thread of a process has waited while it could have run."""
+    """Returns the seconds that each thread of a process was ready to run but did not."""
     found = {}
     for path in glob.glob(f"/proc/{process_id}/task/*/schedstat"):
         try:
@@ -17,10 +17,9 @@ def waits(process_id):
 
 
 class Waits:
-    """What some processes have waited for a processor, from the moment it is made.
+    """The time that processes have waited for a processor since this object was made.
 
-    A bound on what the program does holds for the time in which the computer lets it: on one with
-    nothing else to do this is next to nothing.
+    Tests add it to the time that they allow the program. On an idle computer it is close to 0.
     """
 
     def __init__(self, *process_ids):

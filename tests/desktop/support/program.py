@@ -1,4 +1,4 @@
-"""The program under test, driven and judged from outside."""
+"""Drives the program under test from outside, and reads its state."""
 
 import os
 import subprocess
@@ -10,18 +10,18 @@ from support.accessibility import Atspi
 from support.processor import Waits
 from support.waiting import wait_until
 
-# Between two looks at the program, each of which makes it work.
+# Seconds between two looks at the program, because each look makes it work.
 PAUSE = 0.02
 
 
 class Program:
-    """One run of the program, with folders of its own for its settings."""
+    """One run of the program, with its own folders for the settings."""
 
     executable = ""
 
     def __init__(self, session, display=None, environment=None, settings=None, accessible=True,
                  arguments=(), through=(), limits=None):
-        """Through is a command that becomes the program; limits is called in its process."""
+        """"through" is a command that executes the program; "limits" is called in its process."""
         self.session = session
         self.command = [*through, self.executable, *arguments]
         self.limits = limits
@@ -56,7 +56,7 @@ class Program:
 
     def spawn(self):
         with open(self.log, "a", encoding="utf-8") as log:
-            # Not below another program: its process must be the program's own.
+            # Started directly, so that this process id is that of the program.
             self.process = subprocess.Popen(self.command, env=self.environment,
                                             preexec_fn=self.limits, restore_signals=False,
                                             stdin=subprocess.DEVNULL, stdout=log, stderr=log)
@@ -81,7 +81,7 @@ class Program:
     # Controls
 
     def all(self, role, name=None, description=None, within=None):
-        """All controls that a person could see, by role, name and description."""
+        """Returns all visible controls with this role, name and description."""
         return [control for control in self.application.controls(role, within)
                 if name in (None, control.name) and description in (None, control.description)]
 
@@ -105,7 +105,7 @@ class Program:
         try:
             return self.find("display", description=what, within=within).name
         except AssertionError:
-            # In the moment in which the display moves to another window.
+            # The display is just moving to another window.
             return None
 
     def text(self, field, within=None):
@@ -115,7 +115,7 @@ class Program:
         return field.text()
 
     def place(self, control):
-        """Where a control is on the screen."""
+        """Returns the rectangle of a control on the screen."""
         return control.place()
 
     def wait_for_text(self, what, text, seconds=5):
@@ -134,7 +134,7 @@ class Program:
         wait_until(lambda: self.focused_field() == field, 5, f"the focus is in {field}", PAUSE)
 
     def answers(self):
-        """Gives how many seconds the program took to answer; fails when it hangs."""
+        """Returns how many seconds the program takes to answer; fails if it hangs."""
         start = time.monotonic()
         if self.application.windows() < 1:
             raise AssertionError("the program has no window")
@@ -143,12 +143,12 @@ class Program:
     # Verbs
 
     def type_seconds(self, seconds):
-        """Types a duration into a new timer, the minutes field of which has the focus."""
+        """Types a duration into a new timer, whose minutes field has the focus."""
         self.display.key("Tab")
         self.display.type(str(seconds))
 
     def start_countdown(self, seconds):
-        """Starts a countdown with the keyboard; gives the moments before and after the press."""
+        """Starts a countdown with the keyboard; returns the times before and after the press."""
         self.type_seconds(seconds)
         before = time.monotonic()
         self.display.key("Return")
@@ -157,22 +157,22 @@ class Program:
     # The end
 
     def wait_for_home(self):
-        """Waits until the home window has taken the place of the last one; gives it."""
+        """Waits until the home window has replaced the last window; returns it."""
         self.wait_for_button("New Timer")
         home, = self.wait_for_windows(1)
         wait_until(lambda: self.display.active_window() == home, 5, "the home window is active")
         return home
 
     def quit(self):
-        """Quits with the keyboard; gives how many seconds that took and the exit status."""
-        # A window that has just closed leaves the keyboard to nobody for a moment.
+        """Quits with the keyboard; returns the seconds that took and the exit status."""
+        # For a moment after a window has closed, no window has the focus.
         wait_until(self.has_focus, 5, "a window of the program is active")
         start = time.monotonic()
         self.display.key("ctrl+q")
         return self.wait_for_end(start)
 
     def close_all(self):
-        """Closes its only timer, and the home window that takes its place; gives the same."""
+        """Closes the only timer and then the home window; returns the same as quit()."""
         self.display.key("ctrl+w")
         self.wait_for_home()
         start = time.monotonic()
@@ -180,8 +180,8 @@ class Program:
         return self.wait_for_end(start)
 
     def wait_for_end(self, start):
-        """Gives the seconds from the start to the end, without those in which the program waited
-        for a processor, and the exit status."""
+        """Returns the seconds from start to the end, without those in which the program waited for
+        a processor, and the exit status."""
         waits = Waits(self.process.pid)
         waited = 0
 
@@ -198,7 +198,7 @@ class Program:
         self.process.wait()
 
     def written(self):
-        """What the program has written so far; it should be nothing."""
+        """Returns the output of the program so far, which should be empty."""
         with open(self.log, encoding="utf-8") as file:
             return file.read()
 

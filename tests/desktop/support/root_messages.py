@@ -1,4 +1,4 @@
-"""What programs tell everybody on an X server."""
+"""Reads the messages that programs send to the root window of an X server."""
 
 import ctypes
 import time
@@ -8,7 +8,7 @@ CLIENT_MESSAGE = 33
 
 
 class Message(ctypes.Structure):
-    """XClientMessageEvent of Xlib; the data as the longest of its forms."""
+    """XClientMessageEvent of Xlib, with the longest variant of its data union."""
 
     _fields_ = [("type", ctypes.c_int), ("serial", ctypes.c_ulong), ("send_event", ctypes.c_int),
                 ("display", ctypes.c_void_p), ("window", ctypes.c_ulong),
@@ -21,7 +21,7 @@ class Event(ctypes.Union):
 
 
 class RootMessages:
-    """Hears the messages to the root window of a display, from the moment it is made."""
+    """Receives the messages to the root window of a display from now on."""
 
     def __init__(self, display):
         self.x = ctypes.CDLL("libX11.so.6")
@@ -35,7 +35,7 @@ class RootMessages:
         self.x.XSync(self.connection, 0)
 
     def startup_text(self, seconds):
-        """The text of the first startup notification within so many seconds, which ends with 0."""
+        """Returns the first startup notification within the given seconds, with its final 0."""
         text = b""
         deadline = time.monotonic() + seconds
         event = Event()

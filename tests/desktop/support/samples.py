@@ -1,4 +1,4 @@
-"""What can be said of recorded samples, which are 16-bit numbers."""
+"""Measures recorded sound: arrays of 16-bit samples."""
 
 import array
 import math
@@ -22,7 +22,7 @@ def frequency(samples):
 
 
 def strength(samples, tone):
-    """How loud one tone is among others."""
+    """Returns how loud one frequency is among others."""
     real = imaginary = 0.0
     step = 2 * math.pi * tone / RATE
     for i, sample in enumerate(samples):
@@ -32,7 +32,7 @@ def strength(samples, tone):
 
 
 def longest_silence(samples):
-    """The longest run of silent samples, in milliseconds."""
+    """Returns the longest run of silent samples, in milliseconds."""
     longest = current = 0
     for sample in samples:
         current = current + 1 if abs(sample) < AUDIBLE else 0

@@ -1,4 +1,4 @@
-"""A desktop session of the test's own: buses, notifications, sound, and displays."""
+"""A separate desktop session for a test: buses, notifications, sound, and displays."""
 
 import os
 import re
@@ -13,7 +13,8 @@ from support.display import Display
 from support.sound_server import Server
 from support.waiting import wait_until
 
-# But for what a test asks for, nothing is started on demand: what is not there must be missed.
+# The bus starts no services on demand, except for those in a folder that the test names: otherwise
+# tests could not run without a service.
 BUS_CONFIGURATION = """<busconfig>
   <type>session</type>
   <listen>unix:path={folder}/session-bus</listen>
@@ -27,7 +28,7 @@ BUS_CONFIGURATION = """<busconfig>
 </busconfig>
 """
 
-# Unless the test wants it otherwise, whatever is shown stays, so that it can be counted.
+# By default, notifications stay until the test removes them, so that it can count them.
 NOTIFICATION_CONFIGURATION = """[global]
     idle_threshold = 0
     stack_duplicates = false
@@ -43,8 +44,8 @@ NOTIFICATION_CONFIGURATION = """[global]
 """
 
 
-# Stands for the menu from which the user picks a button: keeps what is offered, and takes the one
-# that the test has named.
+# Replaces the menu from which the user picks a button: stores the offered buttons, and picks the
+# one that the test has named.
 CHOOSER = """#!/bin/sh
 cat > {offered}.new
 mv {offered}.new {offered}
@@ -53,7 +54,7 @@ exec grep --max-count=1 --fixed-strings "#$(cat {wanted}) (" {offered}
 
 
 def connect(address):
-    """A connection to the bus at this address, which may go without the test."""
+    """Connects to the bus at this address; the test goes on if the bus dies."""
     flags = (Gio.DBusConnectionFlags.AUTHENTICATION_CLIENT
              | Gio.DBusConnectionFlags.MESSAGE_BUS_CONNECTION)
     bus = Gio.DBusConnection.new_for_address_sync(address, flags, None, None)
@@ -67,7 +68,7 @@ def ask(bus, name, path, interface, method, arguments=None):
 
 
 class Notifications:
-    """A notification daemon, and what it shows, each for so many seconds; 0 means for ever."""
+    """A notification daemon that shows each notification for some seconds; 0 means for ever."""
 
     NAME = "org.freedesktop.Notifications"
     PATH = "/org/freedesktop/Notifications"
@@ -95,22 +96,22 @@ class Notifications:
         return path
 
     def click(self):
-        """Clicks on the latest."""
+        """Clicks on the latest notification."""
         self.ask_for("NotificationAction", GLib.Variant("(u)", (0,)))
 
     def press(self, button):
-        """Presses a button of one that is shown."""
+        """Presses the button with this text in one of the shown notifications."""
         with open(self.wanted, "w", encoding="ascii") as file:
             file.write(button)
         self.ask_for("ContextMenuCall")
 
     def buttons(self):
-        """What the buttons of all that are shown say, each text once and in alphabetical order."""
+        """Returns the button texts of all shown notifications, without duplicates, sorted."""
         if os.path.exists(self.offered):
             os.remove(self.offered)
         self.press("none of them")
         wait_until(lambda: os.path.exists(self.offered), 5, "the buttons are offered")
-        # The daemon opens no other menu until it has noticed that this one has closed.
+        # The daemon opens no other menu until it has noticed that this one is closed.
         time.sleep(0.3)
         with open(self.offered, encoding="utf-8") as file:
             return sorted(set(re.findall(r"^#(\w+) \(", file.read(), re.MULTILINE)))
@@ -120,7 +121,7 @@ class Notifications:
                    GLib.Variant("(ss)", ("org.dunstproject.cmd0", "displayedLength")))[0]
 
     def take_all(self):
-        """Takes away what is shown; gives it, the latest first."""
+        """Removes the shown notifications; returns them, the latest first."""
         self.ask_for("NotificationCloseAll")
         history, = self.ask_for("NotificationListHistory")
         taken = [item for item in history if item["id"] not in self.taken]
@@ -135,10 +136,10 @@ class Notifications:
 
 
 class Session:
-    """Everything that a desktop has; the program under test runs in it."""
+    """The services of a desktop, for the program under test to run in."""
 
     def __init__(self, size=(1280, 800), service_folder=None):
-        """With a folder of service files, its bus starts what they describe."""
+        """With a folder of service files, the bus starts these services on demand."""
         processes.require("dbus-daemon", "setpriv", "pulseaudio", "pactl", "parec",
                           "/usr/libexec/at-spi-bus-launcher")
         self.folder = tempfile.mkdtemp(prefix="desktop-")
@@ -205,7 +206,7 @@ class Session:
         self.accessibility_bus = connect(address)
 
     def owns(self, name):
-        """Whether somebody owns the name on the session bus."""
+        """Whether a process owns the name on the session bus."""
         return ask(self.bus, "org.freedesktop.DBus", "/", "org.freedesktop.DBus", "NameHasOwner",
                    GLib.Variant("(s)", (name,)))[0]
 
@@ -238,5 +239,5 @@ class Session:
     def close(self):
         while self.closers:
             self.closers.pop()()
-        processes.wait_for_no_one(self.folder)
+        processes.wait_until_ended(self.folder)
         shutil.rmtree(self.folder)

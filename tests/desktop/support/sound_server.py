@@ -1,4 +1,4 @@
-"""A sound server of the test's own, and a recorder of what is heard there."""
+"""A separate sound server for a test, and a recorder of its output."""
 
 import array
 import math
@@ -12,7 +12,7 @@ from support.processor import Waits
 from support.samples import AUDIBLE, RATE, longest_silence, loudest
 from support.waiting import wait_until
 
-# What is played must be ready so many seconds before, so this much waiting makes no gap.
+# In seconds. Sound is delivered to the server earlier than this, so a shorter wait makes no gap.
 LONGEST_WAIT = 0.005
 
 
@@ -23,7 +23,7 @@ class Server:
         self.environment = dict(os.environ, XDG_RUNTIME_DIR=folder, HOME=folder)
         for name in ("PULSE_SERVER", "PULSE_SINK", "DISPLAY", "DBUS_SESSION_BUS_ADDRESS"):
             self.environment.pop(name, None)
-        # Fails the test rather than play at some other device or start another server.
+        # Without a server, playing fails: it must not reach a real device or start another server.
         self.environment["ALSA_CONFIG_PATH"] = "/dev/null"
         self.environment["PULSE_CLIENTCONFIG"] = os.path.join(folder, "pulse-client.conf")
         with open(self.environment["PULSE_CLIENTCONFIG"], "w", encoding="ascii") as file:
@@ -45,7 +45,7 @@ class Server:
                               stderr=subprocess.DEVNULL, check=False).returncode == 0
 
     def add_sink(self):
-        # Without "norewinds", the sink has two seconds ready before anything listens.
+        # Without "norewinds", the sink renders two seconds ahead before a client connects.
         self.sink = self.ask("load-module", "module-null-sink", "sink_name=test",
                              f"rate={RATE}", "channels=2", "format=float32le",
                              "norewinds=1").strip()
@@ -80,19 +80,19 @@ class Server:
 class Recorder:
     """Records what the sink plays, and when.
 
-    The sink plays by the clock of the computer. So the place of a sample in the recording tells
-    when it was heard, however late a busy computer let the recorder read it.
+    The sink plays by the clock of the computer. So the index of a sample in the recording tells
+    when it was played, even if a busy computer let the recorder read it late.
     """
 
-    # The first ones come while the sink still finds its pace.
+    # The first pieces arrive before the sink keeps a steady rate.
     PIECES_TO_SKIP = 10
-    # The samples of ten milliseconds: what is looked through at a time.
+    # Samples in ten milliseconds: recordings are searched in steps of this length.
     STRETCH = RATE // 100
 
     def __init__(self, environment):
         self.skipped = 0
         self.samples = array.array("h")
-        # The moment of the first sample, by the piece that was read with the least delay.
+        # The time of the first sample, computed from the piece that was read with the least delay.
         self.began = math.inf
         self.process = subprocess.Popen(
             ["parec", "-d", "test.monitor", "--format=s16le", f"--rate={RATE}", "--channels=1",
@@ -122,24 +122,24 @@ class Recorder:
         return max(0, round((moment - self.began) * RATE))
 
     def catch_up(self):
-        """Waits until all that has been played up to now is recorded."""
+        """Waits until everything played up to now is recorded."""
         now = time.monotonic()
         wait_until(lambda: self.moment(len(self.samples)) >= now, 10, "the sink plays on")
 
     def between(self, start, end):
-        """The samples that were heard between two moments."""
+        """Returns the samples that were played between two times."""
         return self.samples[self.place(start):self.place(end)]
 
     def hear(self, seconds):
-        """The samples of the next so many seconds."""
+        """Records for this many seconds; returns the samples."""
         start = time.monotonic()
         time.sleep(seconds)
         self.catch_up()
         return self.between(start, start + seconds)
 
     def hear_undisturbed(self, seconds, *process_ids):
-        """The same of what these processes play while the computer is not too busy for them: it
-        listens again when there is a gap, and they have waited for a processor meanwhile."""
+        """Like hear(), but records again, up to 20 times, if there is a gap and these processes
+        had to wait for a processor."""
         for _ in range(20):
             waits = Waits(*process_ids)
             samples = self.hear(seconds)
@@ -156,7 +156,7 @@ class Recorder:
         return None
 
     def last_sound(self):
-        """The moment of the last sound until now."""
+        """Returns the time of the last sound until now; 0 without any."""
         self.catch_up()
         for end in range(len(self.samples), 0, -self.STRETCH):
             stretch = self.samples[max(0, end - self.STRETCH):end]

@@ -1,10 +1,10 @@
-"""Waiting for something to happen, but not for ever."""
+"""Waits for a condition, with a time limit."""
 
 import time
 
 
 def wait_until(condition, seconds, what, pause=0.002):
-    """Asks for a condition, with pauses, until it holds; gives how many seconds it took."""
+    """Polls a condition until it holds; returns how many seconds that took."""
     start = time.monotonic()
     while not condition():
         if time.monotonic() - start > seconds:

@@ -1,4 +1,4 @@
-"""What an X server tells of its windows, asked over one connection for all questions."""
+"""Queries the windows of an X server over one connection."""
 
 import ctypes
 from ctypes import POINTER, byref, c_char_p, c_int, c_long, c_uint, c_ulong, c_void_p
@@ -6,7 +6,7 @@ from ctypes import POINTER, byref, c_char_p, c_int, c_long, c_uint, c_ulong, c_v
 ANY_TYPE = 0
 ALL_PLANES = 0xffffffff
 Z_PIXMAP = 2
-# As many as any window has.
+# In units of 32 bits; longer than any property of a window.
 LONGEST_PROPERTY = 1 << 20
 NO_WINDOWS = (0, 1)  # None and PointerRoot
 
@@ -20,14 +20,14 @@ class Error(ctypes.Structure):
 
 
 class Attributes(ctypes.Structure):
-    """The beginning of XWindowAttributes of Xlib, and room for the rest."""
+    """The first fields of XWindowAttributes of Xlib, and room for the rest."""
 
     _fields_ = [("x", c_int), ("y", c_int), ("width", c_int), ("height", c_int),
                 ("rest", c_long * 32)]
 
 
 class Image(ctypes.Structure):
-    """The beginning of XImage of Xlib."""
+    """The first fields of XImage of Xlib."""
 
     _fields_ = [("width", c_int), ("height", c_int), ("xoffset", c_int), ("format", c_int),
                 ("data", c_void_p), ("byte_order", c_int), ("bitmap_unit", c_int),
@@ -67,7 +67,7 @@ MOTION = declare(ctypes.CDLL("libXtst.so.6"), "XTestFakeMotionEvent", c_int, c_v
 
 @ctypes.CFUNCTYPE(c_int, c_void_p, POINTER(Error))
 def pass_over(_display, _error):
-    """Without it an error would end the test. Each question tells by its answer that it failed."""
+    """Ignores X errors, which would end the test: each query returns whether it failed."""
     return 0
 
 
@@ -75,7 +75,7 @@ X.XSetErrorHandler(pass_over)
 
 
 class WindowGone(Exception):
-    """A window that was listed a moment ago is there no more."""
+    """A window that was listed a moment ago is gone."""
 
 
 class XServer:
@@ -105,7 +105,7 @@ class XServer:
         return text
 
     def property(self, window, name):
-        """The bytes of a property, or the list of its numbers; empty when there is none."""
+        """Returns the bytes or the list of numbers of a property; empty if there is none."""
         kind, size, count, left, data = c_ulong(), c_int(), c_ulong(), c_ulong(), c_void_p()
         failed = PROPERTY(self.connection, window, self.atom(name), 0, LONGEST_PROPERTY, False,
                           ANY_TYPE, byref(kind), byref(size), byref(count), byref(left),
@@ -123,11 +123,11 @@ class XServer:
         return bytes(self.property(window, name)).decode("utf-8")
 
     def names(self, window, name):
-        """The names of the atoms that a property lists."""
+        """Returns the names of the atoms in a property."""
         return [self.atom_name(atom) for atom in self.property(window, name)]
 
     def geometry(self, window):
-        """The place of a window on the screen and its size: x, y, width, height."""
+        """Returns x, y, width and height of a window on the screen."""
         attributes, x, y, child = Attributes(), c_int(), c_int(), c_ulong()
         if not (ATTRIBUTES(self.connection, window, byref(attributes))
                 and TRANSLATE(self.connection, window, self.root, 0, 0, byref(x), byref(y),
@@ -145,7 +145,7 @@ class XServer:
         return parent.value
 
     def focus(self):
-        """The window of a program that has the keyboard; 0 when none has it."""
+        """Returns the top-level window with the keyboard focus; 0 if none has it."""
         window, revert_to = c_ulong(), c_int()
         FOCUS(self.connection, byref(window), byref(revert_to))
         found = window.value
@@ -159,12 +159,12 @@ class XServer:
         return 0
 
     def pixels(self, x, y, width, height):
-        """What a part of the screen shows: for each pixel four bytes, blue, green, red, nothing."""
+        """Returns the pixels of a rectangle, four bytes each: blue, green, red, unused."""
         image = IMAGE(self.connection, self.root, x, y, width, height, ALL_PLANES, Z_PIXMAP)
         if not image:
-            raise ValueError("a part of that is not on the screen")
+            raise ValueError("a part of the rectangle is not on the screen")
         if image.contents.bits_per_pixel != 32 or image.contents.bytes_per_line != 4 * width:
-            raise RuntimeError("the picture has an unexpected form")
+            raise RuntimeError("the image has an unexpected format")
         data = ctypes.string_at(image.contents.data, 4 * width * height)
         DESTROY_IMAGE(image)
         return data
