@@ -1,9 +1,9 @@
 #!/usr/bin/python3
-"""Kills a program at random moments while it changes settings, and looks at what it leaves.
+"""Kills a program at random moments while it changes settings, and checks the file it leaves.
 
 Usage: settings_kills.py SETTINGSWRITER [KILLS]
 
-Fails when a file cannot be read, or when a change is missing that was older than a second.
+Fails if a file cannot be read, or if a change is missing that was older than a second.
 """
 
 import json
@@ -21,7 +21,7 @@ LANES = 10
 
 
 class Lane:
-    """One settings file, and those who change it, one after the other."""
+    """One settings file, and the processes that change it, one after the other."""
 
     def __init__(self, writer, folder, seed):
         self.command = [writer, os.path.join(folder, f"{seed}", "settings.json")]
@@ -35,7 +35,7 @@ class Lane:
 
     def kill_some(self, kills):
         for _ in range(kills):
-            # The half of them early, where a start and its first writing are.
+            # Half of the kills come early, while the program starts and writes for the first time.
             life = self.moments.uniform(0, self.moments.choice((0.1, LONGEST_LIFE)))
             killed, changes = self.run(life)
             self.judge(killed, changes)
@@ -57,14 +57,14 @@ class Lane:
         due = max([self.kept] + [number for number, moment in changes
                                  if moment <= killed - KEPT_AFTER])
         if found < due:
-            self.failures.append(f"{found} is kept, and {due} was more than a second old")
+            self.failures.append(f"{found} was kept, but {due} was more than a second old")
         lost = [killed - moment for number, moment in changes if number > found]
         self.lost_young += len(lost)
         self.oldest_lost = max([self.oldest_lost, *lost])
         self.kept = found
 
     def read(self):
-        """The number of the change that the file shows; nothing when it cannot be read."""
+        """Returns the number of the latest change in the file; None if it cannot be read."""
         if not os.path.exists(self.command[1]):
             return 0
         with open(self.command[1], encoding="utf-8") as file:
@@ -75,11 +75,11 @@ class Lane:
             self.failures.append(f"unreadable: {error}")
             return None
         if settings["count"] != settings["same"]:
-            self.failures.append("half of a change is kept")
+            self.failures.append("only half of a change was kept")
         return settings["count"]
 
     def left_over(self):
-        """What lies in the folder beside the settings and their lock."""
+        """Returns the files in the folder except for the settings and their lock."""
         return [name for name in os.listdir(self.folder)
                 if name not in ("settings.json", "settings.json.lock")]
 
@@ -87,8 +87,8 @@ class Lane:
 def main():
     writer = os.path.abspath(sys.argv[1])
     kills = int(sys.argv[2]) if len(sys.argv) > 2 else 1000
-    # A kill leaves what the system has taken, so a disk would only add the seconds for which others
-    # keep it busy.
+    # A kill loses nothing that the process has handed to the system, so the files can be in
+    # memory: a disk would only add delays.
     memory = "/dev/shm" if os.access("/dev/shm", os.W_OK) else None
     with tempfile.TemporaryDirectory(prefix="kills-", dir=memory) as folder:
         lanes = [Lane(writer, folder, seed) for seed in range(LANES)]
@@ -104,7 +104,7 @@ def main():
           f"{max(lane.oldest_lost for lane in lanes) * 1000:.0f} ms old, "
           f"{len(left_over)} files left over, {len(failures)} failures")
     if not all(lane.kept for lane in lanes):
-        failures.append("in one lane nothing was ever kept")
+        failures.append("one of the files never kept a change")
     for failure in failures:
         print(failure)
     sys.exit(1 if failures else 0)
