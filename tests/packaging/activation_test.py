@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Has the session bus start the program from where it has been installed, as desktops do.
+"""Lets the session bus start the installed program, as desktops do.
 
 Usage: activation_test.py BUILD FOLDER [unittest arguments]
 """
@@ -34,7 +34,7 @@ class ActivationTest(DesktopTest):
         cls.addClassCleanup(cls.installed.remove)
         cls.service_folder = cls.installed.path("share/dbus-1/services")
         super().setUpClass()
-        # What a desktop tells the bus when a session begins.
+        # The environment that a desktop passes to the bus when a session begins.
         names = {name: cls.session.environment[name]
                  for name in ("DISPLAY", "HOME", "XDG_RUNTIME_DIR", "LC_ALL")}
         ask(cls.session.bus, *BUS, "UpdateActivationEnvironment",
@@ -51,13 +51,13 @@ class ActivationTest(DesktopTest):
                 in processes.marked(self.session.folder).items() if command == "wuffer"]
 
     def call(self, method, signature, arguments):
-        """Asks the program for something; does not wait for the answer."""
+        """Calls a method of the program; does not wait for the reply."""
         self.session.bus.call(NAME, PATH, INTERFACE, method, GLib.Variant(signature, arguments),
                               None, Gio.DBusCallFlags.NONE, 10000, None, None)
         self.session.bus.flush_sync()
 
     def wait_for_titles(self, *titles):
-        """The windows of the one program that runs."""
+        """Waits until one process of the program runs, and its windows have these titles."""
         wait_until(lambda: self.session.owns(NAME), 10, "the program owns its name")
         process_id, = ask(self.session.bus, *BUS, "GetConnectionUnixProcessID",
                           GLib.Variant("(s)", (NAME,)))
@@ -73,7 +73,7 @@ class ActivationTest(DesktopTest):
         self.call("Activate", "(a{sv})", ({},))
         self.wait_for_titles("Wuffer")
 
-    def test_it_is_started_once_by_two_who_want_it(self):
+    def test_two_calls_start_it_once(self):
         self.call("Activate", "(a{sv})", ({},))
         self.call("Activate", "(a{sv})", ({},))
         self.wait_for_titles("Wuffer")

@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Reads from programs and modules that they were built to withstand attacks.
+"""Checks that programs and modules are built with the hardening flags.
 
 Usage: hardening_test.py BUILD FILE... [-- unittest arguments]
 """
@@ -28,7 +28,7 @@ class HardeningTest(unittest.TestCase):
                 self.assertTrue(re.search(pattern, read(file, *what)), f"there is no {pattern}")
 
     def commands(self):
-        """The commands that compile what the program consists of."""
+        """Returns the commands that compile the sources of the program."""
         with open(os.path.join(self.build, "compile_commands.json"), encoding="utf-8") as file:
             commands = [entry["command"] for entry in json.load(file)
                         if "/src/" in entry["file"]]

@@ -1,4 +1,4 @@
-"""Installs a build into a folder of the test's own."""
+"""Installs a build into a temporary folder for a test."""
 
 import fcntl
 import os
@@ -9,17 +9,17 @@ import tempfile
 
 
 class Installation:
-    """What "cmake --install" makes of a build; it goes with the test."""
+    """A build as "cmake --install" installs it. The test removes it at its end."""
 
     def __init__(self, build, prefix=None, staged=False):
-        """Installs to the prefix, below the folder if staged as packagers do."""
+        """Installs to the prefix; if staged, below the temporary folder as DESTDIR."""
         self.folder = tempfile.mkdtemp(prefix="installation-")
         self.prefix = prefix or self.folder
         environment = {name: value for name, value in os.environ.items() if name != "DESTDIR"}
         if staged:
             environment["DESTDIR"] = self.folder
         try:
-            # An installation writes into the build, too: only one at a time.
+            # Installing also writes into the build folder, so only one may run at a time.
             with open(os.path.join(build, "installing"), "w", encoding="ascii") as lock:
                 fcntl.flock(lock, fcntl.LOCK_EX)
                 run("cmake", "--install", build, "--prefix", self.prefix, environment=environment)
@@ -39,13 +39,13 @@ class Installation:
             return file.read()
 
     def files(self):
-        """All files, by their places below the prefix."""
+        """Returns the paths of all files relative to the prefix."""
         return {os.path.relpath(os.path.join(folder, name), self.root)
                 for folder, _, names in os.walk(self.folder) for name in names}
 
 
 def run(*command, environment=None):
-    """Runs a tool; what it writes is shown when it fails."""
+    """Runs a tool; shows its output if it fails."""
     result = subprocess.run(command, env=environment, check=False, text=True, timeout=60,
                             stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
                             stderr=subprocess.STDOUT)
@@ -55,5 +55,5 @@ def run(*command, environment=None):
 
 
 def take_argument():
-    """The next argument of the command line."""
+    """Removes and returns the next argument of the command line."""
     return sys.argv.pop(1)

@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Judges the files that are installed, beside the program, for the desktop.
+"""Checks the files for the desktop that are installed with the program.
 
 Usage: installed_files_test.py BUILD LIBDIR VERSION [unittest arguments]
 """
@@ -63,7 +63,7 @@ class InstalledFilesTest(unittest.TestCase):
     def service(self, installed):
         return key_file(installed.read(SERVICE))["D-BUS Service"]
 
-    def test_what_is_installed_is_this_and_nothing_else(self):
+    def test_exactly_the_expected_files_are_installed(self):
         self.assertEqual(self.installed.files(), FILES)
 
     def test_the_desktop_entry_is_valid(self):
@@ -82,7 +82,7 @@ class InstalledFilesTest(unittest.TestCase):
         self.assertEqual({action: group["Exec"] for action, group in groups.items()}, ACTIONS)
         self.assertTrue(all(group["Name"] for group in groups.values()))
 
-    def test_the_session_bus_starts_the_program_from_where_it_will_be(self):
+    def test_the_session_bus_starts_the_program_from_its_installed_path(self):
         service = self.service(self.installed)
         self.assertEqual(service["Name"], ID)
         self.assertEqual(service["Exec"], "/usr/bin/wuffer --service")

@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Runs the program from where it has been installed, on a desktop of the test's own.
+"""Runs the installed program in a desktop session of its own.
 
 Usage: installed_program_test.py BUILD FOLDER [unittest arguments]
 """
@@ -18,7 +18,7 @@ from support.waiting import wait_until  # noqa: E402
 
 BUILD = os.path.abspath(take_argument())
 
-# Stands for the browser, and notes what it is to open.
+# Replaces the browser: writes the address that it is to open to a file.
 OPENER = """#!/bin/sh
 printf '%s' "$1" >"$0.part" && mv "$0.part" "$0.address"
 """
@@ -30,7 +30,7 @@ class InstalledProgramTest(DesktopTest):
     @classmethod
     def setUpClass(cls):
         super().setUpClass()
-        # Not where the build thinks it will be, so that nothing is found there by chance.
+        # Another place than the configured prefix, so that no file is found by chance.
         cls.installed = Installation(BUILD, prefix="/usr", staged=True)
         cls.addClassCleanup(cls.installed.remove)
         Program.executable = cls.installed.path("bin/wuffer")

@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Judges what software centres are told, by a project with and without a place on the web.
+"""Checks the metainfo for software centres, with and without web addresses.
 
 Usage: metainfo_test.py SOURCE [unittest arguments]
 """
