@@ -1,4 +1,4 @@
-"""The layers of src: each sees the headers that docs/architecture.md lets it see, and no others.
+"""Checks that each layer of src can include the headers that docs/architecture.md allows, only.
 
 Usage: layers_test.py <source folder> <build folder>
 """
@@ -16,7 +16,7 @@ BUILD = pathlib.Path(sys.argv[2])
 
 
 def links_in_the_picture():
-    """What each layer links by the table of the layers: its own layer and those named in the row."""
+    """Returns, for each layer in the table of the layers, the layers that its row names."""
     links = {}
     everything_but = {}
     for line in (SOURCE / "docs/architecture.md").read_text(encoding="utf-8").splitlines():
@@ -42,7 +42,7 @@ def a_header_of(layer):
 
 
 def compiler_of(layer):
-    """The command that compiles a file of the layer, without that file and what it makes."""
+    """Returns the compiler of the layer with its include folders, and its working folder."""
     folder = SOURCE / "src" / layer
     for entry in json.loads((BUILD / "compile_commands.json").read_text(encoding="utf-8")):
         if pathlib.Path(entry["file"]).parent == folder:
@@ -50,11 +50,11 @@ def compiler_of(layer):
             start = next(i for i, word in enumerate(words) if re.search(r"(\+\+|clang)[^/]*$", word))
             includes = [word for word in words[start:] if word.startswith("-I")]
             return [words[start], *includes], entry["directory"]
-    raise AssertionError(f"nothing of {layer}/ is compiled")
+    raise AssertionError(f"no file of {layer}/ is compiled")
 
 
 def seen_by(layer, layers):
-    """The layers whose headers a file of this one can include."""
+    """Returns the layers whose headers a file of this layer can include."""
     question = "".join(
         f'#if __has_include("{other}/{a_header_of(other)}")\nsees {other}\n#endif\n'
         for other in layers)
