@@ -3,7 +3,7 @@
 #include <cstdio>
 #include <cstdlib>
 
-/// Ends the fuzzer, which then keeps the input that led here, when a promise does not hold.
+/// Aborts if a promise does not hold. The fuzzer then saves the input as a crash.
 inline void check(bool promise, const char *what)
 {
     if (promise)

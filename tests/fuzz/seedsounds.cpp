@@ -4,7 +4,7 @@
 
 #include <array>
 
-/// Writes a short sound in each format that the program plays into the folder given.
+/// Writes a short sound in each format that the program plays to the given folder.
 int main(int argc, char **argv)
 {
     struct Seed

@@ -42,8 +42,8 @@ template<class Value> QString textOf(const std::optional<Value> &value)
     return value ? textOf(*value) : QStringLiteral("none");
 }
 
-/// What the program reads of a record: of one with the settings of a timer, and of one that holds
-/// the places of windows, because either may lie under any key.
+/// All values that the program reads from a record, as one text. Reads it both as the settings of a
+/// timer and as places of windows, because a file may hold either under any key.
 QString textOf(const QVariantMap &record)
 {
     QStringList all{Preset::text(TimerSettings::fromRecord(record))};
@@ -58,7 +58,7 @@ QString textOf(const QVariantMap &record)
     return textOf(all);
 }
 
-/// Everything that the program reads of its settings, as one text.
+/// Everything that the program reads from its settings, as one text.
 QString everythingIn(const UserDefaults &defaults)
 {
     QStringList all;
@@ -80,12 +80,12 @@ QByteArray contentsOf(const QString &path)
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-/// What a timer takes over and keeps again reads as the same.
+/// Checks that the settings of a timer survive being stored and read again.
 void checkTimer(const UserDefaults &defaults)
 {
     const auto settings = TimerSettings::fromRecord(defaults.value(Keys::kDefaultWufferSettings));
     const QVariantMap record = settings.record();
-    check(TimerSettings::fromRecord(record).record() == record, "a record reads as it was kept");
+    check(TimerSettings::fromRecord(record).record() == record, "a record reads as it was stored");
 }
 
 void checkFile(const QString &path, const QByteArray &text)
@@ -100,24 +100,25 @@ void checkFile(const QString &path, const QByteArray &text)
         check(everythingIn(defaults) == before, "writing changes nothing else");
     }
     const QByteArray aside = contentsOf(path + QStringLiteral(".unreadable"));
-    check(aside.isEmpty() || aside == text, "what is set aside is what was there");
+    check(aside.isEmpty() || aside == text, "the file set aside is the file that was there");
     const UserDefaults again(path);
     check(again.integerForKey(kChanged) == 7, "a change is kept");
-    check(everythingIn(again) == before, "what was written reads as it was");
+    check(everythingIn(again) == before, "the written settings read as before");
 }
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const quint8 *data, std::size_t size)
 {
-    // In memory, and each under a name of its own: QSettings remembers files by their names.
+    // In memory, and with a new name each time, because QSettings caches files by name.
     static const QTemporaryDir folder(QStringLiteral("/dev/shm/fuzz-XXXXXX"));
     static quint64 count = 0;
     const QString own = folder.filePath(QString::number(++count));
-    check(QDir().mkdir(own), "there is a folder");
+    check(QDir().mkdir(own), "the folder can be made");
     const QByteArray text(reinterpret_cast<const char *>(data), qsizetype(size));
     const QString path = own + QStringLiteral("/s.json");
     QFile file(path);
-    check(file.open(QIODevice::WriteOnly) && file.write(text) == text.size(), "there is a file");
+    check(file.open(QIODevice::WriteOnly) && file.write(text) == text.size(),
+          "the file can be written");
     file.close();
     checkFile(path, text);
     QDir(own).removeRecursively();

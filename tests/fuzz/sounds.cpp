@@ -10,20 +10,20 @@
 namespace
 {
 constexpr int kFrames = 1024;
-/// Enough to be in the middle of it; a file may say that it is a month long.
+/// Enough to get into the data. A limit, because a header may claim a length of a month.
 constexpr int kBlocks = 40;
 
-/// Reads some blocks; gives how many frames there were.
+/// Reads some blocks; returns the number of frames.
 int readSome(AudioFile &file)
 {
     std::vector<float> samples(2 * kFrames);
     int total = 0;
     for (int block = 0; block < kBlocks; ++block) {
         const int frames = file.readStereo(samples.data(), kFrames);
-        check(frames >= 0 && frames <= kFrames, "no more is read than was asked for");
+        check(frames >= 0 && frames <= kFrames, "no more frames are read than requested");
         check(std::all_of(samples.begin(), samples.begin() + 2 * frames,
                           [](float sample) { return std::isfinite(sample); }),
-              "samples are numbers");
+              "samples are finite");
         total += frames;
         if (frames < kFrames)
             break;
@@ -40,8 +40,8 @@ extern "C" int LLVMFuzzerTestOneInput(const quint8 *data, std::size_t size)
     const std::unique_ptr<AudioFile> file = AudioFile::open(std::move(bytes));
     if (!file)
         return 0;
-    check(file->sampleRate() > 0, "there is a rate");
-    check(file->duration() > 0 && std::isfinite(file->duration()), "there is a length");
+    check(file->sampleRate() > 0, "the sample rate is positive");
+    check(file->duration() > 0 && std::isfinite(file->duration()), "the duration is positive");
     readSome(*file);
     if (file->rewind())
         readSome(*file);

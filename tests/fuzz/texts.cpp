@@ -14,18 +14,18 @@
 
 namespace
 {
-/// Locales that differ in their marks and digits.
+/// Locales with different decimal and group separators and digits.
 constexpr std::array kLocales{"C", "de_CH", "fr_FR", "ar_EG", "sv_SE", "en_IN"};
 
 void checkFigure(const QString &text, const QLocale &locale)
 {
     const QString begun = FigureText::begun(text, locale);
-    check(text.startsWith(begun), "what is begun is the beginning");
-    check(FigureText::begun(begun, locale) == begun, "all of what is begun is begun");
+    check(text.startsWith(begun), "the begun part is a prefix of the text");
+    check(FigureText::begun(begun, locale) == begun, "the begun part is begun as a whole");
     const float number = FigureText::read(text, locale);
-    check(std::isfinite(number), "a figure is a number");
+    check(std::isfinite(number), "a figure is finite");
     const QString written = FigureText::write(number, locale);
-    check(FigureText::read(written, locale) == number, "what is written reads as the number");
+    check(FigureText::read(written, locale) == number, "a written number reads as itself");
 }
 
 void checkMenuText(const QString &text)
@@ -44,7 +44,7 @@ void checkTitle(const QString &text)
 {
     checkMenuText(text);
     const QString title = SoundHistory::displayTitle(text);
-    check(title == QLatin1String("/") || !title.contains(QLatin1Char('/')), "a title is no path");
+    check(title == QLatin1String("/") || !title.contains(QLatin1Char('/')), "a title has no slash");
     TimerSettings settings;
     settings.title = text;
     check(text.isEmpty() || Preset::text(settings).startsWith(text),
@@ -54,7 +54,7 @@ void checkTitle(const QString &text)
 void checkTime(double seconds)
 {
     check(TimeFormat::stringForTime(seconds).size() < 64, "a time is short");
-    check(TimeFormat::msStringForTime(seconds).size() <= 4, "so are milliseconds");
+    check(TimeFormat::msStringForTime(seconds).size() <= 4, "milliseconds are short");
     const TimeFields fields = TimeFields::fromSeconds(seconds);
     check(std::abs(fields.minutes) < 60 && std::abs(fields.seconds) < 60.001F,
           "fields hold less than the next unit");
@@ -84,7 +84,7 @@ extern "C" int LLVMFuzzerTestOneInput(const quint8 *data, std::size_t size)
     }
     const QByteArray bytes(reinterpret_cast<const char *>(data), qsizetype(size));
     checkText(QString::fromUtf8(bytes));
-    // Also what is no text at all, such as half of a pair.
+    // The same bytes as UTF-16, which may be invalid, such as half of a surrogate pair.
     QString units(bytes.size() / 2, Qt::Uninitialized);
     std::memcpy(units.data(), bytes.constData(), std::size_t(units.size()) * sizeof(QChar));
     checkText(units);

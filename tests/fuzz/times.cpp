@@ -16,8 +16,9 @@ void checkNumber(const QString &text)
 {
     const bool begun = TimeText::isNumberBegun(text);
     check(!begun || TimeText::isNumberBegun(QStringView(text).chopped(text.isEmpty() ? 0 : 1)),
-          "a number begins with the beginning of one");
-    check(!TimeText::isNumber(text) || !TimeText::read(text), "a number is no time by itself");
+          "the beginning of a number without its last character is one, too");
+    check(!TimeText::isNumber(text) || !TimeText::read(text),
+          "a number without a unit is not a time");
 }
 
 void checkTime(const QString &text)
@@ -40,7 +41,7 @@ void checkFraction(const QString &text)
         const std::optional<TimeText::Time> time = TimeText::spread(text, kUnits.at(i));
         const bool isShort = text.size() < 90;
         check(!time || !isShort || TimeText::read(text + QChar(kLetters.at(i))) == time,
-              "a fraction is what it is with its unit");
+              "a fraction of a unit equals the number with that unit");
     }
 }
 
@@ -57,7 +58,7 @@ extern "C" int LLVMFuzzerTestOneInput(const quint8 *data, std::size_t size)
 {
     const QByteArray bytes(reinterpret_cast<const char *>(data), qsizetype(size));
     checkText(QString::fromUtf8(bytes));
-    // Also what is no text at all, such as half of a pair.
+    // The same bytes as UTF-16, which may be invalid, such as half of a surrogate pair.
     QString units(bytes.size() / 2, Qt::Uninitialized);
     std::memcpy(units.data(), bytes.constData(), std::size_t(units.size()) * sizeof(QChar));
     checkText(units);
