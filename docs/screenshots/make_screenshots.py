@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Takes the pictures that software centres show, of the program as it runs.
+"""Takes the screenshots for software centres from the running program.
 
 Usage: make_screenshots.py WUFFER
 
@@ -36,7 +36,7 @@ PLACES = [(60, 40), (590, 40), (60, 330), (590, 330)]
 
 def take_picture(display, name):
     Picture(display).save(HERE / name)
-    # Without the moment at which it was taken, equal pictures are equal files.
+    # Without the time stamp, equal pictures are equal files.
     processes.run(["mogrify", "-strip", str(HERE / name)], display.environment)
 
 
@@ -72,7 +72,7 @@ def options(session):
     display.move_window(window, 320, 130)
     display.key("ctrl+o")
     wait_until(lambda: program.has("button", "Hide Options"), 5, "the drawer opens")
-    # Until it has slid out.
+    # Wait until the drawer has slid out.
     time.sleep(1)
     take_picture(display, "options.png")
     program.kill()
