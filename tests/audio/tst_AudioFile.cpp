@@ -37,7 +37,7 @@ double durationOf(const QString &path)
     return file ? file->duration() : 0.0;
 }
 
-/// One side of a file from its present place to its end.
+/// One channel of a file from its current position to its end; side 0 is left, 1 right.
 std::vector<float> readSide(AudioFile &file, int side)
 {
     constexpr int frames = 1000;
@@ -60,7 +60,7 @@ double rms(const std::vector<float> &samples)
     return std::sqrt(sum / static_cast<double>(samples.size()));
 }
 
-/// The number of times the samples rise through zero each second.
+/// How often the samples rise through zero per second.
 double frequency(const std::vector<float> &samples, int sampleRate)
 {
     int rises = 0;
@@ -75,8 +75,8 @@ QByteArray contents(const QString &path)
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-/// The MP3 file with the notes of its encoder in the other of the two forms.
-QByteArray withVbriNotes(QByteArray mp3)
+/// The MP3 file with its Xing header replaced by the other form, a VBRI header.
+QByteArray withVbriHeader(QByteArray mp3)
 {
     constexpr qsizetype framesAndBytes = 8;
     const qsizetype xing = mp3.indexOf("Xing");
@@ -86,12 +86,12 @@ QByteArray withVbriNotes(QByteArray mp3)
     };
     const quint32 frames = number(xing + framesAndBytes);
     const quint32 size = number(xing + framesAndBytes + 4);
-    QByteArray notes(secondFrame - 4, '\0');
+    QByteArray header(secondFrame - 4, '\0');
     constexpr qsizetype vbri = 32;
-    notes.replace(vbri, 4, "VBRI");
-    qToBigEndian(size, notes.data() + vbri + 10);
-    qToBigEndian(frames, notes.data() + vbri + 14);
-    return mp3.replace(4, notes.size(), notes);
+    header.replace(vbri, 4, "VBRI");
+    qToBigEndian(size, header.data() + vbri + 10);
+    qToBigEndian(frames, header.data() + vbri + 14);
+    return mp3.replace(4, header.size(), header);
 }
 
 QByteArray randomBytes(quint32 seed)
@@ -115,9 +115,9 @@ private Q_SLOTS:
     void everyFormatSoundsAsRecorded();
     void rewindingReadsTheSameAgain_data() { everyFormatTellsItsExactLength_data(); }
     void rewindingReadsTheSameAgain();
-    void anMp3FileWithoutNotesIsMeasured_data();
-    void anMp3FileWithoutNotesIsMeasured();
-    void anMp3FileWithNotesOfTheOtherFormIsMeasured();
+    void anMp3FileWithoutAHeaderFrameIsMeasured_data();
+    void anMp3FileWithoutAHeaderFrameIsMeasured();
+    void anMp3FileWithAVbriHeaderIsMeasured();
     void tagsBeforeAnMp3StreamAreSkipped();
     void theNameOfAFileDoesNotMatter_data();
     void theNameOfAFileDoesNotMatter();
@@ -134,7 +134,7 @@ private Q_SLOTS:
     void aFileThatWasCut();
     void aFileWithAnAbsurdHeaderCannotBeOpened_data();
     void aFileWithAnAbsurdHeaderCannotBeOpened();
-    void aPlaceThatNoFileHasIsNotGoneTo();
+    void seekingOutsideAFileFails();
 
 private:
     [[nodiscard]] QString path(const QString &name) const { return _folder.filePath(name); }
@@ -230,14 +230,14 @@ void tst_AudioFile::rewindingReadsTheSameAgain()
     QVERIFY2(largestDifference < 0.001F, qPrintable(QString::number(largestDifference)));
 }
 
-void tst_AudioFile::anMp3FileWithoutNotesIsMeasured_data()
+void tst_AudioFile::anMp3FileWithoutAHeaderFrameIsMeasured_data()
 {
     QTest::addColumn<bool>("variableRate");
     QTest::newRow("constant rate") << false;
     QTest::newRow("variable rate") << true;
 }
 
-void tst_AudioFile::anMp3FileWithoutNotesIsMeasured()
+void tst_AudioFile::anMp3FileWithoutAHeaderFrameIsMeasured()
 {
     QFETCH(bool, variableRate);
     writeTone(path(QStringLiteral("tone")), {.seconds = 3, .sampleRate = 44100},
@@ -248,17 +248,17 @@ void tst_AudioFile::anMp3FileWithoutNotesIsMeasured()
 
     const double duration = durationOf(written(QStringLiteral("bare"), bytes));
 
-    // Without the notes nobody knows how much silence the encoder added.
+    // Without the header frame, the silence that the encoder added is unknown and counts as sound.
     QVERIFY2(duration >= 3.0 && duration < 3.1, qPrintable(QString::number(duration)));
 }
 
-void tst_AudioFile::anMp3FileWithNotesOfTheOtherFormIsMeasured()
+void tst_AudioFile::anMp3FileWithAVbriHeaderIsMeasured()
 {
     writeTone(path(QStringLiteral("tone")), {.seconds = 3, .sampleRate = 44100}, {kMp3, true});
     const QByteArray bytes = contents(path(QStringLiteral("tone")));
 
-    const double duration = durationOf(written(QStringLiteral("vbri"), withVbriNotes(bytes)));
-    const QByteArray half = withVbriNotes(bytes).first(bytes.size() / 2);
+    const double duration = durationOf(written(QStringLiteral("vbri"), withVbriHeader(bytes)));
+    const QByteArray half = withVbriHeader(bytes).first(bytes.size() / 2);
 
     QVERIFY2(duration >= 3.0 && duration < 3.1, qPrintable(QString::number(duration)));
     QCOMPARE(durationOf(written(QStringLiteral("half"), half)), 0.0);
@@ -333,7 +333,7 @@ void tst_AudioFile::everyOneOfManyChannelsIsHeard()
     const std::unique_ptr<AudioFile> file = open(path(QStringLiteral("tone")));
     QVERIFY(file);
 
-    // Sines of different frequencies add up by their squares.
+    // For sines of different frequencies, the squares of the RMS values add up.
     const double expected = 0.5 / std::sqrt(2.0) * std::sqrt(6.0) / 6.0;
     QVERIFY(std::abs(rms(readSide(*file, 0)) - expected) < 0.001);
 }
@@ -468,8 +468,8 @@ void tst_AudioFile::aFileWithAnAbsurdHeaderCannotBeOpened_data()
 {
     QTest::addColumn<int>("offset");
     QTest::addColumn<quint32>("value");
-    // The place of the fields in the header of a plain WAV file: the number of channels shares
-    // its four bytes with the kind of samples, 1.
+    // The offsets of fields in a WAV header. The four bytes at 20 are the sample format, which
+    // is 1, and the number of channels.
     QTest::newRow("no sample rate") << 24 << 0U;
     QTest::newRow("a sample rate of 10 a second") << 24 << 10U;
     QTest::newRow("a sample rate of 4 billion") << 24 << 0xfff00000U;
@@ -489,10 +489,10 @@ void tst_AudioFile::aFileWithAnAbsurdHeaderCannotBeOpened()
     QCOMPARE(durationOf(written(QStringLiteral("absurd"), bytes)), 0.0);
 }
 
-void tst_AudioFile::aPlaceThatNoFileHasIsNotGoneTo()
+void tst_AudioFile::seekingOutsideAFileFails()
 {
     constexpr qint64 farthest = std::numeric_limits<qint64>::max();
-    // One that warns where it cannot go.
+    // QBuffer warns if it is asked to seek outside its data.
     QTest::failOnWarning(QRegularExpression(QStringLiteral(".")));
     QBuffer bytes;
     bytes.setData("sound");

@@ -20,7 +20,7 @@ qsizetype threadCount()
 }
 } // namespace
 
-/// The sound system of a computer on which nothing can be heard.
+/// The sound system on a computer without a sound device.
 class tst_CubebSoundSystem final : public QObject
 {
     Q_OBJECT
@@ -40,7 +40,7 @@ private Q_SLOTS:
     void playingAgainChangesNothing();
     void stoppingEndsAtOnce();
     void aStoppedSoundBeginsAtTheBeginning();
-    void aStopWinsOverThePlayBeforeIt();
+    void aStopCancelsThePlayBeforeIt();
     void aSoundMayBeDestroyedAtAnyMoment();
     void aLoopGoesOnUntilToldOtherwise();
     void aLoopMayBeginWhileTheSoundPlays();
@@ -193,7 +193,7 @@ void tst_CubebSoundSystem::aStoppedSoundBeginsAtTheBeginning()
     VERIFY_LASTS(playAgain, 0.5);
 }
 
-void tst_CubebSoundSystem::aStopWinsOverThePlayBeforeIt()
+void tst_CubebSoundSystem::aStopCancelsThePlayBeforeIt()
 {
     const auto half = sound(0.5);
     for (int i = 0; i < 20; ++i) {
@@ -336,7 +336,7 @@ void tst_CubebSoundSystem::theSystemGoesAwayAtOnce()
 
 void tst_CubebSoundSystem::nothingRunsWhileAllIsSilent()
 {
-    // Those of the tests before may still be on their way out.
+    // Threads of earlier tests may still be ending.
     QTRY_COMPARE(threadCount(), _threadsAtFirst);
     const auto blip = sound(0.3);
     QCOMPARE(threadCount(), _threadsAtFirst);

@@ -15,15 +15,15 @@
 namespace
 {
 constexpr int kSampleRate = 48000;
-/// Ten milliseconds: whole periods of the tone, so that every piece of it is the same.
+/// Ten milliseconds: whole periods of the tone, so that all blocks are the same.
 constexpr std::size_t kFrames = 480;
 
-/// A mixer, and voices that hum for ever.
+/// A mixer with voices that loop for ever.
 class Hum final
 {
 public:
     Hum() = default;
-    /// The readers end with their voices.
+    /// Ends the voices, so that their reader threads end.
     ~Hum() { mixer.finish(); }
     Q_DISABLE_COPY_MOVE(Hum)
 
@@ -41,10 +41,10 @@ public:
         mixer.add(std::move(voice));
     }
 
-    /// The lowest and the highest of the next samples.
+    /// The lowest and the highest sample of the next block.
     [[nodiscard]] std::pair<float, float> range()
     {
-        // Whatever was there before.
+        // Old values in the buffer, which the mixer must overwrite.
         std::vector<float> samples(kFrames * 2, 7.0F);
         mixer.render(samples);
         const auto [lowest, highest] = std::ranges::minmax(samples);
@@ -58,7 +58,7 @@ private:
 };
 } // namespace
 
-/// What a sound device gets of the voices.
+/// The samples that the mixer renders from its voices.
 class tst_Mixer final : public QObject
 {
     Q_OBJECT
@@ -71,9 +71,9 @@ private Q_SLOTS:
 
     void withoutAVoiceThereIsSilence();
     void voicesAreHeardTogether();
-    void whatIsTooLoudIsLimited();
+    void samplesThatAreTooLoudAreLimited();
     void aVoiceThatHasNotBegunIsSilent();
-    void aFileIsMissedAgainAndAgainUntilItBegins();
+    void aVoiceThatWaitsForItsFileReportsItRepeatedly();
     void aVoiceWithoutAFileEndsWhenItIsStopped();
 
 private:
@@ -98,7 +98,7 @@ void tst_Mixer::voicesAreHeardTogether()
     QTRY_VERIFY(isSum(hum.range()));
 }
 
-void tst_Mixer::whatIsTooLoudIsLimited()
+void tst_Mixer::samplesThatAreTooLoudAreLimited()
 {
     Hum hum;
     for (int i = 0; i < 5; ++i)
@@ -120,7 +120,7 @@ void tst_Mixer::aVoiceThatHasNotBegunIsSilent()
     QVERIFY(voice->isPlaying());
 }
 
-void tst_Mixer::aFileIsMissedAgainAndAgainUntilItBegins()
+void tst_Mixer::aVoiceThatWaitsForItsFileReportsItRepeatedly()
 {
     int missed = 0;
     Voice voice(kSampleRate, std::make_shared<SoundControls>(), [&] { ++missed; });

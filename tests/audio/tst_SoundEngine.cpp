@@ -18,7 +18,7 @@
 
 namespace
 {
-/// A file on a disk that delivers nothing while somebody holds it.
+/// A file on a disk whose reads block while the test holds the mutex.
 class HeldFile final : public QFile
 {
 public:
@@ -40,7 +40,7 @@ private:
 };
 } // namespace
 
-/// What a disk that does not answer may do to the sounds, and what not.
+/// How sounds behave when the disk does not answer.
 class tst_SoundEngine final : public QObject
 {
     Q_OBJECT
@@ -57,7 +57,7 @@ private Q_SLOTS:
     void aFileThatPausesNowAndThenIsNotGivenUp();
     void theStandInIsHeardInPlaceOfAFileThatDoesNotAnswer();
     void aFileThatAnswersWhenItsStandInIsHeardStaysSilent();
-    void aStopWinsOverTheStandIn();
+    void aStopCancelsTheStandInToo();
     void theEndOfAllSoundsIsTheEndOfTheStandIn();
 
 private:
@@ -73,7 +73,7 @@ private:
     OpenSoundBytes _openTone;
     OpenSoundBytes _openLowTone;
     std::unique_ptr<SoundEngine> _engine;
-    // Shared with the threads that wait at it, which may outlive the test.
+    // Shared with the threads that wait for it, which may outlive the test.
     std::shared_ptr<QSemaphore> _disk;
     OpenSoundBytes _openWhenTheDiskAnswers;
 };
@@ -160,7 +160,7 @@ void tst_SoundEngine::aFileThatPausesNowAndThenIsNotGivenUp()
         return voice.mixInto(samples, 0) &&
                std::ranges::any_of(samples, [](float sample) { return sample != 0; });
     };
-    // Longer in all than a file is waited for.
+    // The pauses add up to more than the time that the voice waits for a file.
     for (int pause = 0; pause < 3; ++pause) {
         bool isHeard = false;
         QTRY_VERIFY(isHeard || (isHeard = mix(0.01)));
@@ -176,7 +176,7 @@ void tst_SoundEngine::theStandInIsHeardInPlaceOfAFileThatDoesNotAnswer()
     timer.start();
     const auto stuck = play(_openWhenTheDiskAnswers, _openLowTone);
     QTRY_VERIFY_WITH_TIMEOUT(!stuck->isPlaying(), 4000);
-    // Two seconds for the disk, and then the sound of the stand-in.
+    // Two seconds of waiting for the disk, then the sound of the stand-in.
     QVERIFY2(timer.elapsed() > 2300 && timer.elapsed() < 3100,
              qPrintable(QString::number(timer.elapsed())));
 }
@@ -184,7 +184,7 @@ void tst_SoundEngine::theStandInIsHeardInPlaceOfAFileThatDoesNotAnswer()
 void tst_SoundEngine::aFileThatAnswersWhenItsStandInIsHeardStaysSilent()
 {
     const QString path = _folder.filePath(QStringLiteral("minute.wav"));
-    // Of the same rate, so that it could be taken for the stand-in.
+    // The sample rate of the stand-in, so that the file could be mistaken for it.
     writeTone(path, {.seconds = 60, .sampleRate = 22050});
     const auto late = play(
         [disk = _disk, path] {
@@ -197,7 +197,7 @@ void tst_SoundEngine::aFileThatAnswersWhenItsStandInIsHeardStaysSilent()
     QTRY_VERIFY_WITH_TIMEOUT(!late->isPlaying(), 2000);
 }
 
-void tst_SoundEngine::aStopWinsOverTheStandIn()
+void tst_SoundEngine::aStopCancelsTheStandInToo()
 {
     for (const int milliseconds : {0, 1, 5, 20, 100}) {
         const auto nothing = play([] { return nullptr; }, _openLowTone);

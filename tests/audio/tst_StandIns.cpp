@@ -6,7 +6,7 @@
 #include <QFile>
 #include <QTemporaryDir>
 
-/// What is heard for a sound whose file broke after it had been opened.
+/// Stand-ins: sounds that play in place of a sound whose file broke after it was opened.
 class tst_StandIns final : public QObject
 {
     Q_OBJECT
@@ -19,10 +19,10 @@ private Q_SLOTS:
     void theStandInLoopsUntilToldOtherwise();
     void aFileThatCameBackIsHeardItself();
     void aFileOfAnotherRateThatCameLaterIsHeardItself();
-    void aSoundWhoseFileNeverWasOneHasNoStandIn();
+    void aFileThatNeverWasASoundHasNoStandIn();
 
 private:
-    /// A sound of five seconds, for which one of 0.3 seconds stands in, and its file.
+    /// Writes a file of five seconds and opens it, with a stand-in of 0.3 seconds.
     [[nodiscard]] std::unique_ptr<Sound> soundWithStandIn(const QString &path);
 
     QTemporaryDir _folder;
@@ -77,7 +77,7 @@ void tst_StandIns::theStandInPlaysUnderTheSameSound()
     gone->setVolume(0.25F);
     const QElapsedTimer timer = startedTimer();
     gone->play();
-    // Without a gap, from the first moment on.
+    // It plays from the first moment on, without a gap.
     while (timer.elapsed() < 250)
         QVERIFY(gone->isPlaying());
     QCOMPARE(gone->name(), path);
@@ -131,7 +131,7 @@ void tst_StandIns::aFileOfAnotherRateThatCameLaterIsHeardItself()
     }
 }
 
-void tst_StandIns::aSoundWhoseFileNeverWasOneHasNoStandIn()
+void tst_StandIns::aFileThatNeverWasASoundHasNoStandIn()
 {
     const auto never = _system.soundWithContentsOfFile(_folder.path());
     never->setStandIn(QStringLiteral("test-blip.wav"));
