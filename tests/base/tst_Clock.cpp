@@ -13,9 +13,9 @@ class tst_Clock final : public QObject
 
 private Q_SLOTS:
     void timersOfOneIntervalFireTogether();
-    void aTimerThatJoinsTakesUpTheBeat();
-    void aBeatThatEveryoneHasLeftBeginsAnew();
-    void aHundredTimersWakeTheProcessNoOftenerThanOne();
+    void aTimerThatJoinsFiresAtTheTicksOfTheOthers();
+    void theFirstTimerAfterAllHaveStoppedStartsNewTicks();
+    void aHundredTimersWakeTheProcessNoMoreOftenThanOne();
     void nothingWakesWhenNoTimerIsActive();
     void aLateTickIsNotRepeated();
     void timersFireInTheOrderInWhichTheyWereDue();
@@ -41,7 +41,7 @@ void tst_Clock::timersOfOneIntervalFireTogether()
     QCOMPARE(f.clock.wakeUps(), 2);
 }
 
-void tst_Clock::aTimerThatJoinsTakesUpTheBeat()
+void tst_Clock::aTimerThatJoinsFiresAtTheTicksOfTheOthers()
 {
     ClockFixture f;
     ClockTimer first(f.writes("first"));
@@ -56,7 +56,7 @@ void tst_Clock::aTimerThatJoinsTakesUpTheBeat()
     QCOMPARE(f.clock.wakeUps(), 1);
 }
 
-void tst_Clock::aBeatThatEveryoneHasLeftBeginsAnew()
+void tst_Clock::theFirstTimerAfterAllHaveStoppedStartsNewTicks()
 {
     ClockFixture f;
     ClockTimer timer(f.writes("tick"));
@@ -70,7 +70,7 @@ void tst_Clock::aBeatThatEveryoneHasLeftBeginsAnew()
     QCOMPARE(f.diary.size(), 1);
 }
 
-void tst_Clock::aHundredTimersWakeTheProcessNoOftenerThanOne()
+void tst_Clock::aHundredTimersWakeTheProcessNoMoreOftenThanOne()
 {
     ClockFixture f;
     std::list<ClockTimer> timers;
@@ -116,7 +116,7 @@ void tst_Clock::aLateTickIsNotRepeated()
     QCOMPARE(f.diary.size(), 1);
     f.clock.advance(0.74);
     QCOMPARE(f.diary.size(), 1);
-    // The beat has not moved.
+    // The next tick is due at the same phase as before.
     f.clock.advance(0.02);
     QCOMPARE(f.diary.size(), 2);
 }

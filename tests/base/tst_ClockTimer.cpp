@@ -6,7 +6,7 @@
 
 #include <memory>
 
-/// What timers may do to each other, and to themselves, while they fire.
+/// Timers that change themselves or one another while they fire, and timers that skip ticks.
 class tst_ClockTimer final : public QObject
 {
     Q_OBJECT
@@ -20,15 +20,15 @@ private Q_SLOTS:
     void aTimerThatJoinsWhileTheOthersFireWaitsForTheNextTick();
     void aOneShotStartedInAnActionWaitsForTheNextOpportunity();
     void othersGoOnWhileAnActionWaits();
-    void ticksThatAllAreLetOffWakeNobody();
-    void aTimerThatIsLetOffFiresAtItsTickWhateverTheOthersNeed();
-    void aTimerThatIsCalledBackFiresAtTheNextTick();
-    void aTimerThatJoinsSleepersTakesUpTheirBeat();
-    void aFiringStandsForTheTicksBeforeIt();
-    void aLateFiringStandsForTheTicksThatItWasLetOff();
-    void aTimerThatStartsAgainIsLetOffNothing();
-    void aTimerThatStartsAgainCountsFromNothing();
-    void aOneShotIsNotLetOff();
+    void ticksThatAllTimersSkipDoNotWakeTheProcess();
+    void aTimerThatSkipsTicksFiresAtItsOwnTickBesideOthers();
+    void aTimerThatSkipsNoMoreTicksFiresAtTheNextTick();
+    void aTimerThatJoinsSkippingTimersFiresAtTheirTicks();
+    void theTickCountIncludesSkippedTicks();
+    void theTickCountOfALateFiringIncludesSkippedTicks();
+    void aTimerThatStartsAgainSkipsNoTicks();
+    void aTimerThatStartsAgainCountsTicksFromZero();
+    void aOneShotSkipsNoTicks();
 };
 
 void tst_ClockTimer::aOneShotCanStartItselfInItsAction()
@@ -172,7 +172,7 @@ void tst_ClockTimer::othersGoOnWhileAnActionWaits()
     QCOMPARE(f.entries(), QStringLiteral("begin once tick tick tick end"));
 }
 
-void tst_ClockTimer::ticksThatAllAreLetOffWakeNobody()
+void tst_ClockTimer::ticksThatAllTimersSkipDoNotWakeTheProcess()
 {
     ClockFixture f;
     ClockTimer first([&] {
@@ -192,7 +192,7 @@ void tst_ClockTimer::ticksThatAllAreLetOffWakeNobody()
     QCOMPARE(f.clock.wakeUps(), 3);
 }
 
-void tst_ClockTimer::aTimerThatIsLetOffFiresAtItsTickWhateverTheOthersNeed()
+void tst_ClockTimer::aTimerThatSkipsTicksFiresAtItsOwnTickBesideOthers()
 {
     ClockFixture f;
     ClockTimer rare([&] {
@@ -209,7 +209,7 @@ void tst_ClockTimer::aTimerThatIsLetOffFiresAtItsTickWhateverTheOthersNeed()
     QCOMPARE(f.clock.wakeUps(), 4);
 }
 
-void tst_ClockTimer::aTimerThatIsCalledBackFiresAtTheNextTick()
+void tst_ClockTimer::aTimerThatSkipsNoMoreTicksFiresAtTheNextTick()
 {
     ClockFixture f;
     ClockTimer timer(f.writes("fired"));
@@ -227,7 +227,7 @@ void tst_ClockTimer::aTimerThatIsCalledBackFiresAtTheNextTick()
     QCOMPARE(timer.ticks(), 4);
 }
 
-void tst_ClockTimer::aTimerThatJoinsSleepersTakesUpTheirBeat()
+void tst_ClockTimer::aTimerThatJoinsSkippingTimersFiresAtTheirTicks()
 {
     ClockFixture f;
     ClockTimer sleeper(f.writes("sleeper"));
@@ -246,7 +246,7 @@ void tst_ClockTimer::aTimerThatJoinsSleepersTakesUpTheirBeat()
     QCOMPARE(joiner.ticks(), 1);
 }
 
-void tst_ClockTimer::aFiringStandsForTheTicksBeforeIt()
+void tst_ClockTimer::theTickCountIncludesSkippedTicks()
 {
     ClockFixture f;
     ClockTimer rare([&] {
@@ -260,7 +260,7 @@ void tst_ClockTimer::aFiringStandsForTheTicksBeforeIt()
     QCOMPARE(f.entries(), QStringLiteral("1 2 3 4"));
 }
 
-void tst_ClockTimer::aLateFiringStandsForTheTicksThatItWasLetOff()
+void tst_ClockTimer::theTickCountOfALateFiringIncludesSkippedTicks()
 {
     ClockFixture f;
     ClockTimer timer(f.writes("fired"));
@@ -273,7 +273,7 @@ void tst_ClockTimer::aLateFiringStandsForTheTicksThatItWasLetOff()
     QCOMPARE(timer.ticks(), 3);
 }
 
-void tst_ClockTimer::aTimerThatStartsAgainIsLetOffNothing()
+void tst_ClockTimer::aTimerThatStartsAgainSkipsNoTicks()
 {
     ClockFixture f;
     ClockTimer timer(f.writes("fired"));
@@ -288,7 +288,7 @@ void tst_ClockTimer::aTimerThatStartsAgainIsLetOffNothing()
     QCOMPARE(timer.ticks(), 1);
 }
 
-void tst_ClockTimer::aOneShotIsNotLetOff()
+void tst_ClockTimer::aOneShotSkipsNoTicks()
 {
     ClockFixture f;
     ClockTimer timer(f.writes("fired"));
@@ -300,7 +300,7 @@ void tst_ClockTimer::aOneShotIsNotLetOff()
     QCOMPARE(f.diary.size(), 1);
 }
 
-void tst_ClockTimer::aTimerThatStartsAgainCountsFromNothing()
+void tst_ClockTimer::aTimerThatStartsAgainCountsTicksFromZero()
 {
     ClockFixture f;
     ClockTimer timer(f.writes("fired"));

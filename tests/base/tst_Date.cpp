@@ -68,7 +68,7 @@ void tst_Date::theDistantFutureIsLaterThanEveryRun()
 
     QVERIFY(Date::distantFuture() > lastEnd);
     QVERIFY(Date::distantFuture().timeIntervalSinceNow() > 1e9);
-    // It can be reckoned with.
+    // Arithmetic with it gives no NaN: the difference to itself is 0.
     QCOMPARE(Date::distantFuture().timeIntervalSinceDate(Date::distantFuture()), 0.0);
 }
 
@@ -101,7 +101,7 @@ void tst_Date::nowIsWhatTheClockSays()
     const Date before = Date::now();
 
     f.clock.advance(2.5);
-    // What the calendar says is nothing to a date.
+    // A change of the calendar time does not affect dates.
     f.clock.setCalendarOffset(3600);
 
     QCOMPARE(Date::now().timeIntervalSinceDate(before), 2.5);

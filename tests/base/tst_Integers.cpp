@@ -2,7 +2,7 @@
 #include "base/SinglePrecision.h"
 #include "support/TestMain.h"
 
-/// Numbers of one kind as numbers of another.
+/// Conversions between number types, with limits and rounding.
 class tst_Integers final : public Test
 {
     Q_OBJECT

@@ -9,7 +9,7 @@ const QString kKey = QStringLiteral("key");
 const QString kFileName = QStringLiteral("settings.json");
 const QString kSetAside = QStringLiteral("settings.json.unreadable");
 
-/// Changes a setting as a run of the program would, and ends that run.
+/// Opens the settings, changes one and closes them, as a run of the program does.
 void changeASetting(const QString &path, int value)
 {
     UserDefaults defaults(path);
@@ -17,7 +17,7 @@ void changeASetting(const QString &path, int value)
 }
 } // namespace
 
-/// The settings file: how it looks, and what becomes of a file that is no settings file.
+/// The format of the settings file, and what happens to an invalid one.
 class tst_JsonSettingsFormat final : public Test
 {
     Q_OBJECT
@@ -247,7 +247,7 @@ void tst_JsonSettingsFormat::aFileThatMayNotBeWrittenIsLeftAlone()
 void tst_JsonSettingsFormat::whatCannotBeSetAsideIsNotOverwritten()
 {
     const QTemporaryDir folder;
-    // With anything more behind it the name would be too long.
+    // The name with the suffix for files set aside would be too long.
     QFile file(folder.filePath(QString(245, QLatin1Char('s'))));
     QVERIFY(file.open(QIODevice::WriteOnly) && file.write("no settings") > 0);
     file.close();

@@ -36,7 +36,7 @@ QString textOf(const QString &path)
     return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
 }
 
-/// The text between each pair of quotation marks in a source file, in which none spans lines.
+/// All string literals of a source file. Literals of several lines are not supported.
 QStringList literalsIn(const QString &path)
 {
     static const QRegularExpression literal(QStringLiteral("\"((?:[^\"\\\\\n]|\\\\.)*)\""));
@@ -67,9 +67,9 @@ class tst_Keys final : public Test
 private Q_SLOTS:
     void theSettingsOfUsersAreFoundUnderTheirOldKeys();
     void theNoticesKeepTheirNames();
-    void noTwoAreCalledTheSame();
-    void eachIsInItsList();
-    void noOtherFileSpellsOne();
+    void allNamesDiffer();
+    void everyNameInTheHeaderIsListed();
+    void noOtherFileSpellsAName();
 
 private:
     static QString header() { return QFINDTESTDATA("../src/base/Keys.h"); }
@@ -95,16 +95,16 @@ void tst_Keys::theNoticesKeepTheirNames()
                             "manageSoundsNotification ClickableImageViewClicked"));
 }
 
-void tst_Keys::noTwoAreCalledTheSame()
+void tst_Keys::allNamesDiffer()
 {
     const QStringList names = allNames();
     QCOMPARE(QSet<QString>(names.begin(), names.end()).size(), names.size());
-    // Whatever begins so is the key of a preset.
+    // Keys with this prefix are those of presets.
     for (const QString &name : names)
         QVERIFY(!name.startsWith(Keys::kPresetPrefix));
 }
 
-void tst_Keys::eachIsInItsList()
+void tst_Keys::everyNameInTheHeaderIsListed()
 {
     QStringList spelled = literalsIn(header());
     spelled.removeAll(Keys::kPresetPrefix);
@@ -114,7 +114,7 @@ void tst_Keys::eachIsInItsList()
     QCOMPARE(spelled, listed);
 }
 
-void tst_Keys::noOtherFileSpellsOne()
+void tst_Keys::noOtherFileSpellsAName()
 {
     // Words that a user may type into a field for times.
     const QStringList units{QStringLiteral("hours"), QStringLiteral("minutes"),

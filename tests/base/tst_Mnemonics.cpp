@@ -1,7 +1,7 @@
 #include "base/Mnemonics.h"
 #include "support/TestMain.h"
 
-/// The letters to press in the texts of menus and buttons.
+/// The "&" marks of mnemonics in the texts of menus and buttons.
 class tst_Mnemonics final : public Test
 {
     Q_OBJECT

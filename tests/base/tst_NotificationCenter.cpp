@@ -9,7 +9,7 @@ namespace
 const QString kNews = QStringLiteral("news");
 const QString kWeather = QStringLiteral("weather");
 
-/// A centre, and a diary of who was told.
+/// A centre, and a diary of the observers that it called.
 struct Fixture
 {
     NotificationCenter center;

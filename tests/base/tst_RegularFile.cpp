@@ -8,7 +8,7 @@
 
 namespace
 {
-/// A folder with a file "file" that holds "tea".
+/// A folder with a file named "file" that contains "tea".
 struct Fixture
 {
     Fixture()
@@ -29,7 +29,7 @@ struct Fixture
 using Access = RegularFile::Access;
 } // namespace
 
-/// What is opened as a file, and what is none.
+/// Which paths are opened as regular files.
 class tst_RegularFile final : public Test
 {
     Q_OBJECT
@@ -38,10 +38,10 @@ private Q_SLOTS:
     void aFileIsReadFromItsBeginning();
     void aDeviceOutlivesWhatHasOpenedIt();
     void aFileIsGivenAwayOnce();
-    void nothingIsMissing();
+    void aPathWithoutAFileIsMissing();
     void aLinkThatLeadsNowhereIsMissing();
-    void whatIsNoFileIsNotOpenedAndNotMissing_data();
-    void whatIsNoFileIsNotOpenedAndNotMissing();
+    void foldersPipesAndDevicesAreNeitherOpenedNorMissing_data();
+    void foldersPipesAndDevicesAreNeitherOpenedNorMissing();
 };
 
 void tst_RegularFile::aFileIsReadFromItsBeginning()
@@ -74,7 +74,7 @@ void tst_RegularFile::aFileIsGivenAwayOnce()
     QVERIFY(!file.takeDevice());
 }
 
-void tst_RegularFile::nothingIsMissing()
+void tst_RegularFile::aPathWithoutAFileIsMissing()
 {
     const Fixture f;
     RegularFile file(f.path("other"), Access::Read);
@@ -93,7 +93,7 @@ void tst_RegularFile::aLinkThatLeadsNowhereIsMissing()
     QVERIFY(RegularFile(f.path("good link"), Access::Read).isOpen());
 }
 
-void tst_RegularFile::whatIsNoFileIsNotOpenedAndNotMissing_data()
+void tst_RegularFile::foldersPipesAndDevicesAreNeitherOpenedNorMissing_data()
 {
     QTest::addColumn<Access>("access");
     QTest::newRow("to read") << Access::Read;
@@ -101,11 +101,11 @@ void tst_RegularFile::whatIsNoFileIsNotOpenedAndNotMissing_data()
     QTest::newRow("to read and write") << Access::ReadAndWrite;
 }
 
-void tst_RegularFile::whatIsNoFileIsNotOpenedAndNotMissing()
+void tst_RegularFile::foldersPipesAndDevicesAreNeitherOpenedNorMissing()
 {
     QFETCH(const Access, access);
     const Fixture f;
-    // Opened in the ordinary way, a pipe without another end would be waited for.
+    // An ordinary open() of a pipe would block until another process opens its other end.
     QCOMPARE(::mkfifo(QFile::encodeName(f.path("pipe")).constData(), 0600), 0);
     for (const QString &path : {f.path("pipe"), f.folder.path(), QStringLiteral("/dev/null")}) {
         const RegularFile file(path, access);

@@ -17,7 +17,7 @@ const QString kText = QStringLiteral("text");
 
 enum class Mode { Once, Endlessly };
 
-/// A run of this program that only changes settings, until it is killed.
+/// A second process of this test program that changes settings until it is killed.
 class Writer final
 {
 public:
@@ -27,7 +27,7 @@ public:
         _process.start(
             QCoreApplication::applicationFilePath(),
             {QStringLiteral("SettingsDurability"), QStringLiteral("--write"), file.path(), how});
-        // It says so when it has made its first change.
+        // It prints a line after its first change.
         if (!_process.waitForReadyRead())
             qFatal("the writer did not start");
     }
@@ -42,7 +42,7 @@ private:
     QProcess _process;
 };
 
-/// What the other process does.
+/// The main function of the second process.
 int writeSettings(int argc, char **argv)
 {
     QCoreApplication application(argc, argv);
@@ -63,8 +63,8 @@ int writeSettings(int argc, char **argv)
 }
 } // namespace
 
-/// When changes reach the disk, and that they do so as a whole. The tests of this file take real
-/// time, because other processes take it.
+/// When changes reach the disk, and that the file is never half written. These tests take real
+/// time, because they wait for other processes.
 class tst_SettingsDurability final : public Test
 {
     Q_OBJECT
@@ -128,7 +128,7 @@ void tst_SettingsDurability::theFileIsReplacedAndNotRewritten()
     defaults.setObject(2, kKey);
     defaults.synchronize();
 
-    // Whoever was reading it still has all of the old one.
+    // A reader that had the file open still sees the whole old one.
     QCOMPARE(QJsonDocument::fromJson(before.readAll()).object(), (QJsonObject{{kKey, 1}}));
     QCOMPARE(file.object(), (QJsonObject{{kKey, 2}}));
     QCOMPARE(file.folder().size(), 1);

@@ -15,13 +15,13 @@ const QString kSetAside = QStringLiteral("settings.json.unreadable");
 
 constexpr auto kOnlyTheOwner = QFile::ReadOwner | QFile::WriteOwner;
 
-/// What the owner, the group and everybody may do, without what the user who asks may do.
+/// The permissions of owner, group and others, without the flags for the current user.
 QFile::Permissions permissionsOf(const QString &path)
 {
     return QFileInfo(path).permissions() & ~(QFile::ReadUser | QFile::WriteUser | QFile::ExeUser);
 }
 
-/// Makes the lock of the file without saying whose it is; gives its path.
+/// Makes an empty lock file, which names no process; returns its path.
 QString emptyLock(const SettingsFile &file)
 {
     QFile lock(file.path() + QStringLiteral(".lock"));
@@ -37,7 +37,7 @@ void changeASetting(const QString &path, int value)
 }
 } // namespace
 
-/// What may lie at the path of the settings file, and who may read what the program puts there.
+/// What may be found at the path of the settings file, its locks, and its permissions.
 class tst_SettingsPath final : public Test
 {
     Q_OBJECT
@@ -51,9 +51,9 @@ private Q_SLOTS:
     void aFileTooLargeForSettingsIsSetAside();
     void aFileThatGrowsTooLargeMeanwhileIsSetAside();
     void aLockThatCanNeverBeTakenIsNotWaitedFor();
-    void aLockThatSomebodyWhoWasKilledLeftBehindIsNotWaitedFor();
-    void aLockThatAKilledProcessHadNotSignedYetIsNotWaitedFor();
-    void aLockThatIsHeldAndNotSignedYetStays();
+    void aLockOfAKilledProcessIsNotWaitedFor();
+    void anEmptyLockOfAKilledProcessIsNotWaitedFor();
+    void anEmptyLockThatIsHeldStays();
     void anEarlierFileSetAsideIsNotOverwritten();
     void onlyTheOwnerMayReadANewFile();
     void onlyTheOwnerMayReadARewrittenFile();
@@ -160,12 +160,12 @@ void tst_SettingsPath::aLockThatCanNeverBeTakenIsNotWaitedFor()
     QVERIFY(QFile::exists(file.path() + QStringLiteral(".lock.unreadable/inside")));
 }
 
-void tst_SettingsPath::aLockThatSomebodyWhoWasKilledLeftBehindIsNotWaitedFor()
+void tst_SettingsPath::aLockOfAKilledProcessIsNotWaitedFor()
 {
     const SettingsFile file;
     QFile lock(file.path() + QStringLiteral(".lock"));
     QVERIFY(lock.open(QIODevice::WriteOnly));
-    // There is no process of this number.
+    // No process has this id.
     lock.write("2147483647\nwuffer\n" + QSysInfo::machineHostName().toUtf8() + '\n');
     lock.close();
 
@@ -175,7 +175,7 @@ void tst_SettingsPath::aLockThatSomebodyWhoWasKilledLeftBehindIsNotWaitedFor()
     QCOMPARE(file.folder(), QStringList{kFileName});
 }
 
-void tst_SettingsPath::aLockThatAKilledProcessHadNotSignedYetIsNotWaitedFor()
+void tst_SettingsPath::anEmptyLockOfAKilledProcessIsNotWaitedFor()
 {
     const SettingsFile file;
     const QString lock = emptyLock(file);
@@ -184,7 +184,7 @@ void tst_SettingsPath::aLockThatAKilledProcessHadNotSignedYetIsNotWaitedFor()
     QVERIFY(!QFile::exists(lock));
 }
 
-void tst_SettingsPath::aLockThatIsHeldAndNotSignedYetStays()
+void tst_SettingsPath::anEmptyLockThatIsHeldStays()
 {
     const SettingsFile file;
     QFile lock(emptyLock(file));
@@ -202,7 +202,7 @@ void tst_SettingsPath::aLockThatIsHeldAndNotSignedYetStays()
 void tst_SettingsPath::anEarlierFileSetAsideIsNotOverwritten()
 {
     const SettingsFile file;
-    // Also what leads nowhere is a name that is taken.
+    // A dangling link takes the name as well.
     QVERIFY(QFile::link(QStringLiteral("/nonexistent/file"),
                         file.path() + QStringLiteral(".unreadable")));
     file.write("no settings");

@@ -9,7 +9,7 @@ namespace
 {
 const QString kKey = QStringLiteral("key");
 
-/// Settings that were read from this JSON text, the value of "key" given.
+/// A settings file in which "key" has this JSON value.
 struct Read
 {
     explicit Read(const QByteArray &value) { file.write("{\"key\": " + value + "}"); }
@@ -18,7 +18,7 @@ struct Read
 };
 } // namespace
 
-/// How values are stored and read. What happens to the file is tested elsewhere.
+/// How values are stored and read. tst_JsonSettingsFormat tests what happens to the file.
 class tst_UserDefaults final : public Test
 {
     Q_OBJECT
