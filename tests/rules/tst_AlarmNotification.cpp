@@ -8,23 +8,23 @@ const QString kWuff = QStringLiteral("wolvesWuff.wav");
 using End = DesktopNotification::End;
 using Occasion = DesktopNotification::Occasion;
 
-/// One timer, and its notification.
+/// A timer and its notification.
 class Fixture : public TimerFixture
 {
 public:
-    /// Runs a countdown of a second to its end, and a second further.
+    /// Runs a countdown of a second, and waits another second.
     void ring()
     {
         startCountdown(1);
         pass(2);
     }
-    /// Rings until the user stops it.
+    /// Rings with "Keep wuffing", so until the user stops it.
     void ringOnAndOn()
     {
         tick("_keepWuffingBox");
         ring();
     }
-    /// Lets the sound reach its end, and the timer notice it.
+    /// Ends the sound, and waits until the timer has noticed that.
     void endAlarm()
     {
         sounds.sound(kWuff)->reachEnd();
@@ -33,13 +33,13 @@ public:
     [[nodiscard]] const DesktopNotification &only() const
     {
         if (notifications.standing.size() != 1)
-            qFatal("%zu stand instead of one", notifications.standing.size());
+            qFatal("there are %zu notifications instead of one", notifications.standing.size());
         return notifications.standing.front().notification;
     }
 };
 } // namespace
 
-/// What the notification of an alarm says and offers, what it leaves, and when it comes back.
+/// The text and buttons of an alarm's notification, the trace that it leaves, and when it returns.
 class tst_AlarmNotification final : public Test
 {
     Q_OBJECT
@@ -54,18 +54,18 @@ private Q_SLOTS:
     void anAlarmThatHasEndedByItselfLeavesATrace();
     void aMutedAlarmThatHasEndedLeavesATraceToo();
     void theNextAlarmReplacesTheTrace();
-    void noTraceIsLeftOfWhatTheDesktopHasTakenAway_data();
-    void noTraceIsLeftOfWhatTheDesktopHasTakenAway();
-    void whatExpiresWhileTheTimerRingsComesBack();
+    void noTraceIsLeftOfANotificationThatTheDesktopHasClosed_data();
+    void noTraceIsLeftOfANotificationThatTheDesktopHasClosed();
+    void aNotificationThatExpiresDuringTheAlarmComesBack();
     void itComesBackAsItWas();
-    void whatCameBackStaysQuietAfterTheAlarm();
+    void aNotificationThatCameBackStaysQuietAfterTheAlarm();
     void itComesBackAtOnceAfterALongTime();
-    void whatTheUserDismissesDoesNotComeBack();
-    void whatTheUserHasAnsweredDoesNotComeBack();
-    void whatExpiresAfterTheAlarmDoesNotComeBack();
-    void thatOfAMutedAlarmDoesNotComeBack();
+    void aDismissedNotificationDoesNotComeBack();
+    void anAnsweredNotificationDoesNotComeBack();
+    void aNotificationThatExpiresAfterTheAlarmDoesNotComeBack();
+    void theNotificationOfAMutedAlarmDoesNotComeBack();
     void nothingComesBackOnceNotificationsAreTurnedOff();
-    void aTraceOutlastsThatNotificationsAreTurnedOff();
+    void aTraceStaysWhenNotificationsAreTurnedOff();
 };
 
 void tst_AlarmNotification::itStandsWhileTheTimerRings()
@@ -192,14 +192,14 @@ void tst_AlarmNotification::theNextAlarmReplacesTheTrace()
     QVERIFY(t.only().stop);
 }
 
-void tst_AlarmNotification::noTraceIsLeftOfWhatTheDesktopHasTakenAway_data()
+void tst_AlarmNotification::noTraceIsLeftOfANotificationThatTheDesktopHasClosed_data()
 {
     QTest::addColumn<bool>("expired");
     QTest::newRow("expired") << true;
     QTest::newRow("dismissed") << false;
 }
 
-void tst_AlarmNotification::noTraceIsLeftOfWhatTheDesktopHasTakenAway()
+void tst_AlarmNotification::noTraceIsLeftOfANotificationThatTheDesktopHasClosed()
 {
     QFETCH(const bool, expired);
     Fixture t;
@@ -212,7 +212,7 @@ void tst_AlarmNotification::noTraceIsLeftOfWhatTheDesktopHasTakenAway()
     QVERIFY(t.clock.isIdle());
 }
 
-void tst_AlarmNotification::whatExpiresWhileTheTimerRingsComesBack()
+void tst_AlarmNotification::aNotificationThatExpiresDuringTheAlarmComesBack()
 {
     Fixture t;
     t.ringOnAndOn();
@@ -245,7 +245,7 @@ void tst_AlarmNotification::itComesBackAsItWas()
     QVERIFY(t.only().show);
 }
 
-void tst_AlarmNotification::whatCameBackStaysQuietAfterTheAlarm()
+void tst_AlarmNotification::aNotificationThatCameBackStaysQuietAfterTheAlarm()
 {
     Fixture t;
     t.ringOnAndOn();
@@ -270,7 +270,7 @@ void tst_AlarmNotification::itComesBackAtOnceAfterALongTime()
     QCOMPARE(t.notifications.standing.size(), 1U);
 }
 
-void tst_AlarmNotification::whatTheUserDismissesDoesNotComeBack()
+void tst_AlarmNotification::aDismissedNotificationDoesNotComeBack()
 {
     Fixture t;
     t.ringOnAndOn();
@@ -279,7 +279,7 @@ void tst_AlarmNotification::whatTheUserDismissesDoesNotComeBack()
     QVERIFY(t.notifications.standing.empty());
 }
 
-void tst_AlarmNotification::whatTheUserHasAnsweredDoesNotComeBack()
+void tst_AlarmNotification::anAnsweredNotificationDoesNotComeBack()
 {
     Fixture t;
     t.ringOnAndOn();
@@ -290,7 +290,7 @@ void tst_AlarmNotification::whatTheUserHasAnsweredDoesNotComeBack()
     QVERIFY(t.notifications.standing.empty());
 }
 
-void tst_AlarmNotification::whatExpiresAfterTheAlarmDoesNotComeBack()
+void tst_AlarmNotification::aNotificationThatExpiresAfterTheAlarmDoesNotComeBack()
 {
     Fixture t;
     t.ring();
@@ -301,7 +301,7 @@ void tst_AlarmNotification::whatExpiresAfterTheAlarmDoesNotComeBack()
     QVERIFY(t.clock.isIdle());
 }
 
-void tst_AlarmNotification::thatOfAMutedAlarmDoesNotComeBack()
+void tst_AlarmNotification::theNotificationOfAMutedAlarmDoesNotComeBack()
 {
     Fixture t;
     t.set("soundOff", 1);
@@ -324,7 +324,7 @@ void tst_AlarmNotification::nothingComesBackOnceNotificationsAreTurnedOff()
     QVERIFY(t.notifications.standing.empty());
 }
 
-void tst_AlarmNotification::aTraceOutlastsThatNotificationsAreTurnedOff()
+void tst_AlarmNotification::aTraceStaysWhenNotificationsAreTurnedOff()
 {
     Fixture t;
     t.chooseFinish(QStringLiteral("Loop this Wuffer"));

@@ -35,20 +35,20 @@ QString chainOf(Member &member)
 }
 } // namespace
 
-/// The walk along a chain.
+/// Collecting the members of a chain, and its texts.
 class tst_Chain final : public Test
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void oneAloneIsItsWholeChain();
+    void aSingleMemberIsItsWholeChain();
     void everyMemberSeesTheWholeChainFromItsHead();
     void theWalkEndsInACircle();
     void theWalkEndsAtAMemberLinkedToItself();
     void theWalkEndsWhereLinksAreOneSided();
     void theTextCountsFromOne();
-    void theLinksAreNamedAsFarAsThereAreAny_data();
-    void theLinksAreNamedAsFarAsThereAreAny();
+    void onlyLinksThatExistAreNamed_data();
+    void onlyLinksThatExistAreNamed();
 
 private:
     Member a{QStringLiteral("A")};
@@ -63,7 +63,7 @@ private Q_SLOTS:
     }
 };
 
-void tst_Chain::oneAloneIsItsWholeChain()
+void tst_Chain::aSingleMemberIsItsWholeChain()
 {
     QCOMPARE(chainOf(a), QStringLiteral("A"));
 }
@@ -104,7 +104,7 @@ void tst_Chain::theTextCountsFromOne()
     QCOMPARE(Chain::text(2, 3), QStringLiteral("Wuffer Chain - 2 of 3"));
 }
 
-void tst_Chain::theLinksAreNamedAsFarAsThereAreAny_data()
+void tst_Chain::onlyLinksThatExistAreNamed_data()
 {
     QTest::addColumn<QString>("startedBy");
     QTest::addColumn<QString>("starts");
@@ -121,7 +121,7 @@ void tst_Chain::theLinksAreNamedAsFarAsThereAreAny_data()
     row("names with places", "%2", "%1", "Started by “%2”; starts “%1”");
 }
 
-void tst_Chain::theLinksAreNamedAsFarAsThereAreAny()
+void tst_Chain::onlyLinksThatExistAreNamed()
 {
     QFETCH(const QString, startedBy);
     QFETCH(const QString, starts);

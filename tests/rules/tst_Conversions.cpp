@@ -14,7 +14,7 @@ namespace
 {
 using Conversion = float (*)(float);
 
-/// Enough digits to tell a float from its neighbours: comparing floats as such is too kind.
+/// Nine digits, which tell a float from its neighbours. QCOMPARE of floats is too tolerant.
 QString exactly(float number)
 {
     return QString::number(static_cast<double>(number), 'g', 9);
@@ -104,7 +104,7 @@ void tst_Conversions::oneUnitThereAndBack_data()
 
     QTest::newRow("1 cup") << Cups << 1.0F << 1.0F;
     QTest::newRow("1 tablespoon") << Tablespoons << 1.0F << 1.0F;
-    // The factors of the two directions are no exact inverses, and this is how it shows.
+    // The factors of the two directions are not exact inverses, which shows here.
     QTest::newRow("3.5 teaspoons") << Teaspoons << 3.5F << 3.50000024F;
     QTest::newRow("0.1 tablespoons") << Tablespoons << 0.1F << 0.100000009F;
     QTest::newRow("0.7 fluid ounces") << FluidOunces << 0.7F << 0.699999928F;
@@ -147,7 +147,7 @@ void tst_Conversions::productsAreRoundedOnce()
         if (Conversions::millilitersFrom(unit, value) != value * static_cast<float>(to))
             ++differentInSinglePrecision;
     }
-    // Otherwise the values above would not tell one precision from the other.
+    // Otherwise these values could not tell single from double precision.
     QVERIFY(differentInSinglePrecision > 0);
 }
 

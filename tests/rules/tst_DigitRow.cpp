@@ -8,7 +8,7 @@ using DigitRow::digitAt;
 using DigitRow::digitOfKey;
 using Symbols = std::vector<quint32>;
 
-/// Which digit a press means.
+/// Which digit a key press means.
 class tst_DigitRow final : public QObject
 {
     Q_OBJECT
@@ -72,7 +72,7 @@ private Q_SLOTS:
 
     void aDigitIsNotTwoKeys()
     {
-        // As on a Hungarian keyboard: 0 is left of 1, and a letter where it usually is.
+        // As on a Hungarian keyboard: 0 is left of 1, and a letter is in the usual place of 0.
         const auto hungarian = [](quint32 key) -> Symbols {
             if (key == 49)
                 return {'0', 0xa7};

@@ -31,7 +31,7 @@ private Q_SLOTS:
     void numbersAreWrittenShort_data();
     void numbersAreWrittenShort();
     void whatIsWrittenReadsAsTheSameInEveryLocale();
-    void everyFloatComesBack();
+    void everyFloatReadsBackUnchanged();
     void noMoreThanNineDigits();
     void aVeryLongTextIsReadAtOnce();
 };
@@ -190,10 +190,10 @@ void tst_FigureText::whatIsWrittenReadsAsTheSameInEveryLocale()
     }
 }
 
-void tst_FigureText::everyFloatComesBack()
+void tst_FigureText::everyFloatReadsBackUnchanged()
 {
     const QLocale locale = QLocale::c();
-    std::mt19937 random(20); // always the same, so that a failure can be repeated
+    std::mt19937 random(20); // a fixed seed, so that failures can be reproduced
     int tried = 0;
     while (tried < 20000) {
         const auto number = std::bit_cast<float>(static_cast<quint32>(random()));

@@ -6,15 +6,15 @@ class tst_FinishActions final : public Test
     Q_OBJECT
 
 private Q_SLOTS:
-    void aRowSaysAllOfAnAction_data();
-    void aRowSaysAllOfAnAction();
-    void theListHasTheirOrder();
+    void aRowHasAllPropertiesOfAnAction_data();
+    void aRowHasAllPropertiesOfAnAction();
+    void theListKeepsTheOrderOfTheTable();
     void whatIsStoredReadsAsTheAction();
     void anyOtherTextIsNoAction();
     void noActionAllowsAndRunsNothing();
 };
 
-void tst_FinishActions::aRowSaysAllOfAnAction_data()
+void tst_FinishActions::aRowHasAllPropertiesOfAnAction_data()
 {
     using FinishActions::Picker;
     using FinishActions::Runs;
@@ -36,7 +36,7 @@ void tst_FinishActions::aRowSaysAllOfAnAction_data()
         Runs::TargetTimer);
 }
 
-void tst_FinishActions::aRowSaysAllOfAnAction()
+void tst_FinishActions::aRowHasAllPropertiesOfAnAction()
 {
     QFETCH(const FinishAction, action);
     QFETCH(const QString, stored);
@@ -50,7 +50,7 @@ void tst_FinishActions::aRowSaysAllOfAnAction()
     QTEST(int(row.runs), "runs");
 }
 
-void tst_FinishActions::theListHasTheirOrder()
+void tst_FinishActions::theListKeepsTheOrderOfTheTable()
 {
     QStringList texts;
     for (const FinishActions::Row &row : FinishActions::rows())

@@ -11,29 +11,29 @@ class tst_GatheredNotifications final : public Test
     Q_OBJECT
 
 private Q_SLOTS:
-    void aFewStandByThemselves();
-    void oneMoreGathersThemAll();
-    void thoseThatEndTogetherShowAtOnceAsOne();
+    void upToThreeAreShownOneByOne();
+    void aFourthGathersThemAll();
+    void thoseThatEndTogetherAreShownAtOnceAsOne();
     void manyAreNamedOnlyInPart();
     void eightAreAllNamed();
     void moreAreAddedOnceASecond();
-    void thoseThatAreWithdrawnAreCountedNoMore();
+    void withdrawnNotificationsAreNoLongerCounted();
     void theLastOneLeftIsItself();
     void itGoesWithTheLast();
-    void aDestroyedSenderIsCountedNoMore();
-    void whenAllIsOverTheNextStandByThemselves();
+    void aDestroyedSenderIsNoLongerCounted();
+    void afterAllAreGoneTheNextAreShownOneByOne();
     void showIsForTheLatest();
     void stopIsForAll();
     void aStopMayDestroyTheOthers();
-    void quickOnesOfOneTimerAreHeldBack();
-    void quickOnesAreHeldBackAtAnyTime();
+    void quickNotificationsOfOneTimerAreHeldBack();
+    void aFourthWithinASecondIsHeldBackAtAnyTime();
     void aDismissedSummaryDoesNotComeBack();
-    void oneThatCameUnseenOutlivesTheDismissal();
-    void aDismissedOneIsNotGathered();
+    void aNotificationNotYetShownOutlivesTheDismissal();
+    void aDismissedNotificationIsNotGathered();
     void nothingWakesTheProgramWhileNothingChanges();
 };
 
-void tst_GatheredNotifications::aFewStandByThemselves()
+void tst_GatheredNotifications::upToThreeAreShownOneByOne()
 {
     GatheringFixture t;
     t.end(3);
@@ -45,7 +45,7 @@ void tst_GatheredNotifications::aFewStandByThemselves()
     QCOMPARE(t.texts(), QStringList({QStringLiteral("T1: 5s"), QStringLiteral("T3: 5s")}));
 }
 
-void tst_GatheredNotifications::oneMoreGathersThemAll()
+void tst_GatheredNotifications::aFourthGathersThemAll()
 {
     GatheringFixture t;
     for (int i = 0; i < 4; ++i) {
@@ -57,7 +57,7 @@ void tst_GatheredNotifications::oneMoreGathersThemAll()
     QCOMPARE(t.only().name, QStringLiteral("wuff"));
 }
 
-void tst_GatheredNotifications::thoseThatEndTogetherShowAtOnceAsOne()
+void tst_GatheredNotifications::thoseThatEndTogetherAreShownAtOnceAsOne()
 {
     GatheringFixture t;
     t.end(30);
@@ -93,13 +93,13 @@ void tst_GatheredNotifications::moreAreAddedOnceASecond()
         t.end(1);
         t.clock.advance(0.1);
     }
-    // Three alone, and then ten seconds.
+    // Three single ones, and then one a second for ten seconds.
     QVERIFY(t.desktop.shown.size() <= 3U + 11U);
     t.clock.advance(1);
     QCOMPARE(t.only().title, QStringLiteral("100 timers have ended"));
 }
 
-void tst_GatheredNotifications::thoseThatAreWithdrawnAreCountedNoMore()
+void tst_GatheredNotifications::withdrawnNotificationsAreNoLongerCounted()
 {
     GatheringFixture t;
     t.end(5);
@@ -138,7 +138,7 @@ void tst_GatheredNotifications::itGoesWithTheLast()
     QVERIFY(t.clock.isIdle());
 }
 
-void tst_GatheredNotifications::aDestroyedSenderIsCountedNoMore()
+void tst_GatheredNotifications::aDestroyedSenderIsNoLongerCounted()
 {
     GatheringFixture t;
     t.end(5);
@@ -150,7 +150,7 @@ void tst_GatheredNotifications::aDestroyedSenderIsCountedNoMore()
     QCOMPARE(t.texts(), QStringList());
 }
 
-void tst_GatheredNotifications::whenAllIsOverTheNextStandByThemselves()
+void tst_GatheredNotifications::afterAllAreGoneTheNextAreShownOneByOne()
 {
     GatheringFixture t;
     t.end(4);
@@ -200,7 +200,7 @@ void tst_GatheredNotifications::aStopMayDestroyTheOthers()
     QCOMPARE(t.entries(), QString());
 }
 
-void tst_GatheredNotifications::quickOnesOfOneTimerAreHeldBack()
+void tst_GatheredNotifications::quickNotificationsOfOneTimerAreHeldBack()
 {
     GatheringFixture t;
     const QObject timer;
@@ -210,7 +210,7 @@ void tst_GatheredNotifications::quickOnesOfOneTimerAreHeldBack()
         t.gathered.withdraw(timer);
         t.clock.advance(0.05);
     }
-    // Three alone, and then about one a second for ten seconds.
+    // Three single ones, and then about one a second for ten seconds.
     QVERIFY(t.desktop.shown.size() > 6U);
     QVERIFY(t.desktop.shown.size() <= 3U + 11U);
     QCOMPARE(t.desktop.shown.back().notification.text, QStringLiteral("loop: 5s"));
@@ -231,7 +231,7 @@ void tst_GatheredNotifications::aDismissedSummaryDoesNotComeBack()
     QCOMPARE(t.texts(), QStringList({QStringLiteral("T6: 5s")}));
 }
 
-void tst_GatheredNotifications::oneThatCameUnseenOutlivesTheDismissal()
+void tst_GatheredNotifications::aNotificationNotYetShownOutlivesTheDismissal()
 {
     GatheringFixture t;
     t.end(5);
@@ -242,7 +242,7 @@ void tst_GatheredNotifications::oneThatCameUnseenOutlivesTheDismissal()
     QCOMPARE(t.texts(), QStringList({QStringLiteral("T6: 5s")}));
 }
 
-void tst_GatheredNotifications::aDismissedOneIsNotGathered()
+void tst_GatheredNotifications::aDismissedNotificationIsNotGathered()
 {
     GatheringFixture t;
     t.end(3);
@@ -262,7 +262,7 @@ void tst_GatheredNotifications::nothingWakesTheProgramWhileNothingChanges()
     QCOMPARE(t.desktop.standing.size(), 1U);
 }
 
-void tst_GatheredNotifications::quickOnesAreHeldBackAtAnyTime()
+void tst_GatheredNotifications::aFourthWithinASecondIsHeldBackAtAnyTime()
 {
     GatheringFixture t;
     const QObject timer;
@@ -273,10 +273,10 @@ void tst_GatheredNotifications::quickOnesAreHeldBackAtAnyTime()
             t.gathered.withdraw(timer);
         }
     };
-    // The fourth comes a whole second after the first.
+    // The fourth comes a whole second after the first and is shown at once.
     endFourTimes(0.5);
     QCOMPARE(t.desktop.shown.size(), 4U);
-    // It comes too early, and is over before it could show.
+    // The fourth comes earlier, and is withdrawn before it can be shown.
     endFourTimes(0.4375);
     t.clock.advance(60);
     QCOMPARE(t.desktop.shown.size(), 7U);

@@ -1,7 +1,7 @@
 #include "rules/HelpSearch.h"
 #include "support/TestMain.h"
 
-/// Where words are found in a text.
+/// Finding words in a text.
 class tst_HelpSearch final : public Test
 {
     Q_OBJECT
@@ -15,7 +15,7 @@ void tst_HelpSearch::wordsAreFound_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("words");
-    // What is found, with a bar after each.
+    // The matches, each followed by a bar.
     QTest::addColumn<QString>("found");
     const QString text =
         QStringLiteral("Loop this Wuffer: it doesn’t stop\nlooping. A cup\u00a0of tea");

@@ -1,17 +1,17 @@
 #include "rules/KeepWuffing.h"
 #include "support/TestMain.h"
 
-/// What the keep-wuffing box says of itself.
+/// The hint of the keep-wuffing box.
 class tst_KeepWuffing final : public Test
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void theReasonThatTakesMostToMendComesFirst_data();
-    void theReasonThatTakesMostToMendComesFirst();
+    void theReasonThatIsHardestToRemoveComesFirst_data();
+    void theReasonThatIsHardestToRemoveComesFirst();
 };
 
-void tst_KeepWuffing::theReasonThatTakesMostToMendComesFirst_data()
+void tst_KeepWuffing::theReasonThatIsHardestToRemoveComesFirst_data()
 {
     QTest::addColumn<bool>("stopwatch");
     QTest::addColumn<bool>("follows");
@@ -31,7 +31,7 @@ void tst_KeepWuffing::theReasonThatTakesMostToMendComesFirst_data()
     QTest::newRow("all at once") << true << true << true << stopwatch;
 }
 
-void tst_KeepWuffing::theReasonThatTakesMostToMendComesFirst()
+void tst_KeepWuffing::theReasonThatIsHardestToRemoveComesFirst()
 {
     QFETCH(const bool, stopwatch);
     QFETCH(const bool, follows);

@@ -6,13 +6,13 @@ class tst_LaunchChoices final : public Test
     Q_OBJECT
 
 private Q_SLOTS:
-    void aRowSaysWhatOpens_data();
-    void aRowSaysWhatOpens();
-    void theListHasTheirOrder();
+    void aRowSaysWhatTheLaunchOpens_data();
+    void aRowSaysWhatTheLaunchOpens();
+    void theListKeepsTheOrderOfTheTable();
     void anythingElseOpensATimer();
 };
 
-void tst_LaunchChoices::aRowSaysWhatOpens_data()
+void tst_LaunchChoices::aRowSaysWhatTheLaunchOpens_data()
 {
     QTest::addColumn<QString>("stored");
     QTest::addColumn<bool>("opensTimer");
@@ -25,7 +25,7 @@ void tst_LaunchChoices::aRowSaysWhatOpens_data()
         << QStringLiteral("Open and Start Preset ⌘1") << true << true << true;
 }
 
-void tst_LaunchChoices::aRowSaysWhatOpens()
+void tst_LaunchChoices::aRowSaysWhatTheLaunchOpens()
 {
     QFETCH(const QString, stored);
     const LaunchChoices::Row &row = LaunchChoices::fromStored(stored);
@@ -36,7 +36,7 @@ void tst_LaunchChoices::aRowSaysWhatOpens()
     QTEST(row.starts, "starts");
 }
 
-void tst_LaunchChoices::theListHasTheirOrder()
+void tst_LaunchChoices::theListKeepsTheOrderOfTheTable()
 {
     QStringList texts;
     for (const LaunchChoices::Row &row : LaunchChoices::rows())

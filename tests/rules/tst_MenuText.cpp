@@ -1,7 +1,7 @@
 #include "rules/MenuText.h"
 #include "support/TestMain.h"
 
-/// What a user has written, as a menu shows it.
+/// Texts of users as menu items.
 class tst_MenuText final : public Test
 {
     Q_OBJECT

@@ -3,7 +3,7 @@
 
 #include <QWindow>
 
-/// What a user has written, made fit for the places where it is shown.
+/// Names that users have typed, as timers and window titles show them.
 class tst_NameText final : public Test
 {
     Q_OBJECT

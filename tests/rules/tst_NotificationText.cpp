@@ -47,7 +47,7 @@ void tst_NotificationText::aLongTextIsCutAndSaysSo()
 
 void tst_NotificationText::noCharacterIsCutThrough()
 {
-    // One family is eleven units long; nine of them are the last to fit.
+    // A family emoji is eleven UTF-16 units long, and nine of them fit.
     const QString family = QStringLiteral("👨\u200D👩\u200D👧\u200D👦");
     QCOMPARE(family.size(), 11);
     QCOMPARE(NotificationText::line(family.repeated(1'000)),

@@ -1,7 +1,7 @@
 #include "rules/OneLine.h"
 #include "support/TestMain.h"
 
-/// Texts of users in one line.
+/// Texts of users as a single line.
 class tst_OneLine final : public Test
 {
     Q_OBJECT

@@ -6,11 +6,11 @@
 
 namespace
 {
-/// What the rules ask of a timer, and how often.
+/// A timer as the rules see it, which counts how often they ask it.
 struct SomeTimer
 {
     QString name;
-    /// Seconds from the beginning of the test; nothing for a stopwatch.
+    /// Seconds from the beginning of the test; no value for a stopwatch.
     std::optional<double> end;
     bool running = true;
     QColor color = Qt::black;
@@ -72,7 +72,7 @@ SomeTimer stopwatch(const char *name)
     return {QString::fromLatin1(name), std::nullopt};
 }
 
-/// The order by its definition: each timer goes before the first that it is not later than.
+/// The order by its definition: each timer is inserted before the first that ends no earlier.
 std::vector<const SomeTimer *> inserted(const Timers &timers)
 {
     std::vector<const SomeTimer *> ordered;
@@ -91,7 +91,7 @@ StatusDescription<const SomeTimer> describe(const Timers &timers)
 }
 } // namespace
 
-/// Which timers the status item shows, in what order, and what it says of them.
+/// Which timers the status item shows, in which order, and with which texts.
 class tst_RunningTimers final : public Test
 {
     Q_OBJECT

@@ -6,12 +6,12 @@ class tst_SoundEntries final : public Test
     Q_OBJECT
 
 private Q_SLOTS:
-    void aRowSaysWhatStandsForAnEntry_data();
-    void aRowSaysWhatStandsForAnEntry();
-    void thePathOfAFileIsNoEntry();
+    void aRowHasTheTextAndTheFileOfAnEntry_data();
+    void aRowHasTheTextAndTheFileOfAnEntry();
+    void thePathOfAFileIsNotAFixedEntry();
 };
 
-void tst_SoundEntries::aRowSaysWhatStandsForAnEntry_data()
+void tst_SoundEntries::aRowHasTheTextAndTheFileOfAnEntry_data()
 {
     QTest::addColumn<SoundEntry>("entry");
     QTest::addColumn<QString>("text");
@@ -26,7 +26,7 @@ void tst_SoundEntries::aRowSaysWhatStandsForAnEntry_data()
     add(SoundEntry::Manage, "Manage Sounds...", "");
 }
 
-void tst_SoundEntries::aRowSaysWhatStandsForAnEntry()
+void tst_SoundEntries::aRowHasTheTextAndTheFileOfAnEntry()
 {
     QFETCH(const SoundEntry, entry);
     QFETCH(const QString, text);
@@ -37,7 +37,7 @@ void tst_SoundEntries::aRowSaysWhatStandsForAnEntry()
     QTEST(SoundEntries::builtInFile(text), "file");
 }
 
-void tst_SoundEntries::thePathOfAFileIsNoEntry()
+void tst_SoundEntries::thePathOfAFileIsNotAFixedEntry()
 {
     for (const char16_t *path : {u"", u"/tmp/Wuff (Default)", u"crow.wav"}) {
         QVERIFY(!SoundEntries::fromStored(path));

@@ -3,7 +3,7 @@
 
 #include <limits>
 
-/// How far away a moment is, in words.
+/// The text for the time until a moment.
 class tst_TimeDistance final : public Test
 {
     Q_OBJECT

@@ -3,7 +3,7 @@
 
 using TimeText::Unit;
 
-/// What texts say of a time.
+/// Parsing times as people write them.
 class tst_TimeText final : public Test
 {
     Q_OBJECT

@@ -9,7 +9,7 @@ class tst_TimerRun final : public Test
 
 private Q_SLOTS:
     void aNewRunIsAnIdleCountdown();
-    void aCountdownEndsSoManySecondsFromItsStart();
+    void aCountdownEndsItsDurationAfterItsStart();
     void aZeroOrNegativeCountdownIsOverAtOnce();
     void aStopwatchGoesOnFromWhatItHasCounted();
     void aStopwatchKeepsEveryMillisecondItGoesOnFrom();
@@ -18,7 +18,7 @@ private Q_SLOTS:
     void theAlarmIsAState();
     void datesStayAfterAStop();
     void aLoopCountsItsPasses();
-    void everyFifthTickIsTold();
+    void everyFifthTickIsReported();
     void ticksAreCountedOnFromRunToRun();
     void beepsComeOnceASecondInTheLastTwelve();
     void aStartBeginsTheBeepsAnew();
@@ -28,7 +28,7 @@ namespace
 {
 constexpr double kLater = 65.25;
 
-/// How far a run has come now.
+/// The times of a run at the present time of the clock.
 RunTimes timesNow(const TimerRun &run)
 {
     return run.timesAt(Date::now());
@@ -47,7 +47,7 @@ void tst_TimerRun::aNewRunIsAnIdleCountdown()
     QCOMPARE(run.repeatSuffix(), QString());
 }
 
-void tst_TimerRun::aCountdownEndsSoManySecondsFromItsStart()
+void tst_TimerRun::aCountdownEndsItsDurationAfterItsStart()
 {
     ClockFixture fixture;
     TimerRun run;
@@ -162,7 +162,7 @@ void tst_TimerRun::aLoopCountsItsPasses()
     QCOMPARE(run.repeatSuffix(), QString());
 }
 
-void tst_TimerRun::everyFifthTickIsTold()
+void tst_TimerRun::everyFifthTickIsReported()
 {
     TimerRun run;
     QList<int> told;
@@ -193,7 +193,7 @@ void tst_TimerRun::beepsComeOnceASecondInTheLastTwelve()
     TimerRun run;
     run.start(20, 0, Date::now());
     QList<float> volumes;
-    // In steps of a thirty-second of a second, which is exact.
+    // In steps of 1/32 s, which is exact in binary.
     for (double remaining = 20; remaining > 0; remaining -= 0x1p-5) {
         if (const std::optional<float> volume = run.takeBeep(remaining))
             volumes << *volume;

@@ -32,7 +32,7 @@ TimerSettings withHours(qint32 hours)
 }
 } // namespace
 
-/// The settings of a timer as a value, and the dictionary in which they are stored.
+/// The settings of a timer as a value, and as the record that is stored.
 class tst_TimerSettings final : public Test
 {
     Q_OBJECT

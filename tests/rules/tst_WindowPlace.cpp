@@ -1,15 +1,15 @@
 #include "rules/WindowPlace.h"
 #include "support/TestMain.h"
 
-/// Where windows may stand again.
+/// Where windows are restored.
 class tst_WindowPlace final : public Test
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void whatIsStoredReadsTheSame();
-    void whatIsNoPlaceReadsAsNone_data();
-    void whatIsNoPlaceReadsAsNone();
+    void anInvalidPlaceReadsAsMissing_data();
+    void anInvalidPlaceReadsAsMissing();
     void absurdNumbersAreLimited();
     void aWindowComesBackWhereItCanBeReached_data();
     void aWindowComesBackWhereItCanBeReached();
@@ -21,7 +21,7 @@ void tst_WindowPlace::whatIsStoredReadsTheSame()
     QCOMPARE(WindowPlace::fromRecord(WindowPlace::record(place)), std::optional(place));
 }
 
-void tst_WindowPlace::whatIsNoPlaceReadsAsNone_data()
+void tst_WindowPlace::anInvalidPlaceReadsAsMissing_data()
 {
     QTest::addColumn<QVariantMap>("record");
     QTest::newRow("nothing") << QVariantMap();
@@ -30,7 +30,7 @@ void tst_WindowPlace::whatIsNoPlaceReadsAsNone_data()
                                           {QStringLiteral("y"), QStringLiteral("4")}};
 }
 
-void tst_WindowPlace::whatIsNoPlaceReadsAsNone()
+void tst_WindowPlace::anInvalidPlaceReadsAsMissing()
 {
     QFETCH(const QVariantMap, record);
     QVERIFY(!WindowPlace::fromRecord(record));
