@@ -9,7 +9,7 @@ namespace
 {
 const QString kClicked = QStringLiteral("ClickableImageViewClicked");
 
-/// A view in a parent that counts the presses it gets.
+/// A view in a parent that counts the mouse presses that reach it.
 struct Fixture : QWidget
 {
     Fixture()
@@ -111,7 +111,7 @@ void tst_ClickableImageView::theSpaceBarClicksOnce()
     QTest::keyClick(&f.view, Qt::Key_Space);
     QCOMPARE(f.clicks.count, 1);
 
-    // Held down it does not click again and again.
+    // A key that is held down does not click again.
     QKeyEvent repeat(QEvent::KeyPress, Qt::Key_Space, {}, QStringLiteral(" "), true);
     QCoreApplication::sendEvent(&f.view, &repeat);
     QCOMPARE(f.clicks.count, 1);

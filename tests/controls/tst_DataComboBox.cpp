@@ -7,7 +7,7 @@ const QString kBell = QStringLiteral("Bell");
 const QString kBellFile = QStringLiteral("/a/Bell.aiff");
 const QString kDefault = QStringLiteral("Wuff (Default)");
 
-/// What the entries show, from the top.
+/// The texts of the entries, from the top.
 QStringList shown(const DataComboBox &box)
 {
     QStringList texts;
@@ -16,7 +16,7 @@ QStringList shown(const DataComboBox &box)
     return texts;
 }
 
-/// What the entries stand for, from the top. Selects the last one on its way.
+/// The data objects of the entries, from the top. Leaves the last entry selected.
 QStringList data(DataComboBox &box)
 {
     QStringList objects;
@@ -46,12 +46,12 @@ class tst_DataComboBox final : public Test
     Q_OBJECT
 
 private Q_SLOTS:
-    void anEntryWithoutADataObjectIsItsOwn();
-    void anEntryOfTheBaseClassIsItsOwn();
+    void anEntryWithoutADataObjectIsItsOwnData();
+    void anEntryOfTheBaseClassIsItsOwnData();
     void anEntryShowsOneTextAndStandsForAnother();
     void addingSeveralKeepsTheirOrder();
     void insertingKeepsEntriesAndDataTogether();
-    void nothingIsSelectedUntilSomebodySelectsIt();
+    void nothingIsSelectedAtFirst();
     void theSelectionStaysWithItsEntry();
     void selectingAnAbsentObjectLeavesTheSelection();
     void selectingFindsTheFirstEqualObject();
@@ -65,7 +65,7 @@ private Q_SLOTS:
     void aTextWithoutRoomIsShortened();
 };
 
-void tst_DataComboBox::anEntryWithoutADataObjectIsItsOwn()
+void tst_DataComboBox::anEntryWithoutADataObjectIsItsOwnData()
 {
     DataComboBox box;
     box.addItemWithObjectValue(kDefault);
@@ -76,7 +76,7 @@ void tst_DataComboBox::anEntryWithoutADataObjectIsItsOwn()
     QCOMPARE(box.dataObjectOfSelectedItem(), kDefault);
 }
 
-void tst_DataComboBox::anEntryOfTheBaseClassIsItsOwn()
+void tst_DataComboBox::anEntryOfTheBaseClassIsItsOwnData()
 {
     DataComboBox box;
     box.addItem(kDefault);
@@ -127,7 +127,7 @@ void tst_DataComboBox::insertingKeepsEntriesAndDataTogether()
     QCOMPARE(data(box), words("first a /x b /last"));
 }
 
-void tst_DataComboBox::nothingIsSelectedUntilSomebodySelectsIt()
+void tst_DataComboBox::nothingIsSelectedAtFirst()
 {
     DataComboBox box;
     QVERIFY(!box.dataObjectOfSelectedItem().has_value());

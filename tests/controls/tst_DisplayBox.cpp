@@ -10,7 +10,7 @@
 
 namespace
 {
-/// A window with a field, a box with a field in it, and a button, from above.
+/// A window with, from top to bottom, a field, a box that contains a field, and a button.
 struct Fixture
 {
     Fixture()
@@ -31,7 +31,7 @@ struct Fixture
     void enter() { box->enterFullScreenMode(*window->screen()); }
     void leave() { box->exitFullScreenModeWithOptions(); }
 
-    /// The widgets that the tab key walks through, from this one.
+    /// The widgets in tab order, from this one on.
     [[nodiscard]] static QList<QWidget *> tabOrderFrom(QWidget *start)
     {
         QList<QWidget *> order{start};
@@ -73,7 +73,7 @@ private Q_SLOTS:
     void itComesBackInTheSameTabOrder();
     void itCanGoAndComeManyTimes();
     void theBoxGrowsWithAWindowThatGrewMeanwhile();
-    void theWindowThatItIsInTellsOfItsActivation();
+    void theWindowOfTheBoxReportsItsActivation();
     void aRequestToCloseIsReportedAndRefusedWhileTheBoxIsThere();
     void aBoxDestroyedOnTheFullScreenLeavesNothingBehind();
     void aWindowDestroyedMeanwhileTakesTheBoxAlong();
@@ -201,7 +201,7 @@ void tst_DisplayBox::theBoxGrowsWithAWindowThatGrewMeanwhile()
     QCOMPARE(place, other.box->geometry());
 }
 
-void tst_DisplayBox::theWindowThatItIsInTellsOfItsActivation()
+void tst_DisplayBox::theWindowOfTheBoxReportsItsActivation()
 {
     Fixture f;
     QWidget elsewhere;
@@ -239,7 +239,7 @@ void tst_DisplayBox::aRequestToCloseIsReportedAndRefusedWhileTheBoxIsThere()
     QCOMPARE(requests.count(), 1);
     QVERIFY(f.box->window()->isVisible());
     QVERIFY(f.box->isInFullScreenMode());
-    // The answer may be to come back at once, and then the window may close.
+    // If a slot leaves the full screen at once, the window may close.
     connect(f.box, &DisplayBox::fullScreenCloseRequested, this, [&] { f.leave(); });
     QVERIFY(f.box->window()->close());
     QCOMPARE(f.box->window(), f.window.get());

@@ -30,7 +30,7 @@ public:
 
     int count = 0;
 };
-/// Keeps what is painted of a widget.
+/// Records which parts of a widget are painted.
 class Paintings final : public QObject
 {
 public:
@@ -76,9 +76,9 @@ private Q_SLOTS:
     void assistiveProgramsSeeAText();
     void aTextThatStaysTheSameIsNotPainted();
     void aNewTextIsPaintedAtOnce();
-    void theScreenShowsWhatAPaintWouldShow();
-    void aTextStandsWhereTheToolkitWouldSetIt_data();
-    void aTextStandsWhereTheToolkitWouldSetIt();
+    void theScreenShowsWhatAFullRepaintWouldShow();
+    void aTextIsDrawnWhereQtWouldDrawIt_data();
+    void aTextIsDrawnWhereQtWouldDrawIt();
 };
 
 void tst_DisplayLabel::theLabelPaintsAllOfItself()
@@ -227,7 +227,7 @@ void tst_DisplayLabel::aNewTextIsPaintedAtOnce()
     QCOMPARE(paintings.rects, QList<QRect>{f.label.rect()});
 }
 
-void tst_DisplayLabel::theScreenShowsWhatAPaintWouldShow()
+void tst_DisplayLabel::theScreenShowsWhatAFullRepaintWouldShow()
 {
     ShownLabel f(words("1h 2m 59s"));
     for (const char *text :
@@ -243,7 +243,7 @@ void tst_DisplayLabel::theScreenShowsWhatAPaintWouldShow()
     }
 }
 
-void tst_DisplayLabel::aTextStandsWhereTheToolkitWouldSetIt_data()
+void tst_DisplayLabel::aTextIsDrawnWhereQtWouldDrawIt_data()
 {
     QTest::addColumn<QString>("text");
     QTest::newRow("nothing") << QString();
@@ -255,7 +255,7 @@ void tst_DisplayLabel::aTextStandsWhereTheToolkitWouldSetIt_data()
     QTest::newRow("another script") << QString::fromUtf8("שעה");
 }
 
-void tst_DisplayLabel::aTextStandsWhereTheToolkitWouldSetIt()
+void tst_DisplayLabel::aTextIsDrawnWhereQtWouldDrawIt()
 {
     QFETCH(const QString, text);
     constexpr QSize size(500, 100);

@@ -4,7 +4,7 @@
 #include <cmath>
 #include <memory>
 
-/// How a text that needs more room than there is gets smaller.
+/// How a text that is too large for its label is scaled down.
 class tst_DisplayLabelScaling final : public Test
 {
     Q_OBJECT

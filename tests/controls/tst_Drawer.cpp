@@ -13,7 +13,7 @@ using State = Drawer::State;
 
 constexpr int kContentHeight = 120;
 
-/// A style whose animations take so many milliseconds.
+/// A style whose animations take the given number of milliseconds.
 class TimedStyle final : public QProxyStyle
 {
 public:
@@ -31,7 +31,7 @@ private:
     const int _milliseconds;
 };
 
-/// What a drawer may hold: it asks for a height and takes the focus.
+/// A content for drawers that asks for a height and takes the focus.
 class Panel final : public QWidget
 {
 public:
@@ -102,7 +102,7 @@ private Q_SLOTS:
     void withAnimationsItPassesThroughAllFourStates();
     void aSlideUnderWayTurnsRound();
     void aSlideThatTurnsRoundGoesOnFromWhereItIs();
-    void aDrawerThatTurnsRoundEndsWhereItIsSentLast();
+    void aDrawerThatTurnsRoundEndsInTheStateLastAskedFor();
     void theRoomGrowsWhileItOpens();
     void anOpenDrawerTakesTheRoomOfItsContent();
     void contentAddedLaterIsShownInFull();
@@ -185,7 +185,7 @@ void tst_Drawer::aSlideThatTurnsRoundGoesOnFromWhereItIs()
     QVERIFY(f.drawer.sizeHint().height() > 0);
 }
 
-void tst_Drawer::aDrawerThatTurnsRoundEndsWhereItIsSentLast()
+void tst_Drawer::aDrawerThatTurnsRoundEndsInTheStateLastAskedFor()
 {
     Fixture f(kShort);
     f.drawer.toggle();

@@ -18,7 +18,7 @@ class tst_PlayButton final : public Test
 
 private Q_SLOTS:
     void itOffersToPlayAndThenToStop();
-    void whatItSaysFollowsChangedWords();
+    void itsAccessibleNameFollowsChangedTexts();
     void theSignChangesWhileItPlays();
     void theSignIsDrawnInTheColourOfTheText();
     void itIsSquareAndGrowsWithTheFont();
@@ -41,7 +41,7 @@ void tst_PlayButton::itOffersToPlayAndThenToStop()
     QCOMPARE(button.accessibleName(), QStringLiteral("Play it"));
 }
 
-void tst_PlayButton::whatItSaysFollowsChangedWords()
+void tst_PlayButton::itsAccessibleNameFollowsChangedTexts()
 {
     PlayButton button;
     button.setPlaying(true);

@@ -9,7 +9,7 @@
 
 namespace
 {
-/// What is behind the button, with a diary of the mouse events that it gets.
+/// The widget behind the button, with a diary of its mouse events.
 class Background final : public QWidget
 {
 public:
@@ -26,7 +26,7 @@ class Fixture
 public:
     Fixture() { new PressThrough(button); }
 
-    /// Presses the button, moves within it, and lets go.
+    /// Presses a mouse button on the button, moves within it, and releases.
     void drag(Qt::MouseButton with)
     {
         QTest::mousePress(&button, with, {}, QPoint(5, 5));
@@ -41,7 +41,7 @@ public:
 };
 } // namespace
 
-/// Whether the mouse reaches what is behind a button.
+/// Whether mouse events reach the widget behind a button.
 class tst_PressThrough final : public Test
 {
     Q_OBJECT

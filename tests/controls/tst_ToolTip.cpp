@@ -5,7 +5,7 @@
 #include <QTextDocumentFragment>
 #include <QWidget>
 
-/// Tool tips that show their text word for word.
+/// Tool tips that show their text literally.
 class tst_ToolTip final : public Test
 {
     Q_OBJECT

@@ -7,7 +7,7 @@
 
 namespace
 {
-/// A window with a box of two entries deep inside, 120 points wide.
+/// A window with a nested box of two entries, 120 points wide.
 struct Fixture
 {
     Fixture()
@@ -71,7 +71,7 @@ void tst_WebbyComboBox::aBoxFindsItsArrowInItsWindow()
     Fixture f;
     QCOMPARE(f.box.arrowX(), 30 - 7 + 10 + 120 - 5);
 
-    // Where the window stands is nothing to it.
+    // The place of the window on the screen does not matter.
     f.window.move(50, 60);
     QCOMPARE(f.box.arrowX(), 148);
     f.inner.move(-100, 5);
