@@ -7,7 +7,7 @@ const auto kWuff = QStringLiteral("wolvesWuff.wav");
 const auto kCrow = QStringLiteral("crow.wav");
 const auto kBell = QStringLiteral("/sounds/Bell.aiff");
 
-/// The preferences in sight, with one sound of the user's.
+/// The open preferences, with one sound of the user's.
 class Fixture : public PreferencesFixture
 {
 public:
@@ -24,7 +24,7 @@ public:
 };
 } // namespace
 
-/// The buttons beside the sounds, by which these can be heard.
+/// The buttons beside the sounds that play them.
 class tst_SoundPreview final : public Test
 {
     Q_OBJECT
@@ -34,7 +34,7 @@ private Q_SLOTS:
     void aSoundOfTheUsersIsPlayed();
     void theKeyboardPlaysToo();
     void theEndOfTheSoundGivesTheButtonBack();
-    void nothingTicksWhileNothingPlays();
+    void noTimerRunsWhileNothingPlays();
     void onlyOneSoundPlaysAtATime();
     void anotherChoiceStopsTheSound();
     void clearingStopsTheSound();
@@ -42,7 +42,7 @@ private Q_SLOTS:
     void mutingStopsTheSound();
     void turningBeepsOffStopsTheCountdownSoundOnly();
     void anUnplayableSoundBeeps();
-    void noOtherSoundStandsInForTheOneThatIsTried();
+    void aPreviewHasNoStandIn();
     void theButtonSaysWhatItDoes();
     void aSoundThatPlaysWhenThePreferencesGoIsSilenced();
 };
@@ -97,7 +97,7 @@ void tst_SoundPreview::theEndOfTheSoundGivesTheButtonBack()
     QVERIFY(p.sounds.isPlaying(kWuff));
 }
 
-void tst_SoundPreview::nothingTicksWhileNothingPlays()
+void tst_SoundPreview::noTimerRunsWhileNothingPlays()
 {
     Fixture p;
     QVERIFY(p.clock.isIdle());
@@ -191,7 +191,7 @@ void tst_SoundPreview::anUnplayableSoundBeeps()
     QVERIFY(!p.alarm().isPlaying());
 }
 
-void tst_SoundPreview::noOtherSoundStandsInForTheOneThatIsTried()
+void tst_SoundPreview::aPreviewHasNoStandIn()
 {
     Fixture p;
     p.choose("_alarmCombo", QStringLiteral("Bell"));
