@@ -9,7 +9,7 @@ const auto kBell = QStringLiteral("/sounds/Bell.aiff");
 const auto kChime = QStringLiteral("/sounds/Chime.wav");
 const auto kGone = QStringLiteral("/sounds/Gone & <b>lost.wav");
 
-/// The preferences, with two files that can be played, and one that cannot in the settings.
+/// The preferences, with two playable files, and a missing file in the settings.
 class Fixture : public PreferencesFixture
 {
 public:
@@ -20,7 +20,7 @@ public:
         set("soundHistory", QStringList{kGone, kBell, kChime});
     }
 
-    /// What the page says of a missing file: “Missing: Gone.wav”; nothing where it does not.
+    /// The page's hint about a missing file, such as “Missing: Gone.wav”; empty without one.
     [[nodiscard]] QString missing(const char *kind) const
     {
         const auto name = [kind](const char *what) {
@@ -35,7 +35,7 @@ public:
 };
 } // namespace
 
-/// What the preferences say of a stored sound that has gone.
+/// Hints in the preferences about stored sounds that are missing.
 class tst_MissingSounds final : public Test
 {
     Q_OBJECT
@@ -44,13 +44,13 @@ private Q_SLOTS:
     void nothingIsSaidOfSoundsThatAreThere();
     void aMissingFileIsNamedInItsRow_data();
     void aMissingFileIsNamedInItsRow();
-    void bothRowsMaySaySo();
+    void bothRowsMayShowAHint();
     void aFileThatIsThereAndNoSoundIsSaidToBeUnplayable();
     void thePreferencesComeForwardOnThePageOfTheSounds();
-    void anotherSoundEndsIt_data();
-    void anotherSoundEndsIt();
-    void anotherSoundOfTheOtherKindDoesNot();
-    void clearingEndsItToo();
+    void anotherSoundRemovesTheHint_data();
+    void anotherSoundRemovesTheHint();
+    void anotherSoundOfTheOtherKindKeepsTheHint();
+    void clearingRemovesTheHint();
 };
 
 void tst_MissingSounds::nothingIsSaidOfSoundsThatAreThere()
@@ -86,7 +86,7 @@ void tst_MissingSounds::aMissingFileIsNamedInItsRow()
         kGone);
 }
 
-void tst_MissingSounds::bothRowsMaySaySo()
+void tst_MissingSounds::bothRowsMayShowAHint()
 {
     Fixture p;
     p.set("alarmPath", kGone);
@@ -99,7 +99,7 @@ void tst_MissingSounds::bothRowsMaySaySo()
 void tst_MissingSounds::aFileThatIsThereAndNoSoundIsSaidToBeUnplayable()
 {
     Fixture p;
-    // The settings are a file, and no sound.
+    // The settings file exists and is not a sound.
     p.defaults.synchronize();
     p.set("alarmPath", p.settingsPath());
     p.open();
@@ -113,14 +113,14 @@ void tst_MissingSounds::thePreferencesComeForwardOnThePageOfTheSounds()
     p.open();
     QVERIFY(p.window.isVisible());
     QCOMPARE(p.part<QTabWidget>("_tabView").currentWidget(), &p.part<QWidget>("soundTab"));
-    // As ever: out of the list, still the choice, and a beep.
+    // As for any missing file: removed from the list, still stored as the choice, and a beep.
     const QStringList kept{kBell, kChime};
     QCOMPARE(p.defaults.stringArrayForKey(QStringLiteral("soundHistory")), kept);
     QCOMPARE(p.defaults.stringForKey(QStringLiteral("alarmPath")), kGone);
     QCOMPARE(p.desktop.beeps, 1);
 }
 
-void tst_MissingSounds::anotherSoundEndsIt_data()
+void tst_MissingSounds::anotherSoundRemovesTheHint_data()
 {
     QTest::addColumn<QString>("choice");
     QTest::newRow("one of the list") << QStringLiteral("Bell");
@@ -128,7 +128,7 @@ void tst_MissingSounds::anotherSoundEndsIt_data()
     QTest::newRow("another") << QStringLiteral("Select another sound...");
 }
 
-void tst_MissingSounds::anotherSoundEndsIt()
+void tst_MissingSounds::anotherSoundRemovesTheHint()
 {
     QFETCH(const QString, choice);
     Fixture p;
@@ -139,7 +139,7 @@ void tst_MissingSounds::anotherSoundEndsIt()
     QCOMPARE(p.missing("alarm"), QString());
 }
 
-void tst_MissingSounds::anotherSoundOfTheOtherKindDoesNot()
+void tst_MissingSounds::anotherSoundOfTheOtherKindKeepsTheHint()
 {
     Fixture p;
     p.set("alarmPath", kGone);
@@ -148,7 +148,7 @@ void tst_MissingSounds::anotherSoundOfTheOtherKindDoesNot()
     QVERIFY(p.missing("alarm").startsWith(QStringLiteral("Missing: ")));
 }
 
-void tst_MissingSounds::clearingEndsItToo()
+void tst_MissingSounds::clearingRemovesTheHint()
 {
     Fixture p;
     p.set("alarmPath", kGone);

@@ -49,7 +49,7 @@ private Q_SLOTS:
     void theLaunchChoiceIsShown();
     void theFinishedTextIsShown_data();
     void theFinishedTextIsShown();
-    void loadingAgainShowsWhatOthersHaveStored();
+    void loadingAgainShowsValuesStoredElsewhere();
     void aClickedBoxIsStoredAndAnnouncedAtOnce_data();
     void aClickedBoxIsStoredAndAnnouncedAtOnce();
     void aChosenLaunchIsStoredAndAnnouncedAtOnce_data();
@@ -69,7 +69,7 @@ private Q_SLOTS:
     void closingTheWindowSavesOnceMore();
     void theSoundTabComesToTheFront();
     void theWindowOfTheSoundTabIsAProperty();
-    void whenTheControllerHasGoneNobodyListens();
+    void aDestroyedControllerNoLongerListens();
     void theWindowIsNotShownAndHasNoHandle();
     void everyControlHasANameAndAKeyOfItsOwn();
 };
@@ -198,7 +198,7 @@ void tst_Preferences::theFinishedTextIsShown()
     QCOMPARE(p.stored().value(QStringLiteral("finishedText")), QJsonValue(shown));
 }
 
-void tst_Preferences::loadingAgainShowsWhatOthersHaveStored()
+void tst_Preferences::loadingAgainShowsValuesStoredElsewhere()
 {
     PreferencesFixture p;
     Preferences &preferences = p.open();
@@ -232,7 +232,7 @@ void tst_Preferences::aClickedBoxIsStoredAndAnnouncedAtOnce()
     for (const int value : {1, 0}) {
         p.click(qPrintable(box));
         QCOMPARE(p.defaults.integerForKey(key), value);
-        // A number, so that whoever reads one finds it.
+        // Stored as a number, for code that reads a number.
         QCOMPARE(p.stored().value(key), QJsonValue(value));
     }
     QCOMPARE(changes.count, 2);
@@ -483,7 +483,7 @@ void tst_Preferences::theWindowOfTheSoundTabIsAProperty()
     QVERIFY(!p.window.isVisible());
 }
 
-void tst_Preferences::whenTheControllerHasGoneNobodyListens()
+void tst_Preferences::aDestroyedControllerNoLongerListens()
 {
     PreferencesFixture p;
     p.open();
@@ -521,7 +521,7 @@ void tst_Preferences::everyControlHasANameAndAKeyOfItsOwn()
         texts << box->text();
     const auto &tabs = p.part<QTabWidget>("_tabView");
     texts << tabs.tabText(0) << tabs.tabText(1);
-    // Those of the menus.
+    // The mnemonics of the menus.
     QSet<QString> keys{QStringLiteral("Alt+F"), QStringLiteral("Alt+T"), QStringLiteral("Alt+P"),
                        QStringLiteral("Alt+W"), QStringLiteral("Alt+H")};
     for (const QString &text : texts) {

@@ -18,7 +18,7 @@ const auto kCrow = QStringLiteral("Crow (Default)");
 constexpr const char *kAlarm = "_alarmCombo";
 constexpr const char *kCountdown = "_countdownCombo";
 
-/// The page of the sounds in sight, with two files that can be played.
+/// The open page of the sounds, with two playable files.
 class Fixture : public PreferencesFixture
 {
 public:
@@ -32,12 +32,12 @@ public:
     }
 
     [[nodiscard]] QWidget &page() const { return part<QWidget>("soundTab"); }
-    /// The middle of a part of the page.
+    /// The middle of a widget on the page.
     [[nodiscard]] QPoint at(const char *name) const
     {
         return part<QWidget>(name).geometry().center();
     }
-    /// Whether files of a file manager are accepted while they are held there.
+    /// Whether files that are dragged there are accepted.
     [[nodiscard]] bool takes(QPoint place, const QList<QUrl> &urls,
                              Qt::DropActions actions = Qt::CopyAction | Qt::MoveAction) const
     {
@@ -58,7 +58,7 @@ public:
     {
         return takes(at(name), {QUrl::fromLocalFile(kBell)});
     }
-    /// Drops files; whether they were accepted.
+    /// Drops files; returns whether they were accepted.
     bool drop(QPoint place, const QStringList &paths) const
     {
         QMimeData data;
@@ -66,7 +66,7 @@ public:
         for (const QString &path : paths)
             urls << QUrl::fromLocalFile(path);
         data.setUrls(urls);
-        // What a drop needs to come first.
+        // Qt delivers a drop only after an enter event.
         QDragEnterEvent enter(place, Qt::CopyAction, &data, Qt::LeftButton, {});
         QCoreApplication::sendEvent(&page(), &enter);
         QDropEvent event(place, Qt::CopyAction, &data, Qt::LeftButton, {});
@@ -100,8 +100,8 @@ private Q_SLOTS:
     void aFileThatIsNoSoundBeepsAndIsNotListed();
     void ofSeveralFilesTheFirstPlayableIsTaken();
     void aKnownSoundKeepsItsPlace();
-    void whereNothingCanBeChosenNothingIsTaken();
-    void theOtherPageTakesNothing();
+    void disabledRowsAcceptNoFiles();
+    void theOtherPageAcceptsNoFiles();
     void aDropStopsWhatPlays();
     void aTimerRefusesFiles();
 };
@@ -207,7 +207,7 @@ void tst_SoundDrop::aKnownSoundKeepsItsPlace()
     QCOMPARE(p.selected(kAlarm), kBell);
 }
 
-void tst_SoundDrop::whereNothingCanBeChosenNothingIsTaken()
+void tst_SoundDrop::disabledRowsAcceptNoFiles()
 {
     const Fixture p;
     p.click("_suppressCountdownCheckbox");
@@ -219,7 +219,7 @@ void tst_SoundDrop::whereNothingCanBeChosenNothingIsTaken()
     QCOMPARE(p.history(), QStringList());
 }
 
-void tst_SoundDrop::theOtherPageTakesNothing()
+void tst_SoundDrop::theOtherPageAcceptsNoFiles()
 {
     const Fixture p;
     QVERIFY(p.page().acceptDrops());

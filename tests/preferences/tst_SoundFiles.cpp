@@ -8,7 +8,7 @@
 
 namespace
 {
-/// The preferences over the sound system of the program, with a folder for files.
+/// The preferences with the real sound system, and a folder for files.
 class Fixture : public PreferencesFixture
 {
 public:
@@ -26,8 +26,7 @@ private:
     LazySoundSystem _sounds;
     Service<SoundSystem> _service{_sounds};
 };
-/// The preferences in an installation that lacks the module with the sounds, with a sound stored
-/// that was chosen before.
+/// The preferences in an installation without the sound module, with a stored sound.
 class FixtureWithoutModule : public PreferencesFixture
 {
 public:
@@ -47,7 +46,7 @@ private:
 };
 } // namespace
 
-/// Real files, judged by the real sound system.
+/// Real files, opened by the real sound system.
 class tst_SoundFiles final : public Test
 {
     Q_OBJECT
@@ -57,8 +56,8 @@ private Q_SLOTS:
     void everyFormatIsAccepted();
     void anyNameIsAccepted_data();
     void anyNameIsAccepted();
-    void whatIsNoSoundIsNot_data();
-    void whatIsNoSoundIsNot();
+    void otherFilesAreNotAccepted_data();
+    void otherFilesAreNotAccepted();
     void filesOfOneNameFromTwoFoldersAreBothListed();
     void aDeletedFileIsPrunedWhenThePreferencesAreLoaded();
     void withoutTheModuleStoredSoundsAreKept();
@@ -126,12 +125,12 @@ void tst_SoundFiles::anyNameIsAccepted()
     QCOMPARE(p.defaults.stringForKey(QStringLiteral("alarmPath")), p.path(name));
     QTEST(p.entries("_alarmCombo").at(1), "title");
     QTEST(p.label("_alarmLabel"), "title");
-    // No name makes a window any wider.
+    // A long name does not make the window wider.
     QCOMPARE(timer.window()->sizeHint().width(), width);
     QCOMPARE(tab.sizeHint().width(), ownWidth);
 }
 
-void tst_SoundFiles::whatIsNoSoundIsNot_data()
+void tst_SoundFiles::otherFilesAreNotAccepted_data()
 {
     QTest::addColumn<QByteArray>("bytes");
     QTest::newRow("a text") << QByteArray("Remember the milk. ").repeated(100);
@@ -139,7 +138,7 @@ void tst_SoundFiles::whatIsNoSoundIsNot_data()
     QTest::newRow("a header alone") << QByteArray("RIFF\x24\0\0\0WAVE", 12);
 }
 
-void tst_SoundFiles::whatIsNoSoundIsNot()
+void tst_SoundFiles::otherFilesAreNotAccepted()
 {
     QFETCH(const QByteArray, bytes);
     Fixture p;
@@ -194,7 +193,7 @@ void tst_SoundFiles::withoutTheModuleStoredSoundsAreKept()
     QCOMPARE(p.defaults.stringForKey(QStringLiteral("alarmPath")), p.kBell);
     QCOMPARE(p.selected("_alarmCombo"), p.kBell);
     QCOMPARE(p.selected("_countdownCombo"), p.kBell);
-    // There is nothing that the user could mend here.
+    // No beep: the user cannot fix this here.
     QCOMPARE(p.desktop.beeps, 0);
     QVERIFY(!p.window.isVisible());
 }

@@ -20,7 +20,7 @@ const auto kChanged = QStringLiteral("prefsChangedNotification");
 constexpr const char *kAlarm = "_alarmCombo";
 constexpr const char *kCountdown = "_countdownCombo";
 
-/// The preferences, with two files that can be played.
+/// The preferences, with two playable files.
 class Fixture : public PreferencesFixture
 {
 public:
@@ -39,7 +39,7 @@ public:
     {
         return defaults.stringArrayForKey(QStringLiteral("soundHistory"));
     }
-    /// What is stored under the key; "(nothing)" when there is none.
+    /// The value stored under the key; "(nothing)" if there is none.
     [[nodiscard]] QString path(const char *key) const
     {
         return defaults.stringForKey(QString::fromLatin1(key))
@@ -47,7 +47,7 @@ public:
     }
 };
 
-/// The panel that is open when the program is told to end.
+/// An open panel during which the program is asked to quit.
 class PanelAtTheEnd final : public OpenPanel
 {
 public:
@@ -78,7 +78,7 @@ void chooseIn(WebbyComboBox &combo, const QString &text)
 }
 } // namespace
 
-/// The user's own sounds: how they come, where they are offered, and how they go.
+/// The user's own sounds: adding, listing and removing them.
 class tst_SoundLibrary final : public Test
 {
     Q_OBJECT
@@ -127,7 +127,7 @@ private Q_SLOTS:
     void theTimersCombosFollowTheSwitches_data();
     void theTimersCombosFollowTheSwitches();
     void anAddedSoundRings();
-    // Last: there is no way back from the end.
+    // Last, because the end of the program cannot be undone.
     void theEndOfTheProgramChoosesNoSound();
 };
 
@@ -232,7 +232,7 @@ void tst_SoundLibrary::aFileThatIsNoSoundBeepsAndIsNotListed()
     QCOMPARE(p.desktop.beeps, 1);
     QCOMPARE(p.entries(kAlarm), before);
     QCOMPARE(p.history(), QStringList{kBell});
-    // Back at what was chosen before.
+    // The combo shows the previous choice again.
     QCOMPARE(p.selected(kAlarm), kBell);
     QCOMPARE(p.path("alarmPath"), kBell);
 }
@@ -297,7 +297,7 @@ void tst_SoundLibrary::addingStoresTheListEvenUnchanged()
     QCOMPARE(preferences.addSoundPath(), kChime);
     const QJsonArray expected{kBell, kChime};
     QCOMPARE(p.stored().value(QStringLiteral("soundHistory")), QJsonValue(expected));
-    // Nobody has been told, and nothing is chosen.
+    // The sound is listed but not chosen.
     QCOMPARE(p.path("alarmPath"), kNothing);
 }
 
@@ -326,7 +326,7 @@ void tst_SoundLibrary::aListedSoundThatCannotBePlayedIsNotStored()
     QCOMPARE(p.desktop.beeps, 0);
     QCOMPARE(p.history(), QStringList({kBell, kText}));
     QCOMPARE(p.label("_alarmLabel"), QStringLiteral("Bell"));
-    // Nor one that somebody else has taken out of the list.
+    // A sound that was removed from the stored list is not stored either.
     p.set("soundHistory", QStringList{});
     p.set("alarmPath", kChime);
     p.choose(kAlarm, QStringLiteral("Bell"));
@@ -353,7 +353,7 @@ void tst_SoundLibrary::everyChoiceIsAnnounced_data()
     QTest::addColumn<QString>("entry");
     QTest::addColumn<QString>("file");
     QTest::addColumn<int>("announcements");
-    // A selection that follows from another is a choice of its own.
+    // A selection that follows from another counts as a choice, too.
     QTest::newRow("an added sound") << kSelect << kChime << 2;
     QTest::newRow("a file that is no sound") << kSelect << QStringLiteral("/texts/Other.txt") << 1;
     QTest::newRow("a listed file that is no sound") << kSelect << kText << 2;
@@ -451,7 +451,7 @@ void tst_SoundLibrary::storedSoundsAreSelectedSilentlyAtLoading()
     p.open();
     QCOMPARE(p.selected(kAlarm), kChime);
     QCOMPARE(p.selected(kCountdown), kBell);
-    // That of loading itself.
+    // Only loading itself is announced.
     QCOMPARE(changes.count, 1);
     QVERIFY(!p.window.isVisible());
 }
@@ -466,7 +466,7 @@ void tst_SoundLibrary::aStalePathIsPrunedWithABeepAndTheWindowInFront()
     QVERIFY(p.window.isVisible());
     QCOMPARE(p.history(), QStringList{kBell});
     QCOMPARE(p.selected(kAlarm), kWuff);
-    // The path in use stays, and its entry does until the next time.
+    // The stored path stays, and its entry stays until the lists are filled again.
     QCOMPARE(p.path("alarmPath"), kText);
     QVERIFY(p.entries(kAlarm).contains(QStringLiteral("Letter")));
     preferences.populateComboBoxes();
@@ -684,7 +684,7 @@ void tst_SoundLibrary::anotherEntryOfATimerLeadsNowhere()
     const Wuffer &timer = p.openTimer();
     const NoticeCounter notices(QStringLiteral("manageSoundsNotification"));
     chooseIn(alarmOf(timer), QStringLiteral("Bell"));
-    // A file of that name, which stands before the command.
+    // A file with the command's name, which is listed before the command.
     chooseIn(alarmOf(timer), kManage);
     QCOMPARE(alarmOf(timer).dataObjectOfSelectedItem(), file);
     QCOMPARE(notices.count, 0);
