@@ -5,7 +5,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
-/// What the fields convert to, and what is stored.
+/// Conversions between the fields, and the stored values.
 class tst_Converter final : public Test
 {
     Q_OBJECT
@@ -191,7 +191,7 @@ void tst_Converter::theLastValuesComeBack()
     f.window.type("_ouncesField", "7");
     f.window.type("_cField", "21");
     const ConverterWindow again;
-    // All others follow from the three that are stored.
+    // Three values are stored; all others are computed from them.
     for (const char *stored : {"_millilitersField", "_gramsField", "_fField"})
         QCOMPARE(again.text(stored), f.window.text(stored));
     QVERIFY(again.value("_tablespoonsField") == 3.0F);

@@ -5,7 +5,7 @@
 
 #include <utility>
 
-/// Typing in the fields, and finding the way through them.
+/// Typing in the fields, and moving between them.
 class tst_ConverterWindow final : public Test
 {
     Q_OBJECT
@@ -88,7 +88,7 @@ void tst_ConverterWindow::typingFromLeftToRightGivesTheNumberTyped_data()
             QTest::addRow("%s in %s", keys, locale)
                 << QString::fromLatin1(locale) << typed << number;
         }
-        // As the key pad has it, or a recipe from elsewhere.
+        // The other decimal mark, as on the keypad or in a foreign recipe.
         const QChar other = point == QLatin1String(",") ? u'.' : u',';
         QTest::addRow("the other mark in %s", locale)
             << QString::fromLatin1(locale) << QStringLiteral("12") + other + QLatin1Char('5')
@@ -163,7 +163,7 @@ void tst_ConverterWindow::everyFieldHasItsNameAndItsKey()
         keys.insert(QKeySequence::mnemonic(label->text()));
     }
     QCOMPARE(keys.size(), fields.size());
-    // The menus have these.
+    // The mnemonics of the menus.
     for (const Qt::Key key : {Qt::Key_F, Qt::Key_T, Qt::Key_W, Qt::Key_H})
         QVERIFY(!keys.contains(QKeySequence(Qt::ALT | key)));
 }

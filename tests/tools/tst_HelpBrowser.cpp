@@ -4,7 +4,7 @@
 #include <QDesktopServices>
 #include <QScrollBar>
 
-/// Pages that link to one another and to elsewhere.
+/// Pages with links to one another and to addresses outside the help.
 class tst_HelpBrowser final : public Test
 {
     Q_OBJECT
@@ -15,11 +15,11 @@ private Q_SLOTS:
     void aLinkLeadsToAPlaceOfItsPage();
     void aLinkToElsewhereOpensNothing_data();
     void aLinkToElsewhereOpensNothing();
-    void aPageHasNothingFromElsewhere();
+    void aPageLoadsNothingFromOutsideTheHelp();
     void withoutPagesNothingIsShown();
     void newColorsKeepThePlace();
 
-    // Not a test: what the desktop is asked to open.
+    // Not a test: records the addresses that the desktop is asked to open.
     void open(const QUrl &address) { _opened << address; }
 
 private:
@@ -27,7 +27,7 @@ private:
     {
         return {QString::fromLatin1(name), QString::fromLatin1(name), html};
     }
-    /// Follows the first link of a page that has this one, shown and with the focus.
+    /// Shows a page with this link only, and follows it with the keyboard.
     static void followLink(HelpBrowser &browser, const QString &link)
     {
         const QString html = QStringLiteral("<p>One</p><a href=\"%1\">link</a>");
@@ -101,7 +101,7 @@ void tst_HelpBrowser::aLinkToElsewhereOpensNothing()
     QVERIFY(browser.toPlainText().startsWith(QStringLiteral("One")));
 }
 
-void tst_HelpBrowser::aPageHasNothingFromElsewhere()
+void tst_HelpBrowser::aPageLoadsNothingFromOutsideTheHelp()
 {
     HelpBrowser browser;
     for (const char *address : {"file:///etc/hostname", "qrc:/images/chain.png", "/etc/hostname"}) {

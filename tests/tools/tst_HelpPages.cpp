@@ -5,7 +5,7 @@
 #include <QRegularExpression>
 #include <QSet>
 
-/// The pages of the help by themselves.
+/// The help pages without a browser.
 class tst_HelpPages final : public Test
 {
     Q_OBJECT
@@ -18,7 +18,7 @@ private Q_SLOTS:
     void theKeysOfTheMenusAreListed();
 
 private:
-    /// What the group of the expression matches in the text, wherever that is.
+    /// All matches of the expression's group in the text.
     static QStringList matches(const QString &expression, const QString &text)
     {
         QStringList found;

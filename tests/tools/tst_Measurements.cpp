@@ -19,7 +19,7 @@ constexpr double kUsGallon = 231 * 2.54 * 2.54 * 2.54; // milliliters in 231 cub
 constexpr double kUkGallon = 4546.09;
 constexpr double kPound = 453.59237; // grams
 
-/// Milliliters, by the names and the abbreviations of the US.
+/// Milliliters by the names and abbreviations of US units.
 const Units &volumes()
 {
     static const Units units{
@@ -94,8 +94,8 @@ struct Figure
             unit.chop(1);
     }
 
-    /// Whether the value is this one, rounded to the decimals that are printed. Without any it has
-    /// to be exact.
+    /// Whether the printed value is this one, rounded to the printed decimals. Without decimals it
+    /// must be exact.
     [[nodiscard]] bool rounds(double exact) const
     {
         const double step = decimals == 0 ? 0 : std::pow(10.0, -decimals);
@@ -114,7 +114,8 @@ struct Fixture
     [[nodiscard]] QList<Row> rows(const char *title) const
     {
         for (const QTextFrame *frame : panel.document()->rootFrame()->childFrames()) {
-            // Between the end of the title and the first cell stands the beginning of the table.
+            // One position between the end of the title and the first cell is the start of the
+            // table.
             const int endOfTitle = frame->firstPosition() - 2;
             if (panel.document()->findBlock(endOfTitle).text() == QLatin1String(title))
                 return rowsOf(dynamic_cast<const QTextTable &>(*frame)).mid(1);
@@ -200,7 +201,7 @@ void tst_Measurements::theOvenTemperaturesAreRight()
     for (const Row &row : f.rows("Oven temperatures")) {
         QVERIFY(row.at(1).startsWith(QLatin1String("Gas ")));
         const double mark = Figure(row.at(1).mid(4) + QLatin1String(" x")).value;
-        // Below 1 come a half and a quarter, one step of 25 degrees each.
+        // Below mark 1 are the marks ½ and ¼, each one step of 25 degrees lower.
         const double fahrenheit = mark < 1 ? 200 + 100 * mark : 250 + 25 * mark;
         const double celsius = (fahrenheit - 32) / 1.8;
         QCOMPARE(row.at(2), QStringLiteral("%1 °F").arg(fahrenheit));
@@ -298,7 +299,7 @@ void tst_Measurements::theKeyboardScrollsItAndLeavesIt()
     QTest::keyClick(&panel, Qt::Key_PageDown);
     QVERIFY(panel.verticalScrollBar()->value() > 0);
     QTest::keyClick(&panel, Qt::Key_End, Qt::ControlModifier);
-    // The last line is in sight; the margin below it need not be.
+    // The last line must be visible; the margin below it need not be.
     const auto margin = static_cast<int>(panel.document()->documentMargin());
     QVERIFY(panel.verticalScrollBar()->value() >= panel.verticalScrollBar()->maximum() - margin);
     QTest::keyClick(&panel, Qt::Key_Tab);

@@ -5,8 +5,8 @@
 
 namespace
 {
-/// A field whose number is answered while somebody types in it, as a conversion there and back
-/// does: by a number that is a little too large, or by another one.
+/// A field whose number is replaced at each edit, as by a conversion there and back: by a number
+/// that is slightly too large, or by another one.
 struct Fixture
 {
     explicit Fixture(float factor = 1.0F) : _factor(factor)
@@ -32,21 +32,21 @@ struct Fixture
         press(Qt::Key_V, Qt::ControlModifier);
     }
 
-    /// The text with a bar for the cursor.
+    /// The text with a bar at the cursor.
     [[nodiscard]] QString shown() const
     {
         return field.text().insert(field.cursorPosition(), QLatin1Char('|'));
     }
 
     NumberField field;
-    /// What the field has read as after each change.
+    /// The value of the field after each edit.
     QList<float> typed;
 
 private:
     float _factor;
 };
 
-/// The next float but one: 3 shows as 3.0000005.
+/// The next float after 1. A factor of this turns 3 into 3.0000005.
 constexpr float kALittleMore = 1.00000013F;
 } // namespace
 
@@ -58,17 +58,17 @@ private Q_SLOTS:
     void aNumberIsShownAndReadInTheUsersLocale();
     void selectingMovesTheFocus();
     void aNumberSetByTheProgramIsNoEdit();
-    void whatReadsAsTheNumberStays_data();
-    void whatReadsAsTheNumberStays();
+    void aTextThatReadsAsTheNumberStays_data();
+    void aTextThatReadsAsTheNumberStays();
     void typingGoesOnFromWhatWasTyped();
     void deletingGoesOnFromWhatWasTyped();
     void typingInTheMiddleGoesOnThere();
     void deletingInTheMiddleGoesOnThere();
     void pastingGoesOnFromWhatWasTyped();
-    void movingTheCursorTakesWhatIsShown();
-    void selectingTakesWhatIsShown();
+    void movingTheCursorAcceptsTheShownText();
+    void selectingAcceptsTheShownText();
     void aNumberSetLaterTakesThePlaceOfWhatWasTyped();
-    void whatIsNoNumberVanishes();
+    void textThatIsNoNumberIsDropped();
     void anEmptiedFieldStaysEmpty();
     void deletingMoreThanWasTypedLeavesNothing();
     void aShorterNumberKeepsThePlaceOfTheTyping();
@@ -101,7 +101,7 @@ void tst_NumberField::aNumberSetByTheProgramIsNoEdit()
     QCOMPARE(f.typed, QList<float>());
 }
 
-void tst_NumberField::whatReadsAsTheNumberStays_data()
+void tst_NumberField::aTextThatReadsAsTheNumberStays_data()
 {
     QTest::addColumn<QString>("keys");
     QTest::newRow("a point at the end") << QStringLiteral("12.");
@@ -113,7 +113,7 @@ void tst_NumberField::whatReadsAsTheNumberStays_data()
     QTest::newRow("half an exponent") << QStringLiteral("1e");
 }
 
-void tst_NumberField::whatReadsAsTheNumberStays()
+void tst_NumberField::aTextThatReadsAsTheNumberStays()
 {
     QFETCH(const QString, keys);
     Fixture f;
@@ -176,13 +176,13 @@ void tst_NumberField::pastingGoesOnFromWhatWasTyped()
     f.paste("2.5 cups");
     QCOMPARE(f.typed.back(), 12.5F);
     f.type("5");
-    QCOMPARE(f.typed.back(), 12.5F); // after the blank it belongs to no number
+    QCOMPARE(f.typed.back(), 12.5F); // what follows the blank is not part of the number
     f.field.selectAll();
     f.paste("7.25");
     QCOMPARE(f.typed.back(), 7.25F);
 }
 
-void tst_NumberField::movingTheCursorTakesWhatIsShown()
+void tst_NumberField::movingTheCursorAcceptsTheShownText()
 {
     Fixture f(kALittleMore);
     f.type("1");
@@ -191,7 +191,7 @@ void tst_NumberField::movingTheCursorTakesWhatIsShown()
     QCOMPARE(f.typed.back(), 1.00000051F);
 }
 
-void tst_NumberField::selectingTakesWhatIsShown()
+void tst_NumberField::selectingAcceptsTheShownText()
 {
     Fixture f(kALittleMore);
     f.type("1");
@@ -210,7 +210,7 @@ void tst_NumberField::aNumberSetLaterTakesThePlaceOfWhatWasTyped()
     QCOMPARE(f.typed.back(), 405.0F);
 }
 
-void tst_NumberField::whatIsNoNumberVanishes()
+void tst_NumberField::textThatIsNoNumberIsDropped()
 {
     Fixture f;
     f.type("a1b2.c5.");
@@ -236,7 +236,7 @@ void tst_NumberField::deletingMoreThanWasTypedLeavesNothing()
     Fixture f(kALittleMore);
     f.type("1");
     QCOMPARE(f.shown(), QStringLiteral("1.0000001|"));
-    // An input method takes back five characters at once, of which only the first was typed.
+    // An input method deletes five characters at once, of which only the first was typed.
     QInputMethodEvent takesBack;
     takesBack.setCommitString({}, -5, 5);
     QCoreApplication::sendEvent(&f.field, &takesBack);
