@@ -107,7 +107,7 @@ class MissedAlarmTest(DesktopTest):
         self.wait_for_notifications(0)
         self.quit(program)
 
-    def test_an_alarm_on_the_full_screen_leaves_it(self):
+    def test_an_alarm_on_the_full_screen_leaves_a_notification(self):
         program = self.launch(settings=of_two_seconds(fullScreen=True))
         window, = program.windows()
         self.display.key("Return")

@@ -97,7 +97,8 @@ class NotificationTest(DesktopTest):
         self.assertEqual(program.shown("Time"), "Wuff!")
         self.assertLess(program.answers(), 0.5)
         self.stop(program)
-        # The new one has not been told of the first alarm, which the next would replace.
+        # The new daemon does not know the notification of the first alarm, which the next would
+        # replace.
         self.display.key("Return")
         program.wait_for_button("Reset")
         self.wait_for_notifications(1)

@@ -89,12 +89,12 @@ class AccessibleProgram:
         return answers
 
     def windows(self):
-        """Returns the number of windows; None if the program does not answer."""
+        """Returns the number of windows; 0 if the program does not answer."""
         answer, = self.ask([(ROOT, ACCESSIBLE, "GetChildren", None)])
         return len(answer[0]) if answer else 0
 
     def look(self, start=None):
-        """Looks at all controls below one, or at all there are; gives them from top to bottom."""
+        """Reads the tree below start, or the whole tree; returns its controls, parents first."""
         start = start or self.root
         start.children = []
         level = [start]

@@ -6,7 +6,7 @@ ATTEMPTS = 3
 
 
 def measures_moments(test):
-    """Gives a test up to three attempts, each from its beginning.
+    """Lets a test run up to three times, each time from its beginning, until it passes.
 
     A busy computer sometimes delivers a key, a reply or a piece of sound late. A defect of the
     program shows in every attempt, and then the test fails. It fails at once if the program has

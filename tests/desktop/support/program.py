@@ -21,7 +21,7 @@ class Program:
 
     def __init__(self, session, display=None, environment=None, settings=None, accessible=True,
                  arguments=(), through=(), limits=None):
-        """"through" is a command that executes the program; "limits" is called in its process."""
+        """The command "through" executes the program; "limits" is called in its process."""
         self.session = session
         self.command = [*through, self.executable, *arguments]
         self.limits = limits

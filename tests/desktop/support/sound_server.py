@@ -12,7 +12,7 @@ from support.processor import Waits
 from support.samples import AUDIBLE, RATE, longest_silence, loudest
 from support.waiting import wait_until
 
-# In seconds. Sound is delivered to the server earlier than this, so a shorter wait makes no gap.
+# In seconds. The server gets sound at least this long in advance, so a shorter wait makes no gap.
 LONGEST_WAIT = 0.005
 
 
