@@ -4,7 +4,6 @@
 
 #include <QFileInfo>
 
-#include <sys/file.h>
 #include <sys/stat.h>
 
 namespace
@@ -19,15 +18,6 @@ constexpr auto kOnlyTheOwner = QFile::ReadOwner | QFile::WriteOwner;
 QFile::Permissions permissionsOf(const QString &path)
 {
     return QFileInfo(path).permissions() & ~(QFile::ReadUser | QFile::WriteUser | QFile::ExeUser);
-}
-
-/// Makes an empty lock file, which names no process; returns its path.
-QString emptyLock(const SettingsFile &file)
-{
-    QFile lock(file.path() + QStringLiteral(".lock"));
-    if (!lock.open(QIODevice::WriteOnly))
-        qFatal("the lock could not be made");
-    return lock.fileName();
 }
 
 void changeASetting(const QString &path, int value)
@@ -52,8 +42,6 @@ private Q_SLOTS:
     void aFileThatGrowsTooLargeMeanwhileIsSetAside();
     void aLockThatCanNeverBeTakenIsNotWaitedFor();
     void aLockOfAKilledProcessIsNotWaitedFor();
-    void anEmptyLockOfAKilledProcessIsNotWaitedFor();
-    void anEmptyLockThatIsHeldStays();
     void anEarlierFileSetAsideIsNotOverwritten();
     void onlyTheOwnerMayReadANewFile();
     void onlyTheOwnerMayReadARewrittenFile();
@@ -173,30 +161,6 @@ void tst_SettingsPath::aLockOfAKilledProcessIsNotWaitedFor()
 
     QCOMPARE(file.object(), (QJsonObject{{kKey, 2}}));
     QCOMPARE(file.folder(), QStringList{kFileName});
-}
-
-void tst_SettingsPath::anEmptyLockOfAKilledProcessIsNotWaitedFor()
-{
-    const SettingsFile file;
-    const QString lock = emptyLock(file);
-
-    QCOMPARE(SettingsPath::cleared(file.path()), file.path());
-    QVERIFY(!QFile::exists(lock));
-}
-
-void tst_SettingsPath::anEmptyLockThatIsHeldStays()
-{
-    const SettingsFile file;
-    QFile lock(emptyLock(file));
-    QVERIFY(lock.open(QIODevice::ReadWrite));
-    QCOMPARE(flock(lock.handle(), LOCK_EX), 0);
-
-    QCOMPARE(SettingsPath::cleared(file.path()), file.path());
-    QVERIFY(lock.exists());
-
-    lock.close();
-    QCOMPARE(SettingsPath::cleared(file.path()), file.path());
-    QVERIFY(!lock.exists());
 }
 
 void tst_SettingsPath::anEarlierFileSetAsideIsNotOverwritten()
