@@ -161,7 +161,7 @@ class SettingsPlaceTest(DesktopTest):
     # Permissions
 
     def prepare_powerless(self, text=None):
-        if not powers_can_be_given_up():
+        if not capabilities_can_be_dropped():
             self.skipTest("setpriv cannot drop capabilities: permissions do not apply to root")
         return self.prepare(text, through=POWERLESS if os.geteuid() == 0 else ())
 
