@@ -7,6 +7,6 @@
 /// limit the conversion would be undefined behaviour.
 [[nodiscard]] constexpr float toSinglePrecision(double number)
 {
-    constexpr double largest = std::numeric_limits<float>::max();
+    constexpr auto largest = static_cast<double>(std::numeric_limits<float>::max());
     return static_cast<float>(std::clamp(number, -largest, largest));
 }
