@@ -1,5 +1,7 @@
 #pragma once
 
+#include "support/BusObject.h"
+
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusPendingCall>
@@ -22,7 +24,7 @@ public:
         if (!_bus.connect({}, _path, _interface, {}, this, SLOT(hear(QDBusMessage))))
             qFatal("cannot connect to the signals of %s", qPrintable(_path));
     }
-    ~BusPeer() override { QDBusConnection::disconnectFromBus(_bus.name()); }
+    ~BusPeer() override { leaveBus(*this, _bus); }
     Q_DISABLE_COPY_MOVE(BusPeer)
 
     /// Calls a method of the interface. Returns the answer, which may be an error.

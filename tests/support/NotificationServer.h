@@ -1,5 +1,7 @@
 #pragma once
 
+#include "support/BusObject.h"
+
 #include <QDBusConnection>
 #include <QDBusContext>
 #include <QDBusMessage>
@@ -38,7 +40,7 @@ public:
             !_bus.registerService(QStringLiteral("org.freedesktop.Notifications")))
             qFatal("the notification server could not be registered");
     }
-    ~NotificationServer() override { QDBusConnection::disconnectFromBus(QStringLiteral("server")); }
+    ~NotificationServer() override { leaveBus(*this, _bus); }
     Q_DISABLE_COPY_MOVE(NotificationServer)
 
     /// From now on the server receives calls but holds back the answers.

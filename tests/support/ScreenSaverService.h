@@ -1,5 +1,7 @@
 #pragma once
 
+#include "support/BusObject.h"
+
 #include <QDBusConnection>
 #include <QDBusContext>
 #include <QDBusMessage>
@@ -26,7 +28,7 @@ public:
             !_bus.registerService(_name))
             qFatal("%s could not be registered", qPrintable(_name));
     }
-    ~InhibitService() override { QDBusConnection::disconnectFromBus(_name); }
+    ~InhibitService() override { leaveBus(*this, _bus); }
     Q_DISABLE_COPY_MOVE(InhibitService)
 
     /// From now on the service receives calls but holds back the answers.

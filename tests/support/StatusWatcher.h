@@ -1,5 +1,7 @@
 #pragma once
 
+#include "support/BusObject.h"
+
 #include <QDBusConnection>
 #include <QDBusConnectionInterface>
 #include <QObject>
@@ -34,7 +36,7 @@ public:
                                               queueing) != wanted)
             qFatal("the watcher could not be registered");
     }
-    ~StatusWatcher() override { QDBusConnection::disconnectFromBus(_bus.name()); }
+    ~StatusWatcher() override { leaveBus(*this, _bus); }
     Q_DISABLE_COPY_MOVE(StatusWatcher)
 
     QStringList registered;
