@@ -60,6 +60,7 @@ private Q_SLOTS:
     void aNumberSetByTheProgramIsNoEdit();
     void aTextThatReadsAsTheNumberStays_data();
     void aTextThatReadsAsTheNumberStays();
+    void typingThatStaysCanBeUndone();
     void typingGoesOnFromWhatWasTyped();
     void deletingGoesOnFromWhatWasTyped();
     void typingInTheMiddleGoesOnThere();
@@ -88,10 +89,16 @@ void tst_NumberField::aNumberIsShownAndReadInTheUsersLocale()
 
 void tst_NumberField::selectingMovesTheFocus()
 {
-    Fixture f;
-    QVERIFY(QTest::qWaitForWindowActive(&f.field));
-    QVERIFY(f.field.hasFocus());
-    QCOMPARE(f.field.selectedText(), QStringLiteral("0"));
+    QWidget window;
+    NumberField first(&window);
+    NumberField second(&window);
+    second.setFloatValue(7.0F);
+    window.show();
+    first.setFocus();
+    second.selectText();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    QVERIFY(second.hasFocus());
+    QCOMPARE(second.selectedText(), QStringLiteral("7"));
 }
 
 void tst_NumberField::aNumberSetByTheProgramIsNoEdit()
@@ -119,6 +126,14 @@ void tst_NumberField::aTextThatReadsAsTheNumberStays()
     Fixture f;
     QTest::keyClicks(&f.field, keys);
     QCOMPARE(f.shown(), keys + QLatin1Char('|'));
+}
+
+void tst_NumberField::typingThatStaysCanBeUndone()
+{
+    Fixture f;
+    f.type("12");
+    f.field.undo();
+    QCOMPARE(f.field.text(), QStringLiteral("0"));
 }
 
 void tst_NumberField::typingGoesOnFromWhatWasTyped()
