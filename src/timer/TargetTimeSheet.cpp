@@ -45,7 +45,11 @@ TargetTimeSheet::TargetTimeSheet(QWidget &parent) :
     connectControls();
 }
 
-TargetTimeSheet::~TargetTimeSheet() = default;
+TargetTimeSheet::~TargetTimeSheet()
+{
+    // While the fields are still there that the focus leaves.
+    hide();
+}
 
 void TargetTimeSheet::connectControls()
 {
