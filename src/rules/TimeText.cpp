@@ -2,6 +2,7 @@
 
 #include "base/Integers.h"
 
+#include <QCoreApplication>
 #include <QList>
 
 #include <algorithm>
@@ -12,23 +13,40 @@ namespace
 /// Longer texts are not read as a time.
 constexpr qsizetype kLongest = 100;
 
-struct Name
+class Texts final
 {
-    const char16_t *word;
-    TimeText::Unit unit;
+    Q_DECLARE_TR_FUNCTIONS(TimeText)
 };
 
-constexpr std::array kNames{
-    Name{u"d", TimeText::Unit::Days},          Name{u"day", TimeText::Unit::Days},
-    Name{u"days", TimeText::Unit::Days},       Name{u"h", TimeText::Unit::Hours},
-    Name{u"hr", TimeText::Unit::Hours},        Name{u"hrs", TimeText::Unit::Hours},
-    Name{u"hour", TimeText::Unit::Hours},      Name{u"hours", TimeText::Unit::Hours},
-    Name{u"m", TimeText::Unit::Minutes},       Name{u"min", TimeText::Unit::Minutes},
-    Name{u"mins", TimeText::Unit::Minutes},    Name{u"minute", TimeText::Unit::Minutes},
-    Name{u"minutes", TimeText::Unit::Minutes}, Name{u"s", TimeText::Unit::Seconds},
-    Name{u"sec", TimeText::Unit::Seconds},     Name{u"secs", TimeText::Unit::Seconds},
-    Name{u"second", TimeText::Unit::Seconds},  Name{u"seconds", TimeText::Unit::Seconds},
+/// The English words for the units, in the order of the units.
+constexpr std::array kWords{
+    //: Words and letters for days that users type after a number, separated by blanks. The English
+    //: ones are always understood; give those of your language. One word must not stand for two
+    //: units.
+    QT_TRANSLATE_NOOP("TimeText", "d day days"),
+    //: The same for hours.
+    QT_TRANSLATE_NOOP("TimeText", "h hr hrs hour hours"),
+    //: The same for minutes.
+    QT_TRANSLATE_NOOP("TimeText", "m min mins minute minutes"),
+    //: The same for seconds.
+    QT_TRANSLATE_NOOP("TimeText", "s sec secs second seconds"),
 };
+
+bool isAmong(const QString &words, QStringView word)
+{
+    const QList<QStringView> each = QStringView(words).split(u' ', Qt::SkipEmptyParts);
+    return std::ranges::any_of(
+        each, [word](QStringView known) { return known.compare(word, Qt::CaseInsensitive) == 0; });
+}
+
+/// The unit whose words, which the function makes of the English ones, contain this word.
+template<class Words> std::optional<TimeText::Unit> unitIn(QStringView word, Words words)
+{
+    const auto *found = std::ranges::find_if(
+        kWords, [&](const char *english) { return isAmong(words(english), word); });
+    return found == kWords.end() ? std::nullopt
+                                 : std::optional(TimeText::Unit(found - kWords.begin()));
+}
 
 /// Seconds in a unit, in the order of the units.
 constexpr std::array kSecondsIn{86400, 3600, 60, 1};
@@ -149,9 +167,13 @@ private:
 void skipSeparators(QStringView &text)
 {
     takeWhile(text, [](QChar each) { return each.isSpace() || each == u','; });
-    const QStringView word = u"and ";
-    if (text.startsWith(word, Qt::CaseInsensitive))
-        text = text.sliced(word.size()).trimmed();
+    //: The word between two units: “1 hour and 5 minutes”.
+    for (const QString &word : {QStringLiteral("and"), Texts::tr("and")}) {
+        if (text.startsWith(word + u' ', Qt::CaseInsensitive)) {
+            text = text.sliced(word.size()).trimmed();
+            return;
+        }
+    }
 }
 
 /// Takes the unit after a number. The last number may have none; then it is the next smaller unit
@@ -236,10 +258,10 @@ bool TimeText::isNumber(QStringView text)
 
 std::optional<TimeText::Unit> TimeText::unitNamed(QStringView word)
 {
-    const auto *name = std::ranges::find_if(kNames, [word](const Name &each) {
-        return word.compare(each.word, Qt::CaseInsensitive) == 0;
-    });
-    return name == kNames.end() ? std::nullopt : std::optional(name->unit);
+    // English words mean the same in every language, so they come first.
+    const std::optional<Unit> unit =
+        unitIn(word, [](const char *words) { return QString::fromLatin1(words); });
+    return unit ? unit : unitIn(word, [](const char *words) { return Texts::tr(words); });
 }
 
 std::optional<TimeText::Time> TimeText::read(QStringView text)

@@ -27,8 +27,8 @@ struct Time
 /// Whether the text is a number with nothing but blanks around it.
 [[nodiscard]] bool isNumber(QStringView text);
 
-/// The unit with this name, a letter or an English word: "h", "min", "Seconds". Nothing for other
-/// words.
+/// The unit with this name, a letter or a word in English or in the user's language: "h", "min",
+/// "Seconds". Nothing for other words.
 [[nodiscard]] std::optional<Unit> unitNamed(QStringView word);
 
 /// The time in the text, in one of two forms. Numbers with units, the largest first; the last
