@@ -34,7 +34,7 @@ void pressButton(Wuffer &timer)
 
 bool showButton(const Wuffer *timer, QAction &item)
 {
-    item.setText(timer ? timer->goButton().text() : kGoButtonStart.toString());
+    item.setText(timer ? timer->goButton().text() : TimerTexts::start());
     return timer != nullptr && timer->goButton().isEnabled();
 }
 

@@ -3,6 +3,7 @@
 #include "platform/StatusItem.h"
 #include "rules/NameText.h"
 #include "rules/RunningTimers.h"
+#include "rules/TimerTexts.h"
 
 /// What the status item shows about the running timers.
 template<class Timer> struct StatusDescription final
@@ -27,8 +28,8 @@ template<class Timer> struct StatusDescription final
     /// The line of a timer in that list.
     [[nodiscard]] static QString line(const Timer &timer)
     {
-        return NameText::inOneLine(timer.title()) + QStringLiteral(": ") +
-               NameText::inOneLine(timer.statusString());
+        return TimerTexts::nameAndStatus(NameText::inOneLine(timer.title()),
+                                         NameText::inOneLine(timer.statusString()));
     }
 
 private:

@@ -2,6 +2,7 @@
 
 #include "app/WufferApplication.h"
 #include "rules/MenuText.h"
+#include "rules/TimerTexts.h"
 #include "timer/Wuffer.h"
 
 #include <QActionGroup>
@@ -14,7 +15,7 @@ QString lineFor(const Wuffer &timer)
 {
     if (!timer.isRunning())
         return timer.description();
-    return timer.title() + QStringLiteral(" - ") + timer.statusString();
+    return TimerTexts::nameAndTime(timer.title(), timer.statusString());
 }
 } // namespace
 

@@ -1,5 +1,6 @@
 #include "platform/StatusItem.h"
 
+#include <QCoreApplication>
 #include <QGuiApplication>
 
 void StatusItem::setImage(const QIcon &image)
@@ -28,7 +29,8 @@ void StatusItem::setTitle(const QString &text)
 QString StatusItem::titleWithProgram(const QString &text)
 {
     const QString program = QGuiApplication::applicationDisplayName();
-    return text.isEmpty() ? program : program + QStringLiteral(": ") + text.trimmed();
+    return text.isEmpty() ? program : //: The name of the program and the time of a timer.
+               QCoreApplication::translate("StatusItem", "%1: %2").arg(program, text.trimmed());
 }
 
 void StatusItem::setTarget(QObject *target, std::function<void()> action)

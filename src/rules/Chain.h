@@ -34,23 +34,29 @@ template<class Link, class Before, class After>
     return chain;
 }
 
+class Texts final
+{
+    Q_DECLARE_TR_FUNCTIONS(Chain)
+};
+
 /// "Wuffer Chain - 2 of 3"; the position counts from 1.
 [[nodiscard]] inline QString text(quint32 position, quint32 length)
 {
-    return QStringLiteral("Wuffer Chain - %1 of %2").arg(position).arg(length);
+    //: The place of a timer in a chain: position and number of timers.
+    return Texts::tr("Wuffer Chain - %1 of %2").arg(position).arg(length);
 }
 
 /// “Started by “Eggs”; starts “Tea””, from the names of the timers before and after. An empty name
 /// is left out; two empty names give an empty text.
 [[nodiscard]] inline QString links(const QString &startedBy, const QString &starts)
 {
-    const auto tr = [](const char *text) { return QCoreApplication::translate("Chain", text); };
     if (startedBy.isEmpty() && starts.isEmpty())
         return {};
     if (starts.isEmpty())
-        return tr("Started by “%1”").arg(startedBy);
+        //: Names of timers.
+        return Texts::tr("Started by “%1”").arg(startedBy);
     if (startedBy.isEmpty())
-        return tr("Starts “%1”").arg(starts);
-    return tr("Started by “%1”; starts “%2”").arg(startedBy, starts);
+        return Texts::tr("Starts “%1”").arg(starts);
+    return Texts::tr("Started by “%1”; starts “%2”").arg(startedBy, starts);
 }
 } // namespace Chain

@@ -1,17 +1,28 @@
 #include "rules/KeepWuffing.h"
 
+#include "rules/FinishActions.h"
+#include "rules/TimerTexts.h"
+
 #include <QCoreApplication>
+
+namespace
+{
+class Texts final
+{
+    Q_DECLARE_TR_FUNCTIONS(KeepWuffing)
+};
+} // namespace
 
 QString KeepWuffing::hint(bool stopwatch, bool somethingFollows, bool muted)
 {
-    const auto tr = [](const char *text) {
-        return QCoreApplication::translate("KeepWuffing", text);
-    };
     if (stopwatch)
-        return tr("A stopwatch has no alarm that could go on");
+        return Texts::tr("A stopwatch has no alarm that could go on");
     if (somethingFollows)
-        return tr("Only a timer that is to “Do Nothing” when finished can go on wuffing");
+        //: %1 is the finish action “Do Nothing”.
+        return Texts::tr("Only a timer that is to “%1” when finished can go on wuffing")
+            .arg(FinishActions::shownText(FinishActions::row(FinishAction::Nothing)));
     if (muted)
-        return tr("The sound of all timers is off");
-    return tr("Repeat the alarm sound until you press Reset");
+        return Texts::tr("The sound of all timers is off");
+    //: %1 is the title of the button “Reset”.
+    return Texts::tr("Repeat the alarm sound until you press %1").arg(TimerTexts::reset());
 }

@@ -2,14 +2,22 @@
 
 #include "base/Integers.h"
 
+#include <QCoreApplication>
+
 #include <cmath>
 
 namespace
 {
-void append(QString &text, qint32 count, QLatin1String unit)
+class Texts final
+{
+    Q_DECLARE_TR_FUNCTIONS(TimeFormat)
+};
+
+/// Appends the number in the pattern of its unit, unless it is 0.
+void append(QString &text, qint32 count, const char *unit)
 {
     if (count != 0)
-        text += QString::number(count) + unit;
+        text += Texts::tr(unit).arg(count);
 }
 } // namespace
 
@@ -23,12 +31,15 @@ QString TimeFormat::stringForTime(double seconds)
     const qint32 whole = cutToInteger(seconds);
 
     QString text;
-    append(text, days, QLatin1String("d "));
-    append(text, (whole / 3600) % 24, QLatin1String("h "));
+    //: The parts of a running time, such as “1h 5m 3s”: days, hours, minutes and seconds. They
+    //: stand side by side, so all but the seconds end with a blank. The display has room for ten
+    //: characters at its largest size.
+    append(text, days, QT_TRANSLATE_NOOP("TimeFormat", "%1d "));
+    append(text, (whole / 3600) % 24, QT_TRANSLATE_NOOP("TimeFormat", "%1h "));
     if (days <= mostDaysWithMinutes)
-        append(text, (whole / 60) % 60, QLatin1String("m "));
+        append(text, (whole / 60) % 60, QT_TRANSLATE_NOOP("TimeFormat", "%1m "));
     if (days == 0)
-        text += QString::number(whole % 60) + QLatin1Char('s');
+        text += Texts::tr("%1s").arg(whole % 60);
     return text;
 }
 
@@ -39,5 +50,6 @@ QString TimeFormat::msStringForTime(double seconds)
 
 QString TimeFormat::hmsString(qint32 hours, qint32 minutes, qint32 seconds)
 {
-    return QString::asprintf("%dh %dm %ds", hours, minutes, seconds);
+    //: The time set in a timer: hours, minutes and seconds.
+    return Texts::tr("%1h %2m %3s").arg(hours).arg(minutes).arg(seconds);
 }

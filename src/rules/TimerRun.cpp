@@ -2,6 +2,8 @@
 
 #include "rules/BeepSchedule.h"
 
+#include <QCoreApplication>
+
 #include <cmath>
 
 namespace
@@ -22,7 +24,9 @@ Date startDateFor(qint64 milliseconds, Date now)
 
 QString TimerRun::repeatSuffix() const
 {
-    return _repeatCount > 1 ? QStringLiteral(" (x%1)").arg(_repeatCount) : QString();
+    return _repeatCount > 1 ? //: After a time: the number of the pass of a timer that loops.
+               QCoreApplication::translate("TimerRun", " (x%1)").arg(_repeatCount)
+                            : QString();
 }
 
 RunTimes TimerRun::timesAt(Date moment) const

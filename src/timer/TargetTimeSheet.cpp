@@ -3,6 +3,7 @@
 #include "base/Clock.h"
 #include "base/Service.h"
 #include "rules/TimeDistance.h"
+#include "rules/TimerTexts.h"
 #include "ui_TargetTime.h"
 
 #include <QApplication>
@@ -39,7 +40,7 @@ TargetTimeSheet::TargetTimeSheet(QWidget &parent) :
     setWindowModality(Qt::WindowModal);
     _ui->_targetDateField->setDisplayFormat(displayFormat());
     _ui->_targetCalendar->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
-    _ui->_targetButtons->button(QDialogButtonBox::Ok)->setText(tr("Start"));
+    _ui->_targetButtons->button(QDialogButtonBox::Ok)->setText(TimerTexts::start());
     for (QAbstractButton *button : _ui->_targetButtons->buttons())
         button->setIcon({});
     connectControls();

@@ -56,10 +56,11 @@ bool isNumberOrTime(const QMimeData &data)
 /// follows the name.
 QAction *pasteIn(const QMenu &menu)
 {
+    // A text of Qt's own translation, which this program does not translate.
+    constexpr const char *name = "&Paste";
     const QList<QAction *> items = menu.actions();
-    const auto paste = std::ranges::find_if(items, [](const QAction *each) {
-        return each->text().startsWith(QLineEdit::tr("&Paste"));
-    });
+    const auto paste = std::ranges::find_if(
+        items, [](const QAction *each) { return each->text().startsWith(QLineEdit::tr(name)); });
     return paste == items.end() ? nullptr : *paste;
 }
 } // namespace

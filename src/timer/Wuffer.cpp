@@ -22,17 +22,16 @@ void fitToDigits(QLineEdit &field, int digits)
     field.setFixedWidth(digits * digitWidth + 2 * spare);
 }
 
-/// Makes the button wide enough for all of its titles, so that a new title does not move the
-/// layout.
-void fitToTitles(QPushButton &button, std::initializer_list<QStringView> titles)
+/// Shows the first title on the button and makes it wide enough for all of them, so that a new
+/// title does not move the layout.
+void fitToTitles(QPushButton &button, std::initializer_list<QString> titles)
 {
-    const QString title = button.text();
     int width = 0;
-    for (const QStringView each : titles) {
-        button.setText(each.toString());
+    for (const QString &each : titles) {
+        button.setText(each);
         width = std::max(width, button.sizeHint().width());
     }
-    button.setText(title);
+    button.setText(*titles.begin());
     button.setMinimumWidth(width);
 }
 } // namespace
@@ -75,9 +74,10 @@ void Wuffer::fitControls()
     constexpr int digits = 6;
     for (QLineEdit *field : {_ui->_hoursField, _ui->_minutesField, _ui->_secondsField})
         fitToDigits(*field, digits);
-    fitToTitles(*_ui->_goButton, {kGoButtonStart, kGoButtonStop, kGoButtonReset,
-                                  kGoButtonStartChain, kGoButtonChained});
-    fitToTitles(*_ui->_finishedDrawerButton, {kMoreOptions, kHideOptions});
+    fitToTitles(*_ui->_goButton, {TimerTexts::start(), TimerTexts::stop(), TimerTexts::reset(),
+                                  TimerTexts::startChain(), TimerTexts::chained()});
+    fitToTitles(*_ui->_finishedDrawerButton,
+                {TimerTexts::moreOptions(), TimerTexts::hideOptions()});
     // As wide as the buttons above and below, so that showing it does not resize the combo boxes.
     _ui->_linkButton->setFixedWidth(_ui->_helpButton->sizeHint().width());
     _timeEntry = std::make_unique<TimeEntry>(
@@ -147,7 +147,7 @@ QString Wuffer::title() const
 
 QString Wuffer::description() const
 {
-    return title() + QStringLiteral(" - ") + TimeFormat::hmsString(hours(), minutes(), seconds());
+    return TimerTexts::nameAndTime(title(), TimeFormat::hmsString(hours(), minutes(), seconds()));
 }
 
 QString Wuffer::statusString() const

@@ -30,7 +30,7 @@ void Wuffer::timerDone()
     _ui->_msLabel->setText({});
     _ui->_elapsedLabel->setText(durationText());
     _wuffTimer.startRepeating(kAlarmTick);
-    _ui->_goButton->setText(kGoButtonReset.toString());
+    _ui->_goButton->setText(TimerTexts::reset());
     // The user cannot hear a muted alarm, so the window requests attention.
     if (_soundOff)
         Service<Desktop>::current().requestUserAttention(*_window);

@@ -98,14 +98,14 @@ void Wuffer::refreshChainStatus()
         return;
     if (!isChained()) {
         setDefaultDisplayValues();
-        _ui->_goButton->setText(kGoButtonStart.toString());
+        _ui->_goButton->setText(TimerTexts::start());
         return;
     }
     _ui->_elapsedLabel->setText(chainString());
     setElapsedColor(TextColor::Red);
     const bool isHead = !_reverseTargetWuffer;
     _ui->_goButton->setEnabled(isHead);
-    _ui->_goButton->setText((isHead ? kGoButtonStartChain : kGoButtonChained).toString());
+    _ui->_goButton->setText(isHead ? TimerTexts::startChain() : TimerTexts::chained());
 }
 
 void Wuffer::refreshChainStatusForAllChainedWuffers()

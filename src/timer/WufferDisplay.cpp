@@ -31,13 +31,14 @@ void Wuffer::refreshDisplay(double remaining, double timeElapsed)
     }
     if (_run.isStopwatch()) {
         setResultLabelText(TimeFormat::stringForTime(timeElapsed));
-        _ui->_elapsedLabel->setText(kStopwatchString.toString());
+        _ui->_elapsedLabel->setText(TimerTexts::stopwatch());
     } else {
         setResultLabelText(TimeFormat::stringForTime(remaining));
-        _ui->_elapsedLabel->setText(timeElapsed == 0 ? QString()
-                                                     : QStringLiteral("Elapsed: ") +
-                                                           TimeFormat::stringForTime(timeElapsed) +
-                                                           _run.repeatSuffix());
+        //: The time since the start of a timer.
+        _ui->_elapsedLabel->setText(
+            timeElapsed == 0 ? QString()
+                             : tr("Elapsed: %1").arg(TimeFormat::stringForTime(timeElapsed)) +
+                                   _run.repeatSuffix());
     }
     const double counted = _run.counted({remaining, timeElapsed});
     _ui->_msLabel->setText(_energySaverActive ? QString() : TimeFormat::msStringForTime(counted));

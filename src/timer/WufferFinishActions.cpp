@@ -84,8 +84,9 @@ void Wuffer::populateFinishedPickerComboWithChosenTargetWuffer()
 {
     PopUpComboBox &picker = *_ui->_finishedPicker;
     picker.clear();
-    picker.addItem(_targetWuffer ? NameText::inOneLine(_targetWuffer->description())
-                                 : QStringLiteral("Control-Drag a Wuffer"));
+    //: In place of the name of the timer to start: how to choose one.
+    const QString howToChoose = tr("Control-Drag a Wuffer");
+    picker.addItem(_targetWuffer ? NameText::inOneLine(_targetWuffer->description()) : howToChoose);
     picker.setCurrentIndex(0);
     // The picker only shows the link; the user makes it by dragging or in the menu.
     picker.setEnabled(false);

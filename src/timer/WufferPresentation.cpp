@@ -24,7 +24,7 @@ QScreen &mainScreen(const QWidget &window)
 
 QString drawerTitle(bool open)
 {
-    return (open ? kHideOptions : kMoreOptions).toString();
+    return open ? TimerTexts::hideOptions() : TimerTexts::moreOptions();
 }
 } // namespace
 
@@ -118,7 +118,7 @@ bool Wuffer::validateMenuItem(QAction &item, Operation action) const
     if (_closed)
         return false;
     if (action == &Wuffer::stopwatch) {
-        item.setText(_run.isStopwatch() ? QStringLiteral("Timer") : kStopwatchString.toString());
+        item.setText(_run.isStopwatch() ? TimerTexts::timer() : TimerTexts::stopwatch());
         return !_run.isStarted();
     }
     if (action == &Wuffer::toggleKeepWuffing)

@@ -6,13 +6,6 @@
 #include "timer/Wuffer.h"
 #include "ui_Wuffer.h"
 
-/// Whether the elapsed line names a preset. Both texts that do, the key and "Saved to Preset 3",
-/// contain the word.
-static bool namesPreset(const QString &elapsedLine)
-{
-    return elapsedLine.contains(QStringLiteral("Preset"));
-}
-
 QString Wuffer::keyForPreset(quint32 number)
 {
     return Preset::key(number);
@@ -37,7 +30,7 @@ void Wuffer::setPreset(qint32 number)
     const QString name = title();
     _ui->_titleField->setText(name);
     storeSettingsInDefaultsWithKey(keyForPreset(static_cast<quint32>(number)));
-    showPresetMark(name, QStringLiteral("Saved to Preset %1").arg(number));
+    showPresetMark(name, Preset::savedMark(number));
     NotificationCenter::defaultCenter().postNotificationName(Notices::kPresetsChanged, this);
 }
 
@@ -61,6 +54,6 @@ void Wuffer::removePresetColor()
         if (_elapsedColor == TextColor::Blue)
             setElapsedColor(TextColor::Black);
     }
-    if (namesPreset(_ui->_elapsedLabel->text()))
+    if (Preset::isMark(_ui->_elapsedLabel->text()))
         _ui->_elapsedLabel->setText({});
 }

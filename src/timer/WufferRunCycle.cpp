@@ -56,7 +56,7 @@ void Wuffer::startRun()
     _timeEntry->spreadFractions();
     const Date now = Date::now();
     _run.start(TimeFields::total(hours(), minutes(), seconds()), shownMilliseconds(*_ui), now);
-    setRunningControls(true, kGoButtonStop.toString());
+    setRunningControls(true, TimerTexts::stop());
     _checkTimer.startRepeating(kRunTick);
     const RunTimes times = _run.timesAt(now);
     refreshDisplay(times.remaining, times.elapsed);
@@ -77,7 +77,7 @@ void Wuffer::stopRun()
     // Keep the time in the fields, so that the next start continues from there.
     if (rest.value > 0)
         setFieldsWithTimeLeft(rest.value);
-    setRunningControls(false, kGoButtonStart.toString());
+    setRunningControls(false, TimerTexts::start());
 }
 
 void Wuffer::timerLoop()
@@ -148,7 +148,7 @@ void Wuffer::stopwatch()
     _run.setStopwatch(stopwatch);
     if (stopwatch) {
         setFieldsWithTimeLeft(0);
-        _ui->_elapsedLabel->setText(kStopwatchString.toString());
+        _ui->_elapsedLabel->setText(TimerTexts::stopwatch());
         _ui->_msLabel->setText({});
         setResultLabelText(QStringLiteral("0s"));
     } else {

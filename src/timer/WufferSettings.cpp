@@ -1,5 +1,6 @@
 #include "base/UserDefaults.h"
 #include "rules/NameText.h"
+#include "rules/Preset.h"
 #include "rules/TimerSettings.h"
 #include "rules/TimerTexts.h"
 #include "timer/TimeEntry.h"
@@ -96,7 +97,7 @@ void Wuffer::takeOver(const TimerSettings &settings)
 
 void Wuffer::showAsPreset(const TimerSettings &settings, const QString &key)
 {
-    showPresetMark(_ui->_titleField->text(), key);
+    showPresetMark(_ui->_titleField->text(), Preset::openedMark(key));
     select(*_ui->_alarmSoundCombo, settings.individualAlarmPath);
     select(*_ui->_countdownSoundCombo, settings.individualCountdownPath);
 }

@@ -1,5 +1,6 @@
 #include "rules/NotificationText.h"
 #include "rules/SoundEntries.h"
+#include "rules/TimerTexts.h"
 #include "sounds/SoundChoice.h"
 #include "timer/Wuffer.h"
 #include "ui_Wuffer.h"
@@ -87,7 +88,7 @@ void Wuffer::showGrowlNotification()
 {
     const QString name = NotificationText::line(title());
     _alarmNotification.alarmBegan({.title = NotificationText::line(_finishedText),
-                                   .text = name + QStringLiteral(": ") + durationText(),
+                                   .text = TimerTexts::nameAndStatus(name, durationText()),
                                    .name = QStringLiteral("wuff"),
                                    .subject = name,
                                    .show = [this] { showWufferWindow(); },

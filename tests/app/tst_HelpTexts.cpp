@@ -204,10 +204,8 @@ void tst_HelpTexts::everyNameInTheTextStandsInAWindow()
     reader.open();
     reader.controller.showConverter();
     const TargetTimeSheet sheet(Reader::timerWindow());
-    QStringList texts{QStringLiteral("None"), QStringLiteral("Timer")};
-    for (const QStringView atTimes :
-         {kGoButtonStop, kGoButtonReset, kGoButtonStartChain, kGoButtonChained})
-        texts << atTimes.toString();
+    QStringList texts{QStringLiteral("None"), TimerTexts::timer(),      TimerTexts::stop(),
+                      TimerTexts::reset(),    TimerTexts::startChain(), TimerTexts::chained()};
     for (const QWidget *window : QApplication::topLevelWidgets())
         texts << textsIn(*window);
     QSet<QString> names;

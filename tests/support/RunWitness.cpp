@@ -24,7 +24,7 @@ constexpr int kBeepsOfARun = 12;
 
 bool isRinging(const Wuffer &timer)
 {
-    return child<QPushButton>(*timer.window(), "_goButton").text() == kGoButtonReset;
+    return child<QPushButton>(*timer.window(), "_goButton").text() == TimerTexts::reset();
 }
 
 /// The seconds in a text like "1h 2m 3s"; nullopt for any other text.
