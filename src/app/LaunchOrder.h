@@ -23,16 +23,21 @@ struct NamedLaunchOrder
     LaunchOrder order;
     /// "new-timer"
     const char *name;
-    /// The description of the option in --help; to be translated.
+    /// The description of the option in --help; to be translated in the context
+    /// "CommandLine".
     const char *description;
 };
 
 /// Every order except Activate.
 inline constexpr std::array kNamedLaunchOrders{
-    NamedLaunchOrder{LaunchOrder::NewTimer, "new-timer", QT_TR_NOOP("Open a new timer.")},
-    NamedLaunchOrder{LaunchOrder::StartAll, "start-all", QT_TR_NOOP("Start every timer.")},
-    NamedLaunchOrder{LaunchOrder::Preferences, "preferences", QT_TR_NOOP("Show the preferences.")},
-    NamedLaunchOrder{LaunchOrder::Converter, "converter", QT_TR_NOOP("Show the unit converter.")},
+    NamedLaunchOrder{LaunchOrder::NewTimer, "new-timer",
+                     QT_TRANSLATE_NOOP("CommandLine", "Open a new timer.")},
+    NamedLaunchOrder{LaunchOrder::StartAll, "start-all",
+                     QT_TRANSLATE_NOOP("CommandLine", "Start every timer.")},
+    NamedLaunchOrder{LaunchOrder::Preferences, "preferences",
+                     QT_TRANSLATE_NOOP("CommandLine", "Show the preferences.")},
+    NamedLaunchOrder{LaunchOrder::Converter, "converter",
+                     QT_TRANSLATE_NOOP("CommandLine", "Show the unit converter.")},
 };
 
 /// The name of the order; empty for Activate.

@@ -33,9 +33,8 @@ PresetsMenu::PresetsMenu(WufferController &controller) :
         connect(item, &QAction::triggered, this, [this, item] { _controller.preset(item); });
     }
     addSeparator();
-    QMenu &submenu = *addMenu(QStringLiteral("Save Wuffer to Preset"));
-    submenu.addAction(QStringLiteral("Shortcut: Hold Control and press a number key"))
-        ->setEnabled(false);
+    QMenu &submenu = *addMenu(tr("Save Wuffer to Preset"));
+    submenu.addAction(tr("Shortcut: Hold Control and press a number key"))->setEnabled(false);
     submenu.addSeparator();
     for (const int number : Preset::kNumbers) {
         QAction *item = _save.emplace_back(addItem(submenu, Keyboard::kControl, number));
@@ -51,7 +50,8 @@ void PresetsMenu::populate()
         const QString text = Wuffer::stringForPreset(number);
         _open.at(place)->setText(menuText(text));
         _save.at(place)->setText(
-            menuText(QStringLiteral("⌘%1 (Overwrite %2)").arg(QString::number(number), text)));
+            //: The number of a preset, and the name and time in it, which saving replaces.
+            menuText(tr("⌘%1 (Overwrite %2)").arg(QString::number(number), text)));
     }
 }
 

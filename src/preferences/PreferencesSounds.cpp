@@ -127,6 +127,7 @@ void Preferences::takeDroppedSounds(QPoint place, const QStringList &paths)
 void Preferences::showMissing(const Kind &kind, const QString &path)
 {
     const QFileInfo file(path);
+    //: Stands before the name of the file of a sound.
     kind.missingWord.setText(file.exists() ? tr("Unplayable:") : tr("Missing:"));
     kind.missingLabel.setText(file.fileName());
     kind.missingLabel.setToolTip(SoundCombos::toolTip(path));

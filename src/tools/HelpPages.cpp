@@ -7,14 +7,28 @@
 
 namespace
 {
+class Texts final
+{
+    Q_DECLARE_TR_FUNCTIONS(HelpPages)
+};
+
 constexpr std::array kNames{"index",          "first-timer", "stopwatch-and-date",
                             "several-timers", "presets",     "finish-actions",
                             "full-screen",    "sounds",      "preferences",
                             "kitchen",        "keyboard"};
 
+/// The file of the page in the user's language, else in English.
+QString fileOf(const QString &name)
+{
+    //: The folder with the help pages in your language, such as "de". Leave "en" if there is none.
+    const QString folder = Texts::tr("en");
+    const QString translated = QStringLiteral(":/help/%1/%2.html").arg(folder, name);
+    return QFile::exists(translated) ? translated : QStringLiteral(":/help/%1.html").arg(name);
+}
+
 QString contentsOf(const QString &name)
 {
-    QFile file(QStringLiteral(":/help/%1.html").arg(name));
+    QFile file(fileOf(name));
     const bool opened = file.open(QIODevice::ReadOnly);
     Q_ASSERT(opened);
     return opened ? QString::fromUtf8(file.readAll()) : QString();
@@ -38,6 +52,12 @@ QString rowOf(const MenuKeys &item)
         .arg(item.item.toHtmlEscaped(), keys.join(QStringLiteral(", ")));
 }
 
+QString titleOf(const QString &menu)
+{
+    //: The title of a table of keys; %1 is the name of a menu.
+    return Texts::tr("%1 menu").arg(menu);
+}
+
 /// A table for each menu, under its name.
 QString tablesOf(const std::vector<MenuKeys> &menuKeys)
 {
@@ -47,7 +67,7 @@ QString tablesOf(const std::vector<MenuKeys> &menuKeys)
     for (const MenuKeys &item : menuKeys) {
         if (item.menu != menu) {
             menu = item.menu;
-            const QString title = QCoreApplication::translate("HelpPages", "%1 menu").arg(menu);
+            const QString title = titleOf(menu);
             html += (html.isEmpty() ? QString() : end) +
                     QStringLiteral("<h2>%1</h2><table width=\"100%\" cellspacing=\"0\">")
                         .arg(title.toHtmlEscaped());
