@@ -84,7 +84,7 @@ install_packages() {
 say_what_building_needs() {
     say "Packages are installed automatically on Debian and its relatives only. Here, please" \
         "install these yourself, with their development files: a C++20 compiler, CMake 3.25 or" \
-        "newer, Ninja, pkg-config, Qt 6.4 or newer (Core, Gui, Widgets, Test), cubeb," \
+        "newer, Ninja, pkg-config, Qt 6.4 or newer (Core, Gui, Widgets, Test, Linguist tools), cubeb," \
         "libsndfile, libmpg123, and a typeface that answers to the name Courier; on Linux also" \
         "Qt DBus, and libxcb with its screen saver extension."
 }

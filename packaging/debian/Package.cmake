@@ -17,12 +17,13 @@ set(CPACK_DEBIAN_PACKAGE_SECTION utils)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 # The typeface of the display.
 set(CPACK_DEBIAN_PACKAGE_DEPENDS fonts-urw-base35)
-# In this order: the session bus, a notification service, a sound server, windows without an X
-# server, and the command that opens the web page.
+# In this order: the session bus, a notification service, a sound server, the translations of Qt's
+# own texts, windows without an X server, and the command that opens the web page.
 string(JOIN ", " CPACK_DEBIAN_PACKAGE_RECOMMENDS
     "default-dbus-session-bus | dbus-session-bus"
     "notification-daemon"
     "pipewire-pulse | pulseaudio"
+    "qt6-translations-l10n"
     "qt6-wayland"
     "xdg-utils")
 

@@ -1,0 +1,1239 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="pl_PL">
+<context>
+    <name>About</name>
+    <message>
+        <source>About Wuffer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Countdown timers for the desktop</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copyright © 2026 The Wuffer developers
+Free software under the MIT License: use it, change it
+and pass it on. It comes without any warranty.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Libraries and their licences</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>AboutDialog</name>
+    <message>
+        <source>sound output</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>sound files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MP3 files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Version %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>windows</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>X Window System</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>windows, session bus</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Chain</name>
+    <message>
+        <source>Started by “%1”</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Starts “%1”</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Started by “%1”; starts “%2”</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>Countdown timers for the desktop. The program that is running already carries out what is asked for here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Wait for the session bus to say what to open.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show this help.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show the version.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no use for “%1”.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Converter</name>
+    <message>
+        <source>Volume (US measures)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Milliliters:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Milliliters</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>F&amp;luid ounces:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fluid ounces</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Cups:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cups</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ta&amp;blespoons:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tablespoons</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>T&amp;easpoons:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Teaspoons</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Weight</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Grams:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Grams</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Ounces:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ounces</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Temperature</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cel&amp;sius:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Celsius</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fah&amp;renheit:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fahrenheit</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>FinishActions</name>
+    <message>
+        <source>Do Nothing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Loop this Wuffer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Start a Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Start other open Wuffer</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>FreedesktopNotifications</name>
+    <message>
+        <source>Show</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>GatheredNotifications</name>
+    <message numerus="yes">
+        <source>%n timers have ended</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>Help</name>
+    <message>
+        <source>Back</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Search the help</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>HelpPages</name>
+    <message>
+        <source>%1 menu</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>HelpPanel</name>
+    <message>
+        <source>%1 (%2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Found: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing found</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Home</name>
+    <message>
+        <source>New Timer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Presets</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>KeepOnTopItem</name>
+    <message>
+        <source>Keep on &amp;Top</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>KeepWuffing</name>
+    <message>
+        <source>A stopwatch has no alarm that could go on</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Only a timer that is to “Do Nothing” when finished can go on wuffing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The sound of all timers is off</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Repeat the alarm sound until you press Reset</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>LaunchChoices</name>
+    <message>
+        <source>Open a Wuffer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Do Nothing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open Preset ⌘1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open and Start Preset ⌘1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>LinkMenu</name>
+    <message>
+        <source>When F&amp;inished, Start</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;None</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No &amp;Other Timer Is Open</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>MainMenu</name>
+    <message>
+        <source>&amp;File</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;New Timer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Start &amp;All</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mute All</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Preferences…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Timer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stopwatch</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Count Down to a &amp;Date…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Reset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Keep Wuffing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Full Screen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>More Options</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Window</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Minimize</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Converter</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>M&amp;easurements</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Wuffer &amp;Help</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Wuffer on the &amp;Web</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;About Wuffer</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>MeasurementsPanel</name>
+    <message>
+        <source>Kitchen measurements</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 teaspoon|1 tsp|⅓ tbsp|⅙ fl oz|4.93 mL</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 tablespoon|3 tsp|1 tbsp|½ fl oz|14.79 mL</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 fluid ounce|6 tsp|2 tbsp|1 fl oz|29.57 mL</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>¼ cup|12 tsp|4 tbsp|2 fl oz|59.15 mL</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>⅓ cup|16 tsp|5⅓ tbsp|2⅔ fl oz|78.86 mL</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>½ cup|24 tsp|8 tbsp|4 fl oz|118.29 mL</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>⅔ cup|32 tsp|10⅔ tbsp|5⅓ fl oz|157.73 mL</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>¾ cup|36 tsp|12 tbsp|6 fl oz|177.44 mL</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 cup|48 tsp|16 tbsp|8 fl oz|236.59 mL</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 pint|96 tsp|32 tbsp|16 fl oz|473.18 mL</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 quart|192 tsp|64 tbsp|32 fl oz|946.35 mL</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 gallon|768 tsp|256 tbsp|128 fl oz|3785.41 mL</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 metric teaspoon|0.17 fl oz|5 mL</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 metric tablespoon|0.51 fl oz|15 mL</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 Australian tablespoon|0.68 fl oz|20 mL</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 Japanese cup|6.76 fl oz|200 mL</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 metric cup|8.45 fl oz|250 mL</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 liter|33.81 fl oz|1000 mL</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 UK fluid ounce|0.96 fl oz|28.41 mL</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 UK pint|19.22 fl oz|568.26 mL</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 UK quart|38.43 fl oz|1136.52 mL</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 UK gallon|153.72 fl oz|4546.09 mL</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 ounce|1 oz|0.0625 lb|28.35 g</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>2 ounces|2 oz|0.125 lb|56.70 g</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>¼ pound|4 oz|0.25 lb|113.40 g</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>½ pound|8 oz|0.5 lb|226.80 g</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>¾ pound|12 oz|0.75 lb|340.19 g</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 pound|16 oz|1 lb|453.59 g</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>2 pounds|32 oz|2 lb|907.18 g</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>50 grams|1.76 oz|0.110 lb|50 g</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>100 grams|3.53 oz|0.220 lb|100 g</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>250 grams|8.82 oz|0.551 lb|250 g</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>500 grams|17.64 oz|1.102 lb|500 g</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 kilogram|35.27 oz|2.205 lb|1000 g</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>⅛ stick|1 tbsp|1⁄16 cup|½ oz|14.17 g</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>¼ stick|2 tbsp|⅛ cup|1 oz|28.35 g</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>½ stick|4 tbsp|¼ cup|2 oz|56.70 g</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 stick|8 tbsp|½ cup|4 oz|113.40 g</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>2 sticks|16 tbsp|1 cup|8 oz|226.80 g</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>4 sticks|32 tbsp|2 cups|16 oz|453.59 g</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Very cool|Gas ¼|225 °F|107 °C|110 °C</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Very cool|Gas ½|250 °F|121 °C|120 °C</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cool|Gas 1|275 °F|135 °C|140 °C</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cool|Gas 2|300 °F|149 °C|150 °C</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Warm|Gas 3|325 °F|163 °C|160 °C</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Moderate|Gas 4|350 °F|177 °C|180 °C</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fairly hot|Gas 5|375 °F|191 °C|190 °C</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fairly hot|Gas 6|400 °F|204 °C|200 °C</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hot|Gas 7|425 °F|218 °C|220 °C</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Very hot|Gas 8|450 °F|232 °C|230 °C</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Very hot|Gas 9|475 °F|246 °C|250 °C</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Teaspoons to milliliters|× 4.929</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tablespoons to milliliters|× 14.79</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fluid ounces to milliliters|× 29.57</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cups to milliliters|× 236.6</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Milliliters to fluid ounces|× 0.03381</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Quarts to liters|× 0.9464</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Liters to quarts|× 1.057</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ounces to grams|× 28.35</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Grams to ounces|× 0.03527</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pounds to kilograms|× 0.4536</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Kilograms to pounds|× 2.205</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Inches to centimeters|× 2.54</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Centimeters to inches|× 0.3937</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Celsius to Fahrenheit|× 1.8, then + 32</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fahrenheit to Celsius|− 32, then ÷ 1.8</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Volume, US measures</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Measure|Teaspoons|Tablespoons|Fluid ounces|Milliliters</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Volume, other measures</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Measure|US fluid ounces|Milliliters</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Weight</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Weight|Ounces|Pounds|Grams</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Butter, US sticks</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Butter|Tablespoons|Cups|Ounces|Grams</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Oven temperatures</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Heat|Gas mark|Fahrenheit|Celsius|On the dial</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Common conversions</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Conversion|Calculation</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Preferences</name>
+    <message>
+        <source>Preferences</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;General</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>At &amp;launch:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What opens when the program starts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>At launch</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Finished te&amp;xt:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What a timer says when its countdown has ended</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Finished text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A timer that is opened from a preset starts at once</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Start presets when they are &amp;opened</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The desktop does not tell of countdowns that have ended</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Turn off &amp;notifications</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Running timers do not show in the panel of the desktop</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hide the status &amp;item</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Timers refresh their display less often and show no milliseconds.
+Beeps and the end of a countdown come up to 0.2 seconds late.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Energy saver</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Sounds</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No timer makes a sound</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Mute all timers</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The last seconds of a countdown pass in silence</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Turn off countdown &amp;beeps</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Alarm:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Alarm sound of new timers</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Play the alarm sound</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stop the alarm sound</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>In use:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Alarm sound in use</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Alarm sound that cannot be played</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Countdown:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Countdown sound of new timers</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Play the countdown sound</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stop the countdown sound</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Countdown sound in use</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Countdown sound that cannot be played</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Timers opened from now on begin with these sounds. Each timer offers a choice of its own under More Options.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mute All</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unmute All</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select a sound file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unplayable:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Missing:</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>PresetsMenu</name>
+    <message>
+        <source>&amp;Presets</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>QLineEdit</name>
+    <message>
+        <source>&amp;Paste</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>SoundEntries</name>
+    <message>
+        <source>Wuff (Default)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Crow (Default)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select another sound...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Clear custom sounds</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Manage Sounds...</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TargetTime</name>
+    <message>
+        <source>Target Date</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Calendar</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ring &amp;at:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Date and time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>How long that is from now</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TargetTimeSheet</name>
+    <message>
+        <source>Start</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TimeDistance</name>
+    <message>
+        <source>%1 d</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 h</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>now</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>in %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Wuffer</name>
+    <message>
+        <source>Wuffer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Display</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The name of this timer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name on the full screen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Elapsed time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Milliseconds</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hours</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>h&amp;ours</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Minutes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;minutes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Seconds</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;seconds</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Keep wuffing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fill the screen when the countdown starts; any key or click ends it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fu&amp;ll screen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>When fi&amp;nished:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What happens when the countdown has ended and its alarm is over</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>When finished</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What can happen when the countdown ends</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Help on finish actions</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What the finish action starts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose from the open timers</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose the timer to start</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Alarm:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Alarm sound</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Play the alarm sound</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stop the alarm sound</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Countdown:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Countdown sound</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Play the countdown sound</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stop the countdown sound</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ready when you are</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The preset that this timer turns into and runs when it has finished</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>When finished, this timer starts “%1”</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hold Control and drag the window of another timer onto this one: it starts when this one has finished</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sound is off</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sound is on</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Let all timers be heard again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mute all timers</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A timer fills the screen</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>WufferController</name>
+    <message>
+        <source>Preferences</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Converter</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Measurements</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Wuffer Help</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>std</name>
+    <message>
+        <source>Open a new timer.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Start every timer.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show the preferences.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show the unit converter.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+</TS>
