@@ -57,6 +57,7 @@ and pass it on. It comes without any warranty.</source>
     <name>Chain</name>
     <message>
         <source>Started by “%1”</source>
+        <extracomment>Names of timers.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -65,6 +66,11 @@ and pass it on. It comes without any warranty.</source>
     </message>
     <message>
         <source>Started by “%1”; starts “%2”</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Wuffer Chain - %1 of %2</source>
+        <extracomment>The place of a timer in a chain: position and number of timers.</extracomment>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -88,6 +94,22 @@ and pass it on. It comes without any warranty.</source>
     </message>
     <message>
         <source>There is no use for “%1”.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open a new timer.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Start every timer.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show the preferences.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show the unit converter.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -229,10 +251,12 @@ and pass it on. It comes without any warranty.</source>
     <name>Help</name>
     <message>
         <source>Back</source>
+        <extracomment>Goes to the page of the help that was shown before.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Forward</source>
+        <extracomment>Goes to the page of the help that was shown after this one.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -245,6 +269,7 @@ and pass it on. It comes without any warranty.</source>
     </message>
     <message>
         <source>Pages</source>
+        <extracomment>Accessible name of the list of pages.</extracomment>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -252,6 +277,12 @@ and pass it on. It comes without any warranty.</source>
     <name>HelpPages</name>
     <message>
         <source>%1 menu</source>
+        <extracomment>The title of a table of keys; %1 is the name of a menu.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>en</source>
+        <extracomment>The folder with the help pages in your language, such as &quot;de&quot;. Leave &quot;en&quot; if there is none.</extracomment>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -299,15 +330,17 @@ and pass it on. It comes without any warranty.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Only a timer that is to “Do Nothing” when finished can go on wuffing</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>The sound of all timers is off</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Repeat the alarm sound until you press Reset</source>
+        <source>Only a timer that is to “%1” when finished can go on wuffing</source>
+        <extracomment>%1 is the finish action “Do Nothing”.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Repeat the alarm sound until you press %1</source>
+        <extracomment>%1 is the title of the button “Reset”.</extracomment>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -771,10 +804,12 @@ and pass it on. It comes without any warranty.</source>
     </message>
     <message>
         <source>&amp;General</source>
+        <extracomment>The title of a page.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>At &amp;launch:</source>
+        <extracomment>Stands before the list of what opens when the program starts.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -787,6 +822,7 @@ and pass it on. It comes without any warranty.</source>
     </message>
     <message>
         <source>Finished te&amp;xt:</source>
+        <extracomment>Stands before the text that timers show at their end.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -819,6 +855,7 @@ and pass it on. It comes without any warranty.</source>
     </message>
     <message>
         <source>Hide the status &amp;item</source>
+        <extracomment>The item of the program in the panel of the desktop.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -832,6 +869,7 @@ Beeps and the end of a countdown come up to 0.2 seconds late.</source>
     </message>
     <message>
         <source>&amp;Sounds</source>
+        <extracomment>The title of a page.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -868,6 +906,7 @@ Beeps and the end of a countdown come up to 0.2 seconds late.</source>
     </message>
     <message>
         <source>In use:</source>
+        <extracomment>Stands before the name of a sound.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -920,10 +959,24 @@ Beeps and the end of a countdown come up to 0.2 seconds late.</source>
     </message>
     <message>
         <source>Unplayable:</source>
+        <extracomment>Stands before the name of the file of a sound.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Missing:</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Preset</name>
+    <message>
+        <source>Preset %1</source>
+        <extracomment>In the display of a timer opened from a preset; %1 is its number.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saved to Preset %1</source>
+        <extracomment>In the display of a timer saved into a preset; %1 is its number.</extracomment>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -933,11 +986,17 @@ Beeps and the end of a countdown come up to 0.2 seconds late.</source>
         <source>&amp;Presets</source>
         <translation type="unfinished"></translation>
     </message>
-</context>
-<context>
-    <name>QLineEdit</name>
     <message>
-        <source>&amp;Paste</source>
+        <source>Save Wuffer to Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shortcut: Hold Control and press a number key</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>⌘%1 (Overwrite %2)</source>
+        <extracomment>The number of a preset, and the name and time in it, which saving replaces.</extracomment>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -965,9 +1024,18 @@ Beeps and the end of a countdown come up to 0.2 seconds late.</source>
     </message>
 </context>
 <context>
+    <name>StatusItem</name>
+    <message>
+        <source>%1: %2</source>
+        <extracomment>The name of the program and the time of a timer.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>TargetTime</name>
     <message>
         <source>Target Date</source>
+        <extracomment>The title of the sheet in which the user picks the date at which a timer rings.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -976,6 +1044,7 @@ Beeps and the end of a countdown come up to 0.2 seconds late.</source>
     </message>
     <message>
         <source>Ring &amp;at:</source>
+        <extracomment>Stands before the date and time at which a timer rings.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -988,16 +1057,10 @@ Beeps and the end of a countdown come up to 0.2 seconds late.</source>
     </message>
 </context>
 <context>
-    <name>TargetTimeSheet</name>
-    <message>
-        <source>Start</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
     <name>TimeDistance</name>
     <message>
         <source>%1 d</source>
+        <extracomment>Days, hours, minutes and seconds, abbreviated, as in “in 4 h 12 min”.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1014,21 +1077,144 @@ Beeps and the end of a countdown come up to 0.2 seconds late.</source>
     </message>
     <message>
         <source>now</source>
+        <extracomment>The time that is left until a date: none.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>in %1</source>
+        <extracomment>The time that is left until a date: “in 4 h 12 min”.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <extracomment>Two units of a time, the larger first: “4 h 12 min”.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TimeFormat</name>
+    <message>
+        <source>%1d </source>
+        <extracomment>The parts of a running time, such as “1h 5m 3s”: days, hours, minutes and seconds. They stand side by side, so all but the seconds end with a blank. The display has room for ten characters at its largest size.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1h </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1m </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1h %2m %3s</source>
+        <extracomment>The time set in a timer: hours, minutes and seconds.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TimeText</name>
+    <message>
+        <source>d day days</source>
+        <extracomment>Words and letters for days that users type after a number, separated by blanks. The English ones are always understood; give those of your language. One word must not stand for two units.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>h hr hrs hour hours</source>
+        <extracomment>The same for hours.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>m min mins minute minutes</source>
+        <extracomment>The same for minutes.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>s sec secs second seconds</source>
+        <extracomment>The same for seconds.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>and</source>
+        <extracomment>The word between two units: “1 hour and 5 minutes”.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TimerRun</name>
+    <message>
+        <source> (x%1)</source>
+        <extracomment>After a time: the number of the pass of a timer that loops.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TimerTexts</name>
+    <message>
+        <source>Start</source>
+        <extracomment>On the button and in the menu: runs the timer.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <extracomment>On the button and in the menu: stops the running timer.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <extracomment>On the button and in the menu, during an alarm: ends the alarm.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Start Chain</source>
+        <extracomment>On the button and in the menu, at the first timer of a chain: runs the chain.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Chained</source>
+        <extracomment>On the disabled button and in the menu: another timer starts this one.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stopwatch</source>
+        <extracomment>A timer that counts up, and the menu item that makes a timer one.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Timer</source>
+        <extracomment>The menu item that makes a stopwatch a timer that counts down.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>More Options</source>
+        <extracomment>Opens the drawer with more options of a timer.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hide Options</source>
+        <extracomment>Closes the drawer with more options of a timer.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 - %2</source>
+        <extracomment>A line of a list: the name of a timer and a time, such as “Tea - 0h 5m 0s”.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <extracomment>The name of a timer and what its display shows, such as “Tea: 5m 3s”.</extracomment>
         <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
     <name>Wuffer</name>
     <message>
-        <source>Wuffer</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Display</source>
+        <extracomment>Accessible name: the part of the window that shows the time.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1037,14 +1223,17 @@ Beeps and the end of a countdown come up to 0.2 seconds late.</source>
     </message>
     <message>
         <source>Name</source>
+        <extracomment>Accessible name: the name of the timer.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Name on the full screen</source>
+        <extracomment>Accessible name: the name of the timer.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Time</source>
+        <extracomment>Accessible name: the time that the timer shows.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1061,6 +1250,7 @@ Beeps and the end of a countdown come up to 0.2 seconds late.</source>
     </message>
     <message>
         <source>h&amp;ours</source>
+        <extracomment>Stands after a number field, with those for minutes and seconds in one line.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1081,6 +1271,7 @@ Beeps and the end of a countdown come up to 0.2 seconds late.</source>
     </message>
     <message>
         <source>&amp;Keep wuffing</source>
+        <extracomment>A check box: the alarm goes on until the user stops it. The program&apos;s alarm is the bark of a dog, “wuff”.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1089,14 +1280,17 @@ Beeps and the end of a countdown come up to 0.2 seconds late.</source>
     </message>
     <message>
         <source>Fu&amp;ll screen</source>
+        <extracomment>A check box.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Options</source>
+        <extracomment>Accessible name: the drawer with more options of a timer.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>When fi&amp;nished:</source>
+        <extracomment>Stands before the list of finish actions.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1117,6 +1311,7 @@ Beeps and the end of a countdown come up to 0.2 seconds late.</source>
     </message>
     <message>
         <source>What the finish action starts</source>
+        <extracomment>Accessible name of the list of presets, or of the linked timer.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1129,6 +1324,7 @@ Beeps and the end of a countdown come up to 0.2 seconds late.</source>
     </message>
     <message>
         <source>&amp;Alarm:</source>
+        <extracomment>Stands before the list of sounds.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1145,6 +1341,7 @@ Beeps and the end of a countdown come up to 0.2 seconds late.</source>
     </message>
     <message>
         <source>&amp;Countdown:</source>
+        <extracomment>Stands before the list of sounds for the last seconds of a countdown.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1195,6 +1392,16 @@ Beeps and the end of a countdown come up to 0.2 seconds late.</source>
         <source>A timer fills the screen</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Elapsed: %1</source>
+        <extracomment>The time since the start of a timer.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Control-Drag a Wuffer</source>
+        <extracomment>In place of the name of the timer to start: how to choose one.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>WufferController</name>
@@ -1212,25 +1419,6 @@ Beeps and the end of a countdown come up to 0.2 seconds late.</source>
     </message>
     <message>
         <source>Wuffer Help</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
-    <name>std</name>
-    <message>
-        <source>Open a new timer.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Start every timer.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Show the preferences.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Show the unit converter.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
