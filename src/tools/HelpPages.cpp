@@ -17,12 +17,31 @@ constexpr std::array kNames{"index",          "first-timer", "stopwatch-and-date
                             "full-screen",    "sounds",      "preferences",
                             "kitchen",        "keyboard"};
 
+/// The folder with the pages in the user's language.
+QString folder()
+{
+    //: The folder with the help pages in your language, such as "de". Leave "en" if there is none.
+    return Texts::tr("en");
+}
+
+/// A line that tells users of another language that the pages are in English; empty in English and
+/// where the pages are translated.
+QString noteOnLanguage()
+{
+    //: Stands above the pages of the help in languages that the help is not translated to.
+    constexpr const char *english =
+        QT_TRANSLATE_NOOP("HelpPages", "This help is available in English only.");
+    const QString note = Texts::tr(english);
+    const bool isEnglish = note == QLatin1String(english);
+    return isEnglish || folder() != QLatin1String("en")
+               ? QString()
+               : QStringLiteral("<p><i>%1</i></p>").arg(note.toHtmlEscaped());
+}
+
 /// The file of the page in the user's language, else in English.
 QString fileOf(const QString &name)
 {
-    //: The folder with the help pages in your language, such as "de". Leave "en" if there is none.
-    const QString folder = Texts::tr("en");
-    const QString translated = QStringLiteral(":/help/%1/%2.html").arg(folder, name);
+    const QString translated = QStringLiteral(":/help/%1/%2.html").arg(folder(), name);
     return QFile::exists(translated) ? translated : QStringLiteral(":/help/%1.html").arg(name);
 }
 
@@ -81,12 +100,14 @@ QString tablesOf(const std::vector<MenuKeys> &menuKeys)
 std::vector<HelpPage> helpPages(const std::vector<MenuKeys> &menuKeys)
 {
     const QString tables = tablesOf(menuKeys);
+    const QString note = noteOnLanguage();
     std::vector<HelpPage> pages;
     for (const char *each : kNames) {
         const QString name = QString::fromLatin1(each);
         QString html = contentsOf(name);
         html.replace(QStringLiteral("<!-- menus -->"), tables);
-        pages.push_back({name, firstElement(html, QStringLiteral("h1")), html});
+        const QString title = firstElement(html, QStringLiteral("h1"));
+        pages.push_back({name, title, note + html});
     }
     return pages;
 }

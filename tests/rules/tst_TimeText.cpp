@@ -1,6 +1,8 @@
 #include "rules/TimeText.h"
+#include "support/FakeTranslator.h"
 #include "support/TestMain.h"
 
+using TimeText::Time;
 using TimeText::Unit;
 
 /// Parsing times as people write them.
@@ -19,6 +21,7 @@ private Q_SLOTS:
     void aFractionIsSpreadOverTheSmallerUnits();
     void unitsHaveNames_data();
     void unitsHaveNames();
+    void unitsAreUnderstoodInTheUsersLanguageToo();
     void aTextOfAnyLengthIsReadAtOnce();
 
 private:
@@ -212,6 +215,23 @@ void tst_TimeText::unitsHaveNames()
              std::optional(unit));
     QVERIFY(!TimeText::unitNamed(u"x"));
     QVERIFY(!TimeText::unitNamed(u""));
+}
+
+void tst_TimeText::unitsAreUnderstoodInTheUsersLanguageToo()
+{
+    const FakeTranslator language(
+        {{QStringLiteral("h hr hrs hour hours"), QStringLiteral("Std  Stunde Stunden 時 m")},
+         {QStringLiteral("m min mins minute minutes"), QStringLiteral("Minute Minuten")},
+         {QStringLiteral("and"), QStringLiteral("und")}});
+    QCOMPARE(TimeText::unitNamed(u"STUNDEN"), std::optional(Unit::Hours));
+    QCOMPARE(TimeText::unitNamed(u"時"), std::optional(Unit::Hours));
+    QCOMPARE(TimeText::unitNamed(u"hours"), std::optional(Unit::Hours));
+    // An English word keeps its meaning, whatever a translation says.
+    QCOMPARE(TimeText::unitNamed(u"m"), std::optional(Unit::Minutes));
+    QVERIFY(!TimeText::unitNamed(u""));
+    QCOMPARE(TimeText::read(u"1 Stunde und 5 Minuten"), std::optional(Time{1, 5, 0}));
+    QCOMPARE(TimeText::read(u"1 Std. 5"), std::optional(Time{1, 5, 0}));
+    QCOMPARE(TimeText::read(u"1 hour and 5 minutes"), std::optional(Time{1, 5, 0}));
 }
 
 void tst_TimeText::aTextOfAnyLengthIsReadAtOnce()

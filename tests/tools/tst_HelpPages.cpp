@@ -1,3 +1,4 @@
+#include "support/FakeTranslator.h"
 #include "support/TestMain.h"
 #include "tools/HelpPages.h"
 
@@ -5,45 +6,75 @@
 #include <QRegularExpression>
 #include <QSet>
 
+namespace
+{
+const QString kPages = QStringLiteral(":/help");
+
+/// All matches of the expression's group in the text.
+QStringList matches(const QString &expression, const QString &text)
+{
+    QStringList found;
+    QRegularExpressionMatchIterator each = QRegularExpression(expression).globalMatch(text);
+    while (each.hasNext())
+        found << each.next().captured(1);
+    return found;
+}
+
+QStringList linksOf(const HelpPage &page)
+{
+    return matches(QStringLiteral("href=\"([^\"]*)\""), page.html);
+}
+
+/// The pages of a language, by the name of their folder.
+std::vector<HelpPage> pagesIn(const QString &folder)
+{
+    const FakeTranslator language({{QStringLiteral("en"), folder}});
+    return helpPages({});
+}
+
+/// The tags of a page in their order, without the texts.
+QStringList tagsOf(const HelpPage &page)
+{
+    return matches(QStringLiteral("(<[^>]*>)"), page.html);
+}
+} // namespace
+
 /// The help pages without a browser.
 class tst_HelpPages final : public Test
 {
     Q_OBJECT
 
 private Q_SLOTS:
+    void everyFileIsAPage_data() { languages(); }
     void everyFileIsAPage();
+    void everyPageHasOneTitleAndOneName_data() { languages(); }
     void everyPageHasOneTitleAndOneName();
+    void everyLinkLeadsToAPlace_data() { languages(); }
     void everyLinkLeadsToAPlace();
     void theFirstPageLinksToEveryOther();
+    void thePagesOfALanguageAreBuiltLikeTheEnglishOnes_data() { languages(); }
+    void thePagesOfALanguageAreBuiltLikeTheEnglishOnes();
+    void languagesWithoutPagesGetTheEnglishOnesWithANote();
     void theKeysOfTheMenusAreListed();
 
 private:
-    /// All matches of the expression's group in the text.
-    static QStringList matches(const QString &expression, const QString &text)
+    /// A row for each language that has pages.
+    static void languages()
     {
-        QStringList found;
-        QRegularExpressionMatchIterator each = QRegularExpression(expression).globalMatch(text);
-        while (each.hasNext())
-            found << each.next().captured(1);
-        return found;
-    }
-    static QStringList linksOf(const HelpPage &page)
-    {
-        return matches(QStringLiteral("href=\"([^\"]*)\""), page.html);
-    }
-    static const HelpPage *pageNamed(const QString &name)
-    {
-        static const std::vector<HelpPage> pages = helpPages({});
-        const auto page = std::ranges::find(pages, name, &HelpPage::name);
-        return page == pages.end() ? nullptr : &*page;
+        QTest::addColumn<QString>("folder");
+        QTest::newRow("en") << QStringLiteral("en");
+        for (const QString &folder : QDir(kPages).entryList(QDir::Dirs))
+            QTest::newRow(qPrintable(folder)) << folder;
     }
 };
 
 void tst_HelpPages::everyFileIsAPage()
 {
-    QStringList files = QDir(QStringLiteral(":/help")).entryList();
+    QFETCH(const QString, folder);
+    const QString place = folder == QStringLiteral("en") ? kPages : kPages + u'/' + folder;
+    QStringList files = QDir(place).entryList(QDir::Files);
     QStringList pages;
-    for (const HelpPage &page : helpPages({}))
+    for (const HelpPage &page : pagesIn(folder))
         pages << page.name + QStringLiteral(".html");
     QCOMPARE(pages.first(), QStringLiteral("index.html"));
     QVERIFY(pages.contains(QStringLiteral("finish-actions.html")));
@@ -54,8 +85,9 @@ void tst_HelpPages::everyFileIsAPage()
 
 void tst_HelpPages::everyPageHasOneTitleAndOneName()
 {
+    QFETCH(const QString, folder);
     QSet<QString> titles;
-    for (const HelpPage &page : helpPages({})) {
+    for (const HelpPage &page : pagesIn(folder)) {
         QVERIFY2(!page.title.isEmpty() && !titles.contains(page.title), qPrintable(page.name));
         QCOMPARE(matches(QStringLiteral("<(h1)>"), page.html).size(), qsizetype(1));
         QVERIFY2(!page.html.contains(QStringLiteral("<!--")), qPrintable(page.name));
@@ -65,14 +97,16 @@ void tst_HelpPages::everyPageHasOneTitleAndOneName()
 
 void tst_HelpPages::everyLinkLeadsToAPlace()
 {
+    QFETCH(const QString, folder);
+    const std::vector<HelpPage> pages = pagesIn(folder);
     int links = 0;
-    for (const HelpPage &page : helpPages({})) {
+    for (const HelpPage &page : pages) {
         for (const QString &link : linksOf(page)) {
             const QString file = link.section(QLatin1Char('#'), 0, 0);
             const QString place = link.section(QLatin1Char('#'), 1);
             QVERIFY2(file.endsWith(QStringLiteral(".html")), qPrintable(link));
-            const HelpPage *target = pageNamed(file.chopped(5));
-            QVERIFY2(target, qPrintable(page.name + QStringLiteral(": ") + link));
+            const auto target = std::ranges::find(pages, file.chopped(5), &HelpPage::name);
+            QVERIFY2(target != pages.end(), qPrintable(page.name + QStringLiteral(": ") + link));
             QVERIFY2(target->name != page.name, qPrintable(link));
             const QString anchor = QStringLiteral("<a name=\"%1\">").arg(place);
             QVERIFY2(place.isEmpty() || target->html.contains(anchor), qPrintable(link));
@@ -80,6 +114,33 @@ void tst_HelpPages::everyLinkLeadsToAPlace()
         }
     }
     QVERIFY(links > 20);
+}
+
+void tst_HelpPages::thePagesOfALanguageAreBuiltLikeTheEnglishOnes()
+{
+    QFETCH(const QString, folder);
+    const std::vector<HelpPage> english = helpPages({});
+    const std::vector<HelpPage> pages = pagesIn(folder);
+    QCOMPARE(pages.size(), english.size());
+    for (std::size_t place = 0; place < pages.size(); ++place) {
+        QCOMPARE(pages.at(place).name, english.at(place).name);
+        QCOMPARE(tagsOf(pages.at(place)), tagsOf(english.at(place)));
+        QCOMPARE(pages.at(place).html == english.at(place).html, folder == QStringLiteral("en"));
+    }
+}
+
+void tst_HelpPages::languagesWithoutPagesGetTheEnglishOnesWithANote()
+{
+    const FakeTranslator language({{QStringLiteral("This help is available in English only."),
+                                    QStringLiteral("Aiuto <solo> in inglese.")}});
+    const std::vector<HelpPage> english = pagesIn(QStringLiteral("fr"));
+    for (const HelpPage &page : helpPages({})) {
+        QVERIFY2(page.html.startsWith(QStringLiteral("<p><i>Aiuto &lt;solo&gt; in inglese.</i></p>"
+                                                     "<h1>")),
+                 qPrintable(page.html.first(60)));
+    }
+    QVERIFY(helpPages({}).front().title == QStringLiteral("Welcome to Wuffer"));
+    QVERIFY(english.front().html.startsWith(QStringLiteral("<h1>")));
 }
 
 void tst_HelpPages::theFirstPageLinksToEveryOther()
