@@ -9,6 +9,7 @@ namespace Mnemonics
 /// the one to press.
 [[nodiscard]] QString escaped(QString text);
 
-/// What an item of a menu or a button that was given the text shows, without the underline.
+/// What an item of a menu or a button that was given the text shows, without the underline, and
+/// without a letter that only names the key: "ファイル(&F)" is "ファイル".
 [[nodiscard]] QString shown(const QString &text);
 } // namespace Mnemonics

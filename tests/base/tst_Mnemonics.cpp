@@ -39,12 +39,19 @@ void tst_Mnemonics::theMarkIsNotShown_data()
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("shown");
     const auto row = [](const char *name, const char *text, const char *shown) {
-        QTest::newRow(name) << QString::fromLatin1(text) << QString::fromLatin1(shown);
+        QTest::newRow(name) << QString::fromUtf8(text) << QString::fromUtf8(shown);
     };
     row("at the beginning", "&File", "File");
     row("in the middle", "When F&inished", "When Finished");
     row("beside the sign", "Fish &&& Chips", "Fish & Chips");
     row("at the end", "File&", "File");
+    row("added", "Datei (&F)", "Datei");
+    row("added before an ellipsis", "Datei(&F)…", "Datei…");
+    row("added before points", "Datei(&F)...", "Datei...");
+    row("added before a colon", "Datei(&F):", "Datei:");
+    row("parentheses of the text", "File (&Copy)", "File (Copy)");
+    row("a name in parentheses", "Chips (&&)", "Chips (&)");
+    row("parentheses inside", "A (&B) C", "A (B) C");
 }
 
 void tst_Mnemonics::theMarkIsNotShown()
