@@ -17,6 +17,7 @@ namespace
 {
 /// What the sound module is linked with.
 constexpr std::array kSoundLibraries{
+    //: What a library is used for.
     Library{"cubeb", QT_TRANSLATE_NOOP("AboutDialog", "sound output"), "ISC"},
     Library{"libsndfile", QT_TRANSLATE_NOOP("AboutDialog", "sound files"), "LGPL 2.1"},
     Library{"libmpg123", QT_TRANSLATE_NOOP("AboutDialog", "MP3 files"), "LGPL 2.1"},

@@ -4,11 +4,25 @@
 
 #include <algorithm>
 
-/// Replaces typographic apostrophes and non-breaking blanks by plain ones. Keeps the length.
+/// The letter without its accents, a plain apostrophe or a plain blank; other characters as they
+/// are.
+static QChar folded(QChar character)
+{
+    if (character == QChar(u'’'))
+        return QLatin1Char('\'');
+    if (character.isSpace())
+        return QLatin1Char(' ');
+    const QString parts = character.decomposition();
+    const bool isAccented = character.decompositionTag() == QChar::Canonical &&
+                            parts.front().script() == QChar::Script_Latin;
+    return isAccented ? folded(parts.front()) : character;
+}
+
+/// Folds each character, so the length stays. A word finds its other spellings in texts.
 static QString folded(QString text)
 {
-    text.replace(QChar(u'’'), QLatin1Char('\''));
-    return text.replace(QChar(QChar::Nbsp), QLatin1Char(' '));
+    std::ranges::transform(text, text.begin(), [](QChar each) { return folded(each); });
+    return text;
 }
 
 /// Adds every occurrence of the word; false if there is none.
@@ -42,7 +56,8 @@ std::vector<HelpHit> helpHits(const QString &text, const QString &words)
 {
     const QString searched = folded(text);
     std::vector<HelpHit> hits;
-    for (const QString &word : folded(words).simplified().split(u' ', Qt::SkipEmptyParts)) {
+    const QString searchedWords = folded(words.normalized(QString::NormalizationForm_C));
+    for (const QString &word : searchedWords.simplified().split(u' ', Qt::SkipEmptyParts)) {
         if (!addHits(hits, searched, word))
             return {};
     }

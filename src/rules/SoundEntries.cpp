@@ -12,8 +12,10 @@ namespace
 using SoundEntries::Row;
 
 constexpr std::array kRows{
+    //: A sound of the program: the bark of a dog.
     Row{SoundEntry::Wuff, kWuffSound, QT_TRANSLATE_NOOP("SoundEntries", "Wuff (Default)"),
         u"wolvesWuff.wav"},
+    //: A sound of the program: the caw of a crow.
     Row{SoundEntry::Crow, kCrowSound, QT_TRANSLATE_NOOP("SoundEntries", "Crow (Default)"),
         u"crow.wav"},
     Row{SoundEntry::SelectAnother,

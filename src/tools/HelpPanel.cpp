@@ -135,6 +135,7 @@ void HelpPanel::addToList(int page, int hits)
     if (isSearching() && hits == 0)
         return;
     const QString &title = _ui->_browser->pages().at(static_cast<std::size_t>(page)).title;
+    //: The title of a page of the help, and how often it has the searched words.
     const QString text = isSearching() ? tr("%1 (%2)").arg(title, locale().toString(hits)) : title;
     auto *item = new QListWidgetItem(text, _ui->_pageList);
     item->setData(Qt::UserRole, page);
@@ -230,6 +231,7 @@ void HelpPanel::showCount()
 {
     QString text;
     if (const std::optional<std::size_t> selected = selectedHit())
+        //: The number of the selected place among all places with the searched words.
         text =
             tr("%1 of %2").arg(locale().toString(*selected + 1), locale().toString(_hits.size()));
     else if (!_hits.empty())

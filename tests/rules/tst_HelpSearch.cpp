@@ -39,6 +39,17 @@ void tst_HelpSearch::wordsAreFound_data()
     row("signs that mean something elsewhere", "loop.*", "");
     row("a sign", ".", ".|");
     row("blanks around the word", "  stop  ", "stop|");
+    const QString french = QStringLiteral("Un préréglage\u202f: Ở là");
+    const auto inFrench = [&](const char *name, const char *words, const char *found) {
+        QTest::newRow(name) << french << QString::fromUtf8(words) << QString::fromUtf8(found);
+    };
+    inFrench("without accents", "prereglage", "préréglage|");
+    inFrench("with accents", "PRÉRÉGLAGE", "préréglage|");
+    inFrench("with accents that are characters of their own", "pre\u0301", "pré|");
+    inFrench("two accents on a letter", "o", "Ở|");
+    inFrench("on both sides of a narrow blank", "préréglage :", "préréglage|:|");
+    QTest::newRow("syllables that begin alike")
+        << QStringLiteral("각") << QStringLiteral("가") << QString();
     QTest::newRow("in an empty text") << QString() << QStringLiteral("a") << QString();
 }
 

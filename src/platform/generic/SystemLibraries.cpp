@@ -4,6 +4,7 @@
 
 const char *SystemLibraries::useOfQt()
 {
+    //: What a library is used for.
     return QT_TRANSLATE_NOOP("AboutDialog", "windows");
 }
 

@@ -44,10 +44,12 @@ struct Button
 };
 
 constexpr std::array kButtons{
+    //: A button of a notification: brings the timer to the front.
     Button{QLatin1String("default"), QT_TRANSLATE_NOOP("FreedesktopNotifications", "Show"),
            &DesktopNotification::show},
     Button{QLatin1String("show"), QT_TRANSLATE_NOOP("FreedesktopNotifications", "Show"),
            &DesktopNotification::show},
+    //: A button of a notification: ends the alarm.
     Button{QLatin1String("stop"), QT_TRANSLATE_NOOP("FreedesktopNotifications", "Stop"),
            &DesktopNotification::stop},
 };

@@ -13,6 +13,7 @@ constexpr std::array kBesideQt{
 
 const char *SystemLibraries::useOfQt()
 {
+    //: What a library is used for.
     return QT_TRANSLATE_NOOP("AboutDialog", "windows, session bus");
 }
 
