@@ -1,7 +1,7 @@
 # CPack runs this script. It brings the installed files into the form that Debian requires: a
-# compressed manual page and changelog, and the licence in a machine-readable file.
+# compressed manual pages and changelog, and the licence in a machine-readable file.
 set(doc "${CPACK_TEMPORARY_INSTALL_DIRECTORY}/usr/share/doc/wuffer")
-set(man "${CPACK_TEMPORARY_INSTALL_DIRECTORY}/usr/share/man/man1")
+file(GLOB_RECURSE manuals "${CPACK_TEMPORARY_INSTALL_DIRECTORY}/usr/share/man/*.1")
 
 # The text of the licence, as the value of a field: indented, with a dot for an empty line.
 file(READ "${CPACK_WUFFER_LICENSE}" license)
@@ -27,6 +27,6 @@ configure_file("${CPACK_WUFFER_DEBIAN_FOLDER}/changelog.in" "${doc}/changelog.De
 file(RENAME "${doc}/CHANGELOG.md" "${doc}/changelog")
 
 execute_process(
-    COMMAND gzip --best --no-name "${doc}/changelog" "${doc}/changelog.Debian" "${man}/wuffer.1"
+    COMMAND gzip --best --no-name "${doc}/changelog" "${doc}/changelog.Debian" ${manuals}
     COMMAND_ERROR_IS_FATAL ANY)
 file(CHMOD "${doc}/copyright" PERMISSIONS OWNER_READ OWNER_WRITE GROUP_READ WORLD_READ)

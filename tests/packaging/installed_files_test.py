@@ -4,10 +4,13 @@
 Usage: installed_files_test.py BUILD LIBDIR VERSION [unittest arguments]
 """
 
+import collections
 import configparser
 import os
+import re
 import struct
 import unittest
+from xml.etree import ElementTree
 
 from installation import Installation, run, take_argument
 
@@ -15,11 +18,18 @@ BUILD = os.path.abspath(take_argument())
 LIBDIR = take_argument()
 VERSION = take_argument()
 
+XML_LANGUAGE = "{http://www.w3.org/XML/1998/namespace}lang"
 ID = "org.wuffer.Wuffer"
 ENTRY = f"share/applications/{ID}.desktop"
 SERVICE = f"share/dbus-1/services/{ID}.service"
 METAINFO = f"share/metainfo/{ID}.metainfo.xml"
 MANUAL = "share/man/man1/wuffer.1"
+TRANSLATED_MANUALS = {language: f"share/man/{language}/man1/wuffer.1"
+                      for language in ("de", "es", "fr")}
+SOURCE = os.path.join(os.path.dirname(os.path.abspath(__file__)), "..", "..")
+LANGUAGES = {name.removeprefix("wuffer_").removesuffix(".ts")
+             for name in os.listdir(os.path.join(SOURCE, "translations"))
+             if name.endswith(".ts")}
 ICONS = {size: f"share/icons/hicolor/{size}x{size}/apps/wuffer.png"
          for size in (16, 22, 24, 32, 48, 64, 128, 256)}
 FILES = {
@@ -30,6 +40,7 @@ FILES = {
     SERVICE,
     METAINFO,
     MANUAL,
+    *TRANSLATED_MANUALS.values(),
     *ICONS.values(),
     "share/icons/hicolor/scalable/apps/wuffer.svg",
     "share/icons/hicolor/symbolic/apps/wuffer-symbolic.svg",
@@ -82,6 +93,17 @@ class InstalledFilesTest(unittest.TestCase):
         self.assertEqual({action: group["Exec"] for action, group in groups.items()}, ACTIONS)
         self.assertTrue(all(group["Name"] for group in groups.values()))
 
+    def test_the_desktop_entry_is_complete_in_every_language(self):
+        self.assertGreater(len(LANGUAGES), 7)
+        for name, group in self.entry().items():
+            for key in ("GenericName", "Comment", "Keywords", "Name"):
+                # The name of the program is the same everywhere.
+                if key not in group or (name, key) == ("Desktop Entry", "Name"):
+                    continue
+                for language in LANGUAGES:
+                    with self.subTest(group=name, key=key, language=language):
+                        self.assertTrue(group.get(f"{key}[{language}]"))
+
     def test_the_session_bus_starts_the_program_from_its_installed_path(self):
         service = self.service(self.installed)
         self.assertEqual(service["Name"], ID)
@@ -99,6 +121,17 @@ class InstalledFilesTest(unittest.TestCase):
     def test_the_metainfo_is_valid(self):
         run("appstreamcli", "validate", "--no-net", self.installed.path(METAINFO))
 
+    def test_the_metainfo_is_complete_in_every_language(self):
+        metainfo = ElementTree.parse(self.installed.path(METAINFO)).getroot()
+        texts = [element for element in metainfo.iter()
+                 if element.tag in ("summary", "p", "li", "keyword")]
+        names = {language.replace("_", "-") for language in LANGUAGES}
+        for tag in ("summary", "p", "li", "keyword"):
+            counts = collections.Counter(element.get(XML_LANGUAGE) for element in texts
+                                         if element.tag == tag and (element.text or "").strip())
+            with self.subTest(tag=tag):
+                self.assertEqual(counts, {name: counts[None] for name in {None, *names}})
+
     def test_the_latest_release_is_the_version_of_the_program(self):
         releases = [line for line in self.installed.read(METAINFO).splitlines()
                     if "<release " in line]
@@ -106,6 +139,16 @@ class InstalledFilesTest(unittest.TestCase):
 
     def test_the_manual_page_has_no_flaw(self):
         self.assertEqual(run("mandoc", "-T", "lint", self.installed.path(MANUAL)), "")
+
+    def test_the_translated_manual_pages_have_the_options_of_the_english_one(self):
+        options = re.compile(r"^\.It Fl .*$", re.MULTILINE)
+        english = options.findall(self.installed.read(MANUAL))
+        self.assertGreater(len(english), 5)
+        for language, page in TRANSLATED_MANUALS.items():
+            with self.subTest(language=language):
+                text = run("mandoc", "-T", "utf8", self.installed.path(page))
+                self.assertGreater(len(text.split()), 150)
+                self.assertEqual(options.findall(self.installed.read(page)), english)
 
     def test_each_icon_has_the_size_of_its_folder(self):
         for size, icon in ICONS.items():
