@@ -166,7 +166,7 @@ private:
 /// Skips what may separate two numbers with units: "1 hour, 5 minutes", "1 hour and 5".
 void skipSeparators(QStringView &text)
 {
-    takeWhile(text, [](QChar each) { return each.isSpace() || each == u','; });
+    takeWhile(text, [](QChar each) { return each.isSpace() || each == u',' || each == u'、'; });
     //: The word between two units: “1 hour and 5 minutes”.
     for (const QString &word : {QStringLiteral("and"), Texts::tr("and")}) {
         if (text.startsWith(word + u' ', Qt::CaseInsensitive)) {
@@ -269,8 +269,10 @@ std::optional<TimeText::Time> TimeText::read(QStringView text)
     text = text.trimmed();
     if (text.size() > kLongest)
         return std::nullopt;
-    const std::optional<Time> time = readAsClock(text);
-    return time ? time : readWithUnits(text);
+    // East Asian keyboards also type wide forms of digits, colons and letters.
+    const QString plain = text.toString().normalized(QString::NormalizationForm_KC);
+    const std::optional<Time> time = readAsClock(plain);
+    return time ? time : readWithUnits(plain);
 }
 
 std::optional<TimeText::Time> TimeText::spread(QStringView number, Unit unit)

@@ -114,7 +114,8 @@ bool TimeField::handleKey(const QKeyEvent &event)
 /// Reports a colon or a letter, which the field does not insert.
 void TimeField::reportRefused(const QString &typed)
 {
-    if (typed == u':')
+    constexpr char16_t wideColon = 0xFF1A;
+    if (typed == u':' || typed == wideColon)
         Q_EMIT colonTyped();
     else if (typed.size() == 1 && typed.front().isLetter())
         Q_EMIT letterTyped(typed.front());

@@ -84,6 +84,9 @@ void tst_TimeText::aTimeReadsAsPeopleWriteIt_data()
     row("99999999999 s", "0 0 2147483647");
     row("99999999999 d", "2147483647 0 0");
     QTest::newRow("۵:۳۰") << QStringLiteral("0 5 30");
+    QTest::newRow("１：０２：０３") << QStringLiteral("1 2 3");
+    QTest::newRow("１．５ｈ") << QStringLiteral("1 30 0");
+    QTest::newRow("1h、5m") << QStringLiteral("1 5 0");
 }
 
 void tst_TimeText::aTimeReadsAsPeopleWriteIt()
