@@ -1,6 +1,7 @@
 #include "app/CommandLine.h"
 #include "app/LaunchOrders.h"
 #include "app/SystemServices.h"
+#include "app/Translation.h"
 #include "app/WufferApplication.h"
 #include "app/WufferController.h"
 #include "platform/PlatformServices.h"
@@ -13,6 +14,7 @@ int main(int argc, char *argv[])
     PlatformServices::prepareProcess();
     const QVariantMap launch = SingleInstance::thisLaunch();
     const WufferApplication application(argc, argv);
+    const Translation translation;
     const CommandLine commandLine = readCommandLine(WufferApplication::arguments());
     if (writeAnswer(commandLine))
         return commandLine.exitStatus;

@@ -1,6 +1,7 @@
 #include "app/CommandLine.h"
 
 #include "BuildInfo.h"
+#include "app/Translation.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
@@ -87,6 +88,7 @@ bool answeredWithoutDisplay(int argc, char **argv)
     if (option == arguments.end())
         return false;
     const QCoreApplication application(argc, argv);
+    const Translation translation;
     return writeAnswer(readCommandLine(
         {QCoreApplication::arguments().constFirst(), QString::fromLocal8Bit(*option)}));
 }
