@@ -15,7 +15,7 @@
         <source>Copyright © 2026 The Wuffer developers
 Free software under the MIT License: use it, change it
 and pass it on. It comes without any warranty.</source>
-        <translation>Copyright © 2026 Die Entwickler von Wuffer
+        <translation>Copyright © 2026 The Wuffer developers
 Freie Software unter der MIT-Lizenz: Sie dürfen sie verwenden,
 ändern und weitergeben. Sie kommt ohne jede Gewährleistung.</translation>
     </message>
@@ -1388,7 +1388,7 @@ Pieptöne und das Ende eines Countdowns kommen bis zu 0,2 Sekunden verspätet.</
     <message>
         <source>Control-Drag a Wuffer</source>
         <extracomment>In place of the name of the timer to start: how to choose one.</extracomment>
-        <translation>Timer mit Strg herziehen</translation>
+        <translation>Timer mit Strg ziehen</translation>
     </message>
     <message>
         <source>When finished, this timer starts “%1”</source>

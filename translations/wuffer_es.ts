@@ -15,7 +15,7 @@
         <source>Copyright © 2026 The Wuffer developers
 Free software under the MIT License: use it, change it
 and pass it on. It comes without any warranty.</source>
-        <translation>Copyright © 2026 Los desarrolladores de Wuffer
+        <translation>Copyright © 2026 The Wuffer developers
 Software libre con la licencia MIT: se puede usar, modificar
 y redistribuir. Se ofrece sin garantía alguna.</translation>
     </message>
@@ -83,7 +83,7 @@ y redistribuir. Se ofrece sin garantía alguna.</translation>
     <name>CommandLine</name>
     <message>
         <source>Countdown timers for the desktop. The program that is running already carries out what is asked for here.</source>
-        <translation>Temporizadores de cuenta atrás para el escritorio. Si el programa ya está en marcha, es él quien lleva a cabo lo que aquí se pide.</translation>
+        <translation>Temporizadores de cuenta atrás para el escritorio. Si el programa ya está en marcha, es este el que lleva a cabo lo que aquí se pide.</translation>
     </message>
     <message>
         <source>Wait for the session bus to say what to open.</source>

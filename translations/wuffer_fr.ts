@@ -15,7 +15,7 @@
         <source>Copyright © 2026 The Wuffer developers
 Free software under the MIT License: use it, change it
 and pass it on. It comes without any warranty.</source>
-        <translation>Copyright © 2026 Les développeurs de Wuffer
+        <translation>Copyright © 2026 The Wuffer developers
 Logiciel libre sous licence MIT&#x202f;: utilisez-le, modifiez-le
 et partagez-le. Il est fourni sans aucune garantie.</translation>
     </message>
@@ -1379,7 +1379,7 @@ Les bips et la fin du décompte ont jusqu’à 0,2 seconde de retard.</translati
     </message>
     <message>
         <source>Ready when you are</source>
-        <translation>Prêt quand vous l’êtes</translation>
+        <translation>Prêt quand vous voulez</translation>
     </message>
     <message>
         <source>The preset that this timer turns into and runs when it has finished</source>
@@ -1396,7 +1396,7 @@ Les bips et la fin du décompte ont jusqu’à 0,2 seconde de retard.</translati
     </message>
     <message>
         <source>Hold Control and drag the window of another timer onto this one: it starts when this one has finished</source>
-        <translation>Maintenez Ctrl et faites glisser la fenêtre d’un autre minuteur sur celle-ci&#x202f;: il sera lancé à la fin de celui-ci</translation>
+        <translation>Maintenir Ctrl et faire glisser la fenêtre d’un autre minuteur sur celle-ci&#x202f;: il sera lancé à la fin de ce minuteur</translation>
     </message>
     <message>
         <source>Sound is off</source>

@@ -15,7 +15,7 @@
         <source>Copyright © 2026 The Wuffer developers
 Free software under the MIT License: use it, change it
 and pass it on. It comes without any warranty.</source>
-        <translation>Copyright © 2026 Gli sviluppatori di Wuffer
+        <translation>Copyright © 2026 The Wuffer developers
 Software libero con licenza MIT: usalo, modificalo
 e condividilo. È fornito senza alcuna garanzia.</translation>
     </message>
@@ -83,7 +83,7 @@ e condividilo. È fornito senza alcuna garanzia.</translation>
     <name>CommandLine</name>
     <message>
         <source>Countdown timers for the desktop. The program that is running already carries out what is asked for here.</source>
-        <translation>Timer con conto alla rovescia per il desktop. Se il programma è già in esecuzione, è quello a svolgere ciò che si chiede qui.</translation>
+        <translation>Timer con conto alla rovescia per il desktop. Se il programma è già in esecuzione, è quello a compiere le azioni richieste qui.</translation>
     </message>
     <message>
         <source>Wait for the session bus to say what to open.</source>
@@ -99,7 +99,7 @@ e condividilo. È fornito senza alcuna garanzia.</translation>
     </message>
     <message>
         <source>There is no use for “%1”.</source>
-        <translation>Parametro superfluo: «%1».</translation>
+        <translation>Argomento superfluo: «%1».</translation>
     </message>
     <message>
         <source>Open a new timer.</source>
@@ -875,7 +875,7 @@ e condividilo. È fornito senza alcuna garanzia.</translation>
         <source>Timers refresh their display less often and show no milliseconds.
 Beeps and the end of a countdown come up to 0.2 seconds late.</source>
         <translation>I timer aggiornano il display meno spesso e non mostrano i millisecondi.
-I bip e la fine del conto alla rovescia tardano fino a 0,2 secondi.</translation>
+I bip e la fine del conto alla rovescia ritardano al massimo di 0,2 secondi.</translation>
     </message>
     <message>
         <source>&amp;Energy saver</source>
@@ -1006,7 +1006,7 @@ I bip e la fine del conto alla rovescia tardano fino a 0,2 secondi.</translation
     </message>
     <message>
         <source>Shortcut: Hold Control and press a number key</source>
-        <translation>Scorciatoia: tenere premuto Ctrl e premere un tasto numerico</translation>
+        <translation>Scorciatoia: tieni premuto Ctrl e premi un tasto numerico</translation>
     </message>
     <message>
         <source>⌘%1 (Overwrite %2)</source>
@@ -1032,7 +1032,7 @@ I bip e la fine del conto alla rovescia tardano fino a 0,2 secondi.</translation
     </message>
     <message>
         <source>Clear custom sounds</source>
-        <translation>Rimuovi i suoni personalizzati</translation>
+        <translation>Rimuovi suoni personalizzati</translation>
     </message>
     <message>
         <source>Manage Sounds...</source>
@@ -1311,7 +1311,7 @@ I bip e la fine del conto alla rovescia tardano fino a 0,2 secondi.</translation
     </message>
     <message>
         <source>What happens when the countdown has ended and its alarm is over</source>
-        <translation>Che cosa succede quando il conto alla rovescia e l’allarme sono finiti</translation>
+        <translation>Che cosa succede quando il conto alla rovescia e l’allarme sono terminati</translation>
     </message>
     <message>
         <source>When finished</source>
@@ -1396,7 +1396,7 @@ I bip e la fine del conto alla rovescia tardano fino a 0,2 secondi.</translation
     </message>
     <message>
         <source>Hold Control and drag the window of another timer onto this one: it starts when this one has finished</source>
-        <translation>Tenere premuto Ctrl e trascinare la finestra di un altro timer su questa: l’altro parte quando questo è terminato</translation>
+        <translation>Tieni premuto Ctrl e trascina la finestra di un altro timer su questa: l’altro parte quando questo è terminato</translation>
     </message>
     <message>
         <source>Sound is off</source>
@@ -1404,7 +1404,7 @@ I bip e la fine del conto alla rovescia tardano fino a 0,2 secondi.</translation
     </message>
     <message>
         <source>Sound is on</source>
-        <translation>Audio attivo</translation>
+        <translation>Audio attivato</translation>
     </message>
     <message>
         <source>Let all timers be heard again</source>

@@ -16,8 +16,8 @@
 Free software under the MIT License: use it, change it
 and pass it on. It comes without any warranty.</source>
         <translation>Copyright © 2026 The Wuffer developers
-MIT ライセンスのフリーソフトウェアです。自由に使用、変更、
-再配布できます。いかなる保証もありません。</translation>
+MIT ライセンスのフリーソフトウェアです。
+自由に使用、変更、再配布できます。一切の保証はありません。</translation>
     </message>
     <message>
         <source>Libraries and their licences</source>
@@ -87,7 +87,7 @@ MIT ライセンスのフリーソフトウェアです。自由に使用、変�
     </message>
     <message>
         <source>Wait for the session bus to say what to open.</source>
-        <translation>何を開くか、セッションバスからの指示を待ちます。</translation>
+        <translation>セッションバス経由で、何を開くかの指示を待ちます。</translation>
     </message>
     <message>
         <source>Show this help.</source>
@@ -99,7 +99,7 @@ MIT ライセンスのフリーソフトウェアです。自由に使用、変�
     </message>
     <message>
         <source>There is no use for “%1”.</source>
-        <translation>「%1」は使用できません。</translation>
+        <translation>引数「%1」は指定できません。</translation>
     </message>
     <message>
         <source>Open a new timer.</source>
@@ -288,7 +288,7 @@ MIT ライセンスのフリーソフトウェアです。自由に使用、変�
     <message>
         <source>%1 menu</source>
         <extracomment>The title of a table of keys; %1 is the name of a menu.</extracomment>
-        <translation>%1 メニュー</translation>
+        <translation>%1メニュー</translation>
     </message>
     <message>
         <source>This help is available in English only.</source>
@@ -989,7 +989,7 @@ Beeps and the end of a countdown come up to 0.2 seconds late.</source>
     <message>
         <source>Saved to Preset %1</source>
         <extracomment>In the display of a timer saved into a preset; %1 is its number.</extracomment>
-        <translation>プリセット %1 に保存</translation>
+        <translation>プリセット %1 に保存しました</translation>
     </message>
 </context>
 <context>
