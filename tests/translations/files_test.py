@@ -1,0 +1,60 @@
+#!/usr/bin/python3
+"""Checks the files of the translations: that they hold the texts of the sources, and that no
+translation has lost anything.
+
+Usage: files_test.py FOLDER LANGUAGES LUPDATE [arguments of lupdate]
+
+LANGUAGES are separated by commas.
+"""
+
+import pathlib
+import shutil
+import subprocess
+import sys
+import tempfile
+import unittest
+
+import checks
+
+FOLDER = pathlib.Path(sys.argv[1])
+LANGUAGES = sys.argv[2].split(",")
+EXTRACT = sys.argv[3:]
+
+
+def path_of(language):
+    return FOLDER / f"wuffer_{language}.ts"
+
+
+def texts_in(path):
+    """The texts to be translated, each with the number of its plural forms."""
+    return {(each.context, each.source, each.comment, each.is_plural, len(each.forms))
+            for each in checks.messages(path)}
+
+
+class Files(unittest.TestCase):
+    def test_there_is_one_for_each_language(self):
+        self.assertEqual(sorted(FOLDER.glob("*.ts")), sorted(map(path_of, LANGUAGES)))
+
+    def test_they_hold_the_texts_of_the_sources(self):
+        with tempfile.TemporaryDirectory() as folder:
+            copies = [pathlib.Path(shutil.copy(path_of(language), folder))
+                      for language in LANGUAGES]
+            subprocess.run([*EXTRACT, *copies], check=True, stderr=subprocess.DEVNULL)
+            for copy in copies:
+                with self.subTest(file=copy.name):
+                    there = texts_in(FOLDER / copy.name)
+                    needed = texts_in(copy)
+                    self.assertTrue(needed)
+                    self.assertEqual(needed - there, set(), "missing: build update_translations")
+                    self.assertEqual(there - needed, set(), "needless: build update_translations")
+
+    def test_no_translation_has_lost_anything(self):
+        for language in LANGUAGES:
+            faults = [fault for message in checks.messages(path_of(language))
+                      for fault in checks.faults(message)]
+            with self.subTest(language=language):
+                self.assertEqual(faults, [], "\n".join(faults))
+
+
+if __name__ == "__main__":
+    unittest.main(argv=sys.argv[:1])
