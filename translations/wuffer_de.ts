@@ -20,7 +20,7 @@ Freie Software unter der MIT-Lizenz: Sie dürfen sie verwenden,
 ändern und weitergeben. Sie kommt ohne jede Gewährleistung.</translation>
     </message>
     <message>
-        <source>Libraries and their licences</source>
+        <source>Libraries and their licenses</source>
         <translation>Bibliotheken und ihre Lizenzen</translation>
     </message>
 </context>
@@ -82,7 +82,7 @@ Freie Software unter der MIT-Lizenz: Sie dürfen sie verwenden,
 <context>
     <name>CommandLine</name>
     <message>
-        <source>Countdown timers for the desktop. The program that is running already carries out what is asked for here.</source>
+        <source>Countdown timers for the desktop. If the program is already running, it carries out what is asked for here.</source>
         <translation>Countdown-Timer für den Desktop. Läuft das Programm bereits, führt es aus, was hier angegeben ist.</translation>
     </message>
     <message>
@@ -98,7 +98,7 @@ Freie Software unter der MIT-Lizenz: Sie dürfen sie verwenden,
         <translation>Die Version anzeigen.</translation>
     </message>
     <message>
-        <source>There is no use for “%1”.</source>
+        <source>Unexpected argument “%1”.</source>
         <translation>Unerwartetes Argument: „%1“.</translation>
     </message>
     <message>
@@ -1124,6 +1124,7 @@ Pieptöne und das Ende eines Countdowns kommen bis zu 0,2 Sekunden verspätet.</
     </message>
     <message>
         <source>%1s</source>
+        <extracomment>The last part of a running time, such as “1h 5m 3s”.</extracomment>
         <translation>%1s</translation>
     </message>
     <message>
@@ -1163,9 +1164,9 @@ Pieptöne und das Ende eines Countdowns kommen bis zu 0,2 Sekunden verspätet.</
 <context>
     <name>TimerRun</name>
     <message>
-        <source> (x%1)</source>
-        <extracomment>After a time: the number of the pass of a timer that loops.</extracomment>
-        <translation> (x%1)</translation>
+        <source>%1 (x%2)</source>
+        <extracomment>A time, and the number of the pass of a timer that loops.</extracomment>
+        <translation>%1 (x%2)</translation>
     </message>
 </context>
 <context>

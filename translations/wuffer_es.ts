@@ -20,7 +20,7 @@ Software libre con la licencia MIT: se puede usar, modificar
 y redistribuir. Se ofrece sin garantía alguna.</translation>
     </message>
     <message>
-        <source>Libraries and their licences</source>
+        <source>Libraries and their licenses</source>
         <translation>Bibliotecas y sus licencias</translation>
     </message>
 </context>
@@ -82,7 +82,7 @@ y redistribuir. Se ofrece sin garantía alguna.</translation>
 <context>
     <name>CommandLine</name>
     <message>
-        <source>Countdown timers for the desktop. The program that is running already carries out what is asked for here.</source>
+        <source>Countdown timers for the desktop. If the program is already running, it carries out what is asked for here.</source>
         <translation>Temporizadores de cuenta atrás para el escritorio. Si el programa ya está en marcha, es este el que lleva a cabo lo que aquí se pide.</translation>
     </message>
     <message>
@@ -98,7 +98,7 @@ y redistribuir. Se ofrece sin garantía alguna.</translation>
         <translation>Mostrar la versión.</translation>
     </message>
     <message>
-        <source>There is no use for “%1”.</source>
+        <source>Unexpected argument “%1”.</source>
         <translation>No se sabe qué hacer con «%1».</translation>
     </message>
     <message>
@@ -1124,6 +1124,7 @@ Los pitidos y el final de la cuenta atrás llegan hasta 0,2 segundos tarde.</tra
     </message>
     <message>
         <source>%1s</source>
+        <extracomment>The last part of a running time, such as “1h 5m 3s”.</extracomment>
         <translation>%1s</translation>
     </message>
     <message>
@@ -1163,9 +1164,9 @@ Los pitidos y el final de la cuenta atrás llegan hasta 0,2 segundos tarde.</tra
 <context>
     <name>TimerRun</name>
     <message>
-        <source> (x%1)</source>
-        <extracomment>After a time: the number of the pass of a timer that loops.</extracomment>
-        <translation> (x%1)</translation>
+        <source>%1 (x%2)</source>
+        <extracomment>A time, and the number of the pass of a timer that loops.</extracomment>
+        <translation>%1 (x%2)</translation>
     </message>
 </context>
 <context>

@@ -20,7 +20,7 @@ Logiciel libre sous licence MIT&#x202f;: utilisez-le, modifiez-le
 et partagez-le. Il est fourni sans aucune garantie.</translation>
     </message>
     <message>
-        <source>Libraries and their licences</source>
+        <source>Libraries and their licenses</source>
         <translation>Bibliothèques et leurs licences</translation>
     </message>
 </context>
@@ -82,7 +82,7 @@ et partagez-le. Il est fourni sans aucune garantie.</translation>
 <context>
     <name>CommandLine</name>
     <message>
-        <source>Countdown timers for the desktop. The program that is running already carries out what is asked for here.</source>
+        <source>Countdown timers for the desktop. If the program is already running, it carries out what is asked for here.</source>
         <translation>Minuteurs pour le bureau. Si le programme est déjà lancé, c’est lui qui exécute ce qui est demandé ici.</translation>
     </message>
     <message>
@@ -98,7 +98,7 @@ et partagez-le. Il est fourni sans aucune garantie.</translation>
         <translation>Afficher la version.</translation>
     </message>
     <message>
-        <source>There is no use for “%1”.</source>
+        <source>Unexpected argument “%1”.</source>
         <translation>Argument inattendu&#x202f;: «&#x202f;%1&#x202f;».</translation>
     </message>
     <message>
@@ -1124,6 +1124,7 @@ Les bips et la fin du décompte ont jusqu’à 0,2 seconde de retard.</translati
     </message>
     <message>
         <source>%1s</source>
+        <extracomment>The last part of a running time, such as “1h 5m 3s”.</extracomment>
         <translation>%1s</translation>
     </message>
     <message>
@@ -1163,9 +1164,9 @@ Les bips et la fin du décompte ont jusqu’à 0,2 seconde de retard.</translati
 <context>
     <name>TimerRun</name>
     <message>
-        <source> (x%1)</source>
-        <extracomment>After a time: the number of the pass of a timer that loops.</extracomment>
-        <translation> (x%1)</translation>
+        <source>%1 (x%2)</source>
+        <extracomment>A time, and the number of the pass of a timer that loops.</extracomment>
+        <translation>%1 (x%2)</translation>
     </message>
 </context>
 <context>

@@ -20,7 +20,7 @@ Software libero con licenza MIT: usalo, modificalo
 e condividilo. È fornito senza alcuna garanzia.</translation>
     </message>
     <message>
-        <source>Libraries and their licences</source>
+        <source>Libraries and their licenses</source>
         <translation>Librerie e relative licenze</translation>
     </message>
 </context>
@@ -82,7 +82,7 @@ e condividilo. È fornito senza alcuna garanzia.</translation>
 <context>
     <name>CommandLine</name>
     <message>
-        <source>Countdown timers for the desktop. The program that is running already carries out what is asked for here.</source>
+        <source>Countdown timers for the desktop. If the program is already running, it carries out what is asked for here.</source>
         <translation>Timer con conto alla rovescia per il desktop. Se il programma è già in esecuzione, è quello a compiere le azioni richieste qui.</translation>
     </message>
     <message>
@@ -98,7 +98,7 @@ e condividilo. È fornito senza alcuna garanzia.</translation>
         <translation>Mostra la versione.</translation>
     </message>
     <message>
-        <source>There is no use for “%1”.</source>
+        <source>Unexpected argument “%1”.</source>
         <translation>Argomento superfluo: «%1».</translation>
     </message>
     <message>
@@ -1124,6 +1124,7 @@ I bip e la fine del conto alla rovescia ritardano al massimo di 0,2 secondi.</tr
     </message>
     <message>
         <source>%1s</source>
+        <extracomment>The last part of a running time, such as “1h 5m 3s”.</extracomment>
         <translation>%1s</translation>
     </message>
     <message>
@@ -1163,9 +1164,9 @@ I bip e la fine del conto alla rovescia ritardano al massimo di 0,2 secondi.</tr
 <context>
     <name>TimerRun</name>
     <message>
-        <source> (x%1)</source>
-        <extracomment>After a time: the number of the pass of a timer that loops.</extracomment>
-        <translation> (x%1)</translation>
+        <source>%1 (x%2)</source>
+        <extracomment>A time, and the number of the pass of a timer that loops.</extracomment>
+        <translation>%1 (x%2)</translation>
     </message>
 </context>
 <context>

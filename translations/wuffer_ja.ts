@@ -20,7 +20,7 @@ MIT ライセンスのフリーソフトウェアです。
 自由に使用、変更、再配布できます。一切の保証はありません。</translation>
     </message>
     <message>
-        <source>Libraries and their licences</source>
+        <source>Libraries and their licenses</source>
         <translation>ライブラリとそのライセンス</translation>
     </message>
 </context>
@@ -82,7 +82,7 @@ MIT ライセンスのフリーソフトウェアです。
 <context>
     <name>CommandLine</name>
     <message>
-        <source>Countdown timers for the desktop. The program that is running already carries out what is asked for here.</source>
+        <source>Countdown timers for the desktop. If the program is already running, it carries out what is asked for here.</source>
         <translation>デスクトップのカウントダウンタイマー。Wuffer がすでに実行中の場合は、そのプログラムが指定された操作を行います。</translation>
     </message>
     <message>
@@ -98,7 +98,7 @@ MIT ライセンスのフリーソフトウェアです。
         <translation>バージョンを表示します。</translation>
     </message>
     <message>
-        <source>There is no use for “%1”.</source>
+        <source>Unexpected argument “%1”.</source>
         <translation>引数「%1」は指定できません。</translation>
     </message>
     <message>
@@ -1122,6 +1122,7 @@ Beeps and the end of a countdown come up to 0.2 seconds late.</source>
     </message>
     <message>
         <source>%1s</source>
+        <extracomment>The last part of a running time, such as “1h 5m 3s”.</extracomment>
         <translation>%1s</translation>
     </message>
     <message>
@@ -1161,9 +1162,9 @@ Beeps and the end of a countdown come up to 0.2 seconds late.</source>
 <context>
     <name>TimerRun</name>
     <message>
-        <source> (x%1)</source>
-        <extracomment>After a time: the number of the pass of a timer that loops.</extracomment>
-        <translation> (%1 回目)</translation>
+        <source>%1 (x%2)</source>
+        <extracomment>A time, and the number of the pass of a timer that loops.</extracomment>
+        <translation>%1 (%2 回目)</translation>
     </message>
 </context>
 <context>

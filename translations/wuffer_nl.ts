@@ -15,12 +15,12 @@
         <source>Copyright © 2026 The Wuffer developers
 Free software under the MIT License: use it, change it
 and pass it on. It comes without any warranty.</source>
-        <translation>Copyright © 2026 De ontwikkelaars van Wuffer
-Vrije software onder de MIT-licentie: gebruik, wijzig
-en verspreid de software. Zonder enige garantie.</translation>
+        <translation>Copyright © 2026 The Wuffer developers
+Vrije software onder de MIT-licentie: gebruiken, wijzigen
+en verspreiden is toegestaan. Zonder enige garantie.</translation>
     </message>
     <message>
-        <source>Libraries and their licences</source>
+        <source>Libraries and their licenses</source>
         <translation>Bibliotheken en hun licenties</translation>
     </message>
 </context>
@@ -82,8 +82,8 @@ en verspreid de software. Zonder enige garantie.</translation>
 <context>
     <name>CommandLine</name>
     <message>
-        <source>Countdown timers for the desktop. The program that is running already carries out what is asked for here.</source>
-        <translation>Afteltimers voor het bureaublad. Als het programma al draait, voert het zelf uit wat hier wordt gevraagd.</translation>
+        <source>Countdown timers for the desktop. If the program is already running, it carries out what is asked for here.</source>
+        <translation>Afteltimers voor het bureaublad. Als het programma al draait, voert dat exemplaar uit wat hier wordt gevraagd.</translation>
     </message>
     <message>
         <source>Wait for the session bus to say what to open.</source>
@@ -98,7 +98,7 @@ en verspreid de software. Zonder enige garantie.</translation>
         <translation>De versie tonen.</translation>
     </message>
     <message>
-        <source>There is no use for “%1”.</source>
+        <source>Unexpected argument “%1”.</source>
         <translation>Onbekend argument: ‘%1’.</translation>
     </message>
     <message>
@@ -294,7 +294,7 @@ en verspreid de software. Zonder enige garantie.</translation>
     </message>
     <message>
         <source>This help is available in English only.</source>
-        <translation>Deze hulp is alleen in het Engels beschikbaar.</translation>
+        <translation>Deze help is alleen in het Engels beschikbaar.</translation>
     </message>
 </context>
 <context>
@@ -345,7 +345,7 @@ en verspreid de software. Zonder enige garantie.</translation>
     <message>
         <source>Only a timer that is to “%1” when finished can go on wuffing</source>
         <extracomment>%1 is the finish action “Do Nothing”.</extracomment>
-        <translation>Een timer kan alleen blijven blaffen als na afloop ‘%1’ is gekozen</translation>
+        <translation>Alleen met ‘%1’ als actie na afloop kan een timer blijven blaffen</translation>
     </message>
     <message>
         <source>The sound of all timers is off</source>
@@ -875,7 +875,7 @@ en verspreid de software. Zonder enige garantie.</translation>
         <source>Timers refresh their display less often and show no milliseconds.
 Beeps and the end of a countdown come up to 0.2 seconds late.</source>
         <translation>Timers verversen hun display minder vaak en tonen geen milliseconden.
-Pieptonen en het einde van het aftellen komen tot 0,2 seconden later.</translation>
+Pieptonen en het einde van het aftellen komen tot 0,2 seconden te laat.</translation>
     </message>
     <message>
         <source>&amp;Energy saver</source>
@@ -1061,7 +1061,7 @@ Pieptonen en het einde van het aftellen komen tot 0,2 seconden later.</translati
     <message>
         <source>Ring &amp;at:</source>
         <extracomment>Stands before the date and time at which a timer rings.</extracomment>
-        <translation>&amp;Alarm op:</translation>
+        <translation>Ala&amp;rm op:</translation>
     </message>
     <message>
         <source>Date and time</source>
@@ -1124,6 +1124,7 @@ Pieptonen en het einde van het aftellen komen tot 0,2 seconden later.</translati
     </message>
     <message>
         <source>%1s</source>
+        <extracomment>The last part of a running time, such as “1h 5m 3s”.</extracomment>
         <translation>%1s</translation>
     </message>
     <message>
@@ -1163,9 +1164,9 @@ Pieptonen en het einde van het aftellen komen tot 0,2 seconden later.</translati
 <context>
     <name>TimerRun</name>
     <message>
-        <source> (x%1)</source>
-        <extracomment>After a time: the number of the pass of a timer that loops.</extracomment>
-        <translation> (x%1)</translation>
+        <source>%1 (x%2)</source>
+        <extracomment>A time, and the number of the pass of a timer that loops.</extracomment>
+        <translation>%1 (x%2)</translation>
     </message>
 </context>
 <context>
@@ -1383,7 +1384,7 @@ Pieptonen en het einde van het aftellen komen tot 0,2 seconden later.</translati
     </message>
     <message>
         <source>The preset that this timer turns into and runs when it has finished</source>
-        <translation>De preset die deze timer na afloop overneemt en start</translation>
+        <translation>De preset die na afloop in deze timer wordt geladen en gestart</translation>
     </message>
     <message>
         <source>Control-Drag a Wuffer</source>

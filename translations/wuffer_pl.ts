@@ -15,12 +15,12 @@
         <source>Copyright © 2026 The Wuffer developers
 Free software under the MIT License: use it, change it
 and pass it on. It comes without any warranty.</source>
-        <translation>Copyright © 2026 Twórcy programu Wuffer
+        <translation>Copyright © 2026 The Wuffer developers
 Wolne oprogramowanie na licencji MIT: można go używać, zmieniać je
 i przekazywać dalej. Program nie jest objęty żadną gwarancją.</translation>
     </message>
     <message>
-        <source>Libraries and their licences</source>
+        <source>Libraries and their licenses</source>
         <translation>Biblioteki i ich licencje</translation>
     </message>
 </context>
@@ -82,7 +82,7 @@ i przekazywać dalej. Program nie jest objęty żadną gwarancją.</translation>
 <context>
     <name>CommandLine</name>
     <message>
-        <source>Countdown timers for the desktop. The program that is running already carries out what is asked for here.</source>
+        <source>Countdown timers for the desktop. If the program is already running, it carries out what is asked for here.</source>
         <translation>Minutniki na pulpit. Jeśli program już działa, to on wykona wydane tu polecenia.</translation>
     </message>
     <message>
@@ -98,7 +98,7 @@ i przekazywać dalej. Program nie jest objęty żadną gwarancją.</translation>
         <translation>Pokazuje wersję.</translation>
     </message>
     <message>
-        <source>There is no use for “%1”.</source>
+        <source>Unexpected argument “%1”.</source>
         <translation>Zbędny argument: „%1”.</translation>
     </message>
     <message>
@@ -296,7 +296,7 @@ i przekazywać dalej. Program nie jest objęty żadną gwarancją.</translation>
     </message>
     <message>
         <source>This help is available in English only.</source>
-        <translation>Ta pomoc jest dostępna tylko w języku angielskim.</translation>
+        <translation>Ta pomoc jest dostępna tylko po angielsku.</translation>
     </message>
 </context>
 <context>
@@ -347,7 +347,7 @@ i przekazywać dalej. Program nie jest objęty żadną gwarancją.</translation>
     <message>
         <source>Only a timer that is to “%1” when finished can go on wuffing</source>
         <extracomment>%1 is the finish action “Do Nothing”.</extracomment>
-        <translation>Szczekać dalej może tylko minutnik z czynnością „%1” po zakończeniu</translation>
+        <translation>Szczekać dalej może tylko minutnik z czynnością po zakończeniu „%1”</translation>
     </message>
     <message>
         <source>The sound of all timers is off</source>
@@ -660,11 +660,11 @@ i przekazywać dalej. Program nie jest objęty żadną gwarancją.</translation>
     </message>
     <message>
         <source>Very cool|Gas ¼|225 °F|107 °C|110 °C</source>
-        <translation>Bardzo letni|Gaz ¼|225 °F|107 °C|110 °C</translation>
+        <translation>Ledwie letni|Gaz ¼|225 °F|107 °C|110 °C</translation>
     </message>
     <message>
         <source>Very cool|Gas ½|250 °F|121 °C|120 °C</source>
-        <translation>Bardzo letni|Gaz ½|250 °F|121 °C|120 °C</translation>
+        <translation>Ledwie letni|Gaz ½|250 °F|121 °C|120 °C</translation>
     </message>
     <message>
         <source>Cool|Gas 1|275 °F|135 °C|140 °C</source>
@@ -1126,6 +1126,7 @@ Sygnały i koniec odliczania mogą się spóźnić do 0,2 sekundy.</translation>
     </message>
     <message>
         <source>%1s</source>
+        <extracomment>The last part of a running time, such as “1h 5m 3s”.</extracomment>
         <translation>%1s</translation>
     </message>
     <message>
@@ -1165,9 +1166,9 @@ Sygnały i koniec odliczania mogą się spóźnić do 0,2 sekundy.</translation>
 <context>
     <name>TimerRun</name>
     <message>
-        <source> (x%1)</source>
-        <extracomment>After a time: the number of the pass of a timer that loops.</extracomment>
-        <translation> (x%1)</translation>
+        <source>%1 (x%2)</source>
+        <extracomment>A time, and the number of the pass of a timer that loops.</extracomment>
+        <translation>%1 (x%2)</translation>
     </message>
 </context>
 <context>
@@ -1330,7 +1331,7 @@ Sygnały i koniec odliczania mogą się spóźnić do 0,2 sekundy.</translation>
     <message>
         <source>What the finish action starts</source>
         <extracomment>Accessible name of the list of presets, or of the linked timer.</extracomment>
-        <translation>Co uruchamia czynność po zakończeniu</translation>
+        <translation>Co zostanie uruchomione po zakończeniu</translation>
     </message>
     <message>
         <source>Choose from the open timers</source>

@@ -15,12 +15,12 @@
         <source>Copyright © 2026 The Wuffer developers
 Free software under the MIT License: use it, change it
 and pass it on. It comes without any warranty.</source>
-        <translation>Copyright © 2026 Os desenvolvedores do Wuffer
+        <translation>Copyright © 2026 The Wuffer developers
 Software livre sob a Licença MIT: use, modifique
 e distribua à vontade. Sem qualquer garantia.</translation>
     </message>
     <message>
-        <source>Libraries and their licences</source>
+        <source>Libraries and their licenses</source>
         <translation>Bibliotecas e suas licenças</translation>
     </message>
 </context>
@@ -82,7 +82,7 @@ e distribua à vontade. Sem qualquer garantia.</translation>
 <context>
     <name>CommandLine</name>
     <message>
-        <source>Countdown timers for the desktop. The program that is running already carries out what is asked for here.</source>
+        <source>Countdown timers for the desktop. If the program is already running, it carries out what is asked for here.</source>
         <translation>Temporizadores de contagem regressiva para o computador. Se o programa já estiver em execução, é ele que atende ao que for pedido aqui.</translation>
     </message>
     <message>
@@ -98,7 +98,7 @@ e distribua à vontade. Sem qualquer garantia.</translation>
         <translation>Mostra a versão.</translation>
     </message>
     <message>
-        <source>There is no use for “%1”.</source>
+        <source>Unexpected argument “%1”.</source>
         <translation>Argumento inesperado: “%1”.</translation>
     </message>
     <message>
@@ -345,7 +345,7 @@ e distribua à vontade. Sem qualquer garantia.</translation>
     <message>
         <source>Only a timer that is to “%1” when finished can go on wuffing</source>
         <extracomment>%1 is the finish action “Do Nothing”.</extracomment>
-        <translation>Só pode latir sem parar um temporizador definido para “%1” ao terminar</translation>
+        <translation>Só um temporizador definido para “%1” ao terminar pode latir sem parar</translation>
     </message>
     <message>
         <source>The sound of all timers is off</source>
@@ -856,7 +856,7 @@ e distribua à vontade. Sem qualquer garantia.</translation>
     </message>
     <message>
         <source>The desktop does not tell of countdowns that have ended</source>
-        <translation>Nenhum aviso é exibido quando uma contagem regressiva termina</translation>
+        <translation>A área de trabalho não avisa quando uma contagem regressiva termina</translation>
     </message>
     <message>
         <source>Turn off &amp;notifications</source>
@@ -1124,6 +1124,7 @@ Os bipes e o fim da contagem podem atrasar até 0,2 segundo.</translation>
     </message>
     <message>
         <source>%1s</source>
+        <extracomment>The last part of a running time, such as “1h 5m 3s”.</extracomment>
         <translation>%1s</translation>
     </message>
     <message>
@@ -1163,9 +1164,9 @@ Os bipes e o fim da contagem podem atrasar até 0,2 segundo.</translation>
 <context>
     <name>TimerRun</name>
     <message>
-        <source> (x%1)</source>
-        <extracomment>After a time: the number of the pass of a timer that loops.</extracomment>
-        <translation> (x%1)</translation>
+        <source>%1 (x%2)</source>
+        <extracomment>A time, and the number of the pass of a timer that loops.</extracomment>
+        <translation>%1 (x%2)</translation>
     </message>
 </context>
 <context>

@@ -23,8 +23,8 @@ QString translated(const char *text)
 void describe(QCommandLineParser &parser)
 {
     parser.setApplicationDescription(translated(
-        QT_TRANSLATE_NOOP("CommandLine", "Countdown timers for the desktop. The program that is "
-                                         "running already carries out what is asked for here.")));
+        QT_TRANSLATE_NOOP("CommandLine", "Countdown timers for the desktop. If the program is "
+                                         "already running, it carries out what is asked for here.")));
     for (const NamedLaunchOrder &order : kNamedLaunchOrders)
         parser.addOption({QString::fromLatin1(order.name), translated(order.description)});
     QCommandLineOption service(
@@ -59,7 +59,7 @@ CommandLine readCommandLine(const QStringList &arguments)
                           QLatin1Char('\n')};
     if (!parser.positionalArguments().isEmpty()) {
         const QString first = parser.positionalArguments().constFirst();
-        return {.answer = translated(QT_TRANSLATE_NOOP("CommandLine", "There is no use for “%1”."))
+        return {.answer = translated(QT_TRANSLATE_NOOP("CommandLine", "Unexpected argument “%1”."))
                               .arg(first) +
                           QLatin1Char('\n'),
                 .exitStatus = 2};

@@ -13,6 +13,12 @@ class Texts final
     Q_DECLARE_TR_FUNCTIONS(TimeFormat)
 };
 
+QString inSeconds(qint32 count)
+{
+    //: The last part of a running time, such as “1h 5m 3s”.
+    return Texts::tr("%1s").arg(count);
+}
+
 /// Appends the number in the pattern of its unit, unless it is 0.
 void append(QString &text, qint32 count, const char *unit)
 {
@@ -39,8 +45,13 @@ QString TimeFormat::stringForTime(double seconds)
     if (days <= mostDaysWithMinutes)
         append(text, (whole / 60) % 60, QT_TRANSLATE_NOOP("TimeFormat", "%1m "));
     if (days == 0)
-        text += Texts::tr("%1s").arg(whole % 60);
+        text += inSeconds(whole % 60);
     return text;
+}
+
+QString TimeFormat::zero()
+{
+    return inSeconds(0);
 }
 
 QString TimeFormat::msStringForTime(double seconds)

@@ -11,6 +11,9 @@ namespace TimeFormat
 /// negative.
 [[nodiscard]] QString stringForTime(double seconds);
 
+/// The time of a stopwatch that has not been started: "0s".
+[[nodiscard]] QString zero();
+
 /// The milliseconds of the time, truncated, with leading zeros: "000" to "999".
 [[nodiscard]] QString msStringForTime(double seconds);
 

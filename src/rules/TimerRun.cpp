@@ -22,11 +22,13 @@ Date startDateFor(qint64 milliseconds, Date now)
 }
 } // namespace
 
-QString TimerRun::repeatSuffix() const
+QString TimerRun::withRepeatCount(const QString &time) const
 {
-    return _repeatCount > 1 ? //: After a time: the number of the pass of a timer that loops.
-               QCoreApplication::translate("TimerRun", " (x%1)").arg(_repeatCount)
-                            : QString();
+    if (_repeatCount <= 1)
+        return time;
+    //: A time, and the number of the pass of a timer that loops.
+    return QCoreApplication::translate("TimerRun", "%1 (x%2)")
+        .arg(time, QString::number(_repeatCount));
 }
 
 RunTimes TimerRun::timesAt(Date moment) const

@@ -44,8 +44,9 @@ public:
     [[nodiscard]] double initialTimeLeft() const { return _initialTimeLeft; }
     /// Which pass of a looping timer this is, counted from 1.
     [[nodiscard]] quint32 repeatCount() const { return _repeatCount; }
-    /// " (x2)" from the second pass of a looping timer on; empty in the first.
-    [[nodiscard]] QString repeatSuffix() const;
+    /// The text of a time with the number of the pass, "5s (x2)", from the second pass of a looping
+    /// timer on; the text alone in the first.
+    [[nodiscard]] QString withRepeatCount(const QString &time) const;
 
     /// How far the run has come at this moment. Only after the first start.
     [[nodiscard]] RunTimes timesAt(Date moment) const;

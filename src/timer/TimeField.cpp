@@ -52,6 +52,7 @@ bool isNumberOrTime(const QMimeData &data)
 {
     return !data.hasUrls() && (TimeText::isNumber(data.text()) || TimeText::read(data.text()));
 }
+
 /// The Paste item; null if there is none. Only its text identifies it, in which the shortcut
 /// follows the name.
 QAction *pasteIn(const QMenu &menu)

@@ -73,5 +73,5 @@ void Wuffer::wuffLoop()
 
 QString Wuffer::durationText() const
 {
-    return TimeFormat::stringForTime(_run.duration()) + _run.repeatSuffix();
+    return _run.withRepeatCount(TimeFormat::stringForTime(_run.duration()));
 }

@@ -36,9 +36,10 @@ void Wuffer::refreshDisplay(double remaining, double timeElapsed)
         setResultLabelText(TimeFormat::stringForTime(remaining));
         //: The time since the start of a timer.
         _ui->_elapsedLabel->setText(
-            timeElapsed == 0 ? QString()
-                             : tr("Elapsed: %1").arg(TimeFormat::stringForTime(timeElapsed)) +
-                                   _run.repeatSuffix());
+            timeElapsed == 0
+                ? QString()
+                : tr("Elapsed: %1")
+                      .arg(_run.withRepeatCount(TimeFormat::stringForTime(timeElapsed))));
     }
     const double counted = _run.counted({remaining, timeElapsed});
     _ui->_msLabel->setText(_energySaverActive ? QString() : TimeFormat::msStringForTime(counted));

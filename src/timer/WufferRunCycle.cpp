@@ -2,6 +2,7 @@
 #include "base/NotificationCenter.h"
 #include "rules/NumberText.h"
 #include "rules/TimeFields.h"
+#include "rules/TimeFormat.h"
 #include "rules/TimerTexts.h"
 #include "sounds/SoundPreviews.h"
 #include "timer/TimeEntry.h"
@@ -150,7 +151,7 @@ void Wuffer::stopwatch()
         setFieldsWithTimeLeft(0);
         _ui->_elapsedLabel->setText(TimerTexts::stopwatch());
         _ui->_msLabel->setText({});
-        setResultLabelText(QStringLiteral("0s"));
+        setResultLabelText(TimeFormat::zero());
     } else {
         _ui->_elapsedLabel->setText({});
     }

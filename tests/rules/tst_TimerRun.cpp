@@ -44,7 +44,7 @@ void tst_TimerRun::aNewRunIsAnIdleCountdown()
     QVERIFY(!run.targetDate());
     QCOMPARE(run.initialTimeLeft(), 0.0);
     QCOMPARE(run.repeatCount(), 1U);
-    QCOMPARE(run.repeatSuffix(), QString());
+    QCOMPARE(run.withRepeatCount(QStringLiteral("%2 5s")), QStringLiteral("%2 5s"));
 }
 
 void tst_TimerRun::aCountdownEndsItsDurationAfterItsStart()
@@ -154,12 +154,12 @@ void tst_TimerRun::aLoopCountsItsPasses()
     TimerRun run;
     run.countRepeat();
     QCOMPARE(run.repeatCount(), 2U);
-    QCOMPARE(run.repeatSuffix(), QStringLiteral(" (x2)"));
+    QCOMPARE(run.withRepeatCount(QStringLiteral("%2 5s")), QStringLiteral("%2 5s (x2)"));
     run.countRepeat();
-    QCOMPARE(run.repeatSuffix(), QStringLiteral(" (x3)"));
+    QCOMPARE(run.withRepeatCount(QStringLiteral("%2 5s")), QStringLiteral("%2 5s (x3)"));
     run.resetRepeatCount();
     QCOMPARE(run.repeatCount(), 1U);
-    QCOMPARE(run.repeatSuffix(), QString());
+    QCOMPARE(run.withRepeatCount(QStringLiteral("%2 5s")), QStringLiteral("%2 5s"));
 }
 
 void tst_TimerRun::everyFifthTickIsReported()
