@@ -1,0 +1,76 @@
+#!/usr/bin/python3
+"""Runs the program in German, from the first start to the alarm.
+
+Usage: language_test.py WUFFER FOLDER [unittest arguments]
+"""
+
+import json
+import os
+from xml.etree import ElementTree
+
+from support.case import DesktopTest, main
+from support.waiting import wait_until
+
+TRANSLATION = os.path.join(os.path.dirname(os.path.abspath(__file__)), "..", "..", "translations",
+                           "wuffer_de.ts")
+# Qt reads these variables itself, so the computer needs no German locale.
+GERMAN = {"LC_ALL": None, "LC_CTYPE": "C.UTF-8", "LANG": "de_DE.UTF-8"}
+
+
+def translations():
+    """Returns the German texts, by context and English text, without marks of mnemonics."""
+    texts = {}
+    for context in ElementTree.parse(TRANSLATION).getroot().iter("context"):
+        for message in context.iter("message"):
+            text = message.findtext("translation").replace("&", "")
+            texts[context.findtext("name"), message.findtext("source")] = text
+    return texts
+
+
+class LanguageTest(DesktopTest):
+    def setUp(self):
+        super().setUp()
+        self.german = translations()
+
+    def settings(self, program):
+        with open(program.settings_path, encoding="utf-8") as file:
+            settings = json.load(file)
+        # The size of a window depends on its texts.
+        del settings["windowFrames"]
+        return settings
+
+    def test_a_countdown_in_german(self):
+        program = self.launch(environment=GERMAN)
+        self.assertEqual(program.focused_field(), self.german["Wuffer", "Minutes"])
+        time = self.german["Wuffer", "Time"]
+        elapsed = self.german["Wuffer", "Elapsed time"]
+        self.assertEqual(program.shown(elapsed), self.german["Wuffer", "Ready when you are"])
+        program.start_countdown(2)
+        program.wait_for_button(self.german["TimerTexts", "Stop"])
+        wait_until(lambda: program.shown(elapsed) ==
+                   self.german["Wuffer", "Elapsed: %1"].replace("%1", "1s"), 3, "a second passes")
+        program.wait_for_text(time, "Wuff!")
+        program.wait_for_button(self.german["TimerTexts", "Reset"])
+        wait_until(lambda: self.session.notifications.shown() == 1, 2, "one notification is shown")
+        notification, = self.session.notifications.take_all()
+        self.assertEqual(notification["summary"], "Wuff!")
+        self.assertEqual(notification["body"], "Wuffer: 2s")
+        program.wait_for_button(self.german["TimerTexts", "Start"])
+        self.quit(program)
+
+    def test_the_settings_are_those_of_an_english_program(self):
+        stored = []
+        for environment in ({}, GERMAN):
+            program = self.launch(environment=environment)
+            program.type_seconds(3)
+            for key in ("ctrl+3", "ctrl+o"):
+                self.display.key(key)
+            self.quit(program)
+            stored.append(self.settings(program))
+        english, german = stored
+        self.assertEqual(english["Preset 3"]["finishOption"], "Do Nothing")
+        self.assertEqual(german, english)
+
+
+if __name__ == "__main__":
+    main()
