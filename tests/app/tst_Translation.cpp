@@ -20,6 +20,7 @@ class tst_Translation final : public Test
     Q_OBJECT
 
 private Q_SLOTS:
+    void eachLanguageIsShipped();
     void theLanguageOfTheUserIsShown();
     void theTextsOfQtAreInTheSameLanguage();
     void theFirstLanguageWithAFileIsShown();
@@ -85,6 +86,17 @@ private Q_SLOTS:
         QCOMPARE(QGuiApplication::layoutDirection(), Qt::LeftToRight);
     }
 };
+
+void tst_Translation::eachLanguageIsShipped()
+{
+    for (const char *each : {"de", "es", "fr", "it", "ja", "nl", "pl", "pt_BR"}) {
+        const QString language = QString::fromLatin1(each);
+        const Translation translation({language}, {});
+        QCOMPARE(translation.language(), language);
+        QVERIFY2(own() != QStringLiteral("&New Timer"), each);
+        QVERIFY2(ofQt() != QStringLiteral("Cancel"), each);
+    }
+}
 
 void tst_Translation::theLanguageOfTheUserIsShown()
 {

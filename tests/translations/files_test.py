@@ -1,6 +1,6 @@
 #!/usr/bin/python3
-"""Checks the files of the translations: that they hold the texts of the sources, and that no
-translation has lost anything.
+"""Checks the files of the translations: that they hold the texts of the sources, that each text is
+translated, and that no translation has lost anything.
 
 Usage: files_test.py FOLDER LANGUAGES LUPDATE [arguments of lupdate]
 
@@ -48,12 +48,18 @@ class Files(unittest.TestCase):
                     self.assertEqual(needed - there, set(), "missing: build update_translations")
                     self.assertEqual(there - needed, set(), "needless: build update_translations")
 
-    def test_no_translation_has_lost_anything(self):
+    def assert_none(self, found_by):
         for language in LANGUAGES:
-            faults = [fault for message in checks.messages(path_of(language))
-                      for fault in checks.faults(message)]
+            found = [line for message in checks.messages(path_of(language))
+                     for line in found_by(message)]
             with self.subTest(language=language):
-                self.assertEqual(faults, [], "\n".join(faults))
+                self.assertFalse(found, "\n".join(found))
+
+    def test_no_translation_has_lost_anything(self):
+        self.assert_none(checks.faults)
+
+    def test_each_text_is_translated(self):
+        self.assert_none(checks.gaps)
 
 
 if __name__ == "__main__":
