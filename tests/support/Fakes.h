@@ -127,14 +127,20 @@ public:
     std::vector<Shown> standing;
 };
 
-/// Knows whether the screen may go blank.
+/// Knows whether the screen may go blank, and why not.
 class FakeScreenBlanking final : public ScreenBlanking
 {
 public:
     bool isInhibited = false;
+    /// The last reason for which it may not.
+    QString reason;
 
 protected:
-    void begin(const QString & /*reason*/) override { isInhibited = true; }
+    void begin(const QString &why) override
+    {
+        isInhibited = true;
+        reason = why;
+    }
     void end() override { isInhibited = false; }
 };
 
