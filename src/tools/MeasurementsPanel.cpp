@@ -43,6 +43,15 @@ QSize MeasurementsPanel::sizeHint() const
     return {metrics.averageCharWidth() * 100, metrics.lineSpacing() * 46};
 }
 
+void MeasurementsPanel::resizeEvent(QResizeEvent *event)
+{
+    QTextEdit::resizeEvent(event);
+    // The columns of a table as wide as the page may be rounded up.
+    constexpr int rounding = 1;
+    const bool exceeds = document()->size().width() > viewport()->width() + rounding;
+    setHorizontalScrollBarPolicy(exceeds ? Qt::ScrollBarAsNeeded : Qt::ScrollBarAlwaysOff);
+}
+
 QString MeasurementsPanel::html()
 {
     QString text = QStringLiteral("<style>"

@@ -16,6 +16,9 @@ public:
     /// As wide as the tables, and high enough for most of them.
     [[nodiscard]] QSize sizeHint() const override;
 
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
 private:
     [[nodiscard]] static QString html();
     [[nodiscard]] static QString htmlOf(const MeasurementTable &table);
