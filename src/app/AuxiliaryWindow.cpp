@@ -4,6 +4,7 @@
 #include "platform/WindowOrder.h"
 
 #include <QKeyEvent>
+#include <QMenuBar>
 
 AuxiliaryWindow::AuxiliaryWindow(MainMenu &menu, const QString &title)
 {
@@ -13,7 +14,15 @@ AuxiliaryWindow::AuxiliaryWindow(MainMenu &menu, const QString &title)
 
 void AuxiliaryWindow::orderFront()
 {
+    widenToMenus();
     bringToFront(*this);
+}
+
+void AuxiliaryWindow::widenToMenus()
+{
+    const int menus = menuBar()->sizeHint().width();
+    if (menus > centralWidget()->minimumSizeHint().width())
+        centralWidget()->setMinimumWidth(menus);
 }
 
 void AuxiliaryWindow::keyPressEvent(QKeyEvent *event)

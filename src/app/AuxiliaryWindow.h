@@ -18,4 +18,8 @@ public:
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;
+
+private:
+    /// In a window that is narrower than its menu bar, the last menus hide behind an arrow.
+    void widenToMenus();
 };

@@ -6,6 +6,7 @@
 
 #include <QAction>
 #include <QCloseEvent>
+#include <QMenuBar>
 #include <QTextDocument>
 
 namespace
@@ -35,6 +36,7 @@ HomeWindow::HomeWindow(MainMenu &menu, QAction &newTimer, const std::vector<QAct
     _ui->setupUi(contents);
     setCentralWidget(contents);
     menu.addTo(*this);
+    widenToMenus();
     connect(_ui->_newTimerButton, &QPushButton::clicked, &newTimer, &QAction::trigger);
     for (QAction *preset : presets)
         addPreset(*preset);
@@ -42,6 +44,13 @@ HomeWindow::HomeWindow(MainMenu &menu, QAction &newTimer, const std::vector<QAct
 }
 
 HomeWindow::~HomeWindow() = default;
+
+void HomeWindow::widenToMenus()
+{
+    const QMargins margins = _ui->_homeLayout->contentsMargins();
+    const int width = menuBar()->sizeHint().width() - margins.left() - margins.right();
+    _ui->_homeSpacer->changeSize(width, 0, QSizePolicy::Minimum, QSizePolicy::Expanding);
+}
 
 void HomeWindow::addPreset(QAction &preset)
 {

@@ -33,6 +33,8 @@ protected:
     void closeEvent(QCloseEvent *event) override;
 
 private:
+    /// In a window that is narrower than its menu bar, the last menus hide behind an arrow.
+    void widenToMenus();
     void addPreset(QAction &preset);
 
     std::unique_ptr<Ui::Home> _ui;
