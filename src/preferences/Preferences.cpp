@@ -39,9 +39,20 @@ Preferences::Preferences(QMainWindow &window, QAction &muteMenu,
         SoundPreviews::Place{*_ui->_countdownPlayButton, *_ui->_countdownCombo});
     connectControls();
     awakeFromNib();
+    fitHint();
 }
 
 Preferences::~Preferences() = default;
+
+void Preferences::fitHint()
+{
+    // A wrapped text does not ask for the height that it needs at the least width of its page.
+    const int page =
+        std::max(_ui->generalTab->sizeHint().width(), _ui->soundTab->sizeHint().width());
+    const QMargins margins = _ui->_soundLayout->contentsMargins();
+    _ui->_soundHint->setMinimumHeight(
+        _ui->_soundHint->heightForWidth(page - margins.left() - margins.right()));
+}
 
 void Preferences::awakeFromNib()
 {

@@ -83,6 +83,7 @@ private:
     struct Kind;
 
     void awakeFromNib();
+    void fitHint();
     void connectControls();
     void controlTextDidChange(const QLineEdit &field);
     void windowWillClose(const QWidget &window);
