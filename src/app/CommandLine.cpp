@@ -22,9 +22,9 @@ QString translated(const char *text)
 
 void describe(QCommandLineParser &parser)
 {
-    parser.setApplicationDescription(translated(
-        QT_TRANSLATE_NOOP("CommandLine", "Countdown timers for the desktop. If the program is "
-                                         "already running, it carries out what is asked for here.")));
+    parser.setApplicationDescription(translated(QT_TRANSLATE_NOOP(
+        "CommandLine", "Countdown timers for the desktop. If the program is "
+                       "already running, it carries out what is asked for here.")));
     for (const NamedLaunchOrder &order : kNamedLaunchOrders)
         parser.addOption({QString::fromLatin1(order.name), translated(order.description)});
     QCommandLineOption service(
