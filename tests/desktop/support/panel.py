@@ -97,6 +97,9 @@ class Panel:
         return self.display.colors(self.strip)
 
     def press(self):
+        # A panel that has just started moves its items, and misses a press meanwhile.
+        self.wait_for_item()
+        wait_until(self.is_at_rest, 10, "the panel no longer changes")
         item = self.wait_for_item()
         self.display.click(item.x + item.width // 2, item.y + item.height // 2)
 
