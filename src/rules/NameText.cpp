@@ -2,6 +2,17 @@
 
 #include "rules/OneLine.h"
 
+#include <algorithm>
+
+namespace
+{
+bool isWrittenFromRightToLeft(char32_t character)
+{
+    const QChar::Direction direction = QChar::direction(character);
+    return direction == QChar::DirR || direction == QChar::DirAL;
+}
+} // namespace
+
 QString NameText::inOneLine(const QString &name)
 {
     // A longer name would make a menu as wide as the screen.
@@ -22,4 +33,13 @@ QString NameText::asWindowTitle(const QString &name)
     QString title = OneLine::of(tooLong ? OneLine::beginning(name, mostCharacters) : name);
     // Qt replaces [*] by a mark for unsaved changes, and [*][*] by a literal [*].
     return title.replace(QLatin1String("[*]"), QLatin1String("[*][*]"));
+}
+
+QString NameText::isolated(const QString &name)
+{
+    constexpr QChar beginning(0x2068);
+    constexpr QChar end(0x2069);
+    const QList<uint> characters = name.toUcs4();
+    return std::ranges::any_of(characters, isWrittenFromRightToLeft) ? beginning + name + end
+                                                                     : name;
 }

@@ -12,4 +12,8 @@ namespace NameText
 /// Prepares the name for setWindowTitle(), so that the title shows it as it is. Cuts a name that no
 /// title bar has room for: a title of megabytes breaks the connection to the X server.
 [[nodiscard]] QString asWindowTitle(const QString &name);
+
+/// The name for use within a text. A name in a script that is written from right to left is
+/// isolated from the text around it: otherwise it would change the order of a time that follows.
+[[nodiscard]] QString isolated(const QString &name);
 } // namespace NameText

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "rules/NameText.h"
+
 #include <QCoreApplication>
 #include <QStringView>
 
@@ -50,11 +52,11 @@ public:
     //: A line of a list: the name of a timer and a time, such as “Tea - 0h 5m 0s”.
     [[nodiscard]] static QString nameAndTime(const QString &name, const QString &time)
     {
-        return tr("%1 - %2").arg(name, time);
+        return tr("%1 - %2").arg(NameText::isolated(name), time);
     }
     //: The name of a timer and what its display shows, such as “Tea: 5m 3s”.
     [[nodiscard]] static QString nameAndStatus(const QString &name, const QString &status)
     {
-        return tr("%1: %2").arg(name, status);
+        return tr("%1: %2").arg(NameText::isolated(name), status);
     }
 };
