@@ -9,6 +9,7 @@
 #include <QApplication>
 #include <QLocale>
 #include <QPushButton>
+#include <QStyle>
 
 #include <utility>
 
@@ -38,6 +39,8 @@ TargetTimeSheet::TargetTimeSheet(QWidget &parent) :
 {
     _ui->setupUi(this);
     setWindowModality(Qt::WindowModal);
+    _ui->_targetDateField->setAlignment(
+        QStyle::visualAlignment(layoutDirection(), Qt::AlignLeading));
     _ui->_targetDateField->setDisplayFormat(displayFormat());
     _ui->_targetCalendar->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
     _ui->_targetButtons->button(QDialogButtonBox::Ok)->setText(TimerTexts::start());

@@ -3,12 +3,15 @@
 #include "rules/FigureText.h"
 
 #include <QScopedValueRollback>
+#include <QStyle>
 
 #include <algorithm>
 #include <utility>
 
 NumberField::NumberField(QWidget *parent) : QLineEdit(parent)
 {
+    // By itself the side would follow the digits, which read from left to right everywhere.
+    setAlignment(QStyle::visualAlignment(layoutDirection(), Qt::AlignLeading) | Qt::AlignVCenter);
     connect(this, &QLineEdit::textEdited, this, &NumberField::handleEdit);
     connect(this, &QLineEdit::cursorPositionChanged, this, &NumberField::forgetTyped);
     connect(this, &QLineEdit::selectionChanged, this, &NumberField::forgetTyped);
