@@ -2,6 +2,7 @@
 
 #include "app/WufferApplication.h"
 #include "rules/MenuText.h"
+#include "rules/NameText.h"
 #include "timer/Wuffer.h"
 
 #include <QActionGroup>
@@ -28,7 +29,8 @@ void LinkMenu::populate()
     const std::vector<Wuffer *> timers = WufferApplication::getWuffers();
     for (Wuffer *other : timers) {
         if (other != timer)
-            addItem(menuText(other->description()), *timer, other);
+            addItem(menuText(NameText::isolatedIn(other->description(), other->title())), *timer,
+                    other);
     }
     if (timers.size() < 2)
         addAction(tr("No &Other Timer Is Open"))->setEnabled(false);

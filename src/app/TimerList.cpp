@@ -2,6 +2,7 @@
 
 #include "app/WufferApplication.h"
 #include "rules/MenuText.h"
+#include "rules/NameText.h"
 #include "rules/TimerTexts.h"
 #include "timer/Wuffer.h"
 
@@ -14,7 +15,7 @@ namespace
 QString lineFor(const Wuffer &timer)
 {
     if (!timer.isRunning())
-        return timer.description();
+        return NameText::isolatedIn(timer.description(), timer.title());
     return TimerTexts::nameAndTime(timer.title(), timer.statusString());
 }
 } // namespace

@@ -43,3 +43,9 @@ QString NameText::isolated(const QString &name)
     return std::ranges::any_of(characters, isWrittenFromRightToLeft) ? beginning + name + end
                                                                      : name;
 }
+
+QString NameText::isolatedIn(QString text, const QString &name)
+{
+    const qsizetype place = text.indexOf(name);
+    return place < 0 ? text : text.replace(place, name.size(), isolated(name));
+}

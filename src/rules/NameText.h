@@ -16,4 +16,7 @@ namespace NameText
 /// The name for use within a text. A name in a script that is written from right to left is
 /// isolated from the text around it: otherwise it would change the order of a time that follows.
 [[nodiscard]] QString isolated(const QString &name);
+
+/// The text with the first occurrence of the name in it isolated like that.
+[[nodiscard]] QString isolatedIn(QString text, const QString &name);
 } // namespace NameText

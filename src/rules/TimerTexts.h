@@ -50,9 +50,14 @@ public:
     [[nodiscard]] static QString hideOptions() { return tr("Hide Options"); }
 
     //: A line of a list: the name of a timer and a time, such as “Tea - 0h 5m 0s”.
+    [[nodiscard]] static QString description(const QString &name, const QString &time)
+    {
+        return tr("%1 - %2").arg(name, time);
+    }
+    /// The same to be drawn, with the name isolated.
     [[nodiscard]] static QString nameAndTime(const QString &name, const QString &time)
     {
-        return tr("%1 - %2").arg(NameText::isolated(name), time);
+        return description(NameText::isolated(name), time);
     }
     //: The name of a timer and what its display shows, such as “Tea: 5m 3s”.
     [[nodiscard]] static QString nameAndStatus(const QString &name, const QString &status)

@@ -147,7 +147,7 @@ QString Wuffer::title() const
 
 QString Wuffer::description() const
 {
-    return TimerTexts::nameAndTime(title(), TimeFormat::hmsString(hours(), minutes(), seconds()));
+    return TimerTexts::description(title(), TimeFormat::hmsString(hours(), minutes(), seconds()));
 }
 
 QString Wuffer::statusString() const

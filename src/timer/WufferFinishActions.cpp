@@ -86,7 +86,9 @@ void Wuffer::populateFinishedPickerComboWithChosenTargetWuffer()
     picker.clear();
     //: In place of the name of the timer to start: how to choose one.
     const QString howToChoose = tr("Control-Drag a Wuffer");
-    picker.addItem(_targetWuffer ? NameText::inOneLine(_targetWuffer->description()) : howToChoose);
+    picker.addItem(_targetWuffer ? NameText::inOneLine(NameText::isolatedIn(
+                                       _targetWuffer->description(), _targetWuffer->title()))
+                                 : howToChoose);
     picker.setCurrentIndex(0);
     // The picker only shows the link; the user makes it by dragging or in the menu.
     picker.setEnabled(false);

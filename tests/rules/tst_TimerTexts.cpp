@@ -32,6 +32,9 @@ void tst_TimerTexts::aNameDoesNotDisorderTheTime()
     QFETCH(const QString, shown);
     const auto time = QStringLiteral("0h 5m 0s");
     QCOMPARE(TimerTexts::nameAndTime(name, time), shown + QStringLiteral(" - 0h 5m 0s"));
+    QCOMPARE(TimerTexts::description(name, time), name + QStringLiteral(" - 0h 5m 0s"));
+    QCOMPARE(NameText::isolatedIn(TimerTexts::description(name, time), name),
+             TimerTexts::nameAndTime(name, time));
     QCOMPARE(TimerTexts::nameAndStatus(name, time), shown + QStringLiteral(": 0h 5m 0s"));
 }
 
