@@ -2,6 +2,8 @@
 
 #include "rules/OneLine.h"
 
+#include <QList>
+
 #include <algorithm>
 
 namespace
