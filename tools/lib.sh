@@ -85,7 +85,7 @@ say_what_building_needs() {
     say "Packages are installed automatically on Debian and its relatives only. Here, please" \
         "install these yourself, with their development files: a C++20 compiler, CMake 3.25 or" \
         "newer, Ninja, pkg-config, Qt 6.4 or newer (Core, Gui, Widgets, Test, Linguist tools), cubeb," \
-        "libsndfile, libmpg123, and a typeface that answers to the name Courier; on Linux also" \
+        "libsndfile, libmpg123, and the typeface Courier Prime or Courier; on Linux also" \
         "Qt DBus, and libxcb with its screen saver extension."
 }
 

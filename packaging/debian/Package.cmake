@@ -15,8 +15,8 @@ set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_RELEASE 1)
 set(CPACK_DEBIAN_PACKAGE_SECTION utils)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-# The typeface of the display.
-set(CPACK_DEBIAN_PACKAGE_DEPENDS fonts-urw-base35)
+# The typeface of the display; the other one is what the display falls back to.
+set(CPACK_DEBIAN_PACKAGE_DEPENDS "fonts-courier-prime | fonts-urw-base35")
 # In this order: the session bus, a notification service, a sound server, the translations of Qt's
 # own texts, windows without an X server, and the command that opens the web page.
 string(JOIN ", " CPACK_DEBIAN_PACKAGE_RECOMMENDS

@@ -2,6 +2,10 @@
 #include "support/TestMain.h"
 #include "support/TimerFixture.h"
 
+#include <QFontDatabase>
+#include <QPainterPath>
+#include <QRawFont>
+
 namespace
 {
 const QColor kRed = QColor::fromRgbF(0.9F, 0.0F, 0.0F);
@@ -24,6 +28,8 @@ private Q_SLOTS:
     void theBigTextShrinksToTheWidthOfTenCharacters_data();
     void theBigTextShrinksToTheWidthOfTenCharacters();
     void everyTextOfTheDisplayIsInCourier();
+    void theTypefaceIsTheBestThatIsInstalled();
+    void theTypefaceIsUprightAndNotBold();
     void theTitleIsTheNameOrWuffer();
     void theDescriptionHasTheDurationSet();
     void theStatusIsTheBigText();
@@ -156,6 +162,27 @@ void tst_Display::everyTextOfTheDisplayIsInCourier()
             QCOMPARE(t.label(name).font().pointSizeF(), small);
         }
     }
+}
+
+void tst_Display::theTypefaceIsTheBestThatIsInstalled()
+{
+    const TimerFixture t;
+    const QString drawn = QRawFont::fromFont(t.label("_resultLabel").font()).familyName();
+    const QString courier = QStringLiteral("Courier");
+    QCOMPARE(drawn, QFontDatabase::hasFamily(courier) ? courier : QStringLiteral("Courier Prime"));
+}
+
+void tst_Display::theTypefaceIsUprightAndNotBold()
+{
+    const TimerFixture t;
+    QRawFont font = QRawFont::fromFont(t.label("_resultLabel").font());
+    font.setPixelSize(1000);
+    const QRectF bar =
+        font.pathForGlyph(font.glyphIndexesForString(QStringLiteral("|")).constFirst())
+            .boundingRect();
+    // A slanted bar would be several times wider.
+    QVERIFY(bar.width() > 0);
+    QVERIFY2(bar.width() < 90, qPrintable(QString::number(bar.width())));
 }
 
 void tst_Display::theTitleIsTheNameOrWuffer()
