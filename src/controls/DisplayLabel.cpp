@@ -61,6 +61,14 @@ std::optional<PlainLine> plainLine(const QString &text, const QRawFont &font)
     return line;
 }
 
+/// The text without the blanks at its end, which would move it from its place.
+QString withoutBlanksAtEnd(QString text)
+{
+    while (text.endsWith(QLatin1Char(' ')))
+        text.chop(1);
+    return text;
+}
+
 /// What the text needs, its letters that reach beyond their place included.
 QSizeF neededRoom(const QFontMetricsF &metrics, const QString &text)
 {
@@ -167,7 +175,7 @@ bool DisplayLabel::paintPlain(QPainter &painter)
 {
     if (!_rawFont)
         _rawFont = QRawFont::fromFont(font());
-    const std::optional<PlainLine> line = plainLine(_text, *_rawFont);
+    const std::optional<PlainLine> line = plainLine(withoutBlanksAtEnd(_text), *_rawFont);
     if (!line)
         return false;
     const QFontMetricsF metrics(font());
@@ -183,12 +191,13 @@ bool DisplayLabel::paintPlain(QPainter &painter)
 void DisplayLabel::paintShaped(QPainter &painter) const
 {
     // The painter is scaled and not the font: smaller fonts are not smaller in proportion.
-    const double scale = fittingScale(neededRoom(QFontMetricsF(font()), _text), size());
+    const QString text = withoutBlanksAtEnd(_text);
+    const double scale = fittingScale(neededRoom(QFontMetricsF(font()), text), size());
     if (scale <= 0)
         return;
     painter.scale(scale, scale);
     painter.drawText(QRectF(QPointF(), QSizeF(size()) / scale),
-                     static_cast<int>(_alignment) | Qt::TextSingleLine | Qt::TextDontClip, _text);
+                     static_cast<int>(_alignment) | Qt::TextSingleLine | Qt::TextDontClip, text);
 }
 
 void DisplayLabel::changeEvent(QEvent *event)

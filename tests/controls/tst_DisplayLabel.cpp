@@ -1,8 +1,8 @@
 #include "support/PaintedLabel.h"
+#include "support/Paintings.h"
 #include "support/TestMain.h"
 
 #include <QAccessible>
-#include <QPaintEvent>
 #include <QPainter>
 #include <QScreen>
 #include <QVBoxLayout>
@@ -29,21 +29,6 @@ public:
     }
 
     int count = 0;
-};
-/// Records which parts of a widget are painted.
-class Paintings final : public QObject
-{
-public:
-    explicit Paintings(QWidget &widget) { widget.installEventFilter(this); }
-
-    bool eventFilter(QObject *, QEvent *event) override
-    {
-        if (event->type() == QEvent::Paint)
-            rects.append(static_cast<QPaintEvent *>(event)->rect());
-        return false;
-    }
-
-    QList<QRect> rects;
 };
 
 /// A label on the screen.
@@ -79,6 +64,8 @@ private Q_SLOTS:
     void theScreenShowsWhatAFullRepaintWouldShow();
     void aTextIsDrawnWhereQtWouldDrawIt_data();
     void aTextIsDrawnWhereQtWouldDrawIt();
+    void blanksAtTheEndDoNotMoveTheText_data();
+    void blanksAtTheEndDoNotMoveTheText();
 };
 
 void tst_DisplayLabel::theLabelPaintsAllOfItself()
@@ -248,7 +235,6 @@ void tst_DisplayLabel::aTextIsDrawnWhereQtWouldDrawIt_data()
     QTest::addColumn<QString>("text");
     QTest::newRow("nothing") << QString();
     QTest::newRow("a time") << words("23h 59m 59s");
-    QTest::newRow("blanks at its end") << words("1d 2h  ");
     QTest::newRow("the first and the last of plain characters") << words("! ~");
     QTest::newRow("a tabulator") << words("1\t2");
     QTest::newRow("an umlaut") << QString::fromUtf8("Tür");
@@ -274,6 +260,25 @@ void tst_DisplayLabel::aTextIsDrawnWhereQtWouldDrawIt()
     QVERIFY2((ink.topLeft() - wanted.topLeft()).manhattanLength() <= 2 &&
                  (ink.bottomRight() - wanted.bottomRight()).manhattanLength() <= 2,
              seen.get());
+}
+
+void tst_DisplayLabel::blanksAtTheEndDoNotMoveTheText_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<int>("width");
+    QTest::newRow("a time") << words("4166d 15h") << 500;
+    QTest::newRow("a time without enough room") << words("4166d 15h") << 60;
+    QTest::newRow("an umlaut") << QString::fromUtf8("Tür") << 500;
+}
+
+void tst_DisplayLabel::blanksAtTheEndDoNotMoveTheText()
+{
+    QFETCH(const QString, text);
+    QFETCH(const int, width);
+    const QRect expected = inkOf(PaintedLabel(text).painted({width, 100}));
+    QVERIFY(!expected.isEmpty());
+
+    QCOMPARE(inkOf(PaintedLabel(text + words("  ")).painted({width, 100})), expected);
 }
 
 WUFFER_TEST(tst_DisplayLabel)
