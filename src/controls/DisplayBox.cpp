@@ -12,6 +12,13 @@ namespace
 constexpr QColor kPanelColor(0xFB, 0xFA, 0xF5);
 constexpr QColor kPanelEdgeColor(0xC9, 0xC4, 0xB6);
 constexpr qreal kCornerRadius = 6.0;
+/// The height of the bar in the window, and its distance from the foot of the panel.
+constexpr int kBarHeight = 3;
+constexpr int kBarBottom = 4;
+/// The height of the bar on the full screen: this part of the screen.
+constexpr int kScreensPerBar = 100;
+/// What the margins of the texts have in addition on the full screen: this part of the screen.
+constexpr int kScreensPerMargin = 20;
 
 QPalette panelPalette()
 {
@@ -108,6 +115,7 @@ void DisplayBox::exitFullScreenModeWithOptions()
     Q_ASSERT(isInFullScreenMode());
     QLayout *home = _placeholder->parentWidget()->layout();
     const std::unique_ptr<QLayoutItem> oldItem(home->replaceWidget(_placeholder, this));
+    setContentsMargins({});
     destroyPlaceholder();
     ::setTabOrder(std::exchange(_tabOrder, {}));
     show();
@@ -123,6 +131,40 @@ void DisplayBox::destroyPlaceholder()
         disconnect(placeholder.get(), nullptr, this, nullptr);
 }
 
+void DisplayBox::setShareLeft(double share)
+{
+    const QRectF before = _bar.filledPart(barPlace());
+    _bar.setShare(share);
+    if (_bar.filledPart(barPlace()) != before)
+        update(barPlace().track.toAlignedRect());
+}
+
+void DisplayBox::setBarColor(const QColor &color)
+{
+    if (color == _bar.color())
+        return;
+    _bar.setColor(color);
+    update(barPlace().track.toAlignedRect());
+}
+
+RemainingBar::Place DisplayBox::barPlace() const
+{
+    RemainingBar::Place place;
+    place.devicePixelRatio = devicePixelRatioF();
+    place.direction = layoutDirection();
+    if (isInFullScreenMode()) {
+        const int thickness = height() / kScreensPerBar;
+        place.track = QRect(0, height() - thickness, width(), thickness);
+    } else {
+        // In one line with the texts, and in the margin below them.
+        const QMargins margins = layout() ? layout()->contentsMargins() : QMargins();
+        place.track = QRect(margins.left(), height() - kBarBottom - kBarHeight,
+                            width() - margins.left() - margins.right(), kBarHeight);
+        place.cornerRadius = kBarHeight / 2.0;
+    }
+    return place;
+}
+
 bool DisplayBox::event(QEvent *event)
 {
     const bool handled = QFrame::event(event);
@@ -136,6 +178,7 @@ void DisplayBox::paintEvent(QPaintEvent *)
     QPainter painter(this);
     if (isInFullScreenMode()) {
         painter.fillRect(rect(), kPanelColor);
+        _bar.paint(painter, barPlace());
         return;
     }
     painter.setRenderHint(QPainter::Antialiasing);
@@ -143,4 +186,16 @@ void DisplayBox::paintEvent(QPaintEvent *)
     painter.setPen(kPanelEdgeColor);
     const QRectF panel = QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5);
     painter.drawRoundedRect(panel, kCornerRadius, kCornerRadius);
+    _bar.paint(painter, barPlace());
+}
+
+void DisplayBox::resizeEvent(QResizeEvent *event)
+{
+    QFrame::resizeEvent(event);
+    // On its way back to the window, the box is still in full-screen mode.
+    if (!isInFullScreenMode() || window() != _fullScreenWindow.get())
+        return;
+    const int across = width() / kScreensPerMargin;
+    const int down = height() / kScreensPerMargin;
+    setContentsMargins(across, down, across, down);
 }

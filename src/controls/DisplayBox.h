@@ -1,5 +1,7 @@
 #pragma once
 
+#include "controls/RemainingBar.h"
+
 #include <QFrame>
 #include <QList>
 #include <QPointer>
@@ -9,8 +11,8 @@
 class QScreen;
 
 /// The light panel behind a timer's texts. Its colours do not depend on the theme, so that black,
-/// red and blue texts are always readable. It can leave its window to fill a screen, and returns to
-/// exactly its old place.
+/// red and blue texts are always readable. A bar at its foot shows what is left of a countdown. It
+/// can leave its window to fill a screen, and returns to exactly its old place.
 class DisplayBox final : public QFrame
 {
     Q_OBJECT
@@ -28,6 +30,14 @@ public:
 
     [[nodiscard]] bool isInFullScreenMode() const { return _fullScreenWindow != nullptr; }
 
+    /// The share of the countdown that the bar shows, from 0 to 1; at 0 there is no bar. A new
+    /// share is painted only if the bar then ends at another pixel.
+    [[nodiscard]] double shareLeft() const { return _bar.share(); }
+    void setShareLeft(double share);
+
+    [[nodiscard]] QColor barColor() const { return _bar.color(); }
+    void setBarColor(const QColor &color);
+
 Q_SIGNALS:
     /// The user has asked the window manager to close the full-screen window.
     void fullScreenCloseRequested();
@@ -37,15 +47,18 @@ Q_SIGNALS:
 protected:
     bool event(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
     class FullScreenWindow;
 
     void destroyPlaceholder();
+    [[nodiscard]] RemainingBar::Place barPlace() const;
 
     std::unique_ptr<FullScreenWindow> _fullScreenWindow;
     /// Holds the box's place in its window during full-screen mode. The window owns it.
     QPointer<QWidget> _placeholder;
     /// The tab order of the box's window before the box left it.
     QList<QPointer<QWidget>> _tabOrder;
+    RemainingBar _bar;
 };

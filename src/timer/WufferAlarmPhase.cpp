@@ -27,6 +27,7 @@ void Wuffer::timerDone()
     _displayRest.setResting(false);
     setColorForDisplayText(TextColor::Red, true);
     setResultLabelText(_finishedText);
+    _ui->_displayBox->setShareLeft(1);
     _ui->_msLabel->setText({});
     _ui->_elapsedLabel->setText(durationText());
     _wuffTimer.startRepeating(kAlarmTick);

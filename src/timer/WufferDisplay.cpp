@@ -41,7 +41,9 @@ void Wuffer::refreshDisplay(double remaining, double timeElapsed)
                 : tr("Elapsed: %1")
                       .arg(_run.withRepeatCount(TimeFormat::stringForTime(timeElapsed))));
     }
-    const double counted = _run.counted({remaining, timeElapsed});
+    const RunTimes times{remaining, timeElapsed};
+    _ui->_displayBox->setShareLeft(_run.isStopwatch() ? 0 : shareLeft(times));
+    const double counted = _run.counted(times);
     _ui->_msLabel->setText(_energySaverActive ? QString() : TimeFormat::msStringForTime(counted));
 
     // The big display already shows the time, so this compares the time with the name.
@@ -64,6 +66,7 @@ void Wuffer::setColorForDisplayText(TextColor color, bool elapsedToo)
     _ui->_fullTitleField->setTextColor(colorOf(color));
     _ui->_resultLabel->setTextColor(colorOf(color));
     _ui->_msLabel->setTextColor(colorOf(color));
+    _ui->_displayBox->setBarColor(colorOf(color));
     if (elapsedToo)
         setElapsedColor(color);
 }
@@ -95,6 +98,7 @@ void Wuffer::windowExposed()
 void Wuffer::setDefaultDisplayValues()
 {
     setResultLabelText(BuildInfo::name());
+    _ui->_displayBox->setShareLeft(0);
     _ui->_msLabel->setText(QStringLiteral("v") + BuildInfo::version());
     _ui->_elapsedLabel->setText(tr("Ready when you are"));
     setColorForDisplayText(TextColor::Black, true);

@@ -37,6 +37,7 @@ void Wuffer::setPreset(qint32 number)
 void Wuffer::showPresetMark(const QString &name, const QString &origin)
 {
     setResultLabelText(name);
+    _ui->_displayBox->setShareLeft(0);
     _ui->_msLabel->setText(TimeFormat::hmsString(hours(), minutes(), seconds()));
     _ui->_elapsedLabel->setText(origin);
     setPresetColor();

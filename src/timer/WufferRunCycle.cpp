@@ -147,6 +147,7 @@ void Wuffer::stopwatch()
         return;
     const bool stopwatch = !_run.isStopwatch();
     _run.setStopwatch(stopwatch);
+    _ui->_displayBox->setShareLeft(0);
     if (stopwatch) {
         setFieldsWithTimeLeft(0);
         _ui->_elapsedLabel->setText(TimerTexts::stopwatch());

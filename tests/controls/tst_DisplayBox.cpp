@@ -1,6 +1,8 @@
 #include "controls/DisplayBox.h"
+#include "support/Paintings.h"
 #include "support/TestMain.h"
 
+#include <QAccessible>
 #include <QLineEdit>
 #include <QPointer>
 #include <QPushButton>
@@ -8,8 +10,12 @@
 #include <QSignalSpy>
 #include <QVBoxLayout>
 
+#include <cmath>
+
 namespace
 {
+constexpr QColor kBarColor(0, 0, 255);
+
 /// A window with, from top to bottom, a field, a box that contains a field, and a button.
 struct Fixture
 {
@@ -41,6 +47,20 @@ struct Fixture
                 order << next;
         }
         return order;
+    }
+
+    /// The pixels in the colour of the bar, from the first to the last in its middle line.
+    [[nodiscard]] QRect bar() const
+    {
+        const QImage image = box->grab().toImage();
+        QRect found;
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x) {
+                if (image.pixelColor(x, y) == kBarColor)
+                    found |= QRect(x, y, 1, 1);
+            }
+        }
+        return found;
     }
 
     std::unique_ptr<QWidget> window = std::make_unique<QWidget>();
@@ -78,6 +98,11 @@ private Q_SLOTS:
     void aBoxDestroyedOnTheFullScreenLeavesNothingBehind();
     void aWindowDestroyedMeanwhileTakesTheBoxAlong();
     void theColoursAreItsOwn();
+    void theBarIsInLineWithTheTexts();
+    void theBarIsAsWideAsTheFullScreen();
+    void theBarIsPaintedOnlyWhenItMovesByAPixel();
+    void theBarChangesNoLayoutAndIsNoWidget();
+    void theMarginsOnTheFullScreenAreInProportionToIt();
 };
 
 void tst_DisplayBox::cleanup()
@@ -282,6 +307,101 @@ void tst_DisplayBox::theColoursAreItsOwn()
     QCOMPARE(f.inside->palette().color(QPalette::Text), f.box->palette().color(QPalette::Text));
     const QColor middle = f.box->grab().toImage().pixelColor(f.box->rect().center());
     QVERIFY(middle.lightness() > 230);
+}
+
+void tst_DisplayBox::theBarIsInLineWithTheTexts()
+{
+    Fixture f;
+    f.box->setBarColor(kBarColor);
+    QCOMPARE(f.bar(), QRect());
+
+    f.box->setShareLeft(1);
+
+    const QRect bar = f.bar();
+    QVERIFY(!bar.isEmpty());
+    // The pixels of its round ends are paler.
+    QVERIFY(std::abs(bar.left() - f.inside->geometry().left()) <= 1);
+    QVERIFY(std::abs(bar.right() - f.inside->geometry().right()) <= 1);
+    QVERIFY(bar.top() > f.inside->geometry().bottom());
+    QVERIFY(bar.bottom() < f.box->height() - 1);
+    f.box->setShareLeft(0.5);
+    QCOMPARE(f.bar().left(), bar.left());
+    QVERIFY(std::abs(f.bar().width() - bar.width() / 2) <= 1);
+}
+
+void tst_DisplayBox::theBarIsAsWideAsTheFullScreen()
+{
+    Fixture f;
+    f.box->setBarColor(kBarColor);
+    f.box->setShareLeft(1);
+    f.enter();
+    QCoreApplication::processEvents();
+
+    const QRect bar = f.bar();
+    QCOMPARE(bar.width(), f.box->width());
+    QCOMPARE(bar.bottom(), f.box->rect().bottom());
+    QVERIFY(bar.height() >= 4);
+}
+
+void tst_DisplayBox::theBarIsPaintedOnlyWhenItMovesByAPixel()
+{
+    Fixture f;
+    QCoreApplication::processEvents();
+    const Paintings paintings(*f.box);
+    const int width = f.inside->width();
+    const auto paintingsOf = [&](double pixels) {
+        const qsizetype before = paintings.rects.size();
+        f.box->setShareLeft(pixels / width);
+        QCoreApplication::processEvents();
+        return paintings.rects.size() - before;
+    };
+
+    QCOMPARE(paintingsOf(20.9), 1);
+    QCOMPARE(paintingsOf(20.5), 0);
+    QCOMPARE(paintingsOf(20.1), 0);
+    QCOMPARE(paintingsOf(19.9), 1);
+    // The texts are not painted again.
+    QVERIFY(paintings.rects.constLast().top() > f.inside->geometry().bottom());
+    f.box->setBarColor(Qt::red);
+    QCOMPARE(paintingsOf(19.9), 1);
+    f.box->setBarColor(Qt::red);
+    QCOMPARE(paintingsOf(19.9), 0);
+}
+
+void tst_DisplayBox::theBarChangesNoLayoutAndIsNoWidget()
+{
+    Fixture f;
+    const QSize hint = f.box->sizeHint();
+    const QRect field = f.inside->geometry();
+    const qsizetype parts = f.box->children().size();
+
+    f.box->setShareLeft(1);
+    QCoreApplication::processEvents();
+
+    QCOMPARE(f.box->sizeHint(), hint);
+    QCOMPARE(f.inside->geometry(), field);
+    QCOMPARE(f.box->children().size(), parts);
+    const QAccessibleInterface *seen = QAccessible::queryAccessibleInterface(f.box);
+    QVERIFY(seen);
+    QCOMPARE(seen->childCount(), 1);
+    QCOMPARE(seen->text(QAccessible::Value), QString());
+}
+
+void tst_DisplayBox::theMarginsOnTheFullScreenAreInProportionToIt()
+{
+    Fixture f;
+    const QMargins home = f.box->contentsMargins();
+    f.enter();
+    QCoreApplication::processEvents();
+
+    f.box->resize(800, 480);
+    QCOMPARE(f.box->contentsMargins(), QMargins(40, 24, 40, 24));
+    f.box->resize(1920, 1080);
+    QCOMPARE(f.box->contentsMargins(), QMargins(96, 54, 96, 54));
+
+    f.leave();
+    QCoreApplication::processEvents();
+    QCOMPARE(f.box->contentsMargins(), home);
 }
 
 WUFFER_TEST(tst_DisplayBox)
