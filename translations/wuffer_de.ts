@@ -1073,6 +1073,19 @@ Pieptöne und das Ende eines Countdowns kommen bis zu 0,2 Sekunden verspätet.</
     </message>
 </context>
 <context>
+    <name>TargetTimeSheet</name>
+    <message>
+        <source>Previous month</source>
+        <extracomment>Accessible name: the arrow of the calendar that turns one month back.</extracomment>
+        <translation>Voriger Monat</translation>
+    </message>
+    <message>
+        <source>Next month</source>
+        <extracomment>Accessible name: the arrow of the calendar that turns one month on.</extracomment>
+        <translation>Nächster Monat</translation>
+    </message>
+</context>
+<context>
     <name>TimeDistance</name>
     <message>
         <source>%1 d</source>

@@ -1073,6 +1073,19 @@ Los pitidos y el final de la cuenta atrás llegan hasta 0,2 segundos tarde.</tra
     </message>
 </context>
 <context>
+    <name>TargetTimeSheet</name>
+    <message>
+        <source>Previous month</source>
+        <extracomment>Accessible name: the arrow of the calendar that turns one month back.</extracomment>
+        <translation>Mes anterior</translation>
+    </message>
+    <message>
+        <source>Next month</source>
+        <extracomment>Accessible name: the arrow of the calendar that turns one month on.</extracomment>
+        <translation>Mes siguiente</translation>
+    </message>
+</context>
+<context>
     <name>TimeDistance</name>
     <message>
         <source>%1 d</source>

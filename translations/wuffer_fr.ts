@@ -1073,6 +1073,19 @@ Les bips et la fin du décompte ont jusqu’à 0,2 seconde de retard.</translati
     </message>
 </context>
 <context>
+    <name>TargetTimeSheet</name>
+    <message>
+        <source>Previous month</source>
+        <extracomment>Accessible name: the arrow of the calendar that turns one month back.</extracomment>
+        <translation>Mois précédent</translation>
+    </message>
+    <message>
+        <source>Next month</source>
+        <extracomment>Accessible name: the arrow of the calendar that turns one month on.</extracomment>
+        <translation>Mois suivant</translation>
+    </message>
+</context>
+<context>
     <name>TimeDistance</name>
     <message>
         <source>%1 d</source>

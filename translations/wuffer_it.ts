@@ -1073,6 +1073,19 @@ I bip e la fine del conto alla rovescia ritardano al massimo di 0,2 secondi.</tr
     </message>
 </context>
 <context>
+    <name>TargetTimeSheet</name>
+    <message>
+        <source>Previous month</source>
+        <extracomment>Accessible name: the arrow of the calendar that turns one month back.</extracomment>
+        <translation>Mese precedente</translation>
+    </message>
+    <message>
+        <source>Next month</source>
+        <extracomment>Accessible name: the arrow of the calendar that turns one month on.</extracomment>
+        <translation>Mese successivo</translation>
+    </message>
+</context>
+<context>
     <name>TimeDistance</name>
     <message>
         <source>%1 d</source>

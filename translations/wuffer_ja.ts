@@ -1071,6 +1071,19 @@ Beeps and the end of a countdown come up to 0.2 seconds late.</source>
     </message>
 </context>
 <context>
+    <name>TargetTimeSheet</name>
+    <message>
+        <source>Previous month</source>
+        <extracomment>Accessible name: the arrow of the calendar that turns one month back.</extracomment>
+        <translation>前の月</translation>
+    </message>
+    <message>
+        <source>Next month</source>
+        <extracomment>Accessible name: the arrow of the calendar that turns one month on.</extracomment>
+        <translation>次の月</translation>
+    </message>
+</context>
+<context>
     <name>TimeDistance</name>
     <message>
         <source>%1 d</source>

@@ -2,14 +2,39 @@
 
 #include "base/Keys.h"
 #include "base/NotificationCenter.h"
+#include "controls/AccessibleFactory.h"
+#include "controls/AccessiblePress.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QStyleOptionFocusRect>
 
+namespace
+{
+class AccessibleImageView final : public AccessiblePress
+{
+public:
+    explicit AccessibleImageView(ClickableImageView &view) :
+        AccessiblePress(view, [&view] { view.click(); }), _view(view)
+    {}
+
+    [[nodiscard]] QAccessible::State state() const override
+    {
+        QAccessible::State state = AccessiblePress::state();
+        state.checkable = true;
+        state.checked = _view.isChecked();
+        return state;
+    }
+
+private:
+    const ClickableImageView &_view;
+};
+} // namespace
+
 ClickableImageView::ClickableImageView(QWidget *parent) : QLabel(parent)
 {
+    AccessibleFactory::install<ClickableImageView, AccessibleImageView>();
     setFocusPolicy(Qt::TabFocus);
     setAlignment(Qt::AlignCenter);
 }
@@ -22,17 +47,28 @@ void ClickableImageView::setImage(const QString &fileName)
     setPixmap(QPixmap(QStringLiteral(":/images/") + fileName));
 }
 
+void ClickableImageView::setChecked(bool checked)
+{
+    if (checked == _checked)
+        return;
+    _checked = checked;
+    QAccessible::State changed;
+    changed.checked = true;
+    QAccessibleStateChangeEvent event(this, changed);
+    QAccessible::updateAccessibility(&event);
+}
+
 void ClickableImageView::mousePressEvent(QMouseEvent *event)
 {
     if (event->button() == Qt::LeftButton)
-        announceClick();
+        click();
     QLabel::mousePressEvent(event);
 }
 
 void ClickableImageView::keyPressEvent(QKeyEvent *event)
 {
     if (event->key() == Qt::Key_Space && !event->isAutoRepeat())
-        announceClick();
+        click();
     else
         QLabel::keyPressEvent(event);
 }
@@ -48,7 +84,7 @@ void ClickableImageView::paintEvent(QPaintEvent *event)
     style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
 }
 
-void ClickableImageView::announceClick()
+void ClickableImageView::click()
 {
     NotificationCenter::defaultCenter().postNotificationName(Notices::kClickableImageViewClicked,
                                                              this);

@@ -3,7 +3,8 @@
 #include <QLabel>
 
 /// An image that posts Notices::kClickableImageViewClicked, with itself as the object, at every
-/// click. When it has the focus, the space bar clicks it, too.
+/// click. When it has the focus, the space bar clicks it, too. To assistive programs it is a button
+/// that stays pressed in until the next press.
 class ClickableImageView final : public QLabel
 {
     Q_OBJECT
@@ -17,13 +18,20 @@ public:
     /// The file name of the image shown; empty before the first.
     [[nodiscard]] QString imageName() const { return _imageName; }
 
+    /// Whether assistive programs see it pressed in; at first it is not. A click does not change
+    /// that: the code that handles the click does.
+    [[nodiscard]] bool isChecked() const { return _checked; }
+    void setChecked(bool checked);
+
+    /// Does the same as a click of the user.
+    void click();
+
 protected:
     void mousePressEvent(QMouseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    void announceClick();
-
     QString _imageName;
+    bool _checked = false;
 };

@@ -17,6 +17,11 @@ public:
     explicit Drawer(QWidget *parent = nullptr);
 
     [[nodiscard]] State state() const { return _state; }
+    /// Open, or about to be.
+    [[nodiscard]] bool isExpanded() const
+    {
+        return _state == State::Opening || _state == State::Open;
+    }
 
     /// Opens a closed or closing drawer, closes an open or opening one. A running slide reverses.
     void toggle();

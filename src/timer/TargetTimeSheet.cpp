@@ -10,11 +10,19 @@
 #include <QLocale>
 #include <QPushButton>
 #include <QStyle>
+#include <QToolButton>
 
 #include <utility>
 
 namespace
 {
+/// Names a button of the calendar, which shows only an arrow, for screen readers.
+void name(const QCalendarWidget &calendar, const QString &button, const QString &text)
+{
+    if (auto *arrow = calendar.findChild<QToolButton *>(button))
+        arrow->setAccessibleName(text);
+}
+
 /// The short date format of the user's locale, followed by a time with seconds.
 QString displayFormat()
 {
@@ -43,6 +51,10 @@ TargetTimeSheet::TargetTimeSheet(QWidget &parent) :
         QStyle::visualAlignment(layoutDirection(), Qt::AlignLeading));
     _ui->_targetDateField->setDisplayFormat(displayFormat());
     _ui->_targetCalendar->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
+    //: Accessible name: the arrow of the calendar that turns one month back.
+    name(*_ui->_targetCalendar, QStringLiteral("qt_calendar_prevmonth"), tr("Previous month"));
+    //: Accessible name: the arrow of the calendar that turns one month on.
+    name(*_ui->_targetCalendar, QStringLiteral("qt_calendar_nextmonth"), tr("Next month"));
     _ui->_targetButtons->button(QDialogButtonBox::Ok)->setText(TimerTexts::start());
     for (QAbstractButton *button : _ui->_targetButtons->buttons())
         button->setIcon({});

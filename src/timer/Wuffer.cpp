@@ -126,6 +126,8 @@ void Wuffer::connectDrawer()
 {
     connect(_ui->_finishedDrawerButton, &QPushButton::clicked, this, &Wuffer::showHideAdvanced);
     connect(_ui->_drawer, &Drawer::stateChanged, this, &Wuffer::stateChanged);
+    connect(_ui->_drawer, &Drawer::stateChanged, _ui->_finishedDrawerButton,
+            [this] { _ui->_finishedDrawerButton->setExpanded(_ui->_drawer->isExpanded()); });
     connect(_ui->_helpButton, &QToolButton::clicked, this, &Wuffer::getFinishingHelp);
     connect(_ui->_linkButton, &QToolButton::clicked, this,
             [this] { Q_EMIT targetsRequested(_ui->_linkButton); });

@@ -47,11 +47,14 @@ void Wuffer::loadGlobalSettings()
                 sound->stop();
         }
     }
-    _ui->_soundOffImage->setImage(_soundOff ? QStringLiteral("sound_mute.png")
-                                            : QStringLiteral("sound_high.png"));
-    _ui->_soundOffImage->setAccessibleName(_soundOff ? tr("Sound is off") : tr("Sound is on"));
-    ToolTip::set(*_ui->_soundOffImage,
-                 _soundOff ? tr("Let all timers be heard again") : tr("Mute all timers"));
+    ClickableImageView &speaker = *_ui->_soundOffImage;
+    speaker.setImage(_soundOff ? QStringLiteral("sound_mute.png")
+                               : QStringLiteral("sound_high.png"));
+    speaker.setChecked(_soundOff);
+    const QString press = _soundOff ? tr("Let all timers be heard again") : tr("Mute all timers");
+    ToolTip::set(speaker, press);
+    speaker.setAccessibleName(press);
+    speaker.setAccessibleDescription(_soundOff ? tr("Sound is off") : tr("Sound is on"));
     handleFinishedComboChange();
     refreshSoundComboEnabledness();
     populateSoundCombos();

@@ -126,9 +126,7 @@ bool Wuffer::validateMenuItem(QAction &item, Operation action) const
     if (action == &Wuffer::targetTime)
         return !_run.isStarted();
     if (action == &Wuffer::showHideAdvanced) {
-        const Drawer::State drawer = _ui->_drawer->state();
-        item.setText(
-            drawerTitle(drawer == Drawer::State::Opening || drawer == Drawer::State::Open));
+        item.setText(drawerTitle(_ui->_drawer->isExpanded()));
         return true;
     }
     if (action == &Wuffer::startStopFullScreen)

@@ -3,6 +3,7 @@
 #include "support/TestMain.h"
 #include "timer/TargetTimeSheet.h"
 
+#include <QAccessible>
 #include <QCalendarWidget>
 #include <QDateTimeEdit>
 #include <QDialogButtonBox>
@@ -11,6 +12,7 @@
 #include <QProxyStyle>
 #include <QPushButton>
 #include <QSignalSpy>
+#include <QToolButton>
 
 #include <memory>
 
@@ -82,6 +84,7 @@ private Q_SLOTS:
     void theDateIsWrittenAsTheUserDoes();
     void theButtonsSayWhatTheyDo();
     void theCalendarHasNoNumbersOfWeeks();
+    void theArrowsOfTheCalendarHaveNames();
     void theSheetBlocksItsWindowOnly();
     void startAcceptsAndHides();
     void cancelRejectsAndHides();
@@ -134,6 +137,18 @@ void tst_TargetTimeSheet::theCalendarHasNoNumbersOfWeeks()
 {
     const Fixture f;
     QCOMPARE(f.calendar().verticalHeaderFormat(), QCalendarWidget::NoVerticalHeader);
+}
+
+void tst_TargetTimeSheet::theArrowsOfTheCalendarHaveNames()
+{
+    const Fixture f;
+    QStringList names;
+    for (QToolButton *button : f.calendar().findChildren<QToolButton *>())
+        names.append(QAccessible::queryAccessibleInterface(button)->text(QAccessible::Name));
+
+    QCOMPARE(names.first(2),
+             QStringList({QStringLiteral("Previous month"), QStringLiteral("Next month")}));
+    QVERIFY(!names.contains(QString()));
 }
 
 void tst_TargetTimeSheet::theSheetBlocksItsWindowOnly()

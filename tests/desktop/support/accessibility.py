@@ -12,7 +12,6 @@ ROLES = {
     "field": Atspi.Role.TEXT,
     "button": Atspi.Role.PUSH_BUTTON,
     "box": Atspi.Role.CHECK_BOX,
-    "image": Atspi.Role.IMAGE,
     "display": Atspi.Role.LABEL,
     "choice": Atspi.Role.COMBO_BOX,
 }
