@@ -59,6 +59,14 @@ et partagez-le. Il est fourni sans aucune garantie.</translation>
     </message>
 </context>
 <context>
+    <name>AlarmAnnouncement</name>
+    <message>
+        <source>Alarm ended</source>
+        <extracomment>Screen readers say it after the name of a timer.</extracomment>
+        <translation>Alarme terminée</translation>
+    </message>
+</context>
+<context>
     <name>Chain</name>
     <message>
         <source>Wuffer Chain - %1 of %2</source>

@@ -59,6 +59,14 @@ MIT ライセンスのフリーソフトウェアです。
     </message>
 </context>
 <context>
+    <name>AlarmAnnouncement</name>
+    <message>
+        <source>Alarm ended</source>
+        <extracomment>Screen readers say it after the name of a timer.</extracomment>
+        <translation>アラームが終わりました</translation>
+    </message>
+</context>
+<context>
     <name>Chain</name>
     <message>
         <source>Wuffer Chain - %1 of %2</source>

@@ -59,6 +59,14 @@ en verspreiden is toegestaan. Zonder enige garantie.</translation>
     </message>
 </context>
 <context>
+    <name>AlarmAnnouncement</name>
+    <message>
+        <source>Alarm ended</source>
+        <extracomment>Screen readers say it after the name of a timer.</extracomment>
+        <translation>Alarm beëindigd</translation>
+    </message>
+</context>
+<context>
     <name>Chain</name>
     <message>
         <source>Wuffer Chain - %1 of %2</source>

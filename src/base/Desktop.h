@@ -2,6 +2,7 @@
 
 #include <QtGlobal>
 
+class QString;
 class QUrl;
 class QWidget;
 
@@ -19,6 +20,9 @@ public:
 
     /// Plays the desktop's short error sound.
     virtual void beep() = 0;
+
+    /// Has screen readers read the text aloud, in the name of this window, wherever the focus is.
+    virtual void announce(QWidget &window, const QString &text) = 0;
 
     /// Opens the page or file in the user's preferred program for it.
     virtual void openUrl(const QUrl &url) = 0;

@@ -3,6 +3,7 @@
 #include "rules/TimeFormat.h"
 #include "rules/TimerTexts.h"
 #include "sounds/SoundPreviews.h"
+#include "timer/AlarmAnnouncement.h"
 #include "timer/TimerHost.h"
 #include "timer/Wuffer.h"
 #include "timer/WufferWindow.h"
@@ -37,6 +38,7 @@ void Wuffer::timerDone()
         Service<Desktop>::current().requestUserAttention(*_window);
     if (!_disableGrowl)
         showGrowlNotification();
+    AlarmAnnouncement::began(*this, _finishedText);
     postStatusChanged();
     Q_EMIT stateChanged();
 }

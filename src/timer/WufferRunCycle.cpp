@@ -5,6 +5,7 @@
 #include "rules/TimeFormat.h"
 #include "rules/TimerTexts.h"
 #include "sounds/SoundPreviews.h"
+#include "timer/AlarmAnnouncement.h"
 #include "timer/TimeEntry.h"
 #include "timer/Wuffer.h"
 #include "timer/WufferWindow.h"
@@ -70,6 +71,8 @@ void Wuffer::startRun()
 
 void Wuffer::stopRun()
 {
+    if (_run.state() == TimerRun::State::Alarm)
+        AlarmAnnouncement::ended(*this);
     _wuffTimer.invalidate();
     setColorForDisplayText(TextColor::Black, false);
     const TimerRun::Rest rest = _run.stop(Date::now());

@@ -150,8 +150,10 @@ class FakeDesktop final : public Desktop
 public:
     void requestUserAttention(QWidget &window) override { attentionAskedFor.push_back(&window); }
     void beep() override { ++beeps; }
+    void announce(QWidget & /*window*/, const QString &text) override { announced << text; }
     void openUrl(const QUrl &url) override { opened.push_back(url); }
 
+    QStringList announced;
     std::vector<QWidget *> attentionAskedFor;
     std::vector<QUrl> opened;
     int beeps = 0;

@@ -1,0 +1,137 @@
+#!/usr/bin/python3
+"""Judges what the program tells screen readers, from the events on the accessibility bus.
+
+Usage: listening_test.py WUFFER FOLDER [unittest arguments]
+"""
+
+import time
+
+from gi.repository import Gio, GLib
+
+from support.accessibility import Atspi, Control
+from support.case import DesktopTest, main
+from support.waiting import wait_until
+
+# A muted alarm that is to do nothing rings until the user stops it.
+MUTED = '{"soundOff": 1}'
+TEA = '{"soundOff": 1, "defaultWufferSettings": {"title": "Tea"}}'
+EVENTS = ("object:state-changed:showing", "object:property-change:accessible-name")
+
+
+class Listener:
+    """Hears the events of one program, as a screen reader does."""
+
+    def __init__(self, program):
+        self.program = program.application
+        self.shown = []
+        self.said = []
+        self.renamed = 0
+        self.register("RegisterEvent")
+        self.subscription = self.program.bus.signal_subscribe(
+            self.program.name, "org.a11y.atspi.Event.Object", None, None, None,
+            Gio.DBusSignalFlags.NONE, self.hear)
+
+    def register(self, method):
+        for event in EVENTS:
+            self.program.bus.call_sync(
+                "org.a11y.atspi.Registry", "/org/a11y/atspi/registry", "org.a11y.atspi.Registry",
+                method, GLib.Variant("(s)", (event,)) if method == "DeregisterEvent" else
+                GLib.Variant("(sass)", (event, [], "")), None, Gio.DBusCallFlags.NONE, 5000, None)
+
+    def hear(self, _bus, _sender, path, _interface, signal, arguments):
+        kind, begins, *_ = arguments.unpack()
+        if signal == "PropertyChange" and kind == "accessible-name":
+            self.renamed += 1
+        if signal == "StateChanged" and kind == "showing" and begins:
+            self.shown.append(path)
+
+    def texts(self):
+        """Returns the names of the notifications that have come into view."""
+        while GLib.MainContext.default().iteration(False):
+            pass
+        controls = [Control(self.program, path) for path in self.shown]
+        self.shown = []
+        self.program.learn_roles(controls)
+        self.program.describe(controls)
+        self.said += [control.name for control in controls
+                      if control.role == int(Atspi.Role.NOTIFICATION)]
+        return self.said
+
+    def close(self):
+        self.program.bus.signal_unsubscribe(self.subscription)
+        self.register("DeregisterEvent")
+
+
+class ListeningTest(DesktopTest):
+    def listen(self, program):
+        listener = Listener(program)
+        self.addCleanup(listener.close)
+        # The program learns from the registry what to send.
+        time.sleep(0.5)
+        return listener
+
+    def wait_for_texts(self, listener, texts):
+        wait_until(lambda: listener.texts() == texts, 8, f"the notifications say {texts}", 0.02)
+
+    def test_an_alarm_is_announced_while_another_window_has_the_focus(self):
+        program = self.launch(settings=TEA)
+        listener = self.listen(program)
+        program.start_countdown(2)
+        self.display.key("ctrl+n")
+        program.wait_for_windows(2)
+        self.wait_for_texts(listener, ["Tea: Wuff!"])
+        self.quit(program)
+
+    def test_each_alarm_is_announced_once_when_it_begins_and_once_when_it_ends(self):
+        program = self.launch(settings=TEA)
+        listener = self.listen(program)
+        program.start_countdown(2)
+        program.wait_for_button("Reset")
+        self.wait_for_texts(listener, ["Tea: Wuff!"])
+        self.display.key("Return")
+        program.wait_for_button("Start")
+        self.wait_for_texts(listener, ["Tea: Wuff!", "Tea: Alarm ended"])
+        # The announcement leaves the view without a further word.
+        time.sleep(1)
+        self.assertEqual(len(listener.texts()), 2)
+        self.quit(program)
+
+    def test_a_running_display_reports_two_changes_a_second(self):
+        program = self.launch(settings=MUTED)
+        program.start_countdown(600)
+        program.wait_for_button("Stop")
+        listener = self.listen(program)
+        listener.texts()
+        before = listener.renamed
+        time.sleep(3)
+        listener.texts()
+        # The time and the elapsed time, and not the milliseconds.
+        self.assertIn(listener.renamed - before, range(4, 9))
+        self.assertEqual(listener.texts(), [])
+        self.quit(program)
+
+    def test_the_speaker_and_the_button_of_the_drawer_say_their_states(self):
+        program = self.launch()
+        states = Atspi.StateType
+        self.assertFalse(program.find("button", "Mute all timers").has_state(states.CHECKED))
+        self.press(program.find("button", "Mute all timers"))
+        program.wait_for_button("Let all timers be heard again")
+        speaker = program.find("button", "Let all timers be heard again")
+        self.assertEqual(speaker.description, "Sound is off")
+        self.assertTrue(speaker.has_state(states.CHECKED))
+        more = program.find("button", "More Options")
+        self.assertTrue(more.has_state(states.EXPANDABLE))
+        self.assertFalse(more.has_state(states.EXPANDED))
+        self.press(more)
+        program.wait_for_button("Hide Options")
+        self.assertTrue(program.find("button", "Hide Options").has_state(states.EXPANDED))
+        self.quit(program)
+
+    def press(self, control):
+        """Presses a button as an assistive program does."""
+        self.assertEqual(control.ask("org.a11y.atspi.Action", "DoAction",
+                                     GLib.Variant("(i)", (0,))), (True,))
+
+
+if __name__ == "__main__":
+    main()
