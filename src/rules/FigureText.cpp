@@ -14,6 +14,9 @@ constexpr qsizetype kLongestNumber = 100;
 /// This many significant digits distinguish any two floats.
 constexpr int kMostDigits = 9;
 
+/// Significant digits of a rounded number, if its whole part does not need more.
+constexpr int kRoundedDigits = 5;
+
 /// The number in the text, written with the locale's own marks.
 std::optional<double> strictNumberIn(const QString &number, const QLocale &locale)
 {
@@ -55,6 +58,20 @@ bool canBecomeNumber(const QString &text, const QLocale &locale)
     return false;
 }
 
+/// The number rounded to this many significant digits.
+double rounded(double number, int digits)
+{
+    return QByteArray::number(number, 'e', digits - 1).toDouble();
+}
+
+/// The decimal exponent of the number when written with this many significant digits.
+int powerOf(double number, int digits)
+{
+    const QByteArray text = QByteArray::number(number, 'e', digits - 1);
+    return text.mid(text.indexOf('e') + 1).toInt();
+}
+
+/// The fewest significant digits that distinguish the number from other floats.
 int digitsNeeded(float number)
 {
     int digits = 1;
@@ -64,11 +81,33 @@ int digitsNeeded(float number)
     return digits;
 }
 
-/// The decimal exponent of the number when written with this many significant digits.
-int powerOf(double number, int digits)
+/// The fewest significant digits that show the number as well as this many do.
+int digitsNeeded(double number, int limit)
 {
-    const QByteArray text = QByteArray::number(number, 'e', digits - 1);
-    return text.mid(text.indexOf('e') + 1).toInt();
+    int digits = 1;
+    while (digits < limit && rounded(number, digits) != rounded(number, limit))
+        ++digits;
+    return digits;
+}
+
+/// The number with this many significant digits.
+QString written(double number, int digits, const QLocale &locale)
+{
+    // With exponents outside this range, a number without an exponent would be mostly zeros.
+    constexpr int smallest = -6;
+    const int power = powerOf(number, digits);
+    const bool plain = power >= smallest && power < kMostDigits;
+
+    QLocale ungrouped = locale;
+    ungrouped.setNumberOptions(QLocale::OmitGroupSeparator);
+    QString text = plain ? ungrouped.toString(number, 'f', std::max(0, digits - 1 - power))
+                         : ungrouped.toString(number, 'e', digits - 1);
+    // Write signs and the exponent in ASCII. Those of some locales contain invisible characters,
+    // which read() would not understand.
+    text.replace(locale.exponential(), QLatin1String("E"));
+    text.replace(locale.negativeSign(), QLatin1String("-"));
+    text.remove(locale.positiveSign());
+    return text;
 }
 } // namespace
 
@@ -92,23 +131,17 @@ QString FigureText::begun(const QString &text, const QLocale &locale)
 
 QString FigureText::write(float number, const QLocale &locale)
 {
-    // With exponents outside this range, a number without an exponent would be mostly zeros.
-    constexpr int smallest = -6;
+    if (number == 0.0F)
+        return locale.zeroDigit();
+    return written(static_cast<double>(number), digitsNeeded(number), locale);
+}
+
+QString FigureText::writeRounded(float number, const QLocale &locale)
+{
     if (number == 0.0F)
         return locale.zeroDigit();
     const auto value = static_cast<double>(number);
-    const int digits = digitsNeeded(number);
-    const int power = powerOf(value, digits);
-    const bool plain = power >= smallest && power < kMostDigits;
-
-    QLocale ungrouped = locale;
-    ungrouped.setNumberOptions(QLocale::OmitGroupSeparator);
-    QString text = plain ? ungrouped.toString(value, 'f', std::max(0, digits - 1 - power))
-                         : ungrouped.toString(value, 'e', digits - 1);
-    // Write signs and the exponent in ASCII. Those of some locales contain invisible characters,
-    // which read() would not understand.
-    text.replace(locale.exponential(), QLatin1String("E"));
-    text.replace(locale.negativeSign(), QLatin1String("-"));
-    text.remove(locale.positiveSign());
-    return text;
+    const int whole = powerOf(value, kMostDigits) + 1;
+    const int most = std::min(std::max(kRoundedDigits, whole), digitsNeeded(number));
+    return written(value, digitsNeeded(value, most), locale);
 }

@@ -18,4 +18,8 @@ namespace FigureText
 /// The shortest text that reads as this number: at most nine significant digits, no group
 /// separators, an exponent only for very large and very small numbers.
 [[nodiscard]] QString write(float number, const QLocale &locale);
+
+/// The number rounded to five significant digits, or to a whole number if that has more. Written
+/// like the numbers of write(), without zeros at the end of a fraction.
+[[nodiscard]] QString writeRounded(float number, const QLocale &locale);
 } // namespace FigureText

@@ -48,13 +48,16 @@ void Converter::awakeFromNib()
 {
     _ui->_fField->setFloatValue(stored(Keys::kFahrenheitValue));
     convertTemperature(*_ui->_fField);
+    _ui->_fField->showAllDigits();
     _ui->_fField->selectText();
 
     _ui->_gramsField->setFloatValue(stored(Keys::kGramsValue));
     convertWeight(*_ui->_gramsField);
+    _ui->_gramsField->showAllDigits();
 
     _ui->_millilitersField->setFloatValue(stored(Keys::kMilliliterValue));
     convertVolume(*_ui->_millilitersField);
+    _ui->_millilitersField->showAllDigits();
     _ui->_millilitersField->selectText();
 }
 

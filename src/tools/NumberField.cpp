@@ -5,29 +5,28 @@
 #include <QScopedValueRollback>
 #include <QStyle>
 
-#include <algorithm>
-#include <utility>
-
 NumberField::NumberField(QWidget *parent) : QLineEdit(parent)
 {
     // By itself the side would follow the digits, which read from left to right everywhere.
     setAlignment(QStyle::visualAlignment(layoutDirection(), Qt::AlignLeading) | Qt::AlignVCenter);
     connect(this, &QLineEdit::textEdited, this, &NumberField::handleEdit);
-    connect(this, &QLineEdit::cursorPositionChanged, this, &NumberField::forgetTyped);
-    connect(this, &QLineEdit::selectionChanged, this, &NumberField::forgetTyped);
+    connect(this, &QLineEdit::editingFinished, this, &NumberField::finishTyping);
 }
 
 float NumberField::floatValue() const
 {
-    return FigureText::read(text(), QLocale());
+    return _known && _known->text == text() ? _known->number : FigureText::read(text(), QLocale());
 }
 
 void NumberField::setFloatValue(float number)
 {
-    if (_isBeingEdited)
-        showWhileTyping(number);
-    else
-        setText(FigureText::write(number, QLocale()));
+    showAs(number, _isBeingEdited ? text() : FigureText::writeRounded(number, QLocale()));
+}
+
+void NumberField::showAllDigits()
+{
+    const float number = floatValue();
+    showAs(number, FigureText::write(number, QLocale()));
 }
 
 void NumberField::selectText()
@@ -39,56 +38,28 @@ void NumberField::selectText()
 void NumberField::handleEdit()
 {
     const QScopedValueRollback<bool> editing(_isBeingEdited, true);
-    // textEdited comes before cursorPositionChanged, which resets _typed.
-    if (const std::optional<Typed> typed = std::exchange(_typed, std::nullopt))
-        applyEditToTyped(*typed);
+    _known.reset();
     Q_EMIT edited();
 }
 
-/// Applies the user's edit of the shown text to the typed text, and shows the result.
-void NumberField::applyEditToTyped(const Typed &typed)
+void NumberField::finishTyping()
 {
-    const QString changed = text();
-    const qsizetype cursor = cursorPosition();
-    const qsizetype inserted = cursor - typed.shownCursor;
-    const qsizetype deletedBehind =
-        typed.shown.size() - typed.shownCursor - (changed.size() - cursor);
-
-    QString text = typed.text;
-    qsizetype place = typed.cursor;
-    if (deletedBehind > 0)
-        text.remove(place, deletedBehind);
-    if (inserted > 0) {
-        text.insert(place, changed.mid(typed.shownCursor, inserted));
-        place += inserted;
-    } else {
-        const qsizetype deleted = std::min(-inserted, place);
-        place -= deleted;
-        text.remove(place, deleted);
-    }
-    setText(text);
-    setCursorPosition(static_cast<int>(place));
-}
-
-void NumberField::showWhileTyping(float number)
-{
-    const QLocale locale;
-    const QString before = text();
-    const QString typed = FigureText::begun(before, locale);
-    const bool reads = FigureText::read(typed, locale) == number;
-    const QString shown = reads ? typed : FigureText::write(number, locale);
-    if (shown == before)
+    // No number was set while the user typed: the text is all that counts.
+    if (!_known)
         return;
-
-    const qsizetype cursor = std::min<qsizetype>(cursorPosition(), typed.size());
-    const bool atEnd = cursor == typed.size();
-    const qsizetype shownCursor = atEnd ? shown.size() : std::min(cursor, shown.size());
-    setText(shown);
-    setCursorPosition(static_cast<int>(shownCursor));
-    _typed = Typed{typed, cursor, shown, shownCursor};
+    const QLocale locale;
+    const float number = floatValue();
+    const QString shown = FigureText::writeRounded(number, locale);
+    const bool isNumber = !text().isEmpty() && FigureText::begun(text(), locale) == text();
+    const float typed = FigureText::read(text(), locale);
+    if (!isNumber || FigureText::writeRounded(typed, locale) != shown)
+        showAs(number, shown);
 }
 
-void NumberField::forgetTyped()
+void NumberField::showAs(float number, const QString &text)
 {
-    _typed.reset();
+    // Setting the same text again would lose the cursor and what can be undone.
+    if (text != this->text())
+        setText(text);
+    _known = Known{number, text};
 }

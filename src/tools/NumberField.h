@@ -6,9 +6,9 @@
 
 /// A field that holds a number in single precision, in the format of the user's locale.
 ///
-/// A slot of edited() may set the number while the user types. The next keystroke then continues
-/// the typed text, not the shown one: a user who types 12.5 gets 12.5, even if the field showed
-/// 11.999999 after the 12. Moving the cursor makes the shown text the typed one.
+/// The field shows a number that it is given rounded, but keeps it in full until the user edits the
+/// text. A slot of edited() may set the number while the user types. The text then stays as typed;
+/// when the user leaves the field, a text that does not show the number is replaced.
 class NumberField final : public QLineEdit
 {
     Q_OBJECT
@@ -16,12 +16,15 @@ class NumberField final : public QLineEdit
 public:
     explicit NumberField(QWidget *parent = nullptr);
 
-    /// The number that the text begins with; 0 when there is none.
+    /// The number that was set, unless the text has changed since; then the number that the text
+    /// begins with, or 0 when there is none.
     [[nodiscard]] float floatValue() const;
 
-    /// Shows the number. If the text that the user is typing reads as this number, it stays, so
-    /// that "12." can be completed, but loses what does not belong to a number.
+    /// Sets the number and shows it rounded, unless the user is typing in this field.
     void setFloatValue(float number);
+
+    /// Shows the number with all its digits.
+    void showAllDigits();
 
     /// Moves the focus here and selects everything.
     void selectText();
@@ -31,20 +34,17 @@ Q_SIGNALS:
     void edited();
 
 private:
-    /// What the user has typed, while the field shows another text for it.
-    struct Typed
+    /// A number that was set, and the text that the field had then.
+    struct Known
     {
+        float number;
         QString text;
-        qsizetype cursor;
-        QString shown;
-        qsizetype shownCursor;
     };
 
     void handleEdit();
-    void applyEditToTyped(const Typed &typed);
-    void showWhileTyping(float number);
-    void forgetTyped();
+    void finishTyping();
+    void showAs(float number, const QString &text);
 
-    std::optional<Typed> _typed;
+    std::optional<Known> _known;
     bool _isBeingEdited = false;
 };

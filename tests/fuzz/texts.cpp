@@ -26,6 +26,9 @@ void checkFigure(const QString &text, const QLocale &locale)
     check(std::isfinite(number), "a figure is finite");
     const QString written = FigureText::write(number, locale);
     check(FigureText::read(written, locale) == number, "a written number reads as itself");
+    const QString rounded = FigureText::writeRounded(number, locale);
+    check(rounded.size() <= written.size(), "a rounded number is no longer than the whole one");
+    check(FigureText::begun(rounded, locale) == rounded, "a rounded number is a number");
 }
 
 void checkMenuText(const QString &text)

@@ -33,6 +33,9 @@ private Q_SLOTS:
     void whatIsWrittenReadsAsTheSameInEveryLocale();
     void everyFloatReadsBackUnchanged();
     void noMoreThanNineDigits();
+    void numbersAreRounded_data();
+    void numbersAreRounded();
+    void aRoundedNumberIsCloseAndShort();
     void aVeryLongTextIsReadAtOnce();
 };
 
@@ -217,6 +220,59 @@ void tst_FigureText::noMoreThanNineDigits()
         QString text = FigureText::write(std::pow(10.0F, power(random)), QLocale::c());
         const QString digits = QString(text).remove(leading);
         QVERIFY2(digits.size() <= 9, qPrintable(text));
+    }
+}
+
+void tst_FigureText::numbersAreRounded_data()
+{
+    QTest::addColumn<QString>("locale");
+    QTest::addColumn<float>("number");
+    QTest::addColumn<QString>("text");
+
+    const auto row = [](const char *name, const char *locale, float number, const char *text) {
+        QTest::newRow(name) << QString::fromLatin1(locale) << number << QString::fromUtf8(text);
+    };
+    row("nothing", "C", 0.0F, "0");
+    row("nothing, from below", "C", -0.0F, "0");
+    row("whole", "C", 212.0F, "212");
+    row("five digits", "C", 333.33334F, "333.33");
+    row("negative", "C", -17.777779F, "-17.778");
+    row("without zeros at the end", "C", 28.349524F, "28.35");
+    row("nearly the next whole number", "C", 999.99994F, "1000");
+    row("nearly one digit more", "C", 99999.99F, "100000");
+    row("a small fraction", "C", 0.0042267528F, "0.0042268");
+    row("five digits before the point", "C", 12345.678F, "12346");
+    row("a longer whole part", "C", 236588.24F, "236588");
+    row("a longer whole part that is rounded", "C", 999999.6F, "1000000");
+    row("nine digits", "C", 123456792.0F, "123456792");
+    row("a whole part too long to be written out", "C", 1.2345679e10F, "1.2345679E10");
+    row("the largest", "C", std::numeric_limits<float>::max(), "3.40282347E38");
+    row("very small", "C", 1.23456789e-8F, "1.2346E-08");
+    row("no groups", "en_US", 1234567.0F, "1234567");
+    row("a decimal comma", "de_DE", 1.0F / 3.0F, "0,33333");
+    row("digits of another script", "ar_EG", 12.500001F, "١٢٫٥");
+    row("nothing in another script", "ar_EG", 0.0F, "٠");
+}
+
+void tst_FigureText::numbersAreRounded()
+{
+    QFETCH(const QString, locale);
+    QFETCH(const float, number);
+    QTEST(FigureText::writeRounded(number, localeNamed(locale)), "text");
+}
+
+void tst_FigureText::aRoundedNumberIsCloseAndShort()
+{
+    constexpr float halfOfTheFifthDigit = 0.00005001F;
+    std::mt19937 random(22);
+    std::uniform_real_distribution<float> power(-8.0F, 12.0F);
+    for (int count = 0; count < 5000; ++count) {
+        const float number = std::pow(10.0F, power(random));
+        const QString text = FigureText::writeRounded(number, QLocale::c());
+        const float read = FigureText::read(text, QLocale::c());
+        QVERIFY2(std::abs(read - number) <= number * halfOfTheFifthDigit, qPrintable(text));
+        QVERIFY2(number < 1.0F || std::abs(read - number) <= 0.5F, qPrintable(text));
+        QVERIFY2(text.size() <= FigureText::write(number, QLocale::c()).size(), qPrintable(text));
     }
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "rules/Conversions.h"
+#include "rules/FigureText.h"
 #include "support/Find.h"
 #include "support/TestServices.h"
 #include "tools/Converter.h"
@@ -9,6 +10,7 @@
 #include <QMainWindow>
 
 #include <array>
+#include <vector>
 
 /// The converter in its window, shown.
 struct ConverterWindow : QMainWindow
@@ -33,26 +35,46 @@ struct ConverterWindow : QMainWindow
     [[nodiscard]] QString text(const char *name) const { return field(name).text(); }
     [[nodiscard]] float value(const char *name) const { return field(name).floatValue(); }
 
-    /// Milliliters, fluid ounces, cups, tablespoons and teaspoons.
-    [[nodiscard]] QString volumes() const
-    {
-        const QStringList all{text("_millilitersField"), text("_fluidOuncesField"),
-                              text("_cupsField"), text("_tablespoonsField"),
-                              text("_teaspoonsField")};
-        return all.join(QLatin1Char(' '));
-    }
-    /// Grams and ounces.
-    [[nodiscard]] QString weights() const
-    {
-        return text("_gramsField") + QLatin1Char(' ') + text("_ouncesField");
-    }
-    /// Celsius and Fahrenheit.
+    /// The texts of the milliliters, fluid ounces, cups, tablespoons and teaspoons.
+    [[nodiscard]] QString volumes() const { return each(kVolumes, &ConverterWindow::text); }
+    /// The texts of the grams and ounces.
+    [[nodiscard]] QString weights() const { return each(kWeights, &ConverterWindow::text); }
+    /// The texts of Celsius and Fahrenheit.
     [[nodiscard]] QString temperatures() const
     {
-        return text("_cField") + QLatin1Char(' ') + text("_fField");
+        return each(kTemperatures, &ConverterWindow::text);
+    }
+
+    /// The numbers behind these texts, with all their digits.
+    [[nodiscard]] QString exactVolumes() const { return each(kVolumes, &ConverterWindow::exact); }
+    [[nodiscard]] QString exactWeights() const { return each(kWeights, &ConverterWindow::exact); }
+    [[nodiscard]] QString exactTemperatures() const
+    {
+        return each(kTemperatures, &ConverterWindow::exact);
     }
 
     Converter converter;
+
+private:
+    using Names = std::vector<const char *>;
+
+    [[nodiscard]] QString exact(const char *name) const
+    {
+        return FigureText::write(value(name), QLocale::c());
+    }
+    [[nodiscard]] QString each(const Names &names,
+                               QString (ConverterWindow::*get)(const char *) const) const
+    {
+        QStringList all;
+        for (const char *name : names)
+            all.append((this->*get)(name));
+        return all.join(QLatin1Char(' '));
+    }
+
+    inline static const Names kVolumes{"_millilitersField", "_fluidOuncesField", "_cupsField",
+                                       "_tablespoonsField", "_teaspoonsField"};
+    inline static const Names kWeights{"_gramsField", "_ouncesField"};
+    inline static const Names kTemperatures{"_cField", "_fField"};
 };
 
 /// The converter's window with services of its own.

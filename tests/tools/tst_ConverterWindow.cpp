@@ -19,7 +19,8 @@ private Q_SLOTS:
     void anEmptiedFieldCountsAsZero();
     void typingFromLeftToRightGivesTheNumberTyped_data();
     void typingFromLeftToRightGivesTheNumberTyped();
-    void theEditedVolumeShowsItsValueThereAndBack();
+    void theEditedVolumeHasItsValueThereAndBack();
+    void theEditedVolumeKeepsItsTextWhileItIsTyped();
     void theEditedWeightAndTemperatureStayAsTyped();
     void absurdNumbersStayNumbers();
     void everyFieldHasItsNameAndItsKey();
@@ -118,13 +119,25 @@ void tst_ConverterWindow::typingFromLeftToRightGivesTheNumberTyped()
     }
 }
 
-void tst_ConverterWindow::theEditedVolumeShowsItsValueThereAndBack()
+void tst_ConverterWindow::theEditedVolumeHasItsValueThereAndBack()
 {
     ConverterFixture f;
     f.window.type("_teaspoonsField", "3.5");
-    QCOMPARE(f.window.text("_teaspoonsField"), QStringLiteral("3.5000002"));
+    QVERIFY(f.window.value("_teaspoonsField") == 3.5000002F);
     f.window.type("_tablespoonsField", "0.1");
-    QCOMPARE(f.window.text("_tablespoonsField"), QStringLiteral("0.10000001"));
+    QVERIFY(f.window.value("_tablespoonsField") == 0.10000001F);
+}
+
+void tst_ConverterWindow::theEditedVolumeKeepsItsTextWhileItIsTyped()
+{
+    ConverterFixture f;
+    f.window.type("_cupsField", "about 1.50");
+    QCOMPARE(f.window.text("_cupsField"), QStringLiteral("about 1.50"));
+    QVERIFY(f.window.value("_cupsField") == 0.0F);
+    f.window.type("_cupsField", "1.50");
+    f.window.type("_teaspoonsField", "003.50 tsp");
+    QCOMPARE(f.window.text("_teaspoonsField"), QStringLiteral("003.50 tsp"));
+    QVERIFY(f.window.value("_teaspoonsField") == 3.5000002F);
 }
 
 void tst_ConverterWindow::theEditedWeightAndTemperatureStayAsTyped()
