@@ -1,5 +1,6 @@
 #include "platform/StatusIcon.h"
 
+#include "base/Contrast.h"
 #include "platform/StatusItem.h"
 
 #include <QFont>
@@ -8,34 +9,17 @@
 #include <QPalette>
 
 #include <algorithm>
-#include <cmath>
 
 namespace
 {
-/// The relative luminance, from 0 (black) to 1 (white).
-double luminance(const QColor &color)
-{
-    const auto linear = [](double value) {
-        return value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
-    };
-    const QColor rgb = color.toRgb();
-    return 0.2126 * linear(static_cast<double>(rgb.redF())) +
-           0.7152 * linear(static_cast<double>(rgb.greenF())) +
-           0.0722 * linear(static_cast<double>(rgb.blueF()));
-}
-
-/// The contrast ratio, from 1 (no difference) to 21.
-double contrast(const QColor &one, const QColor &other)
-{
-    const auto [dark, light] = std::minmax({luminance(one), luminance(other)});
-    return (light + 0.05) / (dark + 0.05);
-}
-
 QColor plateFor(const QColor &ink)
 {
     const QColor light(Qt::white);
     const QColor dark(0x20, 0x20, 0x20);
-    return contrast(ink, light) >= contrast(ink, dark) ? light : dark;
+    const auto contrast = [&](const QColor &plate) {
+        return Contrast::ratio(Rgb::of(ink), Rgb::of(plate));
+    };
+    return contrast(light) >= contrast(dark) ? light : dark;
 }
 
 /// The outline of the text, stretched to fill the room. Limits to the stretching keep a short text
