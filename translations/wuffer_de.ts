@@ -302,6 +302,7 @@ Freie Software unter der MIT-Lizenz: Sie dürfen sie verwenden,
     </message>
     <message>
         <source>This help is available in English only.</source>
+        <extracomment>Stands above the pages of the help in languages that the help is not translated to.</extracomment>
         <translation>Diese Hilfe gibt es nur auf Englisch.</translation>
     </message>
 </context>
@@ -987,6 +988,16 @@ Pieptöne und das Ende eines Countdowns kommen bis zu 0,2 Sekunden verspätet.</
     <message>
         <source>Missing:</source>
         <translation>Fehlt:</translation>
+    </message>
+    <message>
+        <source>Running timers do not show in the panel</source>
+        <extracomment>A line below “Hide the status item”; as short as possible.</extracomment>
+        <translation>Laufende Timer erscheinen nicht in der Leiste</translation>
+    </message>
+    <message>
+        <source>No milliseconds; beeps and alarms come up to 0.2 seconds late</source>
+        <extracomment>A line below “Energy saver”; as short as possible.</extracomment>
+        <translation>Keine Millisekunden; Pieptöne und Alarme kommen bis zu 0,2 Sekunden verspätet</translation>
     </message>
 </context>
 <context>

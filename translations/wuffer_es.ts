@@ -302,6 +302,7 @@ y redistribuir. Se ofrece sin garantía alguna.</translation>
     </message>
     <message>
         <source>This help is available in English only.</source>
+        <extracomment>Stands above the pages of the help in languages that the help is not translated to.</extracomment>
         <translation>Esta ayuda solo está disponible en inglés.</translation>
     </message>
 </context>
@@ -987,6 +988,16 @@ Los pitidos y el final de la cuenta atrás llegan hasta 0,2 segundos tarde.</tra
     <message>
         <source>Missing:</source>
         <translation>No encontrado:</translation>
+    </message>
+    <message>
+        <source>Running timers do not show in the panel</source>
+        <extracomment>A line below “Hide the status item”; as short as possible.</extracomment>
+        <translation>Los temporizadores en marcha no aparecen en el panel</translation>
+    </message>
+    <message>
+        <source>No milliseconds; beeps and alarms come up to 0.2 seconds late</source>
+        <extracomment>A line below “Energy saver”; as short as possible.</extracomment>
+        <translation>Sin milisegundos; los pitidos y las alarmas llegan hasta 0,2 segundos tarde</translation>
     </message>
 </context>
 <context>

@@ -302,6 +302,7 @@ et partagez-le. Il est fourni sans aucune garantie.</translation>
     </message>
     <message>
         <source>This help is available in English only.</source>
+        <extracomment>Stands above the pages of the help in languages that the help is not translated to.</extracomment>
         <translation>Cette aide n’est disponible qu’en anglais.</translation>
     </message>
 </context>
@@ -987,6 +988,16 @@ Les bips et la fin du décompte ont jusqu’à 0,2 seconde de retard.</translati
     <message>
         <source>Missing:</source>
         <translation>Introuvable&#x202f;:</translation>
+    </message>
+    <message>
+        <source>Running timers do not show in the panel</source>
+        <extracomment>A line below “Hide the status item”; as short as possible.</extracomment>
+        <translation>Les minuteurs en marche n’apparaissent pas dans le tableau de bord</translation>
+    </message>
+    <message>
+        <source>No milliseconds; beeps and alarms come up to 0.2 seconds late</source>
+        <extracomment>A line below “Energy saver”; as short as possible.</extracomment>
+        <translation>Sans millisecondes ; bips et alarmes ont jusqu’à 0,2 seconde de retard</translation>
     </message>
 </context>
 <context>

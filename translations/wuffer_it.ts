@@ -302,6 +302,7 @@ e condividilo. È fornito senza alcuna garanzia.</translation>
     </message>
     <message>
         <source>This help is available in English only.</source>
+        <extracomment>Stands above the pages of the help in languages that the help is not translated to.</extracomment>
         <translation>Questa guida è disponibile solo in inglese.</translation>
     </message>
 </context>
@@ -987,6 +988,16 @@ I bip e la fine del conto alla rovescia ritardano al massimo di 0,2 secondi.</tr
     <message>
         <source>Missing:</source>
         <translation>Mancante:</translation>
+    </message>
+    <message>
+        <source>Running timers do not show in the panel</source>
+        <extracomment>A line below “Hide the status item”; as short as possible.</extracomment>
+        <translation>I timer in corso non compaiono nel pannello</translation>
+    </message>
+    <message>
+        <source>No milliseconds; beeps and alarms come up to 0.2 seconds late</source>
+        <extracomment>A line below “Energy saver”; as short as possible.</extracomment>
+        <translation>Niente millisecondi; bip e allarmi ritardano al massimo di 0,2 secondi</translation>
     </message>
 </context>
 <context>

@@ -300,6 +300,7 @@ MIT ライセンスのフリーソフトウェアです。
     </message>
     <message>
         <source>This help is available in English only.</source>
+        <extracomment>Stands above the pages of the help in languages that the help is not translated to.</extracomment>
         <translation>このヘルプは英語でのみ提供されています。</translation>
     </message>
 </context>
@@ -985,6 +986,16 @@ Beeps and the end of a countdown come up to 0.2 seconds late.</source>
     <message>
         <source>Missing:</source>
         <translation>見つかりません:</translation>
+    </message>
+    <message>
+        <source>Running timers do not show in the panel</source>
+        <extracomment>A line below “Hide the status item”; as short as possible.</extracomment>
+        <translation>実行中のタイマーをパネルに表示しません</translation>
+    </message>
+    <message>
+        <source>No milliseconds; beeps and alarms come up to 0.2 seconds late</source>
+        <extracomment>A line below “Energy saver”; as short as possible.</extracomment>
+        <translation>ミリ秒を表示せず、カウントダウン音とアラームが最大 0.2 秒遅れます</translation>
     </message>
 </context>
 <context>

@@ -302,6 +302,7 @@ en verspreiden is toegestaan. Zonder enige garantie.</translation>
     </message>
     <message>
         <source>This help is available in English only.</source>
+        <extracomment>Stands above the pages of the help in languages that the help is not translated to.</extracomment>
         <translation>Deze help is alleen in het Engels beschikbaar.</translation>
     </message>
 </context>
@@ -987,6 +988,16 @@ Pieptonen en het einde van het aftellen komen tot 0,2 seconden te laat.</transla
     <message>
         <source>Missing:</source>
         <translation>Ontbreekt:</translation>
+    </message>
+    <message>
+        <source>Running timers do not show in the panel</source>
+        <extracomment>A line below “Hide the status item”; as short as possible.</extracomment>
+        <translation>Lopende timers staan niet in het paneel</translation>
+    </message>
+    <message>
+        <source>No milliseconds; beeps and alarms come up to 0.2 seconds late</source>
+        <extracomment>A line below “Energy saver”; as short as possible.</extracomment>
+        <translation>Geen milliseconden; pieptonen en alarmen komen tot 0,2 seconden te laat</translation>
     </message>
 </context>
 <context>

@@ -304,6 +304,7 @@ i przekazywać dalej. Program nie jest objęty żadną gwarancją.</translation>
     </message>
     <message>
         <source>This help is available in English only.</source>
+        <extracomment>Stands above the pages of the help in languages that the help is not translated to.</extracomment>
         <translation>Ta pomoc jest dostępna tylko po angielsku.</translation>
     </message>
 </context>
@@ -989,6 +990,16 @@ Sygnały i koniec odliczania mogą się spóźnić do 0,2 sekundy.</translation>
     <message>
         <source>Missing:</source>
         <translation>Brak pliku:</translation>
+    </message>
+    <message>
+        <source>Running timers do not show in the panel</source>
+        <extracomment>A line below “Hide the status item”; as short as possible.</extracomment>
+        <translation>Działające minutniki nie są widoczne w panelu</translation>
+    </message>
+    <message>
+        <source>No milliseconds; beeps and alarms come up to 0.2 seconds late</source>
+        <extracomment>A line below “Energy saver”; as short as possible.</extracomment>
+        <translation>Bez milisekund; sygnały i alarmy mogą się spóźnić do 0,2 sekundy</translation>
     </message>
 </context>
 <context>

@@ -302,6 +302,7 @@ e distribua à vontade. Sem qualquer garantia.</translation>
     </message>
     <message>
         <source>This help is available in English only.</source>
+        <extracomment>Stands above the pages of the help in languages that the help is not translated to.</extracomment>
         <translation>Esta ajuda está disponível apenas em inglês.</translation>
     </message>
 </context>
@@ -987,6 +988,16 @@ Os bipes e o fim da contagem podem atrasar até 0,2 segundo.</translation>
     <message>
         <source>Missing:</source>
         <translation>Ausente:</translation>
+    </message>
+    <message>
+        <source>Running timers do not show in the panel</source>
+        <extracomment>A line below “Hide the status item”; as short as possible.</extracomment>
+        <translation>Os temporizadores em andamento não aparecem no painel</translation>
+    </message>
+    <message>
+        <source>No milliseconds; beeps and alarms come up to 0.2 seconds late</source>
+        <extracomment>A line below “Energy saver”; as short as possible.</extracomment>
+        <translation>Sem milissegundos; os bipes e alarmes podem atrasar até 0,2 segundo</translation>
     </message>
 </context>
 <context>

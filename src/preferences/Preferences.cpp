@@ -39,19 +39,21 @@ Preferences::Preferences(QMainWindow &window, QAction &muteMenu,
         SoundPreviews::Place{*_ui->_countdownPlayButton, *_ui->_countdownCombo});
     connectControls();
     awakeFromNib();
-    fitHint();
+    fitHints();
 }
 
 Preferences::~Preferences() = default;
 
-void Preferences::fitHint()
+void Preferences::fitHints()
 {
     // A wrapped text does not ask for the height that it needs at the least width of its page.
     const int page =
         std::max(_ui->generalTab->sizeHint().width(), _ui->soundTab->sizeHint().width());
     const QMargins margins = _ui->_soundLayout->contentsMargins();
-    _ui->_soundHint->setMinimumHeight(
-        _ui->_soundHint->heightForWidth(page - margins.left() - margins.right()));
+    const int width = page - margins.left() - margins.right();
+    for (QLabel *hint : std::initializer_list<QLabel *>{_ui->_statusItemHint, _ui->_energySaverHint,
+                                                        _ui->_soundHint})
+        hint->setMinimumHeight(hint->heightForWidth(width));
 }
 
 void Preferences::awakeFromNib()

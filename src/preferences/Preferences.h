@@ -83,7 +83,7 @@ private:
     struct Kind;
 
     void awakeFromNib();
-    void fitHint();
+    void fitHints();
     void connectControls();
     void controlTextDidChange(const QLineEdit &field);
     void windowWillClose(const QWidget &window);
