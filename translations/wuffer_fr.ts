@@ -997,7 +997,7 @@ Les bips et la fin du décompte ont jusqu’à 0,2 seconde de retard.</translati
     <message>
         <source>No milliseconds; beeps and alarms come up to 0.2 seconds late</source>
         <extracomment>A line below “Energy saver”; as short as possible.</extracomment>
-        <translation>Sans millisecondes ; bips et alarmes ont jusqu’à 0,2 seconde de retard</translation>
+        <translation>Sans millisecondes&#x202f;; bips et alarmes ont jusqu’à 0,2 seconde de retard</translation>
     </message>
 </context>
 <context>
