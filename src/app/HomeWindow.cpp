@@ -2,6 +2,7 @@
 
 #include "app/MainMenu.h"
 #include "base/Mnemonics.h"
+#include "controls/WindowButtons.h"
 #include "ui_Home.h"
 
 #include <QAction>
@@ -30,7 +31,7 @@ void showText(QPushButton &button, const QAction &item)
 } // namespace
 
 HomeWindow::HomeWindow(MainMenu &menu, QAction &newTimer, const std::vector<QAction *> &presets) :
-    _ui(std::make_unique<Ui::Home>())
+    QMainWindow(nullptr, kWindowNotToMaximize), _ui(std::make_unique<Ui::Home>())
 {
     auto *contents = new QWidget(this);
     _ui->setupUi(contents);

@@ -14,6 +14,7 @@
 #include "base/NotificationCenter.h"
 #include "base/Service.h"
 #include "base/UserDefaults.h"
+#include "controls/WindowButtons.h"
 #include "platform/StatusItem.h"
 #include "platform/WindowOrder.h"
 #include "preferences/Preferences.h"
@@ -158,6 +159,7 @@ void WufferController::makePreferences()
     if (_preferences)
         return;
     _preferencesWindow = std::make_unique<AuxiliaryWindow>(*_mainMenu, tr("Preferences"));
+    _preferencesWindow->setWindowFlags(kWindowNotToMaximize);
     _preferences = std::make_unique<Preferences>(*_preferencesWindow,
                                                  _mainMenu->itemFor(&WufferController::toggleMute),
                                                  &WufferApplication::isQuitting);
@@ -172,6 +174,7 @@ void WufferController::showPreferences()
 void WufferController::showConverter()
 {
     show(_converterWindow, tr("Converter"), [](QMainWindow &window) {
+        window.setWindowFlags(kWindowNotToMaximize);
         auto *converter = new Converter(&window);
         converter->setConverterWindow(&window);
         converter->awakeFromNib();

@@ -2,6 +2,7 @@
 
 #include "base/PropertyList.h"
 #include "base/UserDefaults.h"
+#include "controls/WindowButtons.h"
 #include "rules/WindowPlace.h"
 
 #include <QApplication>
@@ -30,8 +31,8 @@ QSize decorations()
 } // namespace
 
 WufferWindow::WufferWindow(Wuffer &delegate) :
-    _delegate(delegate), _return(new QShortcut(Qt::Key_Return, this)),
-    _enter(new QShortcut(Qt::Key_Enter, this))
+    QMainWindow(nullptr, kWindowNotToMaximize), _delegate(delegate),
+    _return(new QShortcut(Qt::Key_Return, this)), _enter(new QShortcut(Qt::Key_Enter, this))
 {
     // The window always has the size of its contents, which changes with the drawer.
     layout()->setSizeConstraint(QLayout::SetFixedSize);

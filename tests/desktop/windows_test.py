@@ -182,19 +182,48 @@ class WindowsTest(DesktopTest):
     def test_the_date_sheet_cannot_be_maximised(self):
         program = self.launch()
         sheet = self.open_sheet(program)
-        before = self.display.geometry(sheet)
-        allowed = self.display.property("_NET_WM_ALLOWED_ACTIONS", sheet)
+        self.assert_not_to_maximise(sheet)
+        program.kill()
+
+    def test_windows_that_would_gain_nothing_cannot_be_maximised(self):
+        program = self.launch()
+        timer = program.windows()[0]
+        self.assert_no_maximise_button(timer)
+        self.assert_not_to_maximise(timer)
+        self.assert_not_to_maximise(self.opened(program, "ctrl+shift+c", 2))
+        # The preferences can be resized, but offer no button to maximise them.
+        self.assert_no_maximise_button(self.opened(program, "ctrl+comma", 3))
+        measurements = self.opened(program, "ctrl+shift+e", 4)
+        self.assertIn("MAXIMIZE", self.display.property("_NET_WM_ALLOWED_ACTIONS", measurements))
+        self.quit(program)
+
+    def opened(self, program, key, count):
+        self.display.key(key)
+        window = program.wait_for_windows(count)[-1]
+        self.wait_until_active(window)
+        return window
+
+    def assert_no_maximise_button(self, window):
+        # The Motif hints: move, minimise and close, but not maximise.
+        hints = self.display.property("_MOTIF_WM_HINTS", window).split(", ")
+        flags, functions, decorations = (int(hint, 16) for hint in hints[:3])
+        self.assertEqual(flags & 3, 3)
+        self.assertEqual(functions & (1 << 2 | 1 << 3 | 1 << 4 | 1 << 5), 1 << 2 | 1 << 3 | 1 << 5)
+        self.assertEqual(decorations & (1 << 5 | 1 << 6), 1 << 5)
+
+    def assert_not_to_maximise(self, window):
+        before = self.display.geometry(window)
+        allowed = self.display.property("_NET_WM_ALLOWED_ACTIONS", window)
         self.assertIn("_NET_WM_ACTION_MOVE", allowed)
         self.assertNotIn("MAXIMIZE", allowed)
         # The Motif hints, for older window managers: move and close, but not maximise.
-        flags, functions = self.display.property("_MOTIF_WM_HINTS", sheet).split(", ")[:2]
+        flags, functions = self.display.property("_MOTIF_WM_HINTS", window).split(", ")[:2]
         self.assertEqual(int(flags, 16) & 1, 1)
         self.assertEqual(int(functions, 16) & (1 << 2 | 1 << 4), 1 << 2)
-        self.display.maximise(sheet)
+        self.display.maximise(window)
         time.sleep(0.5)
-        self.assertEqual(self.display.geometry(sheet), before)
-        self.assertFalse([name for name in self.display.state(sheet) if "MAXIMIZED" in name])
-        program.kill()
+        self.assertEqual(self.display.geometry(window), before)
+        self.assertFalse([name for name in self.display.state(window) if "MAXIMIZED" in name])
 
     def has_come_to_rest(self, window):
         height = self.display.geometry(window).height
