@@ -995,7 +995,7 @@ Pieptöne und das Ende eines Countdowns kommen bis zu 0,2 Sekunden verspätet.</
         <translation>Laufende Timer erscheinen nicht in der Leiste</translation>
     </message>
     <message>
-        <source>No milliseconds; beeps and alarms come up to 0.2 seconds late</source>
+        <source>No milliseconds; beeps and alarms up to 0.2 s late</source>
         <extracomment>A line below “Energy saver”; as short as possible.</extracomment>
         <translation>Keine Millisekunden; Pieptöne und Alarme kommen bis zu 0,2 Sekunden verspätet</translation>
     </message>

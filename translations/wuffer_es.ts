@@ -995,7 +995,7 @@ Los pitidos y el final de la cuenta atrás llegan hasta 0,2 segundos tarde.</tra
         <translation>Los temporizadores en marcha no aparecen en el panel</translation>
     </message>
     <message>
-        <source>No milliseconds; beeps and alarms come up to 0.2 seconds late</source>
+        <source>No milliseconds; beeps and alarms up to 0.2 s late</source>
         <extracomment>A line below “Energy saver”; as short as possible.</extracomment>
         <translation>Sin milisegundos; los pitidos y las alarmas llegan hasta 0,2 segundos tarde</translation>
     </message>

@@ -995,7 +995,7 @@ Les bips et la fin du décompte ont jusqu’à 0,2 seconde de retard.</translati
         <translation>Les minuteurs en marche n’apparaissent pas dans le tableau de bord</translation>
     </message>
     <message>
-        <source>No milliseconds; beeps and alarms come up to 0.2 seconds late</source>
+        <source>No milliseconds; beeps and alarms up to 0.2 s late</source>
         <extracomment>A line below “Energy saver”; as short as possible.</extracomment>
         <translation>Sans millisecondes&#x202f;; bips et alarmes ont jusqu’à 0,2 seconde de retard</translation>
     </message>

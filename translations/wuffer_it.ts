@@ -995,7 +995,7 @@ I bip e la fine del conto alla rovescia ritardano al massimo di 0,2 secondi.</tr
         <translation>I timer in corso non compaiono nel pannello</translation>
     </message>
     <message>
-        <source>No milliseconds; beeps and alarms come up to 0.2 seconds late</source>
+        <source>No milliseconds; beeps and alarms up to 0.2 s late</source>
         <extracomment>A line below “Energy saver”; as short as possible.</extracomment>
         <translation>Niente millisecondi; bip e allarmi ritardano al massimo di 0,2 secondi</translation>
     </message>

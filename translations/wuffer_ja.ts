@@ -993,7 +993,7 @@ Beeps and the end of a countdown come up to 0.2 seconds late.</source>
         <translation>実行中のタイマーをパネルに表示しません</translation>
     </message>
     <message>
-        <source>No milliseconds; beeps and alarms come up to 0.2 seconds late</source>
+        <source>No milliseconds; beeps and alarms up to 0.2 s late</source>
         <extracomment>A line below “Energy saver”; as short as possible.</extracomment>
         <translation>ミリ秒を表示せず、カウントダウン音とアラームが最大 0.2 秒遅れます</translation>
     </message>

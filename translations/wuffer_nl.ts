@@ -995,7 +995,7 @@ Pieptonen en het einde van het aftellen komen tot 0,2 seconden te laat.</transla
         <translation>Lopende timers staan niet in het paneel</translation>
     </message>
     <message>
-        <source>No milliseconds; beeps and alarms come up to 0.2 seconds late</source>
+        <source>No milliseconds; beeps and alarms up to 0.2 s late</source>
         <extracomment>A line below “Energy saver”; as short as possible.</extracomment>
         <translation>Geen milliseconden; pieptonen en alarmen komen tot 0,2 seconden te laat</translation>
     </message>

@@ -997,7 +997,7 @@ Sygnały i koniec odliczania mogą się spóźnić do 0,2 sekundy.</translation>
         <translation>Działające minutniki nie są widoczne w panelu</translation>
     </message>
     <message>
-        <source>No milliseconds; beeps and alarms come up to 0.2 seconds late</source>
+        <source>No milliseconds; beeps and alarms up to 0.2 s late</source>
         <extracomment>A line below “Energy saver”; as short as possible.</extracomment>
         <translation>Bez milisekund; sygnały i alarmy mogą się spóźnić do 0,2 sekundy</translation>
     </message>

@@ -995,7 +995,7 @@ Os bipes e o fim da contagem podem atrasar até 0,2 segundo.</translation>
         <translation>Os temporizadores em andamento não aparecem no painel</translation>
     </message>
     <message>
-        <source>No milliseconds; beeps and alarms come up to 0.2 seconds late</source>
+        <source>No milliseconds; beeps and alarms up to 0.2 s late</source>
         <extracomment>A line below “Energy saver”; as short as possible.</extracomment>
         <translation>Sem milissegundos; os bipes e alarmes podem atrasar até 0,2 segundo</translation>
     </message>
