@@ -1,5 +1,8 @@
 #include "controls/DisplayBox.h"
 
+#include "controls/PanelColors.h"
+
+#include <QApplication>
 #include <QCloseEvent>
 #include <QPainter>
 #include <QScreen>
@@ -9,8 +12,6 @@
 
 namespace
 {
-constexpr QColor kPanelColor(0xFB, 0xFA, 0xF5);
-constexpr QColor kPanelEdgeColor(0xC9, 0xC4, 0xB6);
 constexpr qreal kCornerRadius = 6.0;
 /// The height of the bar in the window, and its distance from the foot of the panel.
 constexpr int kBarHeight = 3;
@@ -19,17 +20,6 @@ constexpr int kBarBottom = 4;
 constexpr int kScreensPerBar = 100;
 /// What the margins of the texts have in addition on the full screen: this part of the screen.
 constexpr int kScreensPerMargin = 20;
-
-QPalette panelPalette()
-{
-    QPalette palette;
-    palette.setColor(QPalette::Base, kPanelColor);
-    palette.setColor(QPalette::Window, kPanelColor);
-    palette.setColor(QPalette::Text, Qt::black);
-    palette.setColor(QPalette::WindowText, Qt::black);
-    palette.setColor(QPalette::PlaceholderText, QColor(0x6B, 0x67, 0x5C));
-    return palette;
-}
 
 /// The widgets of the window in tab order.
 QList<QPointer<QWidget>> tabOrder(const QWidget &window)
@@ -58,7 +48,10 @@ public:
     explicit FullScreenWindow(DisplayBox &box) :
         QWidget(nullptr, Qt::FramelessWindowHint), _box(box)
     {
-        setPalette(panelPalette());
+        // The colour of the window until the box has been painted.
+        QPalette panel;
+        panel.setColor(QPalette::Window, box.palette().color(QPalette::Base));
+        setPalette(panel);
         setWindowTitle(box.window()->windowTitle());
         auto *layout = new QVBoxLayout(this);
         layout->setContentsMargins({});
@@ -79,7 +72,7 @@ private:
 
 DisplayBox::DisplayBox(QWidget *parent) : QFrame(parent)
 {
-    setPalette(panelPalette());
+    followTheme();
 }
 
 DisplayBox::~DisplayBox()
@@ -170,23 +163,53 @@ bool DisplayBox::event(QEvent *event)
     const bool handled = QFrame::event(event);
     if (event->type() == QEvent::WindowActivate)
         Q_EMIT windowActivated();
+    if (event->type() == QEvent::ParentChange)
+        followTheme();
     return handled;
+}
+
+bool DisplayBox::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == _surroundings && event->type() == QEvent::PaletteChange)
+        takeColors();
+    return QFrame::eventFilter(watched, event);
+}
+
+void DisplayBox::followTheme()
+{
+    if (_surroundings)
+        _surroundings->removeEventFilter(this);
+    _surroundings = parentWidget();
+    if (_surroundings)
+        _surroundings->installEventFilter(this);
+    takeColors();
+}
+
+void DisplayBox::takeColors()
+{
+    const PanelColors colors =
+        PanelColors::of(_surroundings ? _surroundings->palette() : QApplication::palette());
+    _edgeColor = colors.edge;
+    setPalette(colors.palette());
+    update();
+    Q_EMIT colorsChanged();
 }
 
 void DisplayBox::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
+    const QColor ink = PanelColors::inkFor(_bar.color(), palette());
     if (isInFullScreenMode()) {
-        painter.fillRect(rect(), kPanelColor);
-        _bar.paint(painter, barPlace());
+        painter.fillRect(rect(), palette().color(QPalette::Base));
+        _bar.paint(painter, barPlace(), ink);
         return;
     }
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setBrush(kPanelColor);
-    painter.setPen(kPanelEdgeColor);
+    painter.setBrush(palette().color(QPalette::Base));
+    painter.setPen(_edgeColor);
     const QRectF panel = QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5);
     painter.drawRoundedRect(panel, kCornerRadius, kCornerRadius);
-    _bar.paint(painter, barPlace());
+    _bar.paint(painter, barPlace(), ink);
 }
 
 void DisplayBox::resizeEvent(QResizeEvent *event)

@@ -10,9 +10,9 @@
 
 class QScreen;
 
-/// The light panel behind a timer's texts. Its colours do not depend on the theme, so that black,
-/// red and blue texts are always readable. A bar at its foot shows what is left of a countdown. It
-/// can leave its window to fill a screen, and returns to exactly its old place.
+/// The panel behind a timer's texts. It has the colours of `PanelColors` for the palette of the
+/// widget around it, and follows that palette. A bar at its foot shows what is left of a countdown.
+/// It can leave its window to fill a screen, and returns to exactly its old place.
 class DisplayBox final : public QFrame
 {
     Q_OBJECT
@@ -43,9 +43,12 @@ Q_SIGNALS:
     void fullScreenCloseRequested();
     /// The window that holds the box, its own or the full-screen one, has become active.
     void windowActivated();
+    /// The palette of the panel may have changed.
+    void colorsChanged();
 
 protected:
     bool event(QEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
 
@@ -54,7 +57,13 @@ private:
 
     void destroyPlaceholder();
     [[nodiscard]] RemainingBar::Place barPlace() const;
+    /// Takes the colours of the widget that the box is in now, and of its later palettes.
+    void followTheme();
+    void takeColors();
 
+    /// The widget that the box is in.
+    QPointer<QWidget> _surroundings;
+    QColor _edgeColor;
     std::unique_ptr<FullScreenWindow> _fullScreenWindow;
     /// Holds the box's place in its window during full-screen mode. The window owns it.
     QPointer<QWidget> _placeholder;

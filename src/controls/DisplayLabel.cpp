@@ -1,5 +1,7 @@
 #include "controls/DisplayLabel.h"
 
+#include "controls/PanelColors.h"
+
 #include <QAccessible>
 #include <QAccessibleWidget>
 #include <QEvent>
@@ -119,6 +121,7 @@ void DisplayLabel::setTextColor(const QColor &color)
     if (color == _textColor)
         return;
     _textColor = color;
+    _ink.reset();
     update();
 }
 
@@ -166,7 +169,9 @@ void DisplayLabel::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     painter.fillRect(rect(), palette().color(QPalette::Base));
-    painter.setPen(_textColor);
+    if (!_ink)
+        _ink = PanelColors::inkFor(_textColor, palette());
+    painter.setPen(*_ink);
     if (!paintPlain(painter))
         paintShaped(painter);
 }
@@ -206,5 +211,7 @@ void DisplayLabel::changeEvent(QEvent *event)
         _rawFont.reset();
         updateGeometry();
     }
+    if (event->type() == QEvent::PaletteChange)
+        _ink.reset();
     QWidget::changeEvent(event);
 }

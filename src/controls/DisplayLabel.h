@@ -25,6 +25,7 @@ public:
     [[nodiscard]] QString text() const { return _text; }
     void setText(const QString &text);
 
+    /// The colour of the text, whatever the theme. It is drawn so that it can be read on the panel.
     [[nodiscard]] QColor textColor() const { return _textColor; }
     void setTextColor(const QColor &color);
 
@@ -66,6 +67,8 @@ private:
     /// Made when it is first needed, for the font of the moment.
     std::optional<QRawFont> _rawFont;
     QColor _textColor = Qt::black;
+    /// The colour in which the text is drawn; found when it is first needed.
+    std::optional<QColor> _ink;
     Qt::Alignment _alignment = Qt::AlignCenter;
     int _reservedCharacters = 0;
     double _reservedPointSize = 0;

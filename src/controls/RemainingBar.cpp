@@ -26,15 +26,15 @@ QRectF RemainingBar::filledPart(const Place &place) const
     return part;
 }
 
-void RemainingBar::paint(QPainter &painter, const Place &place) const
+void RemainingBar::paint(QPainter &painter, const Place &place, const QColor &ink) const
 {
     if (_share <= 0)
         return;
-    QColor trackColor = _color;
+    QColor trackColor = ink;
     trackColor.setAlphaF(kTrackAlpha);
     painter.setPen(Qt::NoPen);
     painter.setBrush(trackColor);
     painter.drawRoundedRect(place.track, place.cornerRadius, place.cornerRadius);
-    painter.setBrush(_color);
+    painter.setBrush(ink);
     painter.drawRoundedRect(filledPart(place), place.cornerRadius, place.cornerRadius);
 }

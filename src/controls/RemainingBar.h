@@ -26,6 +26,7 @@ public:
     [[nodiscard]] double share() const { return _share; }
     void setShare(double share);
 
+    /// The colour of the texts of the display, which may be drawn in another ink.
     [[nodiscard]] QColor color() const { return _color; }
     void setColor(const QColor &color) { _color = color; }
 
@@ -33,8 +34,8 @@ public:
     /// anything is left. It begins where lines of text begin.
     [[nodiscard]] QRectF filledPart(const Place &place) const;
 
-    /// Draws the bar, and the rest of its track faintly.
-    void paint(QPainter &painter, const Place &place) const;
+    /// Draws the bar in this ink, and the rest of its track faintly.
+    void paint(QPainter &painter, const Place &place, const QColor &ink) const;
 
 private:
     double _share = 0;

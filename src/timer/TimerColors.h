@@ -12,7 +12,8 @@ enum class TextColor {
     Blue,
 };
 
-/// The colour to paint with. The display is light in every theme.
+/// The colour of such a text, the same in every theme. In a dark one it is drawn in a colour of
+/// this hue that can be read.
 [[nodiscard]] inline QColor colorOf(TextColor color)
 {
     switch (color) {

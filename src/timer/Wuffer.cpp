@@ -93,6 +93,8 @@ void Wuffer::connectControls()
     connect(_ui->_displayBox, &DisplayBox::fullScreenCloseRequested, this, &Wuffer::setWindowed);
     connect(_ui->_displayBox, &DisplayBox::windowActivated, this,
             [this] { _alarmNotification.windowActivated(); });
+    connect(_ui->_displayBox, &DisplayBox::colorsChanged, this,
+            [this] { setColorForDisplayText(_titleColor, false); });
     for (QLineEdit *field : std::initializer_list<QLineEdit *>{
              _ui->_titleField, _ui->_hoursField, _ui->_minutesField, _ui->_secondsField}) {
         connect(field, &QLineEdit::textEdited, this,

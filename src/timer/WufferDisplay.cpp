@@ -1,4 +1,5 @@
 #include "BuildInfo.h"
+#include "controls/PanelColors.h"
 #include "rules/TimeFormat.h"
 #include "rules/TimerTexts.h"
 #include "timer/DisplayFont.h"
@@ -12,12 +13,14 @@ namespace
 /// A countdown turns red when this many seconds are left.
 constexpr double kRedSeconds = 11.0;
 
-void setTextColor(QLineEdit &field, const QColor &color)
+/// Draws the text of a field on this panel in the colour.
+void setTextColor(QLineEdit &field, const QColor &color, const QPalette &panel)
 {
-    if (field.palette().color(QPalette::Text) == color)
+    const QColor ink = PanelColors::inkFor(color, panel);
+    if (field.palette().color(QPalette::Text) == ink)
         return;
-    QPalette palette = field.palette();
-    palette.setColor(QPalette::Text, color);
+    QPalette palette;
+    palette.setColor(QPalette::Text, ink);
     field.setPalette(palette);
 }
 } // namespace
@@ -62,7 +65,7 @@ void Wuffer::setResultLabelText(const QString &text)
 void Wuffer::setColorForDisplayText(TextColor color, bool elapsedToo)
 {
     _titleColor = color;
-    setTextColor(*_ui->_titleField, colorOf(color));
+    setTextColor(*_ui->_titleField, colorOf(color), _ui->_displayBox->palette());
     _ui->_fullTitleField->setTextColor(colorOf(color));
     _ui->_resultLabel->setTextColor(colorOf(color));
     _ui->_msLabel->setTextColor(colorOf(color));

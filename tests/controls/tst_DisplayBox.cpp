@@ -62,6 +62,11 @@ struct Fixture
         }
         return found;
     }
+    /// The colour of the panel.
+    [[nodiscard]] QColor middle() const
+    {
+        return box->grab().toImage().pixelColor(box->rect().center());
+    }
 
     std::unique_ptr<QWidget> window = std::make_unique<QWidget>();
     QLineEdit *first = new QLineEdit(window.get());
@@ -70,6 +75,14 @@ struct Fixture
     QVBoxLayout *layout = nullptr;
     QLineEdit *inside = nullptr;
 };
+
+QPalette darkTheme()
+{
+    QPalette dark;
+    dark.setColor(QPalette::Base, QColor(20, 20, 20));
+    dark.setColor(QPalette::Text, Qt::white);
+    return dark;
+}
 
 /// The visible windows of the program.
 QList<QWidget *> visibleWindows()
@@ -97,12 +110,14 @@ private Q_SLOTS:
     void aRequestToCloseIsReportedAndRefusedWhileTheBoxIsThere();
     void aBoxDestroyedOnTheFullScreenLeavesNothingBehind();
     void aWindowDestroyedMeanwhileTakesTheBoxAlong();
-    void theColoursAreItsOwn();
     void theBarIsInLineWithTheTexts();
     void theBarIsAsWideAsTheFullScreen();
     void theBarIsPaintedOnlyWhenItMovesByAPixel();
     void theBarChangesNoLayoutAndIsNoWidget();
     void theMarginsOnTheFullScreenAreInProportionToIt();
+    void aLightThemeLeavesThePanelAsItIs();
+    void thePanelFollowsADarkTheme();
+    void thePanelFollowsTheThemeOnTheFullScreen();
 };
 
 void tst_DisplayBox::cleanup()
@@ -294,19 +309,51 @@ void tst_DisplayBox::aWindowDestroyedMeanwhileTakesTheBoxAlong()
     QCOMPARE(visibleWindows(), QList<QWidget *>());
 }
 
-void tst_DisplayBox::theColoursAreItsOwn()
+void tst_DisplayBox::aLightThemeLeavesThePanelAsItIs()
 {
-    QPalette dark;
-    dark.setColor(QPalette::Base, Qt::black);
-    dark.setColor(QPalette::Text, Qt::white);
     Fixture f;
-    f.window->setPalette(dark);
+    const QColor panel = f.middle();
+    QPalette blue;
+    blue.setColor(QPalette::Base, QColor(0xDD, 0xDD, 0xFF));
+    blue.setColor(QPalette::Text, QColor(0x20, 0x20, 0x60));
+    f.window->setPalette(blue);
 
-    QVERIFY(f.box->palette().color(QPalette::Base).lightness() > 230);
-    QVERIFY(f.box->palette().color(QPalette::Text).lightness() < 30);
-    QCOMPARE(f.inside->palette().color(QPalette::Text), f.box->palette().color(QPalette::Text));
-    const QColor middle = f.box->grab().toImage().pixelColor(f.box->rect().center());
-    QVERIFY(middle.lightness() > 230);
+    QCOMPARE(f.middle(), panel);
+    QVERIFY(panel.lightness() > 230);
+    QCOMPARE(f.inside->palette().color(QPalette::Text), QColor(Qt::black));
+}
+
+void tst_DisplayBox::thePanelFollowsADarkTheme()
+{
+    Fixture f;
+    const QSignalSpy changes(f.box, &DisplayBox::colorsChanged);
+    f.window->setPalette(darkTheme());
+
+    QVERIFY(!changes.isEmpty());
+    QCOMPARE(f.middle(), QColor(20, 20, 20));
+    QCOMPARE(f.inside->palette().color(QPalette::Base), QColor(20, 20, 20));
+    QCOMPARE(f.inside->palette().color(QPalette::Text), QColor(Qt::white));
+    f.window->setPalette({});
+    QVERIFY(f.middle().lightness() > 230);
+    QCOMPARE(f.inside->palette().color(QPalette::Text), QColor(Qt::black));
+}
+
+void tst_DisplayBox::thePanelFollowsTheThemeOnTheFullScreen()
+{
+    const QPalette light = QApplication::palette();
+    Fixture f;
+    f.enter();
+    QApplication::setPalette(darkTheme());
+    QCoreApplication::processEvents();
+    QCOMPARE(f.middle(), QColor(20, 20, 20));
+    f.leave();
+    QCOMPARE(f.middle(), QColor(20, 20, 20));
+    f.enter();
+    QApplication::setPalette(light);
+    QCoreApplication::processEvents();
+    QVERIFY(f.middle().lightness() > 230);
+    f.leave();
+    QVERIFY(f.middle().lightness() > 230);
 }
 
 void tst_DisplayBox::theBarIsInLineWithTheTexts()

@@ -21,7 +21,7 @@ QImage painted(const RemainingBar &bar)
     QImage image(120, 40, QImage::Format_RGB32);
     image.fill(Qt::white);
     QPainter painter(&image);
-    bar.paint(painter, place());
+    bar.paint(painter, place(), bar.color());
     return image;
 }
 } // namespace
