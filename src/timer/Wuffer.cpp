@@ -2,6 +2,7 @@
 
 #include "base/Keys.h"
 #include "base/NotificationCenter.h"
+#include "controls/LegibleWhenDisabled.h"
 #include "controls/PickFromList.h"
 #include "controls/PressThrough.h"
 #include "rules/TimeFormat.h"
@@ -78,6 +79,10 @@ void Wuffer::fitControls()
                                   TimerTexts::startChain(), TimerTexts::chained()});
     fitToTitles(*_ui->_finishedDrawerButton,
                 {TimerTexts::moreOptions(), TimerTexts::hideOptions()});
+    // The time that was set stays of interest while the timer runs, as does “Chained”.
+    for (QWidget *each : std::initializer_list<QWidget *>{_ui->_hoursField, _ui->_minutesField,
+                                                          _ui->_secondsField, _ui->_goButton})
+        new LegibleWhenDisabled(*each);
     // As wide as the buttons above and below, so that showing it does not resize the combo boxes.
     _ui->_linkButton->setFixedWidth(_ui->_helpButton->sizeHint().width());
     _timeEntry = std::make_unique<TimeEntry>(
