@@ -1,3 +1,5 @@
+#include "controls/ReadableColor.h"
+#include "platform/DragShape.h"
 #include "platform/Keyboard.h"
 #include "platform/WindowOrder.h"
 #include "timer/Wuffer.h"
@@ -65,8 +67,10 @@ void WufferWindow::chainDrag()
     auto *contents = new QMimeData;
     contents->setData(kDragType, {});
     _drag->setMimeData(contents);
-    _drag->setPixmap(QIcon(QStringLiteral(":/images/chain.png"))
-                         .pixmap(QSize(kPictureSize, kPictureSize), devicePixelRatio()));
+    const QPixmap picture = QIcon(QStringLiteral(":/images/chain.png"))
+                                .pixmap(QSize(kPictureSize, kPictureSize), devicePixelRatio());
+    _drag->setPixmap(picture);
+    const DragShape shape(picture);
     // Beside the pointer, not under it.
     _drag->setHotSpot({0, kPictureSize});
     _drag->exec(Qt::LinkAction);
