@@ -20,6 +20,22 @@ const QString kDragType = QStringLiteral("WufferWindow");
 
 /// Width and height of the dragged picture, in device-independent pixels.
 constexpr int kPictureSize = 32;
+
+/// The background of a highlighted window, with texts that can be read on it. In a dark theme the
+/// texts in its controls are dark, too, so the controls are light.
+QPalette highlight(const QColor &color, const QPalette &theme)
+{
+    constexpr QColor lightButton(0xEF, 0xEF, 0xEF);
+    constexpr QColor greyText(0x6B, 0x6B, 0x6B);
+    QPalette palette;
+    if (isDark(theme)) {
+        palette = QPalette(lightButton, color);
+        palette.setColor(QPalette::PlaceholderText, greyText);
+    }
+    palette.setColor(QPalette::Window, color);
+    palette.setColor(QPalette::WindowText, Qt::black);
+    return palette;
+}
 } // namespace
 
 void WufferWindow::mousePressEvent(QMouseEvent *event)
@@ -167,11 +183,5 @@ void WufferWindow::setBackgroundColor(const QColor &color)
 {
     if (palette().color(QPalette::Window) == color)
         return;
-    QPalette palette;
-    if (color != normalColor()) {
-        palette.setColor(QPalette::Window, color);
-        // Texts on the highlight must stay readable in a dark theme.
-        palette.setColor(QPalette::WindowText, Qt::black);
-    }
-    setPalette(palette);
+    setPalette(color == normalColor() ? QPalette() : highlight(color, QApplication::palette()));
 }
