@@ -51,12 +51,21 @@ WufferApplication::WufferApplication(int &argc, char **argv) : QApplication(argc
     setApplicationVersion(BuildInfo::version());
     setDesktopFileName(BuildInfo::applicationId());
     setWindowIcon(applicationIcon());
+    _theme.follow();
     // A blinking caret would wake an idle program twice a second.
     setCursorFlashTime(0);
     connect(this, &QCoreApplication::aboutToQuit, this, [this] { _wuffers.clear(); });
 }
 
 WufferApplication::~WufferApplication() = default;
+
+bool WufferApplication::event(QEvent *event)
+{
+    const bool handled = QApplication::event(event);
+    if (event->type() == QEvent::ApplicationPaletteChange)
+        _theme.follow();
+    return handled;
+}
 
 WufferApplication &WufferApplication::instance()
 {

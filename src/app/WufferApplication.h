@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/ReadableTheme.h"
 #include "timer/TimerHost.h"
 
 #include <QApplication>
@@ -67,12 +68,16 @@ Q_SIGNALS:
     /// The user asks for the list, below the button, to choose which timer this one starts.
     void targetsRequested(Wuffer *timer, QWidget *button);
 
+protected:
+    bool event(QEvent *event) override;
+
 private:
     void emitWindowSignal(QObject &receiver, const QEvent &event);
     [[nodiscard]] bool swallows(QEvent &event);
     [[nodiscard]] bool swallowsKey(QEvent &event);
     void forget(Wuffer &timer);
 
+    ReadableTheme _theme;
     std::vector<std::unique_ptr<Wuffer>> _wuffers;
     /// The key that ended full-screen mode, until it is released or pressed again.
     std::optional<int> _swallowedKey;
