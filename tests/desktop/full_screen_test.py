@@ -154,10 +154,14 @@ class FullScreenTest(DesktopTest):
 
     def check_ink(self, name):
         """No text of the display is cut off: each has a free line of pixels around it."""
-        whole = Rect(0, 0, self.screen.width, self.screen.height)
-        wait_until(lambda: Picture(self.screen).border(whole) == {PANEL}, 3,
+        bar = self.screen.height // 100
+        above = Rect(0, 0, self.screen.width, self.screen.height - bar)
+        wait_until(lambda: Picture(self.screen).border(above) == {PANEL}, 3,
                    "the display is drawn and leaves a margin", 0.1)
         picture = Picture(self.screen)
+        foot = Rect(0, self.screen.height - bar, self.screen.width, bar)
+        self.assertEqual(picture.colors(Rect(0, foot.y, foot.width // 2, bar)), {(0, 0, 0)},
+                         "a bar at the foot shows what is left")
         picture.save(os.path.join(self.output, f"{name} {picture.width}x{picture.height}.png"))
         labels = [label for label in self.program.all("display")
                   if label.name and label.description]
