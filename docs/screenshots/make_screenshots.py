@@ -54,7 +54,7 @@ def timers(session):
         display.move_window(window, *place)
     display.key("ctrl+shift+s")
     wait_until(lambda: len(program.all("button", "Stop")) == len(windows), 5, "all run")
-    wait_until(lambda: any(label.get_name() in ("4s", "5s")
+    wait_until(lambda: any(label.name in ("4s", "5s")
                            for label in program.all("display", description="Time")),
                20, "the display of one is red")
     take_picture(display, "timers.png")
