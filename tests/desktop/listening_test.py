@@ -63,12 +63,29 @@ class Listener:
 
 
 class ListeningTest(DesktopTest):
+    listener = None
+
+    def tearDown(self):
+        self.stop_listening()
+        super().tearDown()
+
     def listen(self, program):
-        listener = Listener(program)
-        self.addCleanup(listener.close)
+        self.listener = Listener(program)
         # The program learns from the registry what to send.
         time.sleep(0.5)
-        return listener
+        return self.listener
+
+    def stop_listening(self):
+        listener, self.listener = self.listener, None
+        if listener:
+            listener.close()
+            time.sleep(0.5)
+
+    def quit(self, program):
+        # With a listener, Qt asks the registry about each key, and would end without freeing the
+        # keys that quit.
+        self.stop_listening()
+        return super().quit(program)
 
     def wait_for_texts(self, listener, texts):
         wait_until(lambda: listener.texts() == texts, 8, f"the notifications say {texts}", 0.02)

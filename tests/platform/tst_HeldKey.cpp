@@ -59,5 +59,6 @@ private Q_SLOTS:
     }
 };
 
-WUFFER_TEST(tst_HeldKey, WithoutApplication)
+// Qt owns the keyboards of these presses through the application object.
+WUFFER_TEST(tst_HeldKey)
 #include "tst_HeldKey.moc"
