@@ -1,5 +1,6 @@
 #include "controls/DisplayLabel.h"
 
+#include "controls/AccessibleFactory.h"
 #include "controls/PanelColors.h"
 
 #include <QAccessible>
@@ -18,8 +19,8 @@ namespace
 class AccessibleDisplayLabel final : public QAccessibleWidget
 {
 public:
-    explicit AccessibleDisplayLabel(QWidget *label) :
-        QAccessibleWidget(label, QAccessible::StaticText)
+    explicit AccessibleDisplayLabel(DisplayLabel &label) :
+        QAccessibleWidget(&label, QAccessible::StaticText)
     {}
 
     [[nodiscard]] QString text(QAccessible::Text kind) const override
@@ -79,21 +80,11 @@ QSizeF neededRoom(const QFontMetricsF &metrics, const QString &text)
     const double overhang = std::max({0.0, -ink.left(), ink.right() - advance});
     return {advance + 2 * overhang, metrics.height()};
 }
-
-QAccessibleInterface *makeAccessible(const QString &className, QObject *object)
-{
-    if (className == QLatin1String("DisplayLabel"))
-        return new AccessibleDisplayLabel(static_cast<QWidget *>(object));
-    return nullptr;
-}
 } // namespace
 
 DisplayLabel::DisplayLabel(QWidget *parent) : QWidget(parent)
 {
-    [[maybe_unused]] static const bool installed = [] {
-        QAccessible::installFactory(makeAccessible);
-        return true;
-    }();
+    AccessibleFactory::install<DisplayLabel, AccessibleDisplayLabel>();
     // The label fills what it paints, so nothing behind it has to be painted.
     setAttribute(Qt::WA_OpaquePaintEvent);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
