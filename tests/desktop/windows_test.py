@@ -64,6 +64,8 @@ class WindowsTest(DesktopTest):
         self.assertNotIn(second, program.windows())
         self.assertIsNone(program.process.poll())
         program.answers()
+        # For a moment after a window has closed, no window receives keys.
+        wait_until(program.has_focus, 5, "the first window is active")
         self.display.key("ctrl+w")
         self.close_home(program)
 
