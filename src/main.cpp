@@ -1,5 +1,6 @@
 #include "app/CommandLine.h"
 #include "app/LaunchOrders.h"
+#include "app/MissingDisplay.h"
 #include "app/SystemServices.h"
 #include "app/Translation.h"
 #include "app/WufferApplication.h"
@@ -7,13 +8,17 @@
 #include "platform/PlatformServices.h"
 #include "platform/SingleInstance.h"
 
+#include <optional>
+
 int main(int argc, char *argv[])
 {
     if (answeredWithoutDisplay(argc, argv))
         return 0;
     PlatformServices::prepareProcess();
     const QVariantMap launch = SingleInstance::thisLaunch();
+    std::optional<MissingDisplay> missingDisplay(std::in_place);
     const WufferApplication application(argc, argv);
+    missingDisplay.reset();
     const Translation translation;
     const CommandLine commandLine = readCommandLine(WufferApplication::arguments());
     if (writeAnswer(commandLine))

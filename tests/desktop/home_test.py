@@ -141,6 +141,19 @@ class HomeTest(DesktopTest):
         finally:
             self.session.bus_daemon.send_signal(signal.SIGCONT)
 
+    def test_without_a_display_it_ends_with_one_line(self):
+        # No variable at all, as the session bus starts it, and displays that cannot be reached.
+        for variables in ({}, {"DISPLAY": ":9999"},
+                          {"WAYLAND_DISPLAY": "nowhere", "XDG_SESSION_TYPE": "wayland"}):
+            environment = {name: value for name, value in self.session.environment.items()
+                           if name not in ("DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM")}
+            ended = subprocess.run([Program.executable, "--service"], env=environment | variables,
+                                   capture_output=True, text=True, timeout=30, check=False)
+            with self.subTest(variables):
+                self.assertEqual(ended.returncode, 1)
+                self.assertEqual(ended.stderr,
+                                 "wuffer: There is no display that the program can open.\n")
+
 
 if __name__ == "__main__":
     main()
