@@ -1,5 +1,6 @@
 #include "app/LaunchOrders.h"
 
+#include "app/WufferApplication.h"
 #include "app/WufferController.h"
 #include "platform/SingleInstance.h"
 
@@ -9,9 +10,11 @@
 constexpr double kFirstOrderTimeout = 10;
 /// How many seconds orders are gathered for; too few for a user to notice.
 constexpr double kGatherTime = 0.02;
+/// With this many timers open, further orders to open one are a mistake or an attack.
+constexpr std::size_t kMostTimers = 1000;
 
 LaunchOrders::LaunchOrders(WufferController &controller, SingleInstance &instance) :
-    _controller(controller)
+    _controller(controller), _instance(instance)
 {
     connect(&instance, &SingleInstance::asked, this, &LaunchOrders::asked);
 }
@@ -30,12 +33,21 @@ void LaunchOrders::asked(const QString &action)
     const LaunchOrder order = launchOrderNamed(action).value_or(LaunchOrder::Activate);
     if (!_hasBegun)
         return carryOut(order);
+    if (isTooMany(order))
+        return _instance.refuse();
     // Orders may arrive by the thousand. Bringing windows to the front for each of them would leave
     // the program and the window manager no time for anything else.
     if (_pending.isEmpty())
         _gatherTimer.startOnce(kGatherTime);
     if (order == LaunchOrder::NewTimer || !_pending.contains(order))
         _pending.append(order);
+}
+
+bool LaunchOrders::isTooMany(LaunchOrder order) const
+{
+    const auto pending = static_cast<std::size_t>(_pending.count(LaunchOrder::NewTimer));
+    return order == LaunchOrder::NewTimer &&
+           WufferApplication::getWuffers().size() + pending >= kMostTimers;
 }
 
 void LaunchOrders::carryOutPending()

@@ -26,10 +26,12 @@ public:
 
 private:
     void asked(const QString &action);
+    [[nodiscard]] bool isTooMany(LaunchOrder order) const;
     void carryOutPending();
     void carryOut(LaunchOrder order);
 
     WufferController &_controller;
+    SingleInstance &_instance;
     bool _hasBegun = false;
     /// Orders that are still to be carried out; only new timers may be in it more than once.
     QList<LaunchOrder> _pending;

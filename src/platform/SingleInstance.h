@@ -26,14 +26,29 @@ public:
     [[nodiscard]] bool claim();
 
     /// Tells the owner of the name what this instance was started for; an empty action only brings
-    /// the owner to the front. Returns whether the owner has answered within two seconds.
+    /// the owner to the front. Returns whether the owner has answered within two seconds, be it
+    /// that it refuses.
     [[nodiscard]] bool forward(const QString &action, const QVariantMap &launch) const;
 
     /// Makes this instance, which runs beside the owner of the name, the next owner.
     void inherit();
 
+    /// Asks the program for an action; returns whether it has not refused.
+    [[nodiscard]] bool ask(const QString &action)
+    {
+        _refused = false;
+        Q_EMIT asked(action);
+        return !_refused;
+    }
+
+    /// Refuses the action that is being asked for. Call it from a slot of asked().
+    void refuse() { _refused = true; }
+
 Q_SIGNALS:
     /// The desktop or a later instance has asked for this action, which may be unknown. An empty
     /// action only brings the program to the front.
     void asked(const QString &action);
+
+private:
+    bool _refused = false;
 };

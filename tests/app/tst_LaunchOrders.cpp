@@ -26,6 +26,7 @@ private Q_SLOTS:
     void aLaterLaunchBringsBackAMinimizedTimer();
     void aLaterLaunchLeavesClosedWindowsClosed();
     void manyRequestsAtOnceRaiseTheWindowOnce();
+    void noMoreThanAThousandTimersAreOpened();
     void anUnknownActionOpensNothing();
     void aServiceOpensNothingBeforeItsFirstOrder();
     void theFirstOrderOfAServiceDecidesWhatOpens();
@@ -207,6 +208,17 @@ void tst_LaunchOrders::manyRequestsAtOnceRaiseTheWindowOnce()
 
     QVERIFY2(raised >= 1 && raised < 10, qPrintable(QString::number(raised)));
     QCOMPARE(timers(), std::size_t(1));
+}
+
+void tst_LaunchOrders::noMoreThanAThousandTimersAreOpened()
+{
+    Program program;
+    program.launch(LaunchOrder::Activate);
+    // The first one is open, the others wait to be opened together.
+    for (int i = 1; i < 1000; ++i)
+        QVERIFY(program.instance.ask(QStringLiteral("new-timer")));
+    QVERIFY(!program.instance.ask(QStringLiteral("new-timer")));
+    QVERIFY(program.instance.ask(QStringLiteral("start-all")));
 }
 
 void tst_LaunchOrders::anUnknownActionOpensNothing()

@@ -5,7 +5,9 @@
 #include "support/TestMain.h"
 
 #include <QDBusConnectionInterface>
+#include <QDBusContext>
 #include <QSignalSpy>
+#include <QThread>
 
 #include <csignal>
 #include <optional>
@@ -25,6 +27,8 @@ private Q_SLOTS:
     void activationIsPassedOn();
     void actionsArePassedOn();
     void filesAreAnActivation();
+    void aRefusalIsAnsweredWithAnError();
+    void aLaunchThatIsRefusedHasReachedTheProgram();
     void aTokenIsNotLeftForOtherProgramsToFind();
     void aSecondInstanceThatStaysInheritsTheName();
     void theTokensOfALaunchArePassedOn();
@@ -68,6 +72,43 @@ public:
 private:
     QDBusConnection _bus;
     QObject _object;
+};
+
+/// An instance that refuses all actions, in a thread of its own.
+class RefusingInstance final : public QObject, protected QDBusContext
+{
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Application")
+
+public:
+    explicit RefusingInstance(const QString &address) :
+        _bus(QDBusConnection::connectToBus(address, QStringLiteral("refusing")))
+    {
+        moveToThread(&_thread);
+        _thread.start();
+        if (!_bus.registerService(kName) ||
+            !_bus.registerObject(kPath, this, QDBusConnection::ExportAllSlots))
+            qFatal("the name is taken");
+    }
+    ~RefusingInstance() override
+    {
+        _bus.unregisterService(kName);
+        QDBusConnection::disconnectFromBus(QStringLiteral("refusing"));
+        _thread.quit();
+        _thread.wait();
+    }
+    Q_DISABLE_COPY_MOVE(RefusingInstance)
+
+public Q_SLOTS:
+    void ActivateAction(const QString & /*action_name*/, const QVariantList & /*parameter*/,
+                        const QVariantMap & /*platform_data*/)
+    {
+        sendErrorReply(QDBusError::LimitsExceeded, QStringLiteral("Refused."));
+    }
+
+private:
+    QDBusConnection _bus;
+    QThread _thread;
 };
 
 QString ownerOfTheName()
@@ -127,6 +168,25 @@ void tst_SingleInstance::filesAreAnActivation()
     QCOMPARE(asked.first().first().toString(), QString());
 }
 
+void tst_SingleInstance::aRefusalIsAnsweredWithAnError()
+{
+    SingleInstance instance;
+    QVERIFY(instance.claim());
+    connect(&instance, &SingleInstance::asked, [&](const QString &action) {
+        if (action == QLatin1String("new-timer"))
+            instance.refuse();
+    });
+    BusPeer desktop(_bus.address(), kPath, kInterface);
+    const auto answerTo = [&](const char *action) {
+        return desktop
+            .ask(QStringLiteral("ActivateAction"),
+                 {QString::fromLatin1(action), QVariantList(), QVariantMap()})
+            .errorName();
+    };
+    QCOMPARE(answerTo("new-timer"), QStringLiteral("org.freedesktop.DBus.Error.LimitsExceeded"));
+    QCOMPARE(answerTo("start-all"), QString());
+}
+
 void tst_SingleInstance::aTokenIsNotLeftForOtherProgramsToFind()
 {
     SingleInstance instance;
@@ -168,6 +228,14 @@ void tst_SingleInstance::forwardingToAFirstInstanceThatHangsFails()
     other.listen();
     const SingleInstance instance;
     QVERIFY(!instance.forward(QStringLiteral("new-timer"), {}));
+}
+
+void tst_SingleInstance::aLaunchThatIsRefusedHasReachedTheProgram()
+{
+    QDBusConnection::sessionBus().unregisterService(kName);
+    const RefusingInstance other(_bus.address());
+    const SingleInstance instance;
+    QVERIFY(instance.forward(QStringLiteral("new-timer"), {}));
 }
 
 void tst_SingleInstance::aBusThatIsAliveDoesNotHang()

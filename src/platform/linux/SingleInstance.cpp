@@ -52,25 +52,33 @@ public:
     {}
 
 public Q_SLOTS:
-    void Activate(const QVariantMap &platform_data) { handle({}, platform_data); }
+    void Activate(const QVariantMap &platform_data, const QDBusMessage &call)
+    {
+        handle({}, platform_data, call);
+    }
 
     /// Timers have no files, so this only activates the program.
-    void Open(const QStringList & /*uris*/, const QVariantMap &platform_data)
+    void Open(const QStringList & /*uris*/, const QVariantMap &platform_data,
+              const QDBusMessage &call)
     {
-        handle({}, platform_data);
+        handle({}, platform_data, call);
     }
 
     void ActivateAction(const QString &action_name, const QVariantList & /*parameter*/,
-                        const QVariantMap &platform_data)
+                        const QVariantMap &platform_data, const QDBusMessage &call)
     {
-        handle(action_name, platform_data);
+        handle(action_name, platform_data, call);
     }
 
 private:
-    void handle(const QString &action, const QVariantMap &platformData)
+    void handle(const QString &action, const QVariantMap &platformData, const QDBusMessage &call)
     {
         useActivationToken(shortText(platformData, kActivationToken));
-        Q_EMIT _instance.asked(action);
+        if (!_instance.ask(action)) {
+            call.setDelayedReply(true);
+            QDBusConnection::sessionBus().send(
+                call.createErrorReply(QDBusError::LimitsExceeded, QStringLiteral("Refused.")));
+        }
         endStartupNotification(shortText(platformData, kStartupId));
     }
 
@@ -116,7 +124,8 @@ bool SingleInstance::forward(const QString &action, const QVariantMap &launch) c
         call.setArguments({action, QVariantList(), launch});
     call.setAutoStartService(false);
     const QDBusMessage answer = QDBusConnection::sessionBus().call(call, QDBus::Block, kTimeoutMs);
-    return answer.type() == QDBusMessage::ReplyMessage;
+    return answer.type() == QDBusMessage::ReplyMessage ||
+           QDBusError(answer).type() == QDBusError::LimitsExceeded;
 }
 
 void SingleInstance::inherit()
