@@ -79,6 +79,26 @@ class NotificationActionsTest(DesktopTest):
         self.quit(program)
         self.wait_for_notifications(0)
 
+    def start_merging_notifications(self):
+        self.session.end_notifications()
+        self.session.start_notifications(merges=True)
+        self.addCleanup(self.session.start_notifications)
+        self.addCleanup(self.session.end_notifications)
+
+    def test_stop_reaches_all_timers_whose_notifications_are_merged(self):
+        self.start_merging_notifications()
+        program = self.launch(settings=MUTED)
+        for count in (2, 3):
+            self.display.key("ctrl+n")
+            program.wait_for_windows(count)
+        self.display.key("ctrl+shift+s")
+        wait_until(lambda: len(program.all("button", "Reset")) == 3, 10, "three timers ring")
+        self.wait_for_notifications(1)
+        self.session.notifications.press("Stop")
+        wait_until(lambda: not program.all("button", "Reset"), 10, "no timer rings")
+        self.wait_for_notifications(0)
+        self.quit(program)
+
     def test_thirty_timers_that_end_at_once_are_one_notification(self):
         program = self.launch(settings=MUTED)
         for count in range(2, 31):

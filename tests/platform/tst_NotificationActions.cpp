@@ -32,6 +32,8 @@ private Q_SLOTS:
     }
 
     void buttonsAreOfferedWhereThereAreSome();
+    void noButtonIsDrawnTwice_data();
+    void noButtonIsDrawnTwice();
     void noButtonsAreOfferedWhereThereAreNone();
     void aNotificationWithoutActionsOffersNone();
     void aPressDoesWhatTheButtonSays_data();
@@ -99,6 +101,27 @@ void tst_NotificationActions::buttonsAreOfferedWhereThereAreSome()
         QStringLiteral("default"), QStringLiteral("Show"), kShow, QStringLiteral("Show"), kStop,
         QStringLiteral("Stop")};
     QCOMPARE(server.shown.front().actions, expected);
+}
+
+void tst_NotificationActions::noButtonIsDrawnTwice_data()
+{
+    QTest::addColumn<QString>("server");
+    QTest::newRow("Xfce") << QStringLiteral("Xfce Notify Daemon");
+    QTest::newRow("LXQt") << QStringLiteral("lxqt-notificationd");
+}
+
+void tst_NotificationActions::noButtonIsDrawnTwice()
+{
+    // These servers draw a button for a click, too.
+    QFETCH(const QString, server);
+    _server.emplace(_address, QStringList{kActions}, server);
+    FreedesktopNotifications notifications;
+    const QObject sender;
+    notifications.notify(sender, withActions());
+    QTRY_COMPARE(_server->shown.size(), 1U);
+    const QStringList expected{QStringLiteral("default"), QStringLiteral("Show"), kStop,
+                               QStringLiteral("Stop")};
+    QCOMPARE(_server->shown.front().actions, expected);
 }
 
 void tst_NotificationActions::noButtonsAreOfferedWhereThereAreNone()

@@ -31,8 +31,10 @@ public:
         int timeout;
     };
 
-    explicit NotificationServer(const QString &busAddress, QStringList capabilities = {}) :
+    explicit NotificationServer(const QString &busAddress, QStringList capabilities = {},
+                                QString name = QStringLiteral("server")) :
         _capabilities(std::move(capabilities)),
+        _name(std::move(name)),
         _bus(QDBusConnection::connectToBus(busAddress, QStringLiteral("server")))
     {
         if (!_bus.registerObject(QStringLiteral("/org/freedesktop/Notifications"), this,
@@ -43,7 +45,7 @@ public:
     ~NotificationServer() override { leaveBus(*this, _bus); }
     Q_DISABLE_COPY_MOVE(NotificationServer)
 
-    /// From now on the server receives calls but holds back the answers.
+    /// From now on the server receives calls but holds back the answers that the program waits for.
     void stopAnswering() { _answers = false; }
 
     /// Sends the answers held back, and answers later calls at once.
@@ -60,6 +62,10 @@ public:
     /// Sends the signal for a press of the button with this key, or, with the key "default", for a
     /// click on the notification.
     void press(uint id, const QString &key) { say(QStringLiteral("ActionInvoked"), {id, key}); }
+
+    /// From now on the server closes a notification at the moment it shows an equal one, as some
+    /// servers do of their own.
+    void mergeEqual() { _mergesEqual = true; }
 
     /// Sends the signal that the user has closed the notification.
     void dismiss(uint id)
@@ -86,6 +92,14 @@ public:
     uint lastId = 99;
 
 public Q_SLOTS:
+    QString GetServerInformation(QString &vendor, QString &version, QString &specVersion)
+    {
+        vendor = QStringLiteral("wuffer");
+        version = QStringLiteral("1");
+        specVersion = QStringLiteral("1.2");
+        return _name;
+    }
+
     QStringList GetCapabilities()
     {
         holdBackIfAsked({QVariant(_capabilities)});
@@ -96,6 +110,9 @@ public Q_SLOTS:
                 const QString &title, const QString &text, const QStringList &actions,
                 const QVariantMap &hints, int timeout)
     {
+        if (_mergesEqual && replacedId == 0 && !shown.empty() && shown.back().title == title &&
+            shown.back().text == text)
+            dismiss(lastId);
         shown.push_back({application, replacedId, icon, title, text, actions, hints, timeout});
         const uint id = replacedId != 0 ? replacedId : ++lastId;
         holdBackIfAsked({QVariant(id)});
@@ -118,7 +135,9 @@ private:
     }
 
     const QStringList _capabilities;
+    const QString _name;
     QDBusConnection _bus;
     bool _answers = true;
+    bool _mergesEqual = false;
     std::vector<QDBusMessage> _heldBack;
 };

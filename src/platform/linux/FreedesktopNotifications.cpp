@@ -2,16 +2,16 @@
 
 #include "platform/linux/ActivationToken.h"
 #include "platform/linux/BusQuestion.h"
+#include "platform/linux/NotifyArguments.h"
 
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusReply>
-#include <QGuiApplication>
-#include <QVariantMap>
 
 #include <algorithm>
-#include <array>
 #include <optional>
+#include <utility>
+#include <vector>
 
 /// The state of the exchange with the server about one sender's notification.
 struct FreedesktopNotifications::Conversation
@@ -20,12 +20,29 @@ struct FreedesktopNotifications::Conversation
     uint id = 0;
     /// The unique name of the server that gave the id, which is valid for no other server.
     QString server;
-    /// True from the call of GetCapabilities until the answer to Notify.
-    bool underWay = false;
+    /// What the server calls itself; empty if it does not say.
+    QString serverName;
+    /// What the server is to answer.
+    enum class Awaited { Nothing, Capabilities, Id } awaited = Awaited::Nothing;
     /// The latest notification not yet sent. It supersedes earlier ones, which are never sent.
     std::optional<DesktopNotification> next;
     /// The latest notification sent; nothing once it has been withdrawn or closed.
     std::optional<DesktopNotification> shown;
+    /// The conversations whose notifications the server has merged into the one that is being sent.
+    std::vector<std::weak_ptr<Conversation>> merged = {};
+
+    /// Whether this notification is on the screen, as the one with this id of this server.
+    [[nodiscard]] bool isAbout(uint otherId, const QString &otherServer) const
+    {
+        return id != 0 && id == otherId && server == otherServer && awaited == Awaited::Nothing &&
+               shown;
+    }
+    /// Whether a notification with the same texts has been sent that the server has not answered.
+    [[nodiscard]] bool isSending(const DesktopNotification &equal) const
+    {
+        return awaited == Awaited::Id && shown && shown->title == equal.title &&
+               shown->text == equal.text;
+    }
 };
 
 namespace
@@ -33,81 +50,11 @@ namespace
 const QString kInterface = QStringLiteral("org.freedesktop.Notifications");
 const QString kPath = QStringLiteral("/org/freedesktop/Notifications");
 
-using Action = std::function<void()> DesktopNotification::*;
-
-/// A button; the key "default" stands for a click on the notification itself.
-struct Button
-{
-    QLatin1String key;
-    const char *label;
-    Action action;
-};
-
-constexpr std::array kButtons{
-    //: A button of a notification: brings the timer to the front.
-    Button{QLatin1String("default"), QT_TRANSLATE_NOOP("FreedesktopNotifications", "Show"),
-           &DesktopNotification::show},
-    Button{QLatin1String("show"), QT_TRANSLATE_NOOP("FreedesktopNotifications", "Show"),
-           &DesktopNotification::show},
-    //: A button of a notification: ends the alarm.
-    Button{QLatin1String("stop"), QT_TRANSLATE_NOOP("FreedesktopNotifications", "Stop"),
-           &DesktopNotification::stop},
-};
-
 QDBusMessage call(const QString &server, const QString &method, const QVariantList &arguments = {})
 {
     QDBusMessage message = QDBusMessage::createMethodCall(server, kPath, kInterface, method);
     message.setArguments(arguments);
     return message;
-}
-
-/// The keys and labels of the buttons, alternating.
-QStringList buttons(const DesktopNotification &notification)
-{
-    QStringList keysAndLabels;
-    for (const Button &button : kButtons) {
-        if (notification.*button.action)
-            keysAndLabels << button.key << FreedesktopNotifications::tr(button.label);
-    }
-    return keysAndLabels;
-}
-
-/// The icon is installed under the name of the program.
-QString iconName()
-{
-    return QGuiApplication::applicationName();
-}
-
-QVariantMap hintsFor(const DesktopNotification &notification)
-{
-    QVariantMap hints{
-        {QStringLiteral("desktop-entry"), QGuiApplication::desktopFileName()},
-        {QStringLiteral("category"), QString(QStringLiteral("x-wuffer.") + notification.name)},
-        // The program plays its own alarm.
-        {QStringLiteral("suppress-sound"), true},
-    };
-    // With low urgency the desktop does not list every reminder as a missed notification.
-    constexpr uchar low = 0;
-    if (notification.occasion == DesktopNotification::Occasion::Reminder)
-        hints[QStringLiteral("urgency")] = QVariant::fromValue(low);
-    return hints;
-}
-
-/// The arguments of Notify, in the order of the protocol.
-QVariantList notifyArguments(const DesktopNotification &notification, uint replacedId,
-                             const QStringList &capabilities)
-{
-    const bool markup = capabilities.contains(QStringLiteral("body-markup"));
-    const bool actions = capabilities.contains(QStringLiteral("actions"));
-    constexpr int serversOwnTimeout = -1;
-    return {QGuiApplication::applicationDisplayName(),
-            replacedId,
-            iconName(),
-            notification.title,
-            markup ? notification.text.toHtmlEscaped() : notification.text,
-            actions ? buttons(notification) : QStringList(),
-            hintsFor(notification),
-            serversOwnTimeout};
 }
 
 /// How a notification was closed, by the reason number of the server.
@@ -128,8 +75,8 @@ void FreedesktopNotifications::notify(const QObject &sender,
     listen();
     const std::shared_ptr<Conversation> conversation = conversationWith(sender);
     conversation->next = notification;
-    if (!conversation->underWay)
-        askCapabilities(conversation);
+    if (conversation->awaited == Conversation::Awaited::Nothing)
+        askAboutServer(conversation);
 }
 
 void FreedesktopNotifications::withdraw(const QObject &sender)
@@ -140,7 +87,8 @@ void FreedesktopNotifications::withdraw(const QObject &sender)
     conversation->next.reset();
     conversation->shown.reset();
     const uint id = std::exchange(conversation->id, 0);
-    if (id != 0) {
+    // A notification into which others have been merged goes with the last of them.
+    if (id != 0 && conversationsAbout(id, conversation->server).empty()) {
         QDBusConnection::sessionBus().asyncCall(
             call(conversation->server, QStringLiteral("CloseNotification"), {id}));
     }
@@ -177,40 +125,66 @@ void FreedesktopNotifications::receive(const QDBusMessage &signal)
     const QVariantList arguments = signal.arguments();
     if (arguments.size() != 2 || arguments.front().typeId() != QMetaType::UInt)
         return;
-    const auto conversation = conversationAbout(arguments.front().toUInt(), signal.service());
-    if (!conversation)
-        return;
-    std::function<void()> action;
-    if (signal.member() == QLatin1String("ActionInvoked")) {
-        const auto *button = std::ranges::find(kButtons, arguments.back().toString(), &Button::key);
-        if (button != std::end(kButtons))
-            action = (*conversation->shown).*(button->action);
-    } else if (signal.member() == QLatin1String("ActivationToken")) {
-        // The server sends the token right before the ActionInvoked that it belongs to.
-        useActivationToken(arguments.back().toString());
-    } else if (signal.member() == QLatin1String("NotificationClosed")) {
-        conversation->id = 0;
-        if (const auto closed = std::exchange(conversation->shown, {})->closed)
-            action = [closed, end = endForReason(arguments.back())] { closed(end); };
+    // An answer may destroy senders or send notifications, so all answers are found before the
+    // first one is given.
+    std::vector<std::function<void()>> answers;
+    for (const auto &each : conversationsAbout(arguments.front().toUInt(), signal.service()))
+        answers.push_back(answerTo(signal.member(), arguments.back(), each));
+    for (const auto &answer : answers) {
+        if (answer)
+            answer();
     }
-    if (action)
-        action();
 }
 
-std::shared_ptr<FreedesktopNotifications::Conversation>
-FreedesktopNotifications::conversationAbout(uint id, const QString &server) const
+std::function<void()> FreedesktopNotifications::answerTo(const QString &signal,
+                                                         const QVariant &argument,
+                                                         const std::shared_ptr<Conversation> &about)
 {
-    const auto found =
-        std::find_if(_conversations.begin(), _conversations.end(), [&](const auto &each) {
-            return each->id != 0 && each->id == id && each->server == server && !each->underWay &&
-                   each->shown;
-        });
-    return found == _conversations.end() ? nullptr : *found;
+    if (signal == QLatin1String("ActionInvoked"))
+        return NotifyArguments::actionOf(*about->shown, argument.toString());
+    if (signal == QLatin1String("ActivationToken")) {
+        // The server sends the token right before the ActionInvoked that it belongs to.
+        return [token = argument.toString()] { useActivationToken(token); };
+    }
+    if (signal != QLatin1String("NotificationClosed"))
+        return {};
+    about->id = 0;
+    if (mergedByServer(about))
+        return {};
+    const auto closed = std::exchange(about->shown, {})->closed;
+    if (!closed)
+        return {};
+    return [closed, end = endForReason(argument)] { closed(end); };
 }
 
-void FreedesktopNotifications::askCapabilities(const std::shared_ptr<Conversation> &conversation)
+bool FreedesktopNotifications::mergedByServer(const std::shared_ptr<Conversation> &closed)
 {
-    conversation->underWay = true;
+    const auto equal =
+        std::find_if(_conversations.begin(), _conversations.end(),
+                     [&](const auto &each) { return each->isSending(*closed->shown); });
+    if (equal == _conversations.end())
+        return false;
+    (*equal)->merged.push_back(closed);
+    return true;
+}
+
+std::vector<std::shared_ptr<FreedesktopNotifications::Conversation>>
+FreedesktopNotifications::conversationsAbout(uint id, const QString &server) const
+{
+    std::vector<std::shared_ptr<Conversation>> found;
+    std::copy_if(_conversations.begin(), _conversations.end(), std::back_inserter(found),
+                 [&](const auto &each) { return each->isAbout(id, server); });
+    return found;
+}
+
+void FreedesktopNotifications::askAboutServer(const std::shared_ptr<Conversation> &conversation)
+{
+    conversation->awaited = Conversation::Awaited::Capabilities;
+    // Answered before the capabilities, so it is not waited for.
+    BusQuestion::ask(call(kInterface, QStringLiteral("GetServerInformation")), *this,
+                     BusQuestion::kNoTimeout, [conversation](const QDBusMessage &answer) {
+                         conversation->serverName = answer.arguments().value(0).toString();
+                     });
     const auto answered = [this, conversation](const QDBusMessage &answer) {
         const QDBusReply<QStringList> capabilities(answer);
         // A restarted server counts from the beginning, so it may give our id to another program.
@@ -219,7 +193,7 @@ void FreedesktopNotifications::askCapabilities(const std::shared_ptr<Conversatio
         if (conversation->next)
             send(conversation, capabilities.isValid() ? capabilities.value() : QStringList());
         else
-            conversation->underWay = false;
+            conversation->awaited = Conversation::Awaited::Nothing;
     };
     BusQuestion::ask(call(kInterface, QStringLiteral("GetCapabilities")), *this,
                      BusQuestion::kNoTimeout, answered);
@@ -228,9 +202,13 @@ void FreedesktopNotifications::askCapabilities(const std::shared_ptr<Conversatio
 void FreedesktopNotifications::send(const std::shared_ptr<Conversation> &conversation,
                                     const QStringList &capabilities)
 {
-    const uint replacedId = std::exchange(conversation->id, 0);
+    conversation->awaited = Conversation::Awaited::Id;
+    const uint id = std::exchange(conversation->id, 0);
     conversation->shown = std::exchange(conversation->next, {});
-    const QVariantList arguments = notifyArguments(*conversation->shown, replacedId, capabilities);
+    // A notification into which others have been merged stays for them.
+    const bool isShared = !conversationsAbout(id, conversation->server).empty();
+    const QVariantList arguments = NotifyArguments::of(*conversation->shown, isShared ? 0 : id,
+                                                       {conversation->serverName, capabilities});
     // A server that was frozen shows the notification late; its late answer still has to be read
     // for the id, which is needed to withdraw the notification.
     BusQuestion::ask(
@@ -241,16 +219,25 @@ void FreedesktopNotifications::send(const std::shared_ptr<Conversation> &convers
 void FreedesktopNotifications::sent(const std::shared_ptr<Conversation> &conversation,
                                     const QDBusMessage &answer)
 {
-    conversation->underWay = false;
+    conversation->awaited = Conversation::Awaited::Nothing;
     conversation->server = answer.service();
     const bool numbered =
         answer.type() == QDBusMessage::ReplyMessage && answer.signature() == QLatin1String("u");
     const uint id = numbered ? answer.arguments().constFirst().toUInt() : 0;
     if (conversation->next || conversation->shown)
         conversation->id = id;
-    else if (id != 0)
+    // No merged one is under way again, because that would be a notification of its own.
+    for (const auto &each : std::exchange(conversation->merged, {})) {
+        const std::shared_ptr<Conversation> merged = each.lock();
+        if (!merged || !merged->shown || merged->awaited != Conversation::Awaited::Nothing)
+            continue;
+        merged->id = id;
+        merged->server = conversation->server;
+    }
+    if (id != 0 && conversation->id == 0 && conversationsAbout(id, conversation->server).empty()) {
         QDBusConnection::sessionBus().asyncCall(
             call(conversation->server, QStringLiteral("CloseNotification"), {id}));
+    }
     if (conversation->next)
-        askCapabilities(conversation);
+        askAboutServer(conversation);
 }

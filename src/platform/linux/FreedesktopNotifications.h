@@ -4,8 +4,11 @@
 
 #include <QHash>
 #include <QObject>
+#include <QVariant>
 
+#include <functional>
 #include <memory>
+#include <vector>
 
 class QDBusMessage;
 
@@ -29,11 +32,17 @@ private:
     struct Conversation;
 
     [[nodiscard]] std::shared_ptr<Conversation> conversationWith(const QObject &sender);
-    [[nodiscard]] std::shared_ptr<Conversation> conversationAbout(uint id,
-                                                                  const QString &server) const;
+    /// All conversations whose notification has this id; several if the server has merged them.
+    [[nodiscard]] std::vector<std::shared_ptr<Conversation>>
+    conversationsAbout(uint id, const QString &server) const;
+    [[nodiscard]] std::function<void()> answerTo(const QString &signal, const QVariant &argument,
+                                                 const std::shared_ptr<Conversation> &about);
+    /// Whether the server has closed the notification because it is about to show an equal one in
+    /// its place, as some servers do of their own; then it becomes part of that one.
+    [[nodiscard]] bool mergedByServer(const std::shared_ptr<Conversation> &closed);
     void forget(const QObject *sender);
     void listen();
-    void askCapabilities(const std::shared_ptr<Conversation> &conversation);
+    void askAboutServer(const std::shared_ptr<Conversation> &conversation);
     void send(const std::shared_ptr<Conversation> &conversation, const QStringList &capabilities);
     void sent(const std::shared_ptr<Conversation> &conversation, const QDBusMessage &answer);
 

@@ -31,7 +31,7 @@ BUS_CONFIGURATION = """<busconfig>
 # By default, notifications stay until the test removes them, so that it can count them.
 NOTIFICATION_CONFIGURATION = """[global]
     idle_threshold = 0
-    stack_duplicates = false
+    stack_duplicates = {merges}
     history_length = 50
     notification_limit = 20
     dmenu = {chooser}
@@ -73,7 +73,7 @@ class Notifications:
     NAME = "org.freedesktop.Notifications"
     PATH = "/org/freedesktop/Notifications"
 
-    def __init__(self, bus, folder, environment, seconds):
+    def __init__(self, bus, folder, environment, seconds, merges):
         processes.require("dunst")
         self.bus = bus
         self.taken = set()
@@ -82,7 +82,8 @@ class Notifications:
         configuration = os.path.join(folder, "dunstrc")
         with open(configuration, "w", encoding="ascii") as file:
             file.write(NOTIFICATION_CONFIGURATION.format(chooser=self.add_chooser(folder),
-                                                         seconds=seconds))
+                                                         seconds=seconds,
+                                                         merges=str(merges).lower()))
         self.process = processes.start(["dunst", "-conf", configuration], environment)
         wait_until(lambda: ask(bus, "org.freedesktop.DBus", "/", "org.freedesktop.DBus",
                                "NameHasOwner", GLib.Variant("(s)", (self.NAME,)))[0],
@@ -210,8 +211,9 @@ class Session:
         return ask(self.bus, "org.freedesktop.DBus", "/", "org.freedesktop.DBus", "NameHasOwner",
                    GLib.Variant("(s)", (name,)))[0]
 
-    def start_notifications(self, seconds=0):
-        self.notifications = Notifications(self.bus, self.folder, self.environment, seconds)
+    def start_notifications(self, seconds=0, merges=False):
+        """A daemon that "merges" shows equal notifications as one, as it does by default."""
+        self.notifications = Notifications(self.bus, self.folder, self.environment, seconds, merges)
 
     def end_notifications(self):
         if self.notifications:

@@ -1,0 +1,159 @@
+#include "platform/linux/FreedesktopNotifications.h"
+#include "support/NotificationServer.h"
+#include "support/PrivateBus.h"
+#include "support/RoundTrip.h"
+#include "support/TestMain.h"
+
+#include <array>
+#include <optional>
+
+namespace
+{
+const QString kShow = QStringLiteral("show");
+const QString kStop = QStringLiteral("stop");
+} // namespace
+
+/// A server that merges equal notifications into one. The user sees one notification for several
+/// timers, and its buttons must reach all of them. Runs on a private session bus, where the test
+/// plays the server.
+class tst_MergedNotifications final : public Test
+{
+    Q_OBJECT
+
+public:
+    explicit tst_MergedNotifications(const OnPrivateBus &surroundings) :
+        _address(surroundings.bus().address())
+    {}
+
+private Q_SLOTS:
+    void init()
+    {
+        Test::init();
+        _diary.clear();
+    }
+
+    void aMergeByTheServerIsNoAnswerOfTheUser();
+    void anAnswerToMergedOnesReachesAllOfThem_data();
+    void anAnswerToMergedOnesReachesAllOfThem();
+    void mergedOnesStayUntilTheLastIsWithdrawn();
+    void aMergedOneThatChangesIsSentAnew();
+
+private:
+    [[nodiscard]] NotificationServer &serve()
+    {
+        NotificationServer &server =
+            _server.emplace(_address, QStringList{QStringLiteral("actions")});
+        server.mergeEqual();
+        return server;
+    }
+    [[nodiscard]] DesktopNotification withActions()
+    {
+        return {.title = QStringLiteral("Tea"),
+                .text = QStringLiteral("done"),
+                .name = QStringLiteral("wuff"),
+                .show = [this] { _diary << QStringLiteral("shown"); },
+                .stop = [this] { _diary << QStringLiteral("stopped"); },
+                .closed =
+                    [this](DesktopNotification::End end) {
+                        const bool expired = end == DesktopNotification::End::Expired;
+                        _diary << (expired ? QStringLiteral("expired") : QStringLiteral("closed"));
+                    }};
+    }
+    /// Shows a notification, and waits until the program knows its id, 100.
+    void show(FreedesktopNotifications &notifications, const QObject &sender)
+    {
+        notifications.notify(sender, withActions());
+        QTRY_VERIFY(!_server->shown.empty());
+        settle();
+    }
+    /// Waits until all messages to and from the notification server have arrived.
+    static void settle() { settleWith(QStringLiteral("org.freedesktop.Notifications")); }
+
+    const QString _address;
+    std::optional<NotificationServer> _server;
+    QStringList _diary;
+};
+
+void tst_MergedNotifications::aMergeByTheServerIsNoAnswerOfTheUser()
+{
+    NotificationServer &server = serve();
+    FreedesktopNotifications notifications;
+    const QObject first;
+    const QObject second;
+    show(notifications, first);
+    notifications.notify(second, withActions());
+    QTRY_COMPARE(server.shown.size(), 2U);
+    settle();
+    QCOMPARE(_diary, QStringList());
+    QVERIFY(server.closed.empty());
+}
+
+void tst_MergedNotifications::anAnswerToMergedOnesReachesAllOfThem_data()
+{
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<QString>("deed");
+    QTest::newRow("stop") << kStop << QStringLiteral("stopped");
+    QTest::newRow("show") << kShow << QStringLiteral("shown");
+    QTest::newRow("dismissed") << QString() << QStringLiteral("closed");
+}
+
+void tst_MergedNotifications::anAnswerToMergedOnesReachesAllOfThem()
+{
+    QFETCH(const QString, key);
+    QFETCH(const QString, deed);
+    NotificationServer &server = serve();
+    FreedesktopNotifications notifications;
+    const std::array<QObject, 6> senders;
+    for (const QObject &sender : senders)
+        notifications.notify(sender, withActions());
+    QTRY_COMPARE(server.shown.size(), senders.size());
+    settle();
+    if (key.isEmpty())
+        server.dismiss(server.lastId);
+    else
+        server.press(server.lastId, key);
+    settle();
+    QCOMPARE(_diary, QStringList(qsizetype(senders.size()), deed));
+}
+
+void tst_MergedNotifications::mergedOnesStayUntilTheLastIsWithdrawn()
+{
+    NotificationServer &server = serve();
+    FreedesktopNotifications notifications;
+    const QObject first;
+    const QObject second;
+    show(notifications, first);
+    show(notifications, second);
+    QTRY_COMPARE(server.shown.size(), 2U);
+    settle();
+    notifications.withdraw(second);
+    settle();
+    QVERIFY(server.closed.empty());
+    notifications.withdraw(first);
+    QTRY_COMPARE(server.closed, std::vector<uint>{server.lastId});
+}
+
+void tst_MergedNotifications::aMergedOneThatChangesIsSentAnew()
+{
+    NotificationServer &server = serve();
+    FreedesktopNotifications notifications;
+    const QObject first;
+    const QObject second;
+    show(notifications, first);
+    show(notifications, second);
+    QTRY_COMPARE(server.shown.size(), 2U);
+    settle();
+    DesktopNotification changed = withActions();
+    changed.text = QStringLiteral("over");
+    notifications.notify(first, changed);
+    QTRY_COMPARE(server.shown.size(), 3U);
+    settle();
+    QCOMPARE(server.shown.back().replacedId, 0U);
+    // The other one is still on the screen, and answers.
+    server.press(101, kStop);
+    settle();
+    QCOMPARE(_diary, QStringList{QStringLiteral("stopped")});
+}
+
+WUFFER_TEST(tst_MergedNotifications, OnPrivateBus)
+#include "tst_MergedNotifications.moc"
