@@ -4,6 +4,7 @@
 #include "base/ScreenBlanking.h"
 #include "base/Service.h"
 #include "base/UserDefaults.h"
+#include "platform/LauncherEntry.h"
 #include "platform/LazySoundSystem.h"
 #include "platform/PlatformServices.h"
 #include "platform/StatusItem.h"
@@ -33,6 +34,7 @@ private:
     SystemDesktop _desktop;
     SystemOpenPanel _openPanel;
     const std::unique_ptr<StatusItem> _statusItem = PlatformServices::statusItem();
+    const std::unique_ptr<LauncherEntry> _launcherEntry = PlatformServices::launcherEntry();
 
     Service<UserDefaults> _defaultsService{_defaults};
     Service<SoundSystem> _soundService{_sounds};
@@ -41,4 +43,5 @@ private:
     Service<Desktop> _desktopService{_desktop};
     Service<OpenPanel> _openPanelService{_openPanel};
     Service<StatusItem> _statusItemService{*_statusItem};
+    Service<LauncherEntry> _launcherEntryService{*_launcherEntry};
 };

@@ -4,6 +4,7 @@
 #include "app/AuxiliaryWindow.h"
 #include "app/HomeKeeper.h"
 #include "app/HomeWindow.h"
+#include "app/LauncherPresenter.h"
 #include "app/LinkMenu.h"
 #include "app/MainMenu.h"
 #include "app/PresetsMenu.h"
@@ -15,6 +16,7 @@
 #include "base/Service.h"
 #include "base/UserDefaults.h"
 #include "controls/WindowButtons.h"
+#include "platform/LauncherEntry.h"
 #include "platform/StatusItem.h"
 #include "platform/WindowOrder.h"
 #include "preferences/Preferences.h"
@@ -33,6 +35,7 @@ WufferController::WufferController() :
     _presetsMenu(std::make_unique<PresetsMenu>(*this)),
     _mainMenu(std::make_unique<MainMenu>(*this, *_presetsMenu)),
     _statusItem(std::make_unique<StatusPresenter>(Service<StatusItem>::current())),
+    _launcherEntry(std::make_unique<LauncherPresenter>(Service<LauncherEntry>::current())),
     _home(std::make_unique<HomeKeeper>([this] { return makeHome(); }))
 {
     connect(&WufferApplication::instance(), &WufferApplication::helpRequested, this,
@@ -58,6 +61,8 @@ void WufferController::awakeFromNib(LaunchOrder order)
     makePreferences();
     // Last, so that a timer that starts at launch enters the status item at its first tick.
     center.addObserver(*this, Notices::kStatusChanged, [this](QObject *) { refreshStatusItem(); });
+    center.addObserver(*this, Notices::kStatusChanged,
+                       [this](QObject *) { _launcherEntry->refresh(); });
     // For Activate and NewTimer everything is open already.
     if (order != LaunchOrder::Activate && order != LaunchOrder::NewTimer)
         carryOut(order);

@@ -12,6 +12,7 @@ class AboutDialog;
 class AuxiliaryWindow;
 class HomeKeeper;
 class HomeWindow;
+class LauncherPresenter;
 class MainMenu;
 class PresetsMenu;
 class Preferences;
@@ -101,6 +102,7 @@ private:
     std::unique_ptr<PresetsMenu> _presetsMenu;
     std::unique_ptr<MainMenu> _mainMenu;
     std::unique_ptr<StatusPresenter> _statusItem;
+    std::unique_ptr<LauncherPresenter> _launcherEntry;
     std::unique_ptr<AuxiliaryWindow> _preferencesWindow;
     std::unique_ptr<Preferences> _preferences;
     std::unique_ptr<AuxiliaryWindow> _converterWindow;

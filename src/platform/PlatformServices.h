@@ -3,6 +3,7 @@
 #include <memory>
 
 class DesktopNotifications;
+class LauncherEntry;
 class ScreenBlanking;
 class StatusItem;
 
@@ -16,4 +17,5 @@ void prepareProcess();
 [[nodiscard]] std::unique_ptr<DesktopNotifications> desktopNotifications();
 [[nodiscard]] std::unique_ptr<ScreenBlanking> screenBlanking();
 [[nodiscard]] std::unique_ptr<StatusItem> statusItem();
+[[nodiscard]] std::unique_ptr<LauncherEntry> launcherEntry();
 } // namespace PlatformServices

@@ -51,7 +51,8 @@ public:
     [[nodiscard]] WufferWindow *window() const { return _window.get(); }
     /// Started and not closed; a timer in its alarm phase counts as running.
     [[nodiscard]] bool isRunning() const { return _run.isStarted() && !_closed; }
-    /// When the run ends: the distant future for a stopwatch, nothing before the first start.
+    /// The current or last run, and when it ends.
+    [[nodiscard]] const TimerRun &run() const { return _run; }
     [[nodiscard]] std::optional<Date> targetDate() const { return _run.targetDate(); }
     /// The name typed by the user, or "Wuffer".
     [[nodiscard]] QString title() const;
@@ -217,8 +218,7 @@ public:
 Q_SIGNALS:
     /// The titles or the enabled state of menu items for this timer may have changed.
     void stateChanged();
-    /// The window is closing; the timer must not be used any more. Precedes
-    /// Notices::kStatusChanged.
+    /// The window is closing; the timer must not be used any more. Precedes kStatusChanged.
     void closed();
     /// The user wants to read this page of the help.
     void helpRequested(const QString &page);
@@ -274,7 +274,6 @@ private:
     std::unique_ptr<SoundPreviews> _previews;
     /// Created on first use, because a calendar is costly.
     std::unique_ptr<TargetTimeSheet> _targetTimeWindow;
-
     std::unique_ptr<TimeEntry> _timeEntry;
     TextColor _titleColor = TextColor::Black;
     TextColor _elapsedColor = TextColor::Black;

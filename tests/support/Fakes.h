@@ -5,6 +5,7 @@
 #include "base/OpenPanel.h"
 #include "base/ScreenBlanking.h"
 #include "base/Sound.h"
+#include "platform/LauncherEntry.h"
 #include "platform/StatusItem.h"
 
 #include <QHash>
@@ -186,6 +187,25 @@ public:
 
 protected:
     void changed() override { ++changes; }
+};
+
+class FakeLauncherEntry final : public LauncherEntry
+{
+public:
+    [[nodiscard]] bool isRead() override { return _isRead; }
+    void show(const LauncherState &state) override { shown.push_back(state); }
+
+    /// From now on there is a panel or dock that shows the states.
+    void read()
+    {
+        _isRead = true;
+        becomeRead();
+    }
+
+    std::vector<LauncherState> shown;
+
+private:
+    bool _isRead = false;
 };
 
 /// A menu with the lines that the test sets. It records which lines are chosen.

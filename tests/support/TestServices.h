@@ -31,6 +31,7 @@ public:
     FakeDesktop desktop;
     FakeOpenPanel openPanel;
     FakeStatusItem statusItem;
+    FakeLauncherEntry launcherEntry;
 
 private:
     Service<Clock> _clockService{clock};
@@ -41,4 +42,5 @@ private:
     Service<Desktop> _desktopService{desktop};
     Service<OpenPanel> _openPanelService{openPanel};
     Service<StatusItem> _statusItemService{statusItem};
+    Service<LauncherEntry> _launcherEntryService{launcherEntry};
 };

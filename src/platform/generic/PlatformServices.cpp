@@ -2,6 +2,7 @@
 
 #include "base/DesktopNotifications.h"
 #include "base/ScreenBlanking.h"
+#include "platform/LauncherEntry.h"
 #include "platform/generic/TrayStatusItem.h"
 
 namespace
@@ -17,6 +18,12 @@ class NoScreenBlanking final : public ScreenBlanking
 {
     void begin(const QString & /*reason*/) override {}
     void end() override {}
+};
+
+class NoLauncherEntry final : public LauncherEntry
+{
+    [[nodiscard]] bool isRead() override { return false; }
+    void show(const LauncherState & /*state*/) override {}
 };
 } // namespace
 
@@ -35,4 +42,9 @@ std::unique_ptr<ScreenBlanking> PlatformServices::screenBlanking()
 std::unique_ptr<StatusItem> PlatformServices::statusItem()
 {
     return std::make_unique<TrayStatusItem>();
+}
+
+std::unique_ptr<LauncherEntry> PlatformServices::launcherEntry()
+{
+    return std::make_unique<NoLauncherEntry>();
 }

@@ -5,6 +5,7 @@
 #include "platform/linux/FreedesktopScreenBlanking.h"
 #include "platform/linux/FreedesktopStatusItem.h"
 #include "platform/linux/SessionBus.h"
+#include "platform/linux/UnityLauncherEntry.h"
 
 void PlatformServices::prepareProcess()
 {
@@ -29,4 +30,9 @@ std::unique_ptr<ScreenBlanking> PlatformServices::screenBlanking()
 std::unique_ptr<StatusItem> PlatformServices::statusItem()
 {
     return std::make_unique<FreedesktopStatusItem>();
+}
+
+std::unique_ptr<LauncherEntry> PlatformServices::launcherEntry()
+{
+    return std::make_unique<UnityLauncherEntry>();
 }
