@@ -1,6 +1,8 @@
-"""How long processes waited for a processor: delay of the computer, not of the processes."""
+"""How long processes waited for the computer: delay of the computer, not of the processes."""
 
 import glob
+import threading
+import time
 
 
 def waits(process_id):
@@ -16,15 +18,71 @@ def waits(process_id):
     return found
 
 
+class Standstill:
+    """Measures how long the computer or a process stands still, in a thread of its own.
+
+    The kernel counts how long a process that is ready waits for a processor. It counts neither how
+    long a process is stopped or waits for a disk, nor how long a virtual computer does not run.
+    """
+
+    STEP = 0.02
+    # Stopped, and waiting for a disk.
+    STATES = "DTt"
+
+    def __init__(self):
+        self.computer = 0.0
+        self.processes = {}
+        # Processes that the test itself stops.
+        self.expected = set()
+        self.thread = None
+
+    def watch(self, process_ids):
+        for process_id in process_ids:
+            self.processes.setdefault(process_id, 0.0)
+        if not self.thread:
+            self.thread = threading.Thread(target=self.run, daemon=True)
+            self.thread.start()
+
+    def run(self):
+        last = time.monotonic()
+        while True:
+            time.sleep(self.STEP)
+            now = time.monotonic()
+            late = max(0.0, now - last - 2 * self.STEP)
+            self.computer += late
+            for process_id in set(self.processes) - self.expected:
+                if state(process_id) in self.STATES:
+                    self.processes[process_id] += now - last - late
+            last = now
+
+    def seconds(self, process_ids):
+        return self.computer + sum(self.processes[process_id] for process_id in process_ids)
+
+
+def state(process_id):
+    """Returns the letter of the process's state; X if it has ended."""
+    try:
+        with open(f"/proc/{process_id}/stat", encoding="utf-8", errors="replace") as file:
+            return file.read().rsplit(")", 1)[1].split()[0]
+    except (FileNotFoundError, ProcessLookupError):
+        return "X"
+
+
+STANDSTILL = Standstill()
+
+
 class Waits:
-    """The time that processes have waited for a processor since this object was made.
+    """The time that processes have waited for the computer since this object was made.
 
     Tests add it to the time that they allow the program. On an idle computer it is close to 0.
     """
 
     def __init__(self, *process_ids):
         self.before = {process_id: waits(process_id) for process_id in process_ids}
+        STANDSTILL.watch(process_ids)
+        self.stood_still = STANDSTILL.seconds(process_ids)
 
     def seconds(self):
-        return sum(now - before.get(thread, 0) for process_id, before in self.before.items()
-                   for thread, now in waits(process_id).items())
+        return (STANDSTILL.seconds(self.before) - self.stood_still
+                + sum(now - before.get(thread, 0) for process_id, before in self.before.items()
+                      for thread, now in waits(process_id).items()))

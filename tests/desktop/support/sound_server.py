@@ -8,7 +8,7 @@ import subprocess
 import threading
 import time
 
-from support.processor import Waits
+from support.processor import STANDSTILL, Waits
 from support.samples import AUDIBLE, RATE, longest_silence, loudest
 from support.waiting import wait_until
 
@@ -63,10 +63,12 @@ class Server:
         return len(self.ask("list", "short", "sink-inputs").splitlines())
 
     def freeze(self):
+        STANDSTILL.expected.add(self.process.pid)
         self.process.send_signal(signal.SIGSTOP)
 
     def thaw(self):
         self.process.send_signal(signal.SIGCONT)
+        STANDSTILL.expected.discard(self.process.pid)
 
     def kill(self):
         self.process.kill()
