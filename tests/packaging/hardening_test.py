@@ -13,7 +13,7 @@ import unittest
 
 
 def read(file, *what):
-    return subprocess.run(["readelf", "--wide", *what, file], check=True, timeout=20,
+    return subprocess.run(["readelf", "--wide", *what, file], check=True, timeout=120,
                           env=dict(os.environ, LC_ALL="C"), stdout=subprocess.PIPE,
                           text=True).stdout
 

@@ -46,7 +46,7 @@ class Installation:
 
 def run(*command, environment=None):
     """Runs a tool; shows its output if it fails."""
-    result = subprocess.run(command, env=environment, check=False, text=True, timeout=60,
+    result = subprocess.run(command, env=environment, check=False, text=True, timeout=300,
                             stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
                             stderr=subprocess.STDOUT)
     if result.returncode != 0:
