@@ -53,10 +53,10 @@ def timers(session):
     for window, place in zip(windows, PLACES):
         display.move_window(window, *place)
     display.key("ctrl+shift+s")
-    wait_until(lambda: len(program.all("button", "Stop")) == len(windows), 5, "all run")
+    wait_until(lambda: len(program.all("button", "Stop")) == len(windows), "all run")
     wait_until(lambda: any(label.name in ("4s", "5s")
                            for label in program.all("display", description="Time")),
-               20, "the display of one is red")
+               "the display of one is red")
     take_picture(display, "timers.png")
     program.kill()
 
@@ -71,7 +71,7 @@ def options(session):
     program.wait_for_windows(1)
     display.move_window(window, 320, 130)
     display.key("ctrl+o")
-    wait_until(lambda: program.has("button", "Hide Options"), 5, "the drawer opens")
+    wait_until(lambda: program.has("button", "Hide Options"), "the drawer opens")
     # Wait until the drawer has slid out.
     time.sleep(1)
     take_picture(display, "options.png")

@@ -19,10 +19,7 @@ class ChainTest(DesktopTest):
         self.program = self.launch()
         for number in range(1, count + 1):
             if number > 1:
-                self.display.key("ctrl+n")
-                window = self.program.wait_for_windows(number)[-1]
-                wait_until(lambda w=window: self.display.active_window() == w, 5,
-                           "the window is active")
+                self.program.open_timer()
             self.program.wait_for_focus_in("Minutes")
             self.program.type_seconds(2)
         windows = self.program.windows()
@@ -38,47 +35,53 @@ class ChainTest(DesktopTest):
     def link(self, target, source, button=1, key="ctrl"):
         """Drags the source onto the target."""
         with self.display.dragging(self.margin(source), self.margin(target), button, key):
-            wait_until(lambda: self.is_lit(target) and self.is_lit(source), 3,
-                       "both windows are lit")
-        wait_until(lambda: not self.is_lit(target) and not self.is_lit(source), 3,
-                   "neither window is lit")
+            self.wait_until_lit(target, source)
+        self.wait_until_dark(target, source)
 
     def is_lit(self, window):
         x, y = self.margin(window)
         # Away from the pointer, whose drag picture would cover the colour.
         return self.display.color_at(x + 300, y) == WHITE
 
+    def wait_until_lit(self, *windows):
+        wait_until(lambda: all(map(self.is_lit, windows)), "the windows are lit")
+
+    def wait_until_dark(self, *windows):
+        wait_until(lambda: not any(map(self.is_lit, windows)), "no window is lit")
+
+    def inside(self, window, controls):
+        """Returns those of the controls that are in the window."""
+        area = self.display.geometry(window)
+        places = [(control, self.program.place(control)) for control in controls]
+        return [control for control, place in places if area.x <= place.x < area.right
+                and area.y <= place.y < area.bottom]
+
     def shown_in(self, window):
-        """Returns the text of the window's elapsed line."""
-        place = self.display.geometry(window)
-        found = [label.name for label in self.program.all("display",
-                                                                description="Elapsed time")
-                 if place.x <= self.program.place(label).x < place.right
-                 and place.y <= self.program.place(label).y < place.bottom]
-        self.assertEqual(len(found), 1)
-        return found[0]
+        """Returns the text of the window's elapsed line; None while it is not there alone."""
+        labels = self.inside(window, self.program.all("display", description="Elapsed time"))
+        return labels[0].name if len(labels) == 1 else None
 
     def wait_for_chain(self, *windows):
         for position, window in enumerate(windows, start=1):
             text = f"Wuffer Chain - {position} of {len(windows)}"
-            wait_until(lambda w=window, t=text: self.shown_in(w) == t, 5, text)
+            wait_until(lambda w=window, t=text: self.shown_in(w) == t, text)
 
     def test_three_timers_linked_by_drags_run_one_after_the_other(self):
         first, second, third = self.launch_timers(3)
         self.link(first, second)
         self.wait_for_chain(first, second)
-        self.assertEqual(self.display.active_window(), first)
+        self.display.wait_until_active(first)
         # A drag with the right button needs no Ctrl key.
         self.link(second, third, button=3, key=None)
         self.wait_for_chain(first, second, third)
-        self.assertEqual(len(self.program.all("button", "Chained")), 2)
+        self.program.wait_for_count(2, "button", "Chained")
 
-        self.display.act("windowactivate", "--sync", first)
+        self.display.activate(first)
         start = time.monotonic()
         self.display.key("Return")
         for window in (first, second, third):
-            wait_until(lambda w=window: self.shown_in(w) == "2s", 8, "the timer rings")
-            self.assertEqual(len(self.program.all("button", "Reset")), 1)
+            wait_until(lambda w=window: self.shown_in(w) == "2s", "the timer rings")
+            self.program.wait_for_count(1, "button", "Reset")
             moment = time.monotonic() - start
             self.report(f"alarm after {moment:.2f} s")
         self.wait_for_chain(first, second, third)
@@ -91,12 +94,10 @@ class ChainTest(DesktopTest):
         self.link(first, second)
         self.link(third, fourth)
         with self.display.dragging(self.margin(third), self.margin(first), key="ctrl"):
-            for window in (first, second, third, fourth):
-                wait_until(lambda w=window: self.is_lit(w), 3, "the window is lit")
+            self.wait_until_lit(first, second, third, fourth)
             # Off all windows.
             self.display.move_pointer(1270, 790)
-            for window in (first, second, third, fourth):
-                wait_until(lambda w=window: not self.is_lit(w), 3, "the window is not lit")
+            self.wait_until_dark(first, second, third, fourth)
         self.wait_for_chain(first, second)
         self.wait_for_chain(third, fourth)
         self.quit(self.program)
@@ -105,10 +106,10 @@ class ChainTest(DesktopTest):
         first, second = self.launch_timers(2)
         x, y = self.margin(first)
         with self.display.dragging((x, y), (x + 200, y), key="ctrl"):
-            time.sleep(0.2)
+            self.program.catch_up()
             self.assertFalse(self.is_lit(first))
-        self.program.answers()
-        self.assertEqual(len(self.program.all("button", "Start")), 2)
+        self.program.catch_up()
+        self.program.wait_for_count(2, "button", "Start")
         self.link(first, second)
         self.wait_for_chain(first, second)
         self.quit(self.program)
@@ -117,34 +118,32 @@ class ChainTest(DesktopTest):
         first, second = self.launch_timers(2)
         for window in (first, second):
             closed = self.display.geometry(window).height
-            self.display.act("windowactivate", "--sync", window)
+            self.display.activate(window)
             self.display.key("ctrl+o")
-            wait_until(lambda w=window, c=closed: self.display.geometry(w).height > c + 50, 3,
+            wait_until(lambda w=window, c=closed: self.display.geometry(w).height > c + 50,
                        "the drawer is out")
+            self.display.wait_until_at_rest(window)
         # From one window's drawer to the other's.
         with self.display.dragging(self.label_in(second), self.label_in(first), key="ctrl"):
-            wait_until(lambda: self.is_lit(first) and self.is_lit(second), 3, "both are lit")
+            self.wait_until_lit(first, second)
         self.wait_for_chain(first, second)
-        self.assertIn("Wuffer - 0h 0m 2s",
-                      [choice.name for choice in self.program.all("choice")])
+        wait_until(lambda: "Wuffer - 0h 0m 2s" in
+                   [choice.name for choice in self.program.all("choice")], "the link is shown")
         self.quit(self.program)
 
     def label_in(self, window):
         """Returns a point on a label in the drawer of the window."""
-        area = self.display.geometry(window)
-        places = [self.program.place(label) for label in self.program.all("display", "Alarm:")]
-        inside = [place for place in places if area.x <= place.x < area.right]
-        self.assertEqual(len(inside), 1)
-        return inside[0].x + 4, inside[0].y + 4
+        place = self.place_in(window, "Alarm:", "display")
+        return place.x + 4, place.y + 4
 
     def test_a_window_that_closes_while_it_is_dragged_ends_the_drag(self):
         first, second, third = self.launch_timers(3)
         with self.display.dragging(self.margin(third), self.margin(first), key="ctrl"):
-            wait_until(lambda: self.is_lit(first), 3, "the window is lit")
+            self.wait_until_lit(first)
             self.display.close_window(third)
             self.program.wait_for_windows(2)
-            wait_until(lambda: not self.is_lit(first), 3, "the window is not lit")
-        self.program.answers()
+            self.wait_until_dark(first)
+        self.program.catch_up()
         self.link(first, second)
         self.wait_for_chain(first, second)
         self.quit(self.program)
@@ -153,12 +152,12 @@ class ChainTest(DesktopTest):
         first, second, third = self.launch_timers(3)
         self.link(first, second)
         with self.display.dragging(self.margin(third), self.margin(second), key="ctrl"):
-            wait_until(lambda: self.is_lit(first) and self.is_lit(third), 3, "both are lit")
+            self.wait_until_lit(first, third)
             self.display.close_window(second)
             self.program.wait_for_windows(2)
-            wait_until(lambda: not self.is_lit(first) and not self.is_lit(third), 3,
-                       "no window is lit")
-        self.assertEqual(len(self.program.all("button", "Start")), 2)
+            self.wait_until_dark(first, third)
+        self.program.catch_up()
+        self.program.wait_for_count(2, "button", "Start")
         self.link(first, third)
         self.wait_for_chain(first, third)
         self.quit(self.program)
@@ -169,11 +168,11 @@ class ChainTest(DesktopTest):
         x, y = self.margin(first)
         with self.display.dragging((x, y), (x + 150, y + 90)):
             pass
-        wait_until(lambda: self.display.frame(first).x > before.x + 50, 3, "the window moves")
-        moved = self.display.frame(first)
+        wait_until(lambda: self.display.frame(first).x > before.x + 50, "the window moves")
+        moved = self.display.wait_until_at_rest(first)
         self.report(f"moved by {moved.x - before.x}, {moved.y - before.y}")
         self.assertEqual(moved[2:], before[2:])
-        self.assertEqual(len(self.program.all("button", "Start")), 2)
+        self.program.wait_for_count(2, "button", "Start")
         # The move has released the mouse: links work again.
         self.link(first, second)
         self.quit(self.program)
@@ -184,14 +183,15 @@ class ChainTest(DesktopTest):
         self.display.click(*self.margin(first))
         start = self.button_in(first, "Start")
         with self.display.dragging(start, (start[0] + 200, start[1] + 120)):
-            time.sleep(0.2)
-        self.program.answers()
+            self.program.catch_up()
+        self.program.catch_up()
         self.assertEqual(self.display.frame(first), before)
-        self.assertEqual(len(self.program.all("button", "Start")), 2)
+        self.program.wait_for_count(2, "button", "Start")
         with self.display.dragging(start, self.margin(second), key="ctrl"):
-            time.sleep(0.2)
+            self.program.catch_up()
             self.assertFalse(self.is_lit(second))
-        self.assertEqual(len(self.program.all("button", "Start")), 2)
+        self.program.catch_up()
+        self.program.wait_for_count(2, "button", "Start")
         self.quit(self.program)
 
     def test_a_drag_begins_on_a_disabled_button(self):
@@ -199,33 +199,39 @@ class ChainTest(DesktopTest):
         self.link(first, second)
         chained = self.button_in(second, "Chained")
         with self.display.dragging(chained, self.margin(third), key="ctrl"):
-            wait_until(lambda: self.is_lit(third) and self.is_lit(second), 3, "both are lit")
+            self.wait_until_lit(third, second)
         self.wait_for_chain(third, second)
         # "Keep wuffing" is disabled for a timer with a successor. The right button needs no key.
         box = self.button_in(third, "Keep wuffing", "box")
         with self.display.dragging(box, self.margin(first), button=3):
-            wait_until(lambda: self.is_lit(first) and self.is_lit(third), 3, "both are lit")
+            self.wait_until_lit(first, third)
         self.wait_for_chain(first, third, second)
         before = self.display.frame(second)
         with self.display.dragging(chained, (chained[0] - 30, chained[1] + 90)):
             pass
-        wait_until(lambda: self.display.frame(second).y > before.y + 50, 3, "the window moves")
+        wait_until(lambda: self.display.frame(second).y > before.y + 50, "the window moves")
         self.quit(self.program)
 
     def button_in(self, window, name, role="button"):
         """Returns the middle of the button in the window."""
-        area = self.display.geometry(window)
-        places = [self.program.place(button) for button in self.program.all(role, name)]
-        inside = [place for place in places if area.x <= place.x < area.right
-                  and area.y <= place.y < area.bottom]
-        self.assertEqual(len(inside), 1)
-        return inside[0].x + inside[0].width // 2, inside[0].y + inside[0].height // 2
+        place = self.place_in(window, name, role)
+        return place.x + place.width // 2, place.y + place.height // 2
+
+    def place_in(self, window, name, role):
+        """Waits for the control of this name in the window; returns its place."""
+        found = []
+
+        def is_only_one():
+            found[:] = self.inside(window, self.program.all(role, name))
+            return len(found) == 1
+
+        wait_until(is_only_one, f"there is one {name} in the window")
+        return self.program.place(found[0])
 
     def test_keys_alone_link_timers(self):
         self.launch_timers(2)
-        self.display.key("alt+t")
-        self.display.key("i")
-        time.sleep(0.3)
+        for keys in (("alt+t",), ("i",)):
+            self.display.open_popup(*keys)
         self.display.key("Down", "Return")
         self.program.wait_for_button("Start Chain")
         self.quit(self.program)
@@ -233,9 +239,8 @@ class ChainTest(DesktopTest):
     def test_a_link_is_gone_when_its_window_closes(self):
         first, second = self.launch_timers(2)
         self.link(first, second)
-        self.display.act("windowactivate", "--sync", second)
-        self.display.key("ctrl+w")
-        self.program.wait_for_windows(1)
+        self.display.activate(second)
+        self.program.close_window()
         self.program.wait_for_button("Start")
         self.quit(self.program)
 

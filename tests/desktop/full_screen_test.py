@@ -4,15 +4,15 @@
 Usage: full_screen_test.py WUFFER FOLDER [unittest arguments]
 """
 
+import json
 import os
-import time
 
 from support import pointer
 from support.case import DesktopTest, main
 from support.display import Rect
 from support.picture import Picture
+from support.samples import write_tone
 from support.waiting import wait_until
-from support.x_server import WindowGone
 
 PANEL = (0xfb, 0xfa, 0xf5)
 
@@ -40,32 +40,29 @@ class FullScreenTest(DesktopTest):
         """Returns the window that covers the whole screen; None if there is none."""
         whole = Rect(0, 0, self.screen.width, self.screen.height)
         for window in self.program.windows():
-            try:
-                if self.screen.frame(window) == whole == self.screen.geometry(window):
-                    return window
-            except WindowGone:
-                # The window has closed since it was listed.
-                continue
+            if self.screen.frame(window) == whole == self.screen.geometry(window):
+                return window
         return None
 
     def enter(self):
         self.screen.key("F11")
-        wait_until(self.covering_window, 5, "the display covers the whole screen")
-        wait_until(lambda: self.screen.focused_window() == self.covering_window(), 5,
-                   "the full screen has the focus")
-        wait_until(lambda: not pointer.is_visible(self.screen), 2, "the pointer is hidden")
+        self.wait_for_full_screen()
+        wait_until(lambda: not pointer.is_visible(self.screen), "the pointer is hidden")
+
+    def wait_for_full_screen(self):
+        wait_until(self.covering_window, "the display covers the whole screen")
+        self.screen.wait_until_active(self.covering_window())
 
     def stays(self):
-        time.sleep(0.2)
+        self.program.catch_up()
         self.assertIsNotNone(self.covering_window())
 
     def check_back(self):
-        wait_until(lambda: self.program.windows() == [self.window], 5,
+        wait_until(lambda: self.program.windows() == [self.window],
                    "only the timer's window is left")
-        wait_until(lambda: self.screen.focused_window() == self.window, 5,
-                   "the timer's window has the focus")
-        self.assertEqual(self.screen.frame(self.window), self.place)
-        wait_until(lambda: pointer.is_visible(self.screen), 2, "the pointer shows")
+        self.screen.wait_until_active(self.window)
+        self.assert_soon(lambda: self.screen.frame(self.window), self.place)
+        wait_until(lambda: pointer.is_visible(self.screen), "the pointer shows")
         self.program.find("button", "Stop")
 
     def test_any_key_ends_the_full_screen_and_is_not_typed(self):
@@ -76,7 +73,7 @@ class FullScreenTest(DesktopTest):
                 self.screen.key(key)
                 self.check_back()
         for field, text in (("Name", ""), ("Minutes", "60"), ("Seconds", "0")):
-            self.assertEqual(self.program.text(field), text)
+            self.program.wait_for_field(field, text)
         # The timer's window has the keyboard focus again, without a click.
         self.screen.key("Return")
         self.program.wait_for_button("Start")
@@ -96,8 +93,8 @@ class FullScreenTest(DesktopTest):
         # The key whose press ended one full screen is released during the next.
         self.screen.act("keydown", "a")
         self.check_back()
-        self.program.display.act("key", "F11")
-        wait_until(self.covering_window, 5, "the display covers the whole screen")
+        self.screen.key("F11")
+        self.wait_for_full_screen()
         self.screen.act("keyup", "a")
         self.stays()
         self.screen.key("Escape")
@@ -109,7 +106,7 @@ class FullScreenTest(DesktopTest):
         self.enter()
         self.screen.act("click", 1)
         self.check_back()
-        time.sleep(0.3)
+        self.program.catch_up()
         self.program.find("button", "Stop")
         self.screen.act("click", 1)
         self.program.wait_for_button("Start")
@@ -119,57 +116,66 @@ class FullScreenTest(DesktopTest):
         program = self.program = self.launch(settings='{"soundOff": 1}')
         self.screen = self.display
         self.window = program.windows()[0]
-        program.start_countdown(3)
+        # Long enough for a busy computer to show the full screen first.
+        program.start_countdown(8)
         program.wait_for_button("Stop")
-        self.display.key("ctrl+n")
-        other = program.wait_for_windows(2)[1]
-        wait_until(lambda: self.display.active_window() == other, 5, "the new timer is active")
+        other = program.open_timer()
         self.display.type("60")
         self.display.key("Return")
-        wait_until(lambda: len(program.all("button", "Stop")) == 2, 2, "both timers run")
+        program.wait_for_count(2, "button", "Stop")
         place = self.display.frame(other)
         self.enter()
-        wait_until(lambda: len(program.windows()) == 2, 5, "the display is back in its window")
-        wait_until(lambda: program.has("button", "Reset"), 1, "the other timer has ended")
-        wait_until(lambda: self.display.focused_window() in program.windows(), 5,
-                   "a timer has the focus")
-        self.assertEqual(self.display.frame(other), place)
+        wait_until(lambda: len(program.windows()) == 2, "the display is back in its window")
+        program.wait_for_button("Reset")
+        wait_until(program.has_focus, "a timer has the focus")
+        self.assert_soon(lambda: self.display.frame(other), place)
         self.quit(program)
 
     def test_the_full_screen_option_lasts_from_the_start_to_the_end_of_the_alarm(self):
-        program = self.program = self.launch()
+        # A longer alarm than the built-in one, so that a busy computer sees it on the full screen.
+        tone = os.path.join(self.session.folder, "alarm.wav")
+        write_tone(tone, 1000, 6)
+        program = self.program = self.launch(
+            settings=json.dumps({"soundHistory": [tone], "alarmPath": tone}))
         self.screen = self.display
         box = program.place(program.find("box", "Full screen"))
         self.display.click(box.x + 8, box.y + box.height // 2)
-        field = program.place(program.find("field", "Minutes"))
-        self.display.click(field.x + 8, field.y + 8)
+        program.click_field("Minutes")
         program.start_countdown(1)
-        wait_until(self.covering_window, 2, "the display covers the whole screen")
+        wait_until(self.covering_window, "the display covers the whole screen")
         program.wait_for_text("Time", "Wuff!")
         Picture(self.display).save(os.path.join(self.output, "alarm on the full screen.png"))
         self.stays()
-        wait_until(lambda: not self.covering_window(), 5,
-                   "the end of the alarm ends the full screen")
+        wait_until(lambda: not self.covering_window(), "the end of the alarm ends the full screen")
         self.quit(program)
 
     def check_ink(self, name):
         """No text of the display is cut off: each has a free line of pixels around it."""
         bar = self.screen.height // 100
         above = Rect(0, 0, self.screen.width, self.screen.height - bar)
-        wait_until(lambda: Picture(self.screen).border(above) == {PANEL}, 3,
-                   "the display is drawn and leaves a margin", 0.1)
+        wait_until(lambda: Picture(self.screen).border(above) == {PANEL},
+                   "the display is drawn and leaves a margin", pause=0.1)
         picture = Picture(self.screen)
         foot = Rect(0, self.screen.height - bar, self.screen.width, bar)
         self.assertEqual(picture.colors(Rect(0, foot.y, foot.width // 2, bar)), {(0, 0, 0)},
                          "a bar at the foot shows what is left")
         picture.save(os.path.join(self.output, f"{name} {picture.width}x{picture.height}.png"))
-        labels = [label for label in self.program.all("display")
-                  if label.name and label.description]
-        self.assertEqual(len(labels), 4)
-        for label in labels:
+        for label in self.labels():
             area = self.program.place(label)
             self.assertEqual(picture.border(area), {PANEL}, label.name)
             self.assertGreater(len(picture.colors(area)), 1, label.name)
+
+    def labels(self):
+        """Waits for the four texts of the display; returns their labels."""
+        found = []
+
+        def are_four():
+            found[:] = [label for label in self.program.all("display")
+                        if label.name and label.description]
+            return len(found) == 4
+
+        wait_until(are_four, "the display shows four texts")
+        return found
 
     def check_looks(self):
         self.enter()

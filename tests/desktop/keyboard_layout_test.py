@@ -55,14 +55,14 @@ class KeyboardLayoutTest(DesktopTest):
 
     def opens(self, program, keys, title):
         """Presses the keys, given by name or key code; expects a new timer with this title."""
-        count = len(program.windows())
+        before = program.windows()
+        self.display.wait_for_focus()
         if isinstance(keys, str):
             self.display.key(keys)
         else:
             self.press(*keys)
-        window = program.wait_for_windows(count + 1)[-1]
-        wait_until(lambda: self.display.active_window() == window, 5, "the window is active")
-        wait_until(lambda: title in self.display.title(window), 5, f"the title says {title}")
+        window = program.wait_for_new_window(before)
+        wait_until(lambda: title in self.display.title(window), f"the title says {title}")
 
     def minutes_saved(self, program, number):
         with open(program.settings_path, encoding="utf-8") as file:
@@ -114,9 +114,9 @@ class KeyboardLayoutTest(DesktopTest):
         time.sleep(1.5)
         self.display.act("keyup", FIRST_KEY, "keyup", "alt")
         program.wait_for_windows(2)
-        time.sleep(0.3)
+        program.catch_up()
         self.assertEqual(len(program.windows()), 2)
-        self.assertEqual([program.text_of(field) for field in program.all("field", "Name")],
+        self.assert_soon(lambda: [program.text_of(field) for field in program.all("field", "Name")],
                          ["", "Preset 1"])
         self.quit(program)
 
@@ -126,7 +126,7 @@ class KeyboardLayoutTest(DesktopTest):
         self.opens(program, f"alt+{FIRST_KEY + 2}", "Preset 3")
         self.opens(program, f"alt+shift+{FIRST_KEY + 2}", "Preset 3")
         self.display.key(f"ctrl+shift+{FIRST_KEY + 8}")
-        wait_until(lambda: program.all("display", "Saved to Preset 9", "Elapsed time"), 5, "saved")
+        program.wait_for_count(1, "display", "Saved to Preset 9", "Elapsed time")
         self.quit(program)
 
     def test_the_digits_of_a_layout_in_another_order_count(self):

@@ -9,7 +9,6 @@ import os
 from xml.etree import ElementTree
 
 from support.case import DesktopTest, main
-from support.waiting import wait_until
 
 TRANSLATION = os.path.join(os.path.dirname(os.path.abspath(__file__)), "..", "..", "translations",
                            "wuffer_de.ts")
@@ -41,20 +40,24 @@ class LanguageTest(DesktopTest):
 
     def test_a_countdown_in_german(self):
         program = self.launch(environment=GERMAN)
-        self.assertEqual(program.focused_field(), self.german["Wuffer", "Minutes"])
+        program.wait_for_focus_in(self.german["Wuffer", "Minutes"])
         time = self.german["Wuffer", "Time"]
         elapsed = self.german["Wuffer", "Elapsed time"]
-        self.assertEqual(program.shown(elapsed), self.german["Wuffer", "Ready when you are"])
-        program.start_countdown(2)
+        program.wait_for_text(elapsed, self.german["Wuffer", "Ready when you are"])
+        # The alarm lasts until the test ends it.
+        self.display.key("ctrl+k")
+        program.start_countdown(5)
         program.wait_for_button(self.german["TimerTexts", "Stop"])
-        wait_until(lambda: program.shown(elapsed) ==
-                   self.german["Wuffer", "Elapsed: %1"].replace("%1", "1s"), 3, "a second passes")
+        passed = self.german["Wuffer", "Elapsed: %1"]
+        program.wait_for_text(elapsed, *(passed.replace("%1", f"{seconds}s")
+                                         for seconds in range(1, 5)))
         program.wait_for_text(time, "Wuff!")
         program.wait_for_button(self.german["TimerTexts", "Reset"])
-        wait_until(lambda: self.session.notifications.shown() == 1, 2, "one notification is shown")
+        self.wait_for_notifications(1)
         notification, = self.session.notifications.take_all()
         self.assertEqual(notification["summary"], "Wuff!")
-        self.assertEqual(notification["body"], "Wuffer: 2s")
+        self.assertEqual(notification["body"], "Wuffer: 5s")
+        self.display.key("Return")
         program.wait_for_button(self.german["TimerTexts", "Start"])
         self.quit(program)
 

@@ -5,8 +5,6 @@ Usage: menus_test.py WUFFER FOLDER [unittest arguments]
 """
 
 import re
-import subprocess
-import time
 
 from support import processes
 from support.case import DesktopTest, main
@@ -19,42 +17,14 @@ class MenuUser(DesktopTest):
     def launch_two(self):
         program = self.launch()
         first, = program.windows()
-        self.display.key("alt+3")
-        second = program.wait_for_windows(2)[-1]
-        self.wait_until_active(second)
-        return program, first, second
-
-    def wait_until_active(self, window):
-        wait_until(lambda: self.display.active_window() == window, 5, "the window is active")
-
-    def activate(self, window):
-        self.display.activate(window)
-        self.wait_until_active(window)
+        return program, first, program.open("alt+3")
 
     def choose(self, menu, *keys):
         """Opens a menu with its letter, and presses keys in it."""
-        before = self.popups()
-        self.display.key(f"alt+{menu}")
-        wait_until(lambda: self.popups() - before, 3, "the menu is open")
+        before = self.display.popups()
+        self.display.open_popup(f"alt+{menu}")
         self.display.key(*keys)
-        wait_until(lambda: self.popups() == before, 3, "the menu is closed")
-
-    def popups(self):
-        """Returns the override-redirect windows on the screen, such as open menus."""
-        while True:
-            try:
-                return set(filter(self.is_popup, self.own_windows()))
-            except subprocess.CalledProcessError:
-                # The window has closed while it was being examined.
-                continue
-
-    def own_windows(self):
-        tree = processes.run(["xwininfo", "-root", "-tree"], self.display.environment)
-        return [int(line.split()[0], 16) for line in tree.splitlines() if '"wuffer"' in line]
-
-    def is_popup(self, window):
-        information = self.display.information(window)
-        return "Override Redirect State: yes" in information and "IsViewable" in information
+        wait_until(lambda: self.display.popups() == before, "the menu is closed")
 
     def is_above(self, window, other):
         order = [int(number, 16) for number in re.findall(
@@ -62,25 +32,25 @@ class MenuUser(DesktopTest):
         return order.index(window) > order.index(other)
 
     def wait_for_state(self, window, above):
-        wait_until(lambda: (ABOVE in self.display.state(window)) == above, 3,
+        wait_until(lambda: (ABOVE in self.display.state(window)) == above,
                    f"the window is kept on top: {above}")
 
 
 class MenusTest(MenuUser):
     def test_a_timer_is_kept_on_top_until_the_item_is_chosen_again(self):
         program, first, second = self.launch_two()
-        self.activate(first)
+        self.display.activate(first)
         self.choose("w", "t")
         self.wait_for_state(first, True)
-        self.activate(second)
-        self.assertTrue(self.is_above(first, second))
+        self.display.activate(second)
+        wait_until(lambda: self.is_above(first, second), "the first window stays in front")
         # The window was not replaced or moved, and the choice is not stored.
         self.assertEqual(program.windows(), [first, second])
-        self.activate(first)
+        self.display.activate(first)
         self.choose("w", "t")
         self.wait_for_state(first, False)
-        self.activate(second)
-        wait_until(lambda: self.is_above(second, first), 3, "the other window is in front")
+        self.display.activate(second)
+        wait_until(lambda: self.is_above(second, first), "the other window is in front")
         self.quit(program)
         with open(program.settings_path, encoding="utf-8") as file:
             self.assertNotIn("bove", file.read())
@@ -100,9 +70,9 @@ class MenusTest(MenuUser):
         program, first, second = self.launch_two()
         # Up selects the last item, the newest timer; a second Up selects the timer before it.
         self.choose("w", "Up", "Up", "Return")
-        self.wait_until_active(first)
+        self.display.wait_until_active(first)
         self.choose("w", "Up", "Return")
-        self.wait_until_active(second)
+        self.display.wait_until_active(second)
         self.quit(program)
 
     def test_the_first_item_of_the_timer_menu_starts_and_stops(self):
@@ -120,11 +90,12 @@ class MenusTest(MenuUser):
         self.display.key("Return")
         program.wait_for_button("Stop")
         self.display.key("F2")
+        program.wait_for_focus_in("Name")
         self.display.type("Tea")
         wait_until(lambda: program.all("display", "Tea") or "Tea" in self.display.title(
-            self.display.active_window()), 3, "the timer has its name")
+            self.display.active_window()), "the timer has its name")
         self.assertNotIn("Preset", self.display.title(self.display.active_window()))
-        self.activate(first)
+        self.display.activate(first)
         self.quit(program)
 
     def test_about_is_in_front_even_of_a_timer_that_is_kept_on_top(self):
@@ -133,14 +104,12 @@ class MenusTest(MenuUser):
         self.choose("w", "t")
         self.wait_for_state(window, True)
         self.choose("h", "a")
-        about = program.wait_for_windows(2)[-1]
-        self.wait_until_active(about)
-        self.assertEqual(self.display.title(about), "About Wuffer")
-        self.assertTrue(self.is_above(about, window))
-        self.assertTrue(program.has("button", "Close"))
-        self.display.key("Escape")
-        program.wait_for_windows(1)
-        self.wait_until_active(window)
+        about = program.wait_for_new_window([window])
+        self.assert_soon(lambda: self.display.title(about), "About Wuffer")
+        wait_until(lambda: self.is_above(about, window), "the window is in front of the timer")
+        program.find("button", "Close")
+        program.close_window("Escape")
+        self.display.wait_until_active(window)
         self.quit(program)
 
 
@@ -154,8 +123,11 @@ class SimpleWindowManagerTest(MenuUser):
         window, = program.windows()
         # The mnemonic of a disabled item does nothing.
         self.choose("w", "t", "Escape")
-        time.sleep(0.3)
+        program.catch_up()
+        # The window manager does this after anything that the program has asked it to do.
+        self.display.minimise(window)
         self.assertNotIn(ABOVE, self.display.state(window))
+        self.display.activate(window)
         self.quit(program)
 
 

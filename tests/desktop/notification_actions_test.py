@@ -15,10 +15,6 @@ MUTED = '{"soundOff": 1}'
 class NotificationActionsTest(DesktopTest):
     """The sound is off, so that an alarm lasts until the test ends it."""
 
-    def wait_for_notifications(self, count):
-        wait_until(lambda: self.session.notifications.shown() == count, 3,
-                   f"{count} notifications are shown", 0.02)
-
     def ring(self):
         program = self.launch(settings=MUTED)
         program.start_countdown(1)
@@ -29,32 +25,28 @@ class NotificationActionsTest(DesktopTest):
     def test_a_click_brings_the_timer_forward(self):
         program = self.ring()
         first, = program.windows()
-        self.display.key("ctrl+n")
-        second = program.wait_for_windows(2)[1]
-        wait_until(lambda: self.display.active_window() == second, 5, "the new timer is active")
+        program.open_timer()
         self.session.notifications.click()
-        wait_until(lambda: self.display.active_window() == first, 5, "the first timer is active")
-        self.assertTrue(program.has("button", "Reset"))
+        self.display.wait_until_active(first)
+        program.wait_for_button("Reset")
         self.quit(program)
 
     def test_show_brings_back_a_minimized_timer(self):
         program = self.ring()
         window, = program.windows()
         self.display.key("ctrl+m")
-        wait_until(lambda: "_NET_WM_STATE_HIDDEN" in self.display.state(window), 5,
-                   "the timer is minimized")
+        self.display.wait_until_minimised(window)
         self.session.notifications.press("Show")
-        # The window manager changes the two properties one after the other.
-        wait_until(lambda: "_NET_WM_STATE_HIDDEN" not in self.display.state(window), 5,
+        wait_until(lambda: "_NET_WM_STATE_HIDDEN" not in self.display.state(window),
                    "the timer is no longer minimized")
-        wait_until(lambda: self.display.active_window() == window, 5, "the timer is active")
+        self.display.wait_until_active(window)
         self.quit(program)
 
     def test_stop_ends_the_alarm(self):
         program = self.ring()
         self.session.notifications.press("Stop")
         program.wait_for_button("Start")
-        self.assertEqual(program.shown("Time"), "Wuffer")
+        program.wait_for_text("Time", "Wuffer")
         self.wait_for_notifications(0)
         self.quit(program)
 
@@ -67,8 +59,8 @@ class NotificationActionsTest(DesktopTest):
 
     def test_closing_the_window_removes_the_notification(self):
         program = self.ring()
-        self.display.key("ctrl+n")
-        first, _ = program.wait_for_windows(2)
+        first, = program.windows()
+        program.open_timer()
         self.display.close_window(first)
         program.wait_for_windows(1)
         self.wait_for_notifications(0)
@@ -101,19 +93,20 @@ class NotificationActionsTest(DesktopTest):
 
     def test_thirty_timers_that_end_at_once_are_one_notification(self):
         program = self.launch(settings=MUTED)
-        for count in range(2, 31):
-            self.display.key("ctrl+n")
-            program.wait_for_windows(count)
+        for _ in range(2, 31):
+            program.open("ctrl+n")
         most = 0
         self.display.key("ctrl+shift+s")
+        wait_until(self.session.notifications.shown, "the first timers have ended")
         end = time.monotonic() + 3
         while time.monotonic() < end:
             most = max(most, self.session.notifications.shown())
             time.sleep(0.01)
         self.assertLessEqual(most, 4)
         self.wait_for_notifications(1)
+        program.wait_for_count(30, "button", "Reset")
         self.session.notifications.press("Stop")
-        wait_until(lambda: not program.all("button", "Reset"), 10, "no timer rings")
+        program.wait_for_count(0, "button", "Reset")
         self.wait_for_notifications(0)
         last = self.session.notifications.take_all()[0]
         self.assertEqual(last["summary"], "30 timers have ended")

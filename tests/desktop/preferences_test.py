@@ -27,55 +27,36 @@ class PreferencesTest(DesktopTest):
             return {}
 
     def wait_for_setting(self, program, key, value):
-        wait_until(lambda: self.settings(program).get(key) == value, 3, f"{key} is {value}", 0.05)
+        self.assert_soon(lambda: self.settings(program).get(key), value)
 
     def open_sounds(self, program):
-        count = len(program.windows())
-        self.display.key("ctrl+comma")
-        window = program.wait_for_windows(count + 1)[-1]
-        wait_until(lambda: self.display.active_window() == window, 5, "the preferences are active")
+        program.open("ctrl+comma")
         self.display.key("alt+s")
-        wait_until(lambda: self.sound_in_use(program), 5,
-                   "the sounds are in sight", 0.02)
-        return window
-
-    def pick(self, mnemonic, *keys):
-        """Opens the list of a combo box and selects an entry with the keyboard."""
-        self.display.key(mnemonic)
-        time.sleep(0.2)
-        self.display.key("Down")
-        time.sleep(0.3)
-        self.display.key(*keys, "Return")
+        wait_until(lambda: self.sound_in_use(program), "the sounds are in sight")
 
     def add_sound(self, program, mnemonic, path):
-        count = len(program.windows())
-        self.pick(mnemonic, "End", "Up")
-        dialog = program.wait_for_windows(count + 1)[-1]
+        dialog = program.choose_sound_file(mnemonic)
         self.assertIn("Select a sound file", self.display.title(dialog))
-        wait_until(lambda: self.display.active_window() == dialog, 5, "the dialog is active")
-        time.sleep(0.3)
         self.display.type(path)
-        self.display.key("Return")
-        program.wait_for_windows(count)
+        program.close_window("Return")
 
     def sound_in_use(self, program, kind="Alarm"):
         return program.shown(f"{kind} sound in use")
 
-    def close(self, program, window):
-        self.display.key("ctrl+w")
-        wait_until(lambda: window not in program.windows(), 5, "the preferences are closed")
+    def check_sound_in_use(self, program, name, kind="Alarm"):
+        self.assert_soon(lambda: self.sound_in_use(program, kind), name)
 
     def ring(self, program):
-        program.start_countdown(1)
-        program.wait_for_text("Time", "Wuff!", 3)
+        """Starts a countdown of a second; returns the time by which its alarm rings."""
+        self.session.notifications.take_all()
+        _, pressed = program.start_countdown(1)
+        self.wait_for_notifications(1)
+        return pressed + 1.1
 
-    def reset(self, program):
-        self.display.key("Return")
-        program.wait_for_button("Start")
-
-    def file(self, program, name, tone):
+    def file(self, program, name, tone, seconds=20):
+        """Makes a sound file, by default longer than a busy computer takes to judge it."""
         path = os.path.join(program.home, name)
-        write_tone(path, tone, 3)
+        write_tone(path, tone, seconds)
         return path
 
     def hear(self, program, seconds):
@@ -83,8 +64,7 @@ class PreferencesTest(DesktopTest):
                                              self.session.sound.process.pid)
 
     def check_tone(self, program, tone):
-        moment = time.monotonic()
-        wait_until(lambda: self.heard().first_sound_after(moment), 1, "the sound is heard")
+        self.heard().wait_for_sound(time.monotonic())
         samples = self.hear(program, 0.5)
         self.report(f"heard at {frequency(samples):.1f} Hz")
         self.assertAlmostEqual(frequency(samples), tone, delta=10)
@@ -92,31 +72,31 @@ class PreferencesTest(DesktopTest):
     def test_a_sound_of_the_users_rings_outlives_a_restart_and_is_cleared(self):
         program = self.launch()
         path = self.file(program, "my  chime.wav", TONE)
-        window = self.open_sounds(program)
+        self.open_sounds(program)
         self.add_sound(program, "alt+a", path)
-        wait_until(lambda: self.sound_in_use(program) == "my  chime", 5,
-                   "the added sound is in use", 0.02)
+        self.check_sound_in_use(program, "my  chime")
         self.wait_for_setting(program, "alarmPath", path)
-        self.assertEqual(self.settings(program)["soundHistory"], [path])
-        self.close(program, window)
+        self.wait_for_setting(program, "soundHistory", [path])
+        program.close_window()
         self.quit(program)
 
         program.start()
         self.ring(program)
         self.check_tone(program, TONE)
-        self.reset(program)
-        window = self.open_sounds(program)
-        self.assertEqual(self.sound_in_use(program), "my  chime")
-        self.pick("alt+a", "End")
-        wait_until(lambda: self.sound_in_use(program) == "Wuff (Default)", 5,
-                   "the built-in sound is back", 0.02)
+        self.display.key("Return")
+        program.wait_for_button("Start")
+        self.open_sounds(program)
+        self.check_sound_in_use(program, "my  chime")
+        program.pick("alt+a", "End")
+        self.check_sound_in_use(program, "Wuff (Default)")
         self.wait_for_setting(program, "alarmPath", None)
-        self.assertNotIn("soundHistory", self.settings(program))
-        self.close(program, window)
-        self.ring(program)
+        self.wait_for_setting(program, "soundHistory", None)
+        program.close_window()
+        zero = self.ring(program)
+        program.wait_for_button("Start")
+        self.heard().catch_up()
         # Longer than the pauses within the built-in alarm.
-        samples = self.heard().hear(1.2)
-        self.reset(program)
+        samples = self.heard().between(zero, zero + 1.2)
         self.assertGreater(loudest(samples), AUDIBLE)
         self.assertLess(strength(samples, TONE), 0.1 * loudest(samples))
         self.quit(program)
@@ -125,45 +105,39 @@ class PreferencesTest(DesktopTest):
         program = self.launch()
         self.open_sounds(program)
         self.add_sound(program, "alt+a", self.file(program, "tone.wav", OTHER_TONE))
-        wait_until(lambda: self.sound_in_use(program) == "tone", 5,
-                   "the added sound is in use", 0.02)
-        self.display.key("ctrl+n")
-        window = program.wait_for_windows(3)[-1]
-        wait_until(lambda: self.display.active_window() == window, 5, "the timer is active")
-        _, pressed = program.start_countdown(1)
+        self.check_sound_in_use(program, "tone")
+        program.open_timer()
         # Skip the beeps of the last seconds.
-        time.sleep(pressed + 1.2 - time.monotonic())
+        self.heard().wait_for_sound(self.ring(program) + 0.1)
         self.check_tone(program, OTHER_TONE)
         self.quit(program)
 
     def test_a_chosen_sound_is_heard_and_stopped_by_its_button(self):
         program = self.launch()
         self.open_sounds(program)
-        self.add_sound(program, "alt+c", self.file(program, "tone.wav", TONE))
-        wait_until(lambda: self.sound_in_use(program, "Countdown") == "tone", 5,
-                   "the added sound is in use")
+        self.add_sound(program, "alt+c", self.file(program, "tone.wav", TONE, seconds=6))
+        self.check_sound_in_use(program, "tone", "Countdown")
         self.display.key("Tab", "space")
         program.wait_for_button("Stop the countdown sound")
         self.check_tone(program, TONE)
         self.display.key("space")
         program.wait_for_button("Play the countdown sound")
-        wait_until(lambda: self.session.sound.streams() == 0, 3, "the stream is closed", 0.05)
+        self.session.sound.wait_for_no_stream()
         # Play to the end, at which the button changes back to Play.
         self.display.key("space")
         program.wait_for_button("Stop the countdown sound")
-        program.wait_for_button("Play the countdown sound", 5)
+        program.wait_for_button("Play the countdown sound")
         self.quit(program)
 
     def test_a_file_that_is_no_sound_is_not_added_and_a_cancel_changes_nothing_else(self):
         program = self.launch()
         self.open_sounds(program)
         self.add_sound(program, "alt+a", program.log)
-        self.assertEqual(self.sound_in_use(program), "Wuff (Default)")
-        self.pick("alt+a", "End", "Up")
-        program.wait_for_windows(3)
-        self.display.key("Escape")
-        program.wait_for_windows(2)
-        self.assertEqual(self.sound_in_use(program), "Wuff (Default)")
+        self.check_sound_in_use(program, "Wuff (Default)")
+        program.choose_sound_file("alt+a")
+        program.close_window("Escape")
+        program.catch_up()
+        self.check_sound_in_use(program, "Wuff (Default)")
         self.assertNotIn("soundHistory", self.settings(program))
         self.quit(program)
 
@@ -174,9 +148,8 @@ class PreferencesTest(DesktopTest):
         self.open_sounds(program)
         self.add_sound(program, "alt+a", path)
         self.wait_for_setting(program, "alarmPath", path)
-        self.pick("alt+a", "End", "Up")
-        program.wait_for_windows(3)
-        self.display.act("windowactivate", "--sync", timer)
+        program.choose_sound_file("alt+a")
+        self.display.activate(timer)
         self.quit(program)
         self.assertEqual(self.settings(program)["alarmPath"], path)
 
@@ -186,22 +159,19 @@ class PreferencesTest(DesktopTest):
         write_tone(tone, TONE, 10)
         program = self.launch(settings=json.dumps({"soundHistory": [tone], "alarmPath": tone}))
         self.display.key("ctrl+k")
-        speaker = program.place(program.find("button", "Mute all timers"))
-        program.start_countdown(1)
-        program.wait_for_text("Time", "Wuff!", 3)
-        start = time.monotonic()
-        wait_until(lambda: self.heard().first_sound_after(start), 1, "the alarm is heard")
-        self.display.move_pointer(speaker.x + speaker.width // 2, speaker.y + speaker.height // 2)
+        speaker = program.middle("button", "Mute all timers")
+        self.heard().wait_for_sound(self.ring(program))
+        program.wait_for_text("Time", "Wuff!")
+        self.display.move_pointer(*speaker)
         self.assertLess(longest_silence(self.hear(program, 0.2)), 5)
         waits = self.waits(program)
         self.display.act("click", 1)
         clicked = time.monotonic()
-        time.sleep(0.5)
-        delay = self.heard().last_sound() - clicked
+        delay = self.heard().wait_for_silence() - clicked
         self.report(f"silent {delay * 1000:.0f} ms after the click")
         self.assertLess(delay, 0.1 + waits.seconds())
         self.assertEqual(loudest(self.heard().hear(0.3)), 0)
-        self.assertTrue(program.has("button", "Let all timers be heard again"))
+        program.wait_for_button("Let all timers be heard again")
         self.wait_for_setting(program, "soundOff", 1)
         self.quit(program)
 

@@ -8,7 +8,6 @@ import json
 import time
 
 from support.case import DesktopTest, main
-from support.waiting import wait_until
 
 
 class PresetsTest(DesktopTest):
@@ -25,7 +24,7 @@ class PresetsTest(DesktopTest):
         self.display.key("shift+Tab", "shift+Tab", "shift+Tab")
         program.wait_for_focus_in("Name")
         self.display.type("Tea")
-        wait_until(lambda: program.text("Name") == "Tea", 3, "the timer has its name")
+        program.wait_for_field("Name", "Tea")
 
     def check_tea(self, program):
         record = self.stored(program)["Preset 4"]
@@ -42,22 +41,20 @@ class PresetsTest(DesktopTest):
         program.wait_for_text("Elapsed time", "Saved to Preset 4")
         place = self.display.move_window(program.windows()[0], 300, 200)
         self.display.key("ctrl+4")
+        program.catch_up()
         time.sleep(1)
         program.kill()
         self.check_tea(program)
 
         program.start()
-        self.display.key("alt+4")
-        program.wait_for_windows(2)
-        wait_until(lambda: program.all("display", "Preset 4", "Elapsed time"), 3,
-                   "the preset is open")
-        self.assertEqual(len(program.all("display", "Tea", "Time")), 1)
-        self.assertEqual(len(program.all("display", "0h 4m 30s", "Milliseconds")), 1)
-        self.assertEqual(self.display.frame(program.windows()[1])[:2], place[:2])
+        window = program.open("alt+4")
+        program.wait_for_count(1, "display", "Preset 4", "Elapsed time")
+        program.wait_for_count(1, "display", "Tea", "Time")
+        program.wait_for_count(1, "display", "0h 4m 30s", "Milliseconds")
+        self.assert_soon(lambda: self.display.frame(window)[:2], place[:2])
         # The next window opens one step further.
-        self.display.key("alt+4")
-        frame = self.display.frame(program.wait_for_windows(3)[2])
-        self.assertEqual(frame[:2], (place.x + 28, place.y + 28))
+        window = program.open("alt+4")
+        self.assert_soon(lambda: self.display.frame(window)[:2], (place.x + 28, place.y + 28))
         self.quit(program)
         self.check_tea(program)
         self.report(json.dumps({key: value for key, value in self.stored(program).items()
@@ -81,10 +78,10 @@ class PresetsTest(DesktopTest):
         program.close_all()
         for _ in range(3):
             program.start()
-            wait_until(lambda: program.text("Name") == "Tea", 3, "the timer has its name")
-            self.assertEqual((program.text("Minutes"), program.text("Seconds")), ("4", "30"))
+            for field, text in (("Name", "Tea"), ("Minutes", "4"), ("Seconds", "30")):
+                program.wait_for_field(field, text)
             window = program.windows()[0]
-            self.assertEqual(self.display.frame(window)[:2], place[:2])
+            self.assert_soon(lambda w=window: self.display.frame(w)[:2], place[:2])
             self.assertIn("Tea", self.display.title(window))
             program.close_all()
 

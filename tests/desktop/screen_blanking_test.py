@@ -59,23 +59,20 @@ class ScreenSaver:
 class ScreenBlankingTest(DesktopTest):
     def start(self):
         program = self.launch()
+        program.wait_for_focus_in("Minutes")
         self.display.type("60")
         self.display.key("Return")
         program.wait_for_button("Stop")
         return program
 
     def enter(self, program):
-        before = len(program.windows())
-        self.display.key("F11")
-        program.wait_for_windows(before + 1)
+        program.open("F11")
 
     def leave(self, program):
-        before = len(program.windows())
-        self.display.key("Escape")
-        program.wait_for_windows(before - 1)
+        program.close_window("Escape")
 
     def wait_for_blank(self, blanking):
-        wait_until(blanking.is_blank, 4, "the screen is blank", 0.05)
+        wait_until(blanking.is_blank, "the screen is blank")
 
     def test_the_x_server_blanks_the_screen_except_during_the_full_screen(self):
         program = self.start()
@@ -84,6 +81,9 @@ class ScreenBlankingTest(DesktopTest):
         blanking.set_timeout(1)
         self.wait_for_blank(blanking)
         self.enter(program)
+        # A busy computer may have blanked the screen before. A modifier leaves the full screen on.
+        program.catch_up()
+        self.display.act("key", "shift")
         end = time.monotonic() + 3
         while time.monotonic() < end:
             self.assertFalse(blanking.is_blank())
@@ -105,14 +105,13 @@ class ScreenBlankingTest(DesktopTest):
         saver = ScreenSaver(self.session.bus)
         self.addCleanup(saver.close)
         program = self.start()
-        time.sleep(0.3)
+        program.catch_up()
         self.assertEqual((saver.held(), saver.asked), (0, 0))
         for count in (1, 2):
             self.enter(program)
-            wait_until(lambda: saver.held() == 1, 3, "the screen saver is inhibited", 0.01)
+            wait_until(lambda: saver.held() == 1, "the screen saver is inhibited")
             self.leave(program)
-            wait_until(lambda: saver.held() == 0, 3,
-                       "the screen saver is no longer inhibited", 0.01)
+            wait_until(lambda: saver.held() == 0, "the screen saver is no longer inhibited")
             self.assertEqual(saver.asked, count)
         self.quit(program)
 
@@ -122,9 +121,9 @@ class ScreenBlankingTest(DesktopTest):
         program = self.start()
         window, = program.windows()
         self.enter(program)
-        wait_until(lambda: saver.held() == 1, 3, "the screen saver is inhibited", 0.01)
+        wait_until(lambda: saver.held() == 1, "the screen saver is inhibited")
         self.display.close_window(window)
-        wait_until(lambda: saver.held() == 0, 3, "the screen saver is no longer inhibited", 0.01)
+        wait_until(lambda: saver.held() == 0, "the screen saver is no longer inhibited")
 
 
 if __name__ == "__main__":

@@ -54,13 +54,15 @@ class SettingsTest(DesktopTest):
         for number, broken in enumerate(('{"finishedText": "Tea', "[1, 2]", "\0\0\0\0", "{]"), 1):
             program = self.launch(settings=broken)
             with self.subTest(broken):
-                self.assertEqual(program.shown("Time"), "Wuffer")
+                program.wait_for_text("Time", "Wuffer")
                 aside = program.settings_path + ".unreadable"
                 with open(aside, encoding="utf-8") as file:
                     self.assertEqual(file.read(), broken)
                 # If there is a new settings file, it is valid.
                 if os.path.exists(program.settings_path):
                     self.read(program)
+                # The alarm lasts until the program ends.
+                self.display.key("ctrl+k")
                 program.start_countdown(0)
                 program.wait_for_text("Time", "Wuff!")
                 self.quit(program)

@@ -32,27 +32,20 @@ class StatusItemTest(DesktopTest):
         self.display.type(str(minutes))
         self.display.key("Return")
 
-    def wait_until_active(self, window):
-        wait_until(lambda: self.display.active_window() == window, 5, "the window is active")
-
-    def leave(self, window):
-        self.display.act("windowminimize", window)
-        wait_until(lambda: self.display.active_window() != window, 3, "the window is not active")
-
     def check_one_timer(self, panel):
         program = self.start(panel)
         window, = program.windows()
         self.start_minutes(program, 5)
         item = panel.wait_for_item()
         self.assertLess(abs(item.width - item.height), 4)
-        self.leave(window)
+        self.display.minimise(window)
         panel.press()
-        self.wait_until_active(window)
+        self.display.wait_until_active(window)
         self.display.act("set_desktop", 1)
-        wait_until(lambda: self.display.active_window() != window, 3, "the window is not active")
+        wait_until(lambda: self.display.active_window() != window, "the window is not active")
         panel.press()
-        self.wait_until_active(window)
-        self.assertEqual(self.display.property("_NET_CURRENT_DESKTOP"), "0")
+        self.display.wait_until_active(window)
+        self.assert_soon(lambda: self.display.property("_NET_CURRENT_DESKTOP"), "0")
         self.display.move_pointer(self.display.width // 2, self.display.height // 2)
         self.display.key("Return")
         program.wait_for_button("Start")
@@ -69,42 +62,49 @@ class StatusItemTest(DesktopTest):
         panel = XfcePanel(self.session)
         program = self.start(panel)
         program.start_countdown(14)
-        panel.wait_for_item()
-        self.assertNotIn(RED, panel.colors())
-        wait_until(lambda: RED in panel.colors(), 6, "the item is red", 0.1)
-        self.assertIn(program.shown("Time"), ("10s", "9s"))
-        program.wait_for_button("Reset", 15)
+        for _ in range(3):
+            panel.wait_for_item()
+            self.assertNotIn(RED, panel.colors())
+            self.wait_until_red(panel)
+            shown = program.shown("Time")
+            if shown in ("10s", "9s"):
+                break
+            # On a busy computer the look may come late, so start again.
+            self.display.key("Return")
+            panel.wait_for_no_item()
+            program.wait_for_focus_in("Seconds")
+            self.display.type("14")
+            self.display.key("Return")
+        self.assertIn(shown, ("10s", "9s"))
+        program.wait_for_button("Reset")
         time.sleep(0.5)
-        self.assertIn(RED, panel.colors())
+        self.wait_until_red(panel)
         self.display.key("Return")
         panel.wait_for_no_item()
         self.quit(program)
 
+    def wait_until_red(self, panel):
+        wait_until(lambda: RED in panel.colors(), "the item is red")
+
     def open_three(self, program, minutes):
         """Opens three windows with running timers; returns the windows."""
         self.start_minutes(program, minutes[0])
-        for count, each in enumerate(minutes[1:], start=2):
-            self.display.key("ctrl+n")
-            window = program.wait_for_windows(count)[-1]
-            self.wait_until_active(window)
+        for each in minutes[1:]:
+            program.open_timer()
             self.start_minutes(program, each)
-        wait_until(lambda: len(program.all("button", "Stop")) == 3, 5, "three timers run")
+        program.wait_for_count(3, "button", "Stop")
         return program.windows()
 
     def check_list(self, panel):
         program = self.start(panel)
         later, latest, first = self.open_three(program, (20, 60, 10))
         for presses, window in ((2, later), (1, first), (3, latest)):
-            for each in (later, latest, first):
-                self.display.act("windowminimize", each)
-            time.sleep(0.3)
-            panel.press()
-            # From outside, an open menu shows only by grabbing the keys, so just wait.
-            time.sleep(0.7)
-            self.display.key(*["Down"] * presses)
-            time.sleep(0.1)
-            self.display.key("Return")
-            self.wait_until_active(window)
+            self.display.minimise(later, latest, first)
+            panel.open_menu()
+            program.answers()
+            # The menu receives the keys, although no window is active.
+            self.display.act("key", "--delay", "0", *["Down"] * presses, "Return")
+            self.display.wait_until_active(window)
         self.quit(program)
 
     def test_several_timers_are_listed_and_a_line_brings_its_timer_back(self):
@@ -120,13 +120,13 @@ class StatusItemTest(DesktopTest):
         panel.wait_for_item()
         for _ in range(2):
             panel.stop()
-            self.assertLess(program.answers(), 0.5)
+            self.check_answers(program)
             panel.start()
             panel.wait_for_item()
         window, = program.windows()
-        self.leave(window)
+        self.display.minimise(window)
         panel.press()
-        self.wait_until_active(window)
+        self.display.wait_until_active(window)
         self.quit(program)
 
     def test_the_item_leaves_the_tray_when_a_watcher_appears(self):
@@ -153,13 +153,13 @@ class StatusItemTest(DesktopTest):
     def check_frozen_bus(self):
         program = self.launch(settings=MUTED)
         program.wait_for_focus_in("Minutes")
-        time.sleep(0.5)
+        program.catch_up()
         processes.signal_group(self.session.bus_daemon, signal.SIGSTOP)
         try:
             self.start_minutes(program, 5)
             program.wait_for_button("Stop")
-            program.wait_for_text("Time", "4m 58s")
-            self.assertLess(program.answers(), 0.5)
+            program.wait_for_text("Time", *(f"4m {seconds}s" for seconds in range(30, 59)))
+            self.check_answers(program)
             self.quit(program)
         finally:
             processes.signal_group(self.session.bus_daemon, signal.SIGCONT)
@@ -176,6 +176,7 @@ class StatusItemTest(DesktopTest):
         panel = XfcePanel(self.session)
         program = self.start(panel, '{"noStatusBar": 1, "growlDisabled": 1}')
         self.start_minutes(program, 5)
+        program.wait_for_button("Stop")
         time.sleep(1)
         self.assertIsNone(panel.item())
         self.quit(program)

@@ -6,7 +6,6 @@ Usage: traces_test.py WUFFER FOLDER [unittest arguments]
 
 import os
 import stat
-import time
 
 from support.case import DesktopTest, main
 from support.program import Program
@@ -47,54 +46,38 @@ class TracesTest(DesktopTest):
         return {os.path.relpath(os.path.join(where, name), folder)
                 for where, folders, names in os.walk(folder) for name in names}
 
-    def activate(self, window):
-        wait_until(lambda: self.display.active_window() == window, 5, "the window is active")
-
     def choose_file(self, program, path):
         """Opens the file dialog and cancels it, then opens it again and adds a sound."""
         for text, key in (("", "Escape"), (path, "Return")):
-            self.display.key("alt+a")
-            time.sleep(0.2)
-            self.display.key("Down")
-            time.sleep(0.3)
-            self.display.key("End", "Up", "Return")
-            self.activate(program.wait_for_windows(3)[-1])
-            time.sleep(0.3)
+            program.choose_sound_file("alt+a")
             self.display.type(text)
-            self.display.key(key)
-            program.wait_for_windows(2)
+            program.close_window(key)
 
     def play(self, program):
-        wait_until(lambda: program.has("button", "Play the alarm sound"), 5,
-                   "the alarm sound can be played")
-        play = program.place(program.find("button", "Play the alarm sound"))
-        self.display.click(play.x + play.width // 2, play.y + play.height // 2)
+        program.click("button", "Play the alarm sound")
         program.wait_for_button("Stop the alarm sound")
 
     def use(self, program):
         """Runs a timer to its end, saves and opens a preset, opens the options, plays a file."""
+        # The alarm lasts until the test ends it.
+        self.display.key("ctrl+k")
         program.start_countdown(1)
         program.wait_for_button("Reset")
         self.display.key("Return")
         program.wait_for_button("Start")
         self.display.key("ctrl+4")
         program.wait_for_text("Elapsed time", "Saved to Preset 4")
-        self.display.key("alt+4")
-        self.activate(program.wait_for_windows(2)[1])
-        self.display.key("ctrl+w")
-        timer, = program.wait_for_windows(1)
-        self.activate(timer)
-        self.display.key("ctrl+comma")
-        self.activate(program.wait_for_windows(2)[1])
+        program.open("alt+4")
+        program.close_window()
+        program.open("ctrl+comma")
         self.display.key("alt+s")
-        wait_until(lambda: program.shown("Alarm sound in use"), 5, "the sounds are in sight")
+        wait_until(lambda: program.shown("Alarm sound in use"), "the sounds are in sight")
         tone = os.path.join(program.home, TONE)
         write_tone(tone, 1000, 20)
         self.choose_file(program, tone)
-        wait_until(lambda: program.shown("Alarm sound in use") == "tone", 5, "the tone is in use")
+        program.wait_for_text("Alarm sound in use", "tone")
         self.play(program)
-        self.display.key("ctrl+w")
-        self.activate(program.wait_for_windows(1)[0])
+        program.close_window()
 
     def test_a_session_writes_its_settings_and_nothing_else(self):
         program = self.prepare()

@@ -25,8 +25,8 @@ class WakeupsTest(DesktopTest):
 
     def rate(self, program):
         """Returns the wake-ups per second, measured again if the program had to wait for a
-        processor: it then misses ticks. After five attempts returns the last result."""
-        for _ in range(5):
+        processor: it then misses ticks. After ten attempts returns the last result."""
+        for _ in range(10):
             waits = Waits(program.process.pid)
             rate = self.wakeups(program, 2)
             if waits.seconds() < 0.05:
@@ -34,27 +34,36 @@ class WakeupsTest(DesktopTest):
         return rate
 
     def wait_until_calm(self, program):
-        wait_until(lambda: self.wakeups(program, 0.5) == 0, 10, "the program is idle")
+        wait_until(lambda: self.wakeups(program, 0.5) == 0, "the program is idle")
+
+    def check_sleep(self, program):
+        """No wake-up for three seconds, in the calmest of some measurements: other programs of the
+        desktop may wake this one."""
+        self.wait_until_calm(program)
+        rates = []
+        while not rates or (rates[-1] > 0 and len(rates) < 5):
+            rates.append(self.wakeups(program, 3))
+        self.report(f"wake-ups a second: {rates}")
+        self.assertEqual(min(rates), 0)
 
     def test_an_idle_program_sleeps(self):
         program = self.launch(accessible=False)
-        self.wait_until_calm(program)
+        self.check_sleep(program)
         self.assertTrue(program.has_focus())
-        self.assertEqual(self.wakeups(program, 3), 0)
         self.quit(program)
 
     def test_an_idle_program_sleeps_after_a_run_with_sound(self):
         self.session.start_sound()
         program = self.launch(accessible=False)
-        self.display.key("ctrl+n")
-        program.wait_for_windows(2)
+        program.open("ctrl+n")
+        # The alarm lasts until the test ends it.
+        self.display.key("ctrl+k")
         program.start_countdown(1)
-        time.sleep(1.2)
-        self.assertEqual(self.session.sound.streams(), 1)
+        self.wait_for_notifications(1)
+        self.assert_soon(self.session.sound.streams, 1)
         self.display.key("Return")
-        wait_until(lambda: self.session.sound.streams() == 0, 3, "the stream is closed")
-        self.wait_until_calm(program)
-        self.assertEqual(self.wakeups(program, 3), 0)
+        self.session.sound.wait_for_no_stream()
+        self.check_sleep(program)
         self.quit(program)
 
     def start_stopwatch(self):
@@ -64,15 +73,13 @@ class WakeupsTest(DesktopTest):
     def test_ten_running_timers_wake_the_program_no_more_often_than_one(self):
         program = self.launch(accessible=False)
         self.start_stopwatch()
-        time.sleep(0.5)
+        program.catch_up()
         seen = self.rate(program)
         # A minimised window is not drawn. Drawing exchanges messages with the X server, and each
         # reply is another wake-up.
         rates = [self.wakeups_unseen(program)]
-        for count in range(2, 11):
-            self.display.key("ctrl+n")
-            window = program.wait_for_windows(count)[-1]
-            wait_until(lambda w=window: self.display.active_window() == w, 3, "it is active")
+        for _ in range(9):
+            program.open("ctrl+n")
             self.start_stopwatch()
         rates.append(self.wakeups_unseen(program))
         self.report(f"{rates[0]:.1f} wake-ups a second with one timer, {rates[1]:.1f} with ten; "
@@ -90,13 +97,10 @@ class WakeupsTest(DesktopTest):
 
     def wakeups_unseen(self, program):
         windows = program.windows()
-        for window in windows:
-            self.display.act("windowminimize", window)
-        wait_until(lambda: all("_NET_WM_STATE_HIDDEN" in self.display.state(window) for window in windows), 3,
-                   "the windows are minimised")
-        time.sleep(0.5)
+        self.display.minimise(*windows)
+        program.catch_up()
         rate = self.rate(program)
-        self.display.act("windowactivate", "--sync", windows[-1])
+        self.display.activate(windows[-1])
         return rate
 
 

@@ -18,7 +18,7 @@ sys.path.insert(1, str(pathlib.Path(__file__).resolve().parent.parent / "desktop
 from support import processes  # noqa: E402
 from support.case import DesktopTest  # noqa: E402
 from support.session import ask  # noqa: E402
-from support.waiting import wait_until  # noqa: E402
+from support.waiting import PATIENCE, wait_until  # noqa: E402
 
 BUILD = os.path.abspath(take_argument())
 NAME = "org.wuffer.Wuffer"
@@ -43,7 +43,7 @@ class ActivationTest(DesktopTest):
     def tearDown(self):
         for process_id in self.programs_of_the_bus():
             os.kill(process_id, signal.SIGKILL)
-        wait_until(lambda: not self.session.owns(NAME), 5, "the program has ended")
+        wait_until(lambda: not self.session.owns(NAME), "the program has ended")
         super().tearDown()
 
     def programs_of_the_bus(self):
@@ -53,12 +53,12 @@ class ActivationTest(DesktopTest):
     def call(self, method, signature, arguments):
         """Calls a method of the program; does not wait for the reply."""
         self.session.bus.call(NAME, PATH, INTERFACE, method, GLib.Variant(signature, arguments),
-                              None, Gio.DBusCallFlags.NONE, 10000, None, None)
+                              None, Gio.DBusCallFlags.NONE, 1000 * PATIENCE, None, None)
         self.session.bus.flush_sync()
 
     def wait_for_titles(self, *titles):
         """Waits until one process of the program runs, and its windows have these titles."""
-        wait_until(lambda: self.session.owns(NAME), 10, "the program owns its name")
+        wait_until(lambda: self.session.owns(NAME), "the program owns its name")
         process_id, = ask(self.session.bus, *BUS, "GetConnectionUnixProcessID",
                           GLib.Variant("(s)", (NAME,)))
 
@@ -66,7 +66,7 @@ class ActivationTest(DesktopTest):
             return sorted(self.display.title(window)
                           for window in self.display.windows(process_id))
 
-        wait_until(lambda: shown() == sorted(titles), 10, f"the windows are {titles}")
+        wait_until(lambda: shown() == sorted(titles), f"the windows are {titles}")
         self.assertEqual(self.programs_of_the_bus(), [process_id])
 
     def test_it_is_started_with_one_timer(self):

@@ -6,6 +6,7 @@ gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi, Gio, GLib  # noqa: E402
 
 from support.display import Rect  # noqa: E402
+from support.waiting import PATIENCE, Gone  # noqa: E402
 
 ROLES = {
     "window": Atspi.Role.FRAME,
@@ -25,7 +26,6 @@ WITHOUT_CONTROLS = tuple(map(int, (
 ROOT = "/org/a11y/atspi/accessible/root"
 ACCESSIBLE = "org.a11y.atspi.Accessible"
 SCREEN = GLib.Variant("(u)", (int(Atspi.CoordType.SCREEN),))
-SECONDS = 10
 
 
 class Control:
@@ -43,7 +43,10 @@ class Control:
         return bool(self.states >> int(state) & 1)
 
     def ask(self, interface, method, arguments=None):
-        return self.program.ask([(self.path, interface, method, arguments)])[0]
+        answer, = self.program.ask([(self.path, interface, method, arguments)])
+        if answer is None:
+            raise Gone(self.name)
+        return answer
 
     def text(self):
         whole = GLib.Variant("(ii)", (0, -1))
@@ -82,7 +85,7 @@ class AccessibleProgram:
 
         for place, (path, interface, method, arguments) in enumerate(questions):
             self.bus.call(self.name, path, interface, method, arguments, None,
-                          Gio.DBusCallFlags.NO_AUTO_START, 1000 * SECONDS, None, keep, place)
+                          Gio.DBusCallFlags.NO_AUTO_START, 1000 * PATIENCE, None, keep, place)
         while left:
             GLib.MainContext.default().iteration(True)
         return answers

@@ -2,13 +2,13 @@
 
 import os
 import sys
-import time
 import unittest
 
 from support.picture import Picture
 from support.processor import Waits
 from support.program import Program
 from support.session import Session
+from support.waiting import wait_until
 
 
 class DesktopTest(unittest.TestCase):
@@ -65,19 +65,40 @@ class DesktopTest(unittest.TestCase):
     def close_home(self, program):
         """Waits for the home window and closes it as the button in the title bar does."""
         program.wait_for_home()
-        start = time.monotonic()
-        self.display.key("alt+F4")
-        seconds, status = program.wait_for_end(start)
+        seconds, status = program.end_with("alt+F4")
         self.assertEqual(status, 0)
         self.assertLess(seconds, 1.5)
 
     def waits(self, program):
         """Counts the time that every process between a key press and its visible or audible
-        effect waits for a processor, from now on."""
-        servers = [self.display.server, self.display.manager]
+        effect waits for the computer, from now on."""
+        servers = [self.display.server.pid, self.display.manager.pid]
         if self.session.sound:
-            servers.append(self.session.sound.process)
-        return Waits(os.getpid(), program.process.pid, *(server.pid for server in servers))
+            servers.append(self.session.sound.process.pid)
+        return Waits(os.getpid(), program.process.pid, *servers, *self.session.buses())
+
+    def check_answers(self, program):
+        """The program answers at once, except for the time in which it waits for the computer."""
+        waits = self.waits(program)
+        self.assertLess(program.answers(), 0.5 + waits.seconds())
+
+    def assert_soon(self, read, expected):
+        """Waits until a function returns this value."""
+        value = None
+
+        def is_expected():
+            nonlocal value
+            value = read()
+            return value == expected
+
+        try:
+            wait_until(is_expected, expected)
+        except AssertionError:
+            self.assertEqual(value, expected)
+
+    def wait_for_notifications(self, count):
+        wait_until(lambda: self.session.notifications.shown() == count,
+                   f"{count} notifications are shown")
 
     def heard(self):
         return self.session.sound.recorder

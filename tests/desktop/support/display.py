@@ -8,7 +8,8 @@ import time
 from typing import NamedTuple
 
 from support import processes
-from support.waiting import wait_until
+from support.root_messages import ANSWERS, RootMessages
+from support.waiting import PATIENCE, wait_until
 from support.x_server import XServer
 
 URGENT = 1 << 8  # XUrgencyHint of Xlib
@@ -33,7 +34,7 @@ class Display:
     """One X display with a number that no other server uses."""
 
     def __init__(self, environment, size):
-        processes.require("Xvfb", "openbox", "xprop", "xwininfo", "xdotool", "wmctrl")
+        processes.require("Xvfb", "openbox", "xprop", "xdotool", "wmctrl")
         self.width, self.height = size
         reader, writer = os.pipe()
         self.server = processes.start(
@@ -53,7 +54,7 @@ class Display:
         self.manager = processes.start(
             ["openbox", "--startup", "xprop -root -format MANAGED 8s -set MANAGED yes"],
             self.environment)
-        wait_until(lambda: self.x.text(self.x.root, "MANAGED") == "yes", 10,
+        wait_until(lambda: self.x.text(self.x.root, "MANAGED") == "yes",
                    "the window manager is ready")
 
     def close(self):
@@ -68,10 +69,22 @@ class Display:
         processes.run(["xdotool", *map(str, command)], self.environment)
 
     def key(self, *keys):
+        self.wait_for_focus()
         self.act("key", "--delay", "0", *keys)
 
     def type(self, text):
+        self.wait_for_focus()
         self.act("type", "--delay", "0", text)
+
+    def wait_for_focus(self):
+        """Waits until a window receives keys: for a moment after one has closed, none does."""
+        wait_until(lambda: self.receives_keys(self.active_window()), "a window receives keys")
+
+    def receives_keys(self, window):
+        return window != 0 and window == self.active_window() == self.focused_window()
+
+    def wait_until_active(self, window):
+        wait_until(lambda: self.receives_keys(window), f"“{self.title(window)}” is active")
 
     def click(self, x, y, button=1):
         self.act("mousemove", x, y, "click", button)
@@ -98,6 +111,34 @@ class Display:
             if key:
                 self.act("keyup", key)
 
+    def wait_for_answer(self, window):
+        """Waits until a program has received all keys and clicks that were sent to its window."""
+        messages = RootMessages(self, ANSWERS)
+        try:
+            for number in (1, 2):
+                messages.ping(window, number)
+        finally:
+            messages.close()
+
+    # Menus and the lists of combo boxes
+
+    def popups(self):
+        """Returns the windows of the open menus and lists."""
+        return {window for window in self.x.children(self.x.root) if self.x.is_popup(window)
+                and "_NET_WM_WINDOW_TYPE_TOOLTIP" not in
+                self.x.names(window, "_NET_WM_WINDOW_TYPE")}
+
+    def open_popup(self, *keys):
+        """Presses keys that open a menu or a list, and waits until it is open."""
+        before = self.popups()
+        self.key(*keys)
+        return self.wait_for_popup(before)
+
+    def wait_for_popup(self, before):
+        """Waits until a menu or a list is open that was not before; returns its window."""
+        wait_until(lambda: self.popups() - before, "a menu or a list opens")
+        return next(iter(self.popups() - before))
+
     # Colours
 
     def colors(self, area):
@@ -117,7 +158,7 @@ class Display:
         The place is that of the frame or of the window itself, as the window's gravity demands.
         """
         self.act("windowmove", window, x, y)
-        wait_until(lambda: (x, y) in (self.geometry(window)[:2], self.frame(window)[:2]), 3,
+        wait_until(lambda: (x, y) in (self.geometry(window)[:2], self.frame(window)[:2]),
                    "the window is there")
         return self.frame(window)
 
@@ -125,9 +166,31 @@ class Display:
         """Asks the window manager to close a window, as a task bar does."""
         processes.run(["wmctrl", "-i", "-c", hex(window)], self.environment)
 
+    def wait_until_at_rest(self, window):
+        """Waits until a window stays where it is for a while; returns its frame."""
+        def is_at_rest():
+            before = self.frame(window)
+            time.sleep(0.3)
+            return self.frame(window) == before
+
+        wait_until(is_at_rest, "the window has stopped moving")
+        return self.frame(window)
+
     def activate(self, window):
-        """Asks the window manager to activate a window, as a task bar does."""
+        """Activates a window, as a task bar does, and waits until it receives keys."""
         processes.run(["wmctrl", "-i", "-a", hex(window)], self.environment)
+        self.wait_until_active(window)
+
+    def minimise(self, *windows):
+        """Minimises windows, and waits until none of them is active."""
+        for window in windows:
+            self.act("windowminimize", window)
+        self.wait_until_minimised(*windows)
+
+    def wait_until_minimised(self, *windows):
+        wait_until(lambda: self.active_window() not in windows and all(
+            "_NET_WM_STATE_HIDDEN" in self.state(window) for window in windows),
+                   "the windows are minimised")
 
     def maximise(self, window):
         """Asks the window manager to maximise a window, as a task bar does."""
@@ -138,7 +201,7 @@ class Display:
         """Returns the value that xprop prints for a property, or its error text."""
         where = ["-id", str(window)] if window else ["-root"]
         result = subprocess.run(["xprop", *where, name], env=self.environment, check=False,
-                                timeout=10, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL,
+                                timeout=PATIENCE, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL,
                                 text=True)
         return re.split(" = |# |: ", result.stdout.strip(), maxsplit=1)[-1]
 
@@ -164,9 +227,6 @@ class Display:
     def is_urgent(self, window):
         flags, = self.x.property(window, "WM_HINTS")[:1] or [0]
         return "_NET_WM_STATE_DEMANDS_ATTENTION" in self.state(window) or bool(flags & URGENT)
-
-    def information(self, window, *options):
-        return processes.run(["xwininfo", "-id", str(window), *options], self.environment)
 
     def geometry(self, window):
         """Returns the rectangle of a window without its decorations."""

@@ -67,7 +67,7 @@ class Panel:
 
     def look_at_empty(self):
         """Remembers the strip without an item, once it no longer changes."""
-        wait_until(self.is_at_rest, 10, "the panel no longer changes")
+        wait_until(self.is_at_rest, "the panel no longer changes")
         self.empty = self.pixels()
 
     def is_at_rest(self):
@@ -87,11 +87,11 @@ class Panel:
         return Rect(self.strip.x + left, self.strip.y + top, right - left + 1, bottom - top + 1)
 
     def wait_for_item(self):
-        wait_until(lambda: self.item() is not None, 5, "the item shows in the panel", 0.02)
+        wait_until(lambda: self.item() is not None, "the item shows in the panel")
         return self.item()
 
     def wait_for_no_item(self):
-        wait_until(lambda: self.item() is None, 5, "the panel is empty", 0.02)
+        wait_until(lambda: self.item() is None, "the panel is empty")
 
     def colors(self):
         return self.display.colors(self.strip)
@@ -99,9 +99,15 @@ class Panel:
     def press(self):
         # A panel that has just started moves its items, and misses a press meanwhile.
         self.wait_for_item()
-        wait_until(self.is_at_rest, 10, "the panel no longer changes")
+        wait_until(self.is_at_rest, "the panel no longer changes")
         item = self.wait_for_item()
         self.display.click(item.x + item.width // 2, item.y + item.height // 2)
+
+    def open_menu(self):
+        """Presses the item, and waits until its menu is open and complete."""
+        before = self.display.popups()
+        self.press()
+        self.display.wait_until_at_rest(self.display.wait_for_popup(before))
 
 
 class XfcePanel(Panel):
@@ -119,7 +125,7 @@ class XfcePanel(Panel):
             file.write(XFCE_CONFIGURATION.format(height=HEIGHT))
         self.settings = processes.start(glob.glob("/usr/lib/*/xfce4/xfconf/xfconfd")[:1],
                                         session.environment)
-        wait_until(lambda: self.is_there("org.xfce.Xfconf"), 10, "the panel's settings answer")
+        wait_until(lambda: self.is_there("org.xfce.Xfconf"), "the panel's settings answer")
         self.start()
 
     def is_there(self, name):
@@ -129,11 +135,11 @@ class XfcePanel(Panel):
     def start(self):
         self.process = processes.start(["xfce4-panel", "--disable-wm-check"],
                                        dict(self.session.environment, NO_AT_BRIDGE="1"))
-        wait_until(lambda: self.is_there(self.WATCHER), 15, "the panel watches for items", 0.05)
+        wait_until(lambda: self.is_there(self.WATCHER), "the panel watches for items")
 
     def stop(self):
         processes.end(self.process)
-        wait_until(lambda: not self.is_there(self.WATCHER), 5, "the panel is closed", 0.05)
+        wait_until(lambda: not self.is_there(self.WATCHER), "the panel is closed")
 
     def close(self):
         processes.end(self.process)
@@ -150,8 +156,8 @@ class Tint2(Panel):
         with open(configuration, "w", encoding="ascii") as file:
             file.write(TINT2_CONFIGURATION.format(height=HEIGHT))
         self.process = processes.start(["tint2", "-c", configuration], session.environment)
-        wait_until(lambda: self.display.color_at(5, self.strip.bottom - 5) != (0, 0, 0), 10,
-                   "the panel shows", 0.05)
+        wait_until(lambda: self.display.color_at(5, self.strip.bottom - 5) != (0, 0, 0),
+                   "the panel shows")
 
     def close(self):
         processes.end(self.process)

@@ -5,7 +5,7 @@ import shutil
 import signal
 import subprocess
 
-from support.waiting import wait_until
+from support.waiting import PATIENCE, wait_until
 
 
 def require(*tools):
@@ -59,14 +59,14 @@ def marked(marker):
 def wait_until_ended(marker):
     """Waits until no process with this text in its environment runs."""
     try:
-        wait_until(lambda: not marked(marker), 5, "every process has ended")
+        wait_until(lambda: not marked(marker), "every process has ended")
     except AssertionError as error:
         raise AssertionError(f"left running: {marked(marker)}") from error
 
 
 def run(command, environment):
     """Runs a tool to its end; returns its standard output."""
-    return subprocess.run(command, env=environment, check=True, timeout=10,
+    return subprocess.run(command, env=environment, check=True, timeout=PATIENCE,
                           stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True).stdout
 
 

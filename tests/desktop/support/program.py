@@ -10,9 +10,6 @@ from support.accessibility import Atspi
 from support.processor import Waits
 from support.waiting import wait_until
 
-# Seconds between two looks at the program, because each look makes it work.
-PAUSE = 0.02
-
 
 class Program:
     """One run of the program, with its own folders for the settings."""
@@ -51,8 +48,8 @@ class Program:
     def start(self):
         self.spawn()
         if self.accessible:
-            wait_until(self.find_application, 10, "the program shows in the accessibility tree")
-        wait_until(self.has_focus, 10, "the program has a window with the focus")
+            wait_until(self.find_application, "the program shows in the accessibility tree")
+        wait_until(self.has_focus, "the program has a window with the focus")
 
     def spawn(self):
         with open(self.log, "a", encoding="utf-8") as log:
@@ -67,7 +64,8 @@ class Program:
         return self.application is not None
 
     def has_focus(self):
-        return self.display.active_window() in self.windows()
+        window = self.display.active_window()
+        return window in self.windows() and self.display.receives_keys(window)
 
     # Windows
 
@@ -75,8 +73,35 @@ class Program:
         return self.display.windows(self.process.pid)
 
     def wait_for_windows(self, count):
-        wait_until(lambda: len(self.windows()) == count, 5, f"there are {count} windows", PAUSE)
+        wait_until(lambda: len(self.windows()) == count, f"there are {count} windows")
         return self.windows()
+
+    def open(self, *keys):
+        """Presses keys that open a window; returns it when it is active."""
+        before = self.windows()
+        self.display.key(*keys)
+        return self.wait_for_new_window(before)
+
+    def wait_for_new_window(self, before):
+        """Waits until there is one window more than before, and it is active; returns it."""
+        *_, window = self.wait_for_windows(len(before) + 1)
+        self.display.wait_until_active(window)
+        return window
+
+    def open_timer(self):
+        """Opens another timer; returns its window when its minutes field has the focus."""
+        window = self.open("ctrl+n")
+        if self.accessible:
+            self.wait_for_focus_in("Minutes")
+        return window
+
+    def close_window(self, key="ctrl+w"):
+        """Closes the active window with a key, and waits until another one is active."""
+        closed, count = self.display.active_window(), len(self.windows())
+        self.display.key(key)
+        self.wait_for_windows(count - 1)
+        wait_until(lambda: self.display.active_window() != closed and self.has_focus(),
+                   "another window is active")
 
     # Controls
 
@@ -85,31 +110,39 @@ class Program:
         return [control for control in self.application.controls(role, within)
                 if name in (None, control.name) and description in (None, control.description)]
 
+    def showing(self, role, name=None, description=None, within=None):
+        return [control for control in self.all(role, name, description, within)
+                if control.has_state(Atspi.StateType.SHOWING)]
+
     def find(self, role, name=None, description=None, within=None):
-        found = [control for control in self.all(role, name, description, within)
-                 if control.has_state(Atspi.StateType.SHOWING)]
-        if len(found) != 1:
-            raise AssertionError(
-                f"{len(found)} of {role} {name or ''} {description or ''} instead of one")
+        """Waits until exactly one such control shows; returns it."""
+        found = []
+
+        def is_only_one():
+            found[:] = self.showing(role, name, description, within)
+            return len(found) == 1
+
+        wait_until(is_only_one, f"there is one {role} {name or ''} {description or ''}")
         return found[0]
 
     def has(self, role, name=None, description=None, within=None):
-        try:
-            self.find(role, name, description, within)
-        except AssertionError:
-            return False
-        return True
+        """Whether exactly one such control shows now."""
+        return len(self.showing(role, name, description, within)) == 1
+
+    def wait_for_count(self, count, role, name=None, description=None):
+        wait_until(lambda: len(self.all(role, name, description)) == count,
+                   f"there are {count} of {role} {name or ''} {description or ''}")
 
     def shown(self, what, within=None):
-        """The text of one of the labels of the display."""
-        try:
-            return self.find("display", description=what, within=within).name
-        except AssertionError:
-            # The display is just moving to another window.
-            return None
+        """The text of one of the labels of the display now; None while it is not there alone, as
+        when the display moves to another window."""
+        labels = self.showing("display", description=what, within=within)
+        return labels[0].name if len(labels) == 1 else None
 
     def text(self, field, within=None):
-        return self.text_of(self.find("field", field, within=within))
+        """The text of a field now; None while it is not there alone."""
+        fields = self.showing("field", field, within=within)
+        return self.text_of(fields[0]) if len(fields) == 1 else None
 
     def text_of(self, field):
         return field.text()
@@ -118,12 +151,28 @@ class Program:
         """Returns the rectangle of a control on the screen."""
         return control.place()
 
-    def wait_for_text(self, what, text, seconds=5):
-        wait_until(lambda: self.shown(what) == text, seconds, f"{what} is “{text}”", PAUSE)
+    def middle(self, role, name):
+        """Waits for a control; returns the point in its middle."""
+        place = self.place(self.find(role, name))
+        return place.x + place.width // 2, place.y + place.height // 2
 
-    def wait_for_button(self, name, seconds=5):
-        wait_until(lambda: self.has("button", name), seconds,
-                   f"there is a button “{name}”", PAUSE)
+    def click(self, role, name):
+        self.display.click(*self.middle(role, name))
+
+    def click_field(self, name):
+        """Gives a field the focus with the mouse."""
+        self.click("field", name)
+        self.wait_for_focus_in(name)
+
+    def wait_for_text(self, what, *texts):
+        """Waits until a label of the display shows one of these texts."""
+        wait_until(lambda: self.shown(what) in texts, f"{what} is {' or '.join(texts)}")
+
+    def wait_for_field(self, field, text):
+        wait_until(lambda: self.text(field) == text, f"the field {field} holds “{text}”")
+
+    def wait_for_button(self, name):
+        self.find("button", name)
 
     def focused_field(self):
         focused = [field.name for field in self.all("field")
@@ -131,7 +180,7 @@ class Program:
         return focused[0] if len(focused) == 1 else focused
 
     def wait_for_focus_in(self, field):
-        wait_until(lambda: self.focused_field() == field, 5, f"the focus is in {field}", PAUSE)
+        wait_until(lambda: self.focused_field() == field, f"the focus is in {field}")
 
     def answers(self):
         """Returns how many seconds the program takes to answer; fails if it hangs."""
@@ -139,6 +188,12 @@ class Program:
         if self.application.windows() < 1:
             raise AssertionError("the program has no window")
         return time.monotonic() - start
+
+    def catch_up(self):
+        """Waits until the program has dealt with all keys and clicks up to now."""
+        self.display.wait_for_answer(self.windows()[0])
+        if self.accessible:
+            self.answers()
 
     # Verbs
 
@@ -154,43 +209,54 @@ class Program:
         self.display.key("Return")
         return before, time.monotonic()
 
+    def pick(self, mnemonic, *keys):
+        """Opens the list of a combo box and selects an entry with the keyboard."""
+        self.display.key(mnemonic)
+        self.display.open_popup("Down")
+        self.display.key(*keys, "Return")
+
+    def choose_sound_file(self, mnemonic):
+        """Opens the dialog in which the user chooses a sound file; returns its window."""
+        before = self.windows()
+        self.pick(mnemonic, "End", "Up")
+        return self.wait_for_new_window(before)
+
     # The end
 
     def wait_for_home(self):
         """Waits until the home window has replaced the last window; returns it."""
         self.wait_for_button("New Timer")
         home, = self.wait_for_windows(1)
-        wait_until(lambda: self.display.active_window() == home, 5, "the home window is active")
+        self.display.wait_until_active(home)
         return home
 
     def quit(self):
         """Quits with the keyboard; returns the seconds that took and the exit status."""
         # For a moment after a window has closed, no window has the focus.
-        wait_until(self.has_focus, 5, "a window of the program is active")
-        start = time.monotonic()
-        self.display.key("ctrl+q")
-        return self.wait_for_end(start)
+        wait_until(self.has_focus, "a window of the program is active")
+        return self.end_with("ctrl+q")
 
     def close_all(self):
         """Closes the only timer and then the home window; returns the same as quit()."""
         self.display.key("ctrl+w")
         self.wait_for_home()
-        start = time.monotonic()
-        self.display.key("ctrl+w")
-        return self.wait_for_end(start)
+        return self.end_with("ctrl+w")
 
-    def wait_for_end(self, start):
-        """Returns the seconds from start to the end, without those in which the program waited for
-        a processor, and the exit status."""
-        waits = Waits(self.process.pid)
+    def end_with(self, key):
+        """Presses a key that ends the program. Returns the seconds that it takes, without those in
+        which it waits for the computer, and the exit status."""
+        self.display.wait_for_focus()
+        waits = Waits(os.getpid(), self.process.pid, self.display.server.pid)
         waited = 0
+        self.display.key(key)
+        start = time.monotonic()
 
         def has_ended():
             nonlocal waited
             waited = max(waited, waits.seconds())
             return self.process.poll() is not None
 
-        wait_until(has_ended, 10, "the program ends", 0.005)
+        wait_until(has_ended, "the program ends", pause=0.005)
         return time.monotonic() - start - waited, self.process.returncode
 
     def kill(self):

@@ -11,7 +11,7 @@ from gi.repository import Gio, GLib
 from support import processes
 from support.display import Display
 from support.sound_server import Server
-from support.waiting import wait_until
+from support.waiting import PATIENCE, wait_until
 
 # The bus starts no services on demand, except for those in a folder that the test names: otherwise
 # tests could not run without a service.
@@ -64,7 +64,7 @@ def connect(address):
 
 def ask(bus, name, path, interface, method, arguments=None):
     return bus.call_sync(name, path, interface, method, arguments, None,
-                         Gio.DBusCallFlags.NO_AUTO_START, 5000, None).unpack()
+                         Gio.DBusCallFlags.NO_AUTO_START, 1000 * PATIENCE, None).unpack()
 
 
 class Notifications:
@@ -87,7 +87,7 @@ class Notifications:
         self.process = processes.start(["dunst", "-conf", configuration], environment)
         wait_until(lambda: ask(bus, "org.freedesktop.DBus", "/", "org.freedesktop.DBus",
                                "NameHasOwner", GLib.Variant("(s)", (self.NAME,)))[0],
-                   10, "the notification daemon answers")
+                   "the notification daemon answers")
 
     def add_chooser(self, folder):
         path = os.path.join(folder, "choose-button")
@@ -104,16 +104,20 @@ class Notifications:
         """Presses the button with this text in one of the shown notifications."""
         with open(self.wanted, "w", encoding="ascii") as file:
             file.write(button)
-        self.ask_for("ContextMenuCall")
+        if os.path.exists(self.offered):
+            os.remove(self.offered)
+
+        def is_offered():
+            # The daemon opens no menu until it has noticed that the last one is closed.
+            self.ask_for("ContextMenuCall")
+            time.sleep(0.3)
+            return os.path.exists(self.offered)
+
+        wait_until(is_offered, "the buttons are offered")
 
     def buttons(self):
         """Returns the button texts of all shown notifications, without duplicates, sorted."""
-        if os.path.exists(self.offered):
-            os.remove(self.offered)
         self.press("none of them")
-        wait_until(lambda: os.path.exists(self.offered), 5, "the buttons are offered")
-        # The daemon opens no other menu until it has noticed that this one is closed.
-        time.sleep(0.3)
         with open(self.offered, encoding="utf-8") as file:
             return sorted(set(re.findall(r"^#(\w+) \(", file.read(), re.MULTILINE)))
 
@@ -203,8 +207,15 @@ class Session:
                 return False
             return True
 
-        wait_until(answers, 10, "the accessibility bus answers")
+        wait_until(answers, "the accessibility bus answers")
         self.accessibility_bus = connect(address)
+        self.accessibility_bus_id = ask(
+            self.accessibility_bus, "org.freedesktop.DBus", "/", "org.freedesktop.DBus",
+            "GetConnectionUnixProcessID", GLib.Variant("(s)", ("org.freedesktop.DBus",)))
+
+    def buses(self):
+        """Returns the process ids of the session bus and the accessibility bus."""
+        return [self.bus_daemon.pid, *self.accessibility_bus_id]
 
     def owns(self, name):
         """Whether a process owns the name on the session bus."""

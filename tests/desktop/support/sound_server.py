@@ -10,7 +10,7 @@ import time
 
 from support.processor import STANDSTILL, Waits
 from support.samples import AUDIBLE, RATE, longest_silence, loudest
-from support.waiting import wait_until
+from support.waiting import PATIENCE, wait_until
 
 # In seconds. The server gets sound at least this long in advance, so a shorter wait makes no gap.
 LONGEST_WAIT = 0.005
@@ -37,7 +37,7 @@ class Server:
             ["pulseaudio", "-n", "--daemonize=no", "--exit-idle-time=-1", "--disable-shm=yes",
              "--use-pid-file=no", "-L", "module-native-protocol-unix auth-anonymous=1"],
             env=self.environment, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
-        wait_until(self.answers, 10, "the sound server answers")
+        wait_until(self.answers, "the sound server answers")
         self.add_sink()
 
     def answers(self):
@@ -56,11 +56,14 @@ class Server:
         self.ask("unload-module", self.sink)
 
     def ask(self, *question):
-        return subprocess.run(["pactl", *question], env=self.environment, check=True, timeout=10,
-                              stdout=subprocess.PIPE, text=True).stdout
+        return subprocess.run(["pactl", *question], env=self.environment, check=True,
+                              timeout=PATIENCE, stdout=subprocess.PIPE, text=True).stdout
 
     def streams(self):
         return len(self.ask("list", "short", "sink-inputs").splitlines())
+
+    def wait_for_no_stream(self):
+        wait_until(lambda: self.streams() == 0, "the stream is closed")
 
     def freeze(self):
         STANDSTILL.expected.add(self.process.pid)
@@ -102,7 +105,7 @@ class Recorder:
             env=environment, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL)
         self.thread = threading.Thread(target=self.run, daemon=True)
         self.thread.start()
-        wait_until(lambda: self.samples, 10, "the recorder hears the sink")
+        wait_until(lambda: self.samples, "the recorder hears the sink")
 
     def run(self):
         rest = b""
@@ -126,7 +129,7 @@ class Recorder:
     def catch_up(self):
         """Waits until everything played up to now is recorded."""
         now = time.monotonic()
-        wait_until(lambda: self.moment(len(self.samples)) >= now, 10, "the sink plays on")
+        wait_until(lambda: self.moment(len(self.samples)) >= now, "the sink plays on")
 
     def between(self, start, end):
         """Returns the samples that were played between two times."""
@@ -166,6 +169,24 @@ class Recorder:
                 return self.moment(end - next(i for i, sample in enumerate(reversed(stretch), 1)
                                               if abs(sample) > AUDIBLE))
         return 0.0
+
+    def wait_for_sound(self, start):
+        """Waits until something is heard after this time; returns when it began."""
+        wait_until(lambda: self.first_sound_after(start), "a sound is heard")
+        return self.first_sound_after(start)
+
+    def wait_for_silence(self, seconds=0.3):
+        """Waits until nothing has been heard for this long; returns the time of the last sound."""
+        last = 0.0
+
+        def is_silent():
+            nonlocal last
+            now = time.monotonic()
+            last = self.last_sound()
+            return last < now - seconds
+
+        wait_until(is_silent, "it is silent")
+        return last
 
     def close(self):
         self.process.kill()

@@ -3,12 +3,16 @@
 import ctypes
 from ctypes import POINTER, byref, c_char_p, c_int, c_long, c_uint, c_ulong, c_void_p
 
+from support.waiting import Gone
+
 ANY_TYPE = 0
 ALL_PLANES = 0xffffffff
 Z_PIXMAP = 2
 # In units of 32 bits; longer than any property of a window.
 LONGEST_PROPERTY = 1 << 20
 NO_WINDOWS = (0, 1)  # None and PointerRoot
+VIEWABLE = 2
+INPUT_OUTPUT = 1
 
 
 class Error(ctypes.Structure):
@@ -20,10 +24,16 @@ class Error(ctypes.Structure):
 
 
 class Attributes(ctypes.Structure):
-    """The first fields of XWindowAttributes of Xlib, and room for the rest."""
+    """XWindowAttributes of Xlib."""
 
     _fields_ = [("x", c_int), ("y", c_int), ("width", c_int), ("height", c_int),
-                ("rest", c_long * 32)]
+                ("border_width", c_int), ("depth", c_int), ("visual", c_void_p), ("root", c_ulong),
+                ("window_class", c_int), ("bit_gravity", c_int), ("win_gravity", c_int),
+                ("backing_store", c_int), ("backing_planes", c_ulong), ("backing_pixel", c_ulong),
+                ("save_under", c_int), ("colormap", c_ulong), ("map_installed", c_int),
+                ("map_state", c_int), ("all_event_masks", c_long), ("your_event_mask", c_long),
+                ("do_not_propagate_mask", c_long), ("override_redirect", c_int),
+                ("screen", c_void_p)]
 
 
 class Image(ctypes.Structure):
@@ -74,7 +84,7 @@ def pass_over(_display, _error):
 X.XSetErrorHandler(pass_over)
 
 
-class WindowGone(Exception):
+class WindowGone(Gone):
     """A window that was listed a moment ago is gone."""
 
 
@@ -136,13 +146,28 @@ class XServer:
         return x.value, y.value, attributes.width, attributes.height
 
     def parent(self, window):
+        return self.family(window)[0]
+
+    def children(self, window):
+        return self.family(window)[1]
+
+    def family(self, window):
+        """Returns the parent and the children of a window."""
         root, parent, children, count = c_ulong(), c_ulong(), c_void_p(), c_uint()
         if not TREE(self.connection, window, byref(root), byref(parent), byref(children),
                     byref(count)):
             raise WindowGone(hex(window))
+        found = list(ctypes.cast(children, POINTER(c_ulong))[:count.value]) if children else []
         if children:
             FREE(children)
-        return parent.value
+        return parent.value, found
+
+    def is_popup(self, window):
+        """Whether a window is visible and not under the control of the window manager."""
+        attributes = Attributes()
+        return (ATTRIBUTES(self.connection, window, byref(attributes)) != 0
+                and attributes.window_class == INPUT_OUTPUT and attributes.map_state == VIEWABLE
+                and attributes.override_redirect != 0 and self.property(window, "WM_CLASS") != b"")
 
     def focus(self):
         """Returns the top-level window with the keyboard focus; 0 if none has it."""
