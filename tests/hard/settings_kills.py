@@ -8,12 +8,16 @@ Fails if a file cannot be read, or if a change is missing that was older than a 
 
 import json
 import os
+import pathlib
 import random
 import subprocess
 import sys
 import tempfile
 import time
 from concurrent.futures import ThreadPoolExecutor
+
+sys.path.insert(1, str(pathlib.Path(__file__).resolve().parent.parent / "desktop"))
+from support.processor import Waits  # noqa: E402
 
 KEPT_AFTER = 1.0
 LONGEST_LIFE = 2.0
@@ -37,25 +41,28 @@ class Lane:
         for _ in range(kills):
             # Half of the kills come early, while the program starts and writes for the first time.
             life = self.moments.uniform(0, self.moments.choice((0.1, LONGEST_LIFE)))
-            killed, changes = self.run(life)
-            self.judge(killed, changes)
+            self.judge(*self.run(life))
 
     def run(self, life):
+        """Returns the time of the kill, how long the program waited for the computer until then,
+        and its changes with their times."""
         with subprocess.Popen(self.command, stdout=subprocess.PIPE, text=True) as process:
+            waits = Waits(process.pid)
             time.sleep(life)
+            waited = waits.seconds()
             killed = time.monotonic()
             process.kill()
             lines = process.stdout.read().split("\n")[:-1]
-        return killed, [(int(number), float(moment))
-                        for number, moment in (line.split() for line in lines)]
+        return killed, waited, [(int(number), float(moment))
+                                for number, moment in (line.split() for line in lines)]
 
-    def judge(self, killed, changes):
+    def judge(self, killed, waited, changes):
         self.changes += len(changes)
         found = self.read()
         if found is None:
             return
         due = max([self.kept] + [number for number, moment in changes
-                                 if moment <= killed - KEPT_AFTER])
+                                 if moment <= killed - KEPT_AFTER - waited])
         if found < due:
             self.failures.append(f"{found} was kept, but {due} was more than a second old")
         lost = [killed - moment for number, moment in changes if number > found]

@@ -1,8 +1,11 @@
 """How long processes waited for the computer: delay of the computer, not of the processes."""
 
+import collections
 import glob
 import threading
 import time
+
+ENDED = "X"
 
 
 def waits(process_id):
@@ -31,14 +34,14 @@ class Standstill:
 
     def __init__(self):
         self.computer = 0.0
-        self.processes = {}
+        self.watched = set()
+        self.processes = collections.Counter()
         # Processes that the test itself stops.
         self.expected = set()
         self.thread = None
 
     def watch(self, process_ids):
-        for process_id in process_ids:
-            self.processes.setdefault(process_id, 0.0)
+        self.watched |= set(process_ids)
         if not self.thread:
             self.thread = threading.Thread(target=self.run, daemon=True)
             self.thread.start()
@@ -50,9 +53,12 @@ class Standstill:
             now = time.monotonic()
             late = max(0.0, now - last - 2 * self.STEP)
             self.computer += late
-            for process_id in set(self.processes) - self.expected:
-                if state(process_id) in self.STATES:
+            for process_id in self.watched - self.expected:
+                found = state(process_id)
+                if found in self.STATES:
                     self.processes[process_id] += now - last - late
+                if found == ENDED:
+                    self.watched.discard(process_id)
             last = now
 
     def seconds(self, process_ids):
@@ -60,12 +66,12 @@ class Standstill:
 
 
 def state(process_id):
-    """Returns the letter of the process's state; X if it has ended."""
+    """Returns the letter of the process's state."""
     try:
         with open(f"/proc/{process_id}/stat", encoding="utf-8", errors="replace") as file:
             return file.read().rsplit(")", 1)[1].split()[0]
     except (FileNotFoundError, ProcessLookupError):
-        return "X"
+        return ENDED
 
 
 STANDSTILL = Standstill()
