@@ -165,10 +165,7 @@ class ChainTest(DesktopTest):
     def test_a_plain_drag_moves_the_window(self):
         first, second = self.launch_timers(2)
         before = self.display.frame(first)
-        x, y = self.margin(first)
-        with self.display.dragging((x, y), (x + 150, y + 90)):
-            pass
-        wait_until(lambda: self.display.frame(first).x > before.x + 50, "the window moves")
+        self.drag_away(first, self.margin(first))
         moved = self.display.wait_until_at_rest(first)
         self.report(f"moved by {moved.x - before.x}, {moved.y - before.y}")
         self.assertEqual(moved[2:], before[2:])
@@ -206,11 +203,24 @@ class ChainTest(DesktopTest):
         with self.display.dragging(box, self.margin(first), button=3):
             self.wait_until_lit(first, third)
         self.wait_for_chain(first, third, second)
-        before = self.display.frame(second)
-        with self.display.dragging(chained, (chained[0] - 30, chained[1] + 90)):
-            pass
-        wait_until(lambda: self.display.frame(second).y > before.y + 50, "the window moves")
+        self.drag_away(second, chained)
         self.quit(self.program)
+
+    def drag_away(self, window, start):
+        """Drags a window down until it has moved by more than 50 pixels."""
+        before = self.display.frame(window)
+        x, y = start
+
+        def has_moved():
+            nonlocal y
+            y = min(y + 10, self.display.height - 1)
+            self.display.move_pointer(x, y)
+            return self.display.frame(window).y > before.y + 50
+
+        with self.display.dragging(start, (x, y + 20)):
+            # The window manager moves the window only as long as the button is pressed.
+            self.program.catch_up()
+            wait_until(has_moved, "the window moves", pause=0.05)
 
     def button_in(self, window, name, role="button"):
         """Returns the middle of the button in the window."""

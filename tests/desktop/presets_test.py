@@ -26,6 +26,12 @@ class PresetsTest(DesktopTest):
         self.display.type("Tea")
         program.wait_for_field("Name", "Tea")
 
+    def move(self, program, x, y):
+        """Moves the only window, and waits until the program can know its place."""
+        window, = program.windows()
+        self.display.move_window(window, x, y)
+        return self.display.wait_until_at_rest(window)
+
     def check_tea(self, program):
         record = self.stored(program)["Preset 4"]
         self.assertEqual(
@@ -39,7 +45,7 @@ class PresetsTest(DesktopTest):
         self.type_tea(program)
         self.display.key("ctrl+4")
         program.wait_for_text("Elapsed time", "Saved to Preset 4")
-        place = self.display.move_window(program.windows()[0], 300, 200)
+        place = self.move(program, 300, 200)
         self.display.key("ctrl+4")
         program.catch_up()
         time.sleep(1)
@@ -74,7 +80,7 @@ class PresetsTest(DesktopTest):
         self.type_tea(program)
         # Return finishes the name and does not press the Start button.
         self.display.key("Return")
-        place = self.display.move_window(program.windows()[0], 200, 100)
+        place = self.move(program, 200, 100)
         program.close_all()
         for _ in range(3):
             program.start()

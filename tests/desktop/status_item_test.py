@@ -36,21 +36,27 @@ class StatusItemTest(DesktopTest):
         program = self.start(panel)
         window, = program.windows()
         self.start_minutes(program, 5)
-        item = panel.wait_for_item()
-        self.assertLess(abs(item.width - item.height), 4)
+        wait_until(lambda: self.is_square(panel.wait_for_item()), "the item is a square")
         self.display.minimise(window)
-        panel.press()
-        self.display.wait_until_active(window)
+        self.bring_back(program, panel.press, window)
         self.display.act("set_desktop", 1)
         wait_until(lambda: self.display.active_window() != window, "the window is not active")
-        panel.press()
-        self.display.wait_until_active(window)
+        self.bring_back(program, panel.press, window)
         self.assert_soon(lambda: self.display.property("_NET_CURRENT_DESKTOP"), "0")
         self.display.move_pointer(self.display.width // 2, self.display.height // 2)
         self.display.key("Return")
         program.wait_for_button("Start")
         panel.wait_for_no_item()
         return program
+
+    def is_square(self, item):
+        return abs(item.width - item.height) < 4
+
+    def bring_back(self, program, act, window):
+        """Does what brings a window back, and waits until the program has done all it does then."""
+        act()
+        self.display.wait_until_active(window)
+        program.catch_up()
 
     def test_one_timer_shows_and_a_press_brings_it_back(self):
         self.quit(self.check_one_timer(XfcePanel(self.session)))
@@ -103,8 +109,9 @@ class StatusItemTest(DesktopTest):
             panel.open_menu()
             program.answers()
             # The menu receives the keys, although no window is active.
-            self.display.act("key", "--delay", "0", *["Down"] * presses, "Return")
-            self.display.wait_until_active(window)
+            keys = ["Down"] * presses + ["Return"]
+            self.bring_back(program, lambda k=keys: self.display.act("key", "--delay", "0", *k),
+                            window)
         self.quit(program)
 
     def test_several_timers_are_listed_and_a_line_brings_its_timer_back(self):
@@ -125,8 +132,7 @@ class StatusItemTest(DesktopTest):
             panel.wait_for_item()
         window, = program.windows()
         self.display.minimise(window)
-        panel.press()
-        self.display.wait_until_active(window)
+        self.bring_back(program, panel.press, window)
         self.quit(program)
 
     def test_the_item_leaves_the_tray_when_a_watcher_appears(self):

@@ -87,8 +87,16 @@ class Panel:
         return Rect(self.strip.x + left, self.strip.y + top, right - left + 1, bottom - top + 1)
 
     def wait_for_item(self):
-        wait_until(lambda: self.item() is not None, "the item shows in the panel")
-        return self.item()
+        """Waits until the item shows; returns its place."""
+        item = None
+
+        def shows():
+            nonlocal item
+            item = self.item()
+            return item is not None
+
+        wait_until(shows, "the item shows in the panel")
+        return item
 
     def wait_for_no_item(self):
         wait_until(lambda: self.item() is None, "the panel is empty")
