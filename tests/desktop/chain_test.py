@@ -37,6 +37,8 @@ class ChainTest(DesktopTest):
         with self.display.dragging(self.margin(source), self.margin(target), button, key):
             self.wait_until_lit(target, source)
         self.wait_until_dark(target, source)
+        # A link brings its target forward.
+        self.display.wait_until_active(target)
 
     def is_lit(self, window):
         x, y = self.margin(window)
@@ -70,7 +72,6 @@ class ChainTest(DesktopTest):
         first, second, third = self.launch_timers(3)
         self.link(first, second)
         self.wait_for_chain(first, second)
-        self.display.wait_until_active(first)
         # A drag with the right button needs no Ctrl key.
         self.link(second, third, button=3, key=None)
         self.wait_for_chain(first, second, third)

@@ -150,7 +150,7 @@ class XfcePanel(Panel):
         wait_until(lambda: not self.is_there(self.WATCHER), "the panel is closed")
 
     def close(self):
-        processes.end(self.process)
+        self.stop()
         processes.end(self.settings)
 
 
@@ -166,6 +166,7 @@ class Tint2(Panel):
         self.process = processes.start(["tint2", "-c", configuration], session.environment)
         wait_until(lambda: self.display.color_at(5, self.strip.bottom - 5) != (0, 0, 0),
                    "the panel shows")
+        wait_until(lambda: self.display.x.has_owner("_NET_SYSTEM_TRAY_S0"), "the tray takes items")
 
     def close(self):
         processes.end(self.process)

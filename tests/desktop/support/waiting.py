@@ -11,7 +11,7 @@ class Gone(Exception):
     """An object of the desktop that was there a moment ago is gone."""
 
 
-def wait_until(condition, what, seconds=PATIENCE, pause=0.01):
+def wait_until(condition, what, *, seconds=PATIENCE, pause=0.01):
     """Polls a condition until it holds; returns how many seconds that took.
 
     The condition does not hold while it asks an object that is just going away.

@@ -67,6 +67,7 @@ TRANSLATE = declare(X, "XTranslateCoordinates", c_int, c_void_p, c_ulong, c_ulon
                     POINTER(c_int), POINTER(c_int), POINTER(c_ulong))
 TREE = declare(X, "XQueryTree", c_int, c_void_p, c_ulong, POINTER(c_ulong), POINTER(c_ulong),
                POINTER(c_void_p), POINTER(c_uint))
+OWNER = declare(X, "XGetSelectionOwner", c_ulong, c_void_p, c_ulong)
 FOCUS = declare(X, "XGetInputFocus", c_int, c_void_p, POINTER(c_ulong), POINTER(c_int))
 IMAGE = declare(X, "XGetImage", POINTER(Image), c_void_p, c_ulong, c_int, c_int, c_uint, c_uint,
                 c_ulong, c_int)
@@ -168,6 +169,9 @@ class XServer:
         return (ATTRIBUTES(self.connection, window, byref(attributes)) != 0
                 and attributes.window_class == INPUT_OUTPUT and attributes.map_state == VIEWABLE
                 and attributes.override_redirect != 0 and self.property(window, "WM_CLASS") != b"")
+
+    def has_owner(self, selection):
+        return OWNER(self.connection, self.atom(selection)) != 0
 
     def focus(self):
         """Returns the top-level window with the keyboard focus; 0 if none has it."""
