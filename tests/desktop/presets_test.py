@@ -48,7 +48,9 @@ class PresetsTest(DesktopTest):
         place = self.move(program, 300, 200)
         self.display.key("ctrl+4")
         program.catch_up()
-        time.sleep(1)
+        waits, saved = self.waits(program), time.monotonic()
+        while time.monotonic() < saved + 1 + waits.seconds():
+            time.sleep(0.05)
         program.kill()
         self.check_tea(program)
 
