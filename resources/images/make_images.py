@@ -12,7 +12,7 @@ It writes, next to itself:
     sound_high.png, sound_high@2x.png              a sounding loudspeaker
     sound_mute.png, sound_mute@2x.png              the same one, crossed out
     chain.png, chain@2x.png                        two links, dragged to join timers
-    status_icon-22.png ... status_icon-48.png      the icon in the panel
+    status_icon-22.png ... status_icon-64.png      the icon in the panel
 
 A picture is a list of shapes whose outlines use the SVG path letters M, L, C
 and Z. The same shapes are painted into the PNG files and written into the SVG
@@ -60,6 +60,16 @@ TONGUE = (
 SMALL_EAR = "M 5 3 C 3 2 0 3 0 6 L 0 9 C 0 11.5 3 11.5 3 9 C 3 7 4 5 5 3 Z"
 PANEL_EAR = "M 7 4 C 4 2.5 0 4 0 9 L 0 12.5 C 0 15.8 4 15.8 4 12.5 C 4 9.5 5.5 7 7 4 Z"
 SMALL_NOSE = "M 6 10 L 10 10 L 10 11 L 9 11 L 9 12 L 7 12 L 7 11 L 6 11 Z"
+MEDIUM_NOSE = "M 13 20 L 19 20 L 19 22 L 18 22 L 18 23 L 14 23 L 14 22 L 13 22 Z"
+MEDIUM_MOUTH = (
+    "M 11 24 L 12 24 L 12 25 L 20 25 L 20 24 L 21 24 L 21 25 "
+    "L 20 25 L 20 26 L 12 26 L 12 25 L 11 25 Z"
+)
+PANEL_NOSE = "M 9 13 L 13 13 L 13 15 L 12 15 L 12 16 L 10 16 L 10 15 L 9 15 Z"
+PANEL_MOUTH = (
+    "M 8 17 L 9 17 L 9 18 L 13 18 L 13 17 L 14 17 L 14 18 "
+    "L 13 18 L 13 19 L 9 19 L 9 18 L 8 18 Z"
+)
 LOUDSPEAKER = "M 4 9 L 7 9 L 11 6 L 11 18 L 7 15 L 4 15 Z"
 
 
@@ -168,36 +178,34 @@ def large_icon() -> Picture:
 
 
 def medium_icon() -> Picture:
-    """For 32 units: without the marks of the dial, with bolder features."""
+    """For 32 units: without the marks of the dial, with bolder features on whole pixels."""
     return [
-        Shape(rectangle(14, 3, 4, 4), TEAL_DARK),
-        Shape(line(12.5, 2.5, 19.5, 2.5), stroke=TEAL, width=3),
+        Shape(rectangle(14, 4, 4, 4), TEAL_DARK),
+        Shape(rectangle(11, 1, 10, 3), TEAL),
         Shape(circle(16, 19, 12), TEAL),
         Shape(circle(16, 19, 10), CREAM),
         Shape(quarter(16, 19, 10), CARAMEL),
         *ears(transformed(EAR, 0.125, 0.125, 0, 0), 16),
-        Shape(line(12, 16, 12, 17), stroke=INK, width=2),
-        Shape(line(20, 16, 20, 17), stroke=INK, width=2),
-        Shape(arc(14, 23, 2, 90, 75), stroke=INK, width=1.2),
-        Shape(arc(18, 23, 2, 90, 75), stroke=INK, width=1.2),
-        Shape(ellipse(16, 21, 3, 2), INK),
+        Shape(rectangle(11, 15, 2, 3), INK),
+        Shape(rectangle(19, 15, 2, 3), INK),
+        Shape(MEDIUM_NOSE, INK),
+        Shape(MEDIUM_MOUTH, INK),
     ]
 
 
 def panel_icon() -> Picture:
-    """For 22 units: the small one with a mouth, on a grid of its own."""
+    """For 22 units: the small one with a mouth. Straight edges lie between its pixels."""
     return [
         Shape(rectangle(10, 2, 2, 2), TEAL_DARK),
         Shape(rectangle(7, 0, 8, 2), TEAL),
-        Shape(circle(11, 12.5, 9.5), TEAL),
-        Shape(circle(11, 12.5, 7.6), CREAM),
-        Shape(quarter(11, 12.5, 7.6), CARAMEL),
+        Shape(circle(11, 13, 9), TEAL),
+        Shape(circle(11, 13, 7), CREAM),
+        Shape(quarter(11, 13, 7), CARAMEL),
         *ears(PANEL_EAR, 11),
         Shape(rectangle(7, 10, 2, 2), INK),
         Shape(rectangle(13, 10, 2, 2), INK),
-        Shape(arc(9.5, 15.5, 1.5, 90, 75), stroke=INK, width=1),
-        Shape(arc(12.5, 15.5, 1.5, 90, 75), stroke=INK, width=1),
-        Shape(ellipse(11, 14.2, 2.2, 1.4), INK),
+        Shape(PANEL_NOSE, INK),
+        Shape(PANEL_MOUTH, INK),
     ]
 
 
@@ -232,12 +240,25 @@ def status_icon() -> Picture:
     """For 22 units: the timer without the dog. Its ring stands out from any panel."""
     return [
         Shape(rectangle(10, 2, 2, 3), TEAL_DARK),
-        Shape(line(8.5, 1.5, 13.5, 1.5), stroke=TEAL, width=2),
+        Shape(rectangle(7, 0, 8, 2), TEAL),
         Shape(circle(11, 13, 9), TEAL),
-        Shape(circle(11, 13, 6.6), CREAM),
-        Shape(quarter(11, 13, 6.6), CARAMEL),
-        Shape(line(11, 13, 11, 8.5), stroke=INK, width=1.6),
-        Shape(line(11, 13, 14, 13), stroke=INK, width=1.6),
+        Shape(circle(11, 13, 7), CREAM),
+        Shape(quarter(11, 13, 7), CARAMEL),
+        Shape(rectangle(10, 8, 2, 6), INK),
+        Shape(rectangle(10, 12, 5, 2), INK),
+    ]
+
+
+def larger_status_icon() -> Picture:
+    """For 32 units: the same on their grid."""
+    return [
+        Shape(rectangle(14, 3, 4, 4), TEAL_DARK),
+        Shape(rectangle(10, 0, 12, 3), TEAL),
+        Shape(circle(16, 19, 13), TEAL),
+        Shape(circle(16, 19, 10), CREAM),
+        Shape(quarter(16, 19, 10), CARAMEL),
+        Shape(rectangle(15, 12, 2, 8), INK),
+        Shape(rectangle(15, 18, 7, 2), INK),
     ]
 
 
@@ -365,10 +386,13 @@ def main() -> None:
     paint(panel_icon(), "wuffer-22.png", 22, 22)
     paint(panel_icon(), "wuffer-24.png", 22, 24, 1)
     paint(medium_icon(), "wuffer-32.png", 32, 32)
+    paint(panel_icon(), "wuffer-44.png", 22, 44)
     for size in (48, 64, 128, 256):
         paint(large_icon(), f"wuffer-{size}.png", 256, size)
-    for size in (22, 24, 32, 44, 48):
-        paint(status_icon(), f"status_icon-{size}.png", 22, size)
+    for size, margin in (22, 0), (24, 1), (44, 0), (48, 2):
+        paint(status_icon(), f"status_icon-{size}.png", 22, size, margin)
+    for size in (32, 64):
+        paint(larger_status_icon(), f"status_icon-{size}.png", 32, size)
     write_svg(large_icon(), "wuffer.svg", 256)
     write_svg(symbolic_icon(), "wuffer-symbolic.svg", 16)
     for name, picture in ("sound_high", sounding()), ("sound_mute", muted()):

@@ -10,7 +10,7 @@
 static QIcon statusIcon()
 {
     QIcon icon;
-    for (const int size : {22, 24, 32, 44, 48})
+    for (const int size : {22, 24, 32, 44, 48, 64})
         icon.addFile(QStringLiteral(":/images/status_icon-%1.png").arg(size), QSize(size, size));
     return icon;
 }

@@ -16,7 +16,7 @@ static QIcon applicationIcon()
     // The resources of a static library are not registered by themselves.
     Q_INIT_RESOURCE(wuffer);
     QIcon icon;
-    for (const int size : {16, 32, 48, 64, 128})
+    for (const int size : {16, 22, 24, 32, 44, 48, 64, 128})
         icon.addFile(QStringLiteral(":/images/wuffer-%1.png").arg(size), QSize(size, size));
     return icon;
 }

@@ -59,6 +59,7 @@ class tst_StatusPresenter final : public Test
     Q_OBJECT
 
 private Q_SLOTS:
+    void theImageHasADrawingForEachSizeOfAPanel();
     void withoutARunningTimerTheItemIsEmpty();
     void aStartedTimerShowsAndAStoppedOneDoesNot();
     void theTitleFollowsTheDisplay();
@@ -90,6 +91,16 @@ private Q_SLOTS:
     void manyTimersCostNoMoreThanTheirTitle();
     void theItemIsEmptyWhenTheControllerHasGone();
 };
+
+void tst_StatusPresenter::theImageHasADrawingForEachSizeOfAPanel()
+{
+    StatusFixture t;
+    t.startAnother(60);
+    const QIcon image = t.statusItem.image();
+    for (const int size : {22, 24, 32, 44, 48, 64})
+        QVERIFY2(image.availableSizes().contains(QSize(size, size)),
+                 QByteArray::number(size).constData());
+}
 
 void tst_StatusPresenter::withoutARunningTimerTheItemIsEmpty()
 {

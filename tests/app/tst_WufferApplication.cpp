@@ -2,6 +2,7 @@
 #include "support/TestMain.h"
 #include "support/TimerFixture.h"
 
+#include <QIcon>
 #include <QMainWindow>
 #include <QMenuBar>
 #include <QWindow>
@@ -12,6 +13,7 @@ class tst_WufferApplication final : public Test
     Q_OBJECT
 
 private Q_SLOTS:
+    void theIconHasADrawingForEachSizeOfAPanel();
     void withoutTimersTheListIsEmpty();
     void timersAreListedInTheOrderInWhichTheyWereMade();
     void theListMayBeWalkedWhileTimersClose();
@@ -57,6 +59,16 @@ private:
         QTest::keyRelease(window.windowHandle(), key, modifiers);
     }
 };
+
+void tst_WufferApplication::theIconHasADrawingForEachSizeOfAPanel()
+{
+    const QIcon icon = QApplication::windowIcon();
+    for (const int size : {16, 22, 24, 32, 44, 48, 64}) {
+        QVERIFY2(icon.availableSizes().contains(QSize(size, size)),
+                 QByteArray::number(size).constData());
+        QCOMPARE(icon.pixmap(size).size(), QSize(size, size));
+    }
+}
 
 void tst_WufferApplication::withoutTimersTheListIsEmpty()
 {
