@@ -1,6 +1,7 @@
 #include "app/WufferApplication.h"
 
 #include "BuildInfo.h"
+#include "app/ProgramStyle.h"
 #include "platform/ProcessTuning.h"
 #include "timer/Wuffer.h"
 #include "timer/WufferWindow.h"
@@ -51,6 +52,8 @@ WufferApplication::WufferApplication(int &argc, char **argv) : QApplication(argc
     setApplicationVersion(BuildInfo::version());
     setDesktopFileName(BuildInfo::applicationId());
     setWindowIcon(applicationIcon());
+    // The application becomes its owner.
+    setStyle(std::make_unique<ProgramStyle>().release());
     _theme.follow();
     // A blinking caret would wake an idle program twice a second.
     setCursorFlashTime(0);

@@ -1,0 +1,6 @@
+#include "platform/AnimationSetting.h"
+
+bool AnimationSetting::isOn()
+{
+    return true;
+}
