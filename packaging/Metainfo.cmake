@@ -45,6 +45,14 @@ function(wuffer_metainfo_screenshots result address)
       <caption>The options of a timer</caption>
       <image>${address}/options.png</image>
     </screenshot>
+    <screenshot>
+      <caption>Several timers on a dark desktop</caption>
+      <image>${address}/timers-dark.png</image>
+    </screenshot>
+    <screenshot>
+      <caption>The options of a timer on a dark desktop</caption>
+      <image>${address}/options-dark.png</image>
+    </screenshot>
   </screenshots>
 " PARENT_SCOPE)
 endfunction()

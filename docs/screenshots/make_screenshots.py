@@ -3,8 +3,8 @@
 
 Usage: make_screenshots.py WUFFER
 
-It needs what the tests of the whole program need, and writes timers.png and options.png next to
-itself.
+It needs what the tests of the whole program need, and optipng. It writes timers.png and options.png
+next to itself, and timers-dark.png and options-dark.png, taken on a dark desktop.
 """
 
 import json
@@ -12,6 +12,7 @@ import os
 import pathlib
 import sys
 import time
+from typing import NamedTuple
 
 HERE = pathlib.Path(__file__).resolve().parent
 sys.path.insert(1, str(HERE.parent.parent / "tests" / "desktop"))
@@ -22,7 +23,6 @@ from support.session import Session  # noqa: E402
 from support.waiting import wait_until  # noqa: E402
 
 SIZE = (1120, 630)
-BACKGROUND = "#6f9ea3"
 PRESETS = {
     "Preset 1": {"title": "Green tea", "minutes": 3},
     "Preset 2": {"title": "Sourdough", "minutes": 50, "seconds": 30},
@@ -33,16 +33,65 @@ for preset in PRESETS.values():
     preset["finishOption"] = "Do Nothing"
 PLACES = [(60, 40), (590, 40), (60, 330), (590, 330)]
 
+# The colours of a dark desktop, as Plasma stores them for all programs.
+DARK_COLORS = {
+    "Window": ("42,46,50", "252,252,252"),
+    "View": ("27,30,32", "252,252,252"),
+    "Button": ("49,54,59", "252,252,252"),
+    "Selection": ("61,174,233", "252,252,252"),
+    "Tooltip": ("49,54,59", "252,252,252"),
+}
+DARK_DESKTOP = {"XDG_CURRENT_DESKTOP": "KDE", "KDE_FULL_SESSION": "true",
+                "KDE_SESSION_VERSION": "5"}
+
+
+class Desktop(NamedTuple):
+    """A desktop on which pictures are taken."""
+
+    suffix: str
+    background: str
+    frames: str
+    colors: dict
+    environment: dict
+
+
+DESKTOPS = [Desktop("", "#6f9ea3", "Clearlooks", {}, {}),
+            Desktop("-dark", "#2f4a4d", "Nightmare-02", DARK_COLORS, DARK_DESKTOP)]
+
+
+def frame_windows(session, theme):
+    """Gives the frames of all windows a theme of the window manager."""
+    configuration = pathlib.Path("/etc/xdg/openbox/rc.xml").read_text(encoding="utf-8")
+    folder = pathlib.Path(session.folder, ".config", "openbox")
+    folder.mkdir(parents=True)
+    (folder / "rc.xml").write_text(
+        configuration.replace("<name>Clearlooks</name>", f"<name>{theme}</name>"), encoding="utf-8")
+    processes.run(["openbox", "--reconfigure"], session.display.environment)
+    display = session.display
+    wait_until(lambda: display.x.text(display.x.root, "_OB_THEME") == theme, 5, f"{theme} is used")
+
+
+def start(session, desktop):
+    """Starts the program with the presets."""
+    program = Program(session, settings=json.dumps(PRESETS), environment=desktop.environment)
+    if desktop.colors:
+        scheme = "".join(f"[Colors:{part}]\nBackgroundNormal={ground}\nForegroundNormal={text}\n\n"
+                         for part, (ground, text) in desktop.colors.items())
+        pathlib.Path(program.home, "config", "kdeglobals").write_text(scheme, encoding="ascii")
+    program.start()
+    return program
+
 
 def take_picture(display, name):
-    Picture(display).save(HERE / name)
+    path = str(HERE / name)
+    Picture(display).save(path)
     # Without the time stamp, equal pictures are equal files.
-    processes.run(["mogrify", "-strip", str(HERE / name)], display.environment)
+    processes.run(["mogrify", "-strip", path], display.environment)
+    processes.run(["optipng", "-quiet", "-o2", path], display.environment)
 
 
-def timers(session):
-    program = Program(session, settings=json.dumps(PRESETS))
-    program.start()
+def timers(session, desktop):
+    program = start(session, desktop)
     display = session.display
     for number in range(1, len(PRESETS) + 1):
         display.key(f"alt+{number}")
@@ -57,13 +106,12 @@ def timers(session):
     wait_until(lambda: any(label.name in ("4s", "5s")
                            for label in program.all("display", description="Time")),
                "the display of one is red")
-    take_picture(display, "timers.png")
+    take_picture(display, f"timers{desktop.suffix}.png")
     program.kill()
 
 
-def options(session):
-    program = Program(session, settings=json.dumps(PRESETS))
-    program.start()
+def options(session, desktop):
+    program = start(session, desktop)
     display = session.display
     display.key("alt+1")
     first, window = program.wait_for_windows(2)
@@ -74,23 +122,29 @@ def options(session):
     wait_until(lambda: program.has("button", "Hide Options"), "the drawer opens")
     # Wait until the drawer has slid out.
     time.sleep(1)
-    take_picture(display, "options.png")
+    take_picture(display, f"options{desktop.suffix}.png")
     program.kill()
+
+
+def take_pictures(desktop):
+    session = Session(SIZE)
+    frame_windows(session, desktop.frames)
+    backdrop = processes.start(
+        ["display", "-window", "root", "-size", "x".join(map(str, SIZE)),
+         f"xc:{desktop.background}"], session.display.environment)
+    try:
+        backdrop.wait(timeout=10)
+        timers(session, desktop)
+        options(session, desktop)
+    finally:
+        processes.end(backdrop)
+        session.close()
 
 
 def main():
     Program.executable = os.path.abspath(sys.argv[1])
-    session = Session(SIZE)
-    backdrop = processes.start(
-        ["display", "-window", "root", "-size", "x".join(map(str, SIZE)), f"xc:{BACKGROUND}"],
-        session.display.environment)
-    try:
-        backdrop.wait(timeout=10)
-        timers(session)
-        options(session)
-    finally:
-        processes.end(backdrop)
-        session.close()
+    for desktop in DESKTOPS:
+        take_pictures(desktop)
 
 
 if __name__ == "__main__":
