@@ -2,6 +2,7 @@
 
 #include "base/Clock.h"
 #include "base/Service.h"
+#include "controls/ReadableCalendar.h"
 #include "rules/TimeDistance.h"
 #include "rules/TimerTexts.h"
 #include "ui_TargetTime.h"
@@ -51,6 +52,7 @@ TargetTimeSheet::TargetTimeSheet(QWidget &parent) :
         QStyle::visualAlignment(layoutDirection(), Qt::AlignLeading));
     _ui->_targetDateField->setDisplayFormat(displayFormat());
     _ui->_targetCalendar->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
+    new ReadableCalendar(*_ui->_targetCalendar);
     //: Accessible name: the arrow of the calendar that turns one month back.
     name(*_ui->_targetCalendar, QStringLiteral("qt_calendar_prevmonth"), tr("Previous month"));
     //: Accessible name: the arrow of the calendar that turns one month on.

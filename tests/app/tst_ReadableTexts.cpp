@@ -5,6 +5,7 @@
 #include "support/Themes.h"
 #include "support/TimerUser.h"
 
+#include <QListWidget>
 #include <QMenuBar>
 #include <QTabWidget>
 
@@ -51,11 +52,13 @@ class tst_ReadableTexts final : public Test
 private Q_SLOTS:
     void cleanupTestCase() { QApplication::setPalette(_start); }
     void aTooPaleTextIsFound();
+    void aTooPaleItemIsFound();
     void everyWindowIsReadable_data();
     void everyWindowIsReadable();
     void aTimerIsReadableInEachState_data();
     void aTimerIsReadableInEachState();
     void aNewThemeCountsAtOnce();
+    void aNewThemeCountsAtOnceInTheCalendar();
     void theColorsThatATimerSetsAreThoseOfEveryTheme();
     void aHighlightedWindowHasDarkTexts();
 
@@ -77,6 +80,19 @@ void tst_ReadableTexts::aTooPaleTextIsFound()
     QCOMPARE(unreadable(), QString());
     pale.setEnabled(false);
     QCOMPARE(TextContrasts::of(window).size(), 0);
+}
+
+void tst_ReadableTexts::aTooPaleItemIsFound()
+{
+    setTheme(kThemes[0]);
+    QListWidget list;
+    list.addItems({QStringLiteral("Tea"), QStringLiteral("Eggs")});
+    list.show();
+    QCOMPARE(unreadable(), QString());
+    list.item(1)->setForeground(QColor(190, 190, 190));
+    const QString found = unreadable();
+    QCOMPARE(found.count(QLatin1Char('\n')), 1);
+    QVERIFY(found.contains(QStringLiteral("Eggs")));
 }
 
 void tst_ReadableTexts::everyWindowIsReadable_data()
@@ -177,6 +193,17 @@ void tst_ReadableTexts::aNewThemeCountsAtOnce()
     Program program;
     Program::newest().startCountdown(5);
     for (const Theme &theme : {kThemes[1], kThemes[0], kThemes[2], kThemes[3], kThemes[1]}) {
+        setTheme(theme);
+        EVERY_TEXT_IS_READABLE;
+    }
+}
+
+void tst_ReadableTexts::aNewThemeCountsAtOnceInTheCalendar()
+{
+    setTheme(kThemes[0]);
+    Program program;
+    Program::newest().timer.targetTime();
+    for (const Theme &theme : {kThemes[1], kThemes[0], kThemes[2], kThemes[3]}) {
         setTheme(theme);
         EVERY_TEXT_IS_READABLE;
     }

@@ -4,6 +4,7 @@
 #include "controls/DisplayLabel.h"
 #include "controls/LegibleWhenDisabled.h"
 
+#include <QAbstractItemModel>
 #include <QAbstractItemView>
 #include <QAbstractSpinBox>
 #include <QCheckBox>
@@ -29,17 +30,28 @@ namespace
 constexpr int kEnlargement = 4;
 /// Fewer points of a colour than this are no stroke of a letter.
 constexpr int kLeastPoints = 6;
+/// How many characters of a text name its place.
+constexpr int kLongestText = 40;
 
-/// Where the texts of a widget are, in its own coordinates.
-using Rooms = QList<QRect>;
+/// A text of a widget, and where it is in the widget's own coordinates.
+struct Room
+{
+    QRect place;
+    QString text;
+};
+using Rooms = QList<Room>;
 
 Rooms ofButton(const QAbstractButton &button, QStyle::SubElement element)
 {
     QStyleOptionButton option;
     option.initFrom(&button);
-    return button.text().isEmpty()
-               ? Rooms()
-               : Rooms{button.style()->subElementRect(element, &option, &button)};
+    return {{button.style()->subElementRect(element, &option, &button), button.text()}};
+}
+
+Rooms ofToolButton(const QToolButton &button)
+{
+    constexpr int frame = 4;
+    return {{button.rect().adjusted(frame, frame, -frame, -frame), button.text()}};
 }
 
 Rooms ofComboBox(const QComboBox &box)
@@ -50,8 +62,7 @@ Rooms ofComboBox(const QComboBox &box)
     option.frame = true;
     const QRect room = box.style()->subControlRect(QStyle::CC_ComboBox, &option,
                                                    QStyle::SC_ComboBoxEditField, &box);
-    return box.isEditable() || box.currentText().isEmpty() ? Rooms()
-                                                           : Rooms{room.adjusted(2, 2, -2, -2)};
+    return box.isEditable() ? Rooms() : Rooms{{room.adjusted(2, 2, -2, -2), box.currentText()}};
 }
 
 Rooms ofActions(const QWidget &menu)
@@ -61,10 +72,11 @@ Rooms ofActions(const QWidget &menu)
         if (!action->isEnabled() || action->isSeparator() || !action->isVisible())
             continue;
         if (const auto *bar = qobject_cast<const QMenuBar *>(&menu))
-            rooms << bar->actionGeometry(action).adjusted(2, 2, -2, -2);
+            rooms << Room{bar->actionGeometry(action).adjusted(2, 2, -2, -2), action->text()};
         else
-            rooms << static_cast<const QMenu &>(menu).actionGeometry(action).adjusted(24, 2, -8,
-                                                                                      -2);
+            rooms << Room{
+                static_cast<const QMenu &>(menu).actionGeometry(action).adjusted(24, 2, -8, -2),
+                action->text()};
     }
     return rooms;
 }
@@ -73,28 +85,48 @@ Rooms ofTabs(const QTabBar &bar)
 {
     Rooms rooms;
     for (int index = 0; index < bar.count(); ++index)
-        rooms << bar.tabRect(index).adjusted(6, 6, -6, -6);
+        rooms << Room{bar.tabRect(index).adjusted(6, 6, -6, -6), bar.tabText(index)};
     return rooms;
 }
 
 Rooms ofLineEdit(const QLineEdit &field)
 {
     constexpr int frame = 4;
-    const bool empty = field.displayText().isEmpty() && field.placeholderText().isEmpty();
-    return empty ? Rooms() : Rooms{field.rect().adjusted(frame, frame, -frame, -frame)};
+    const QString text = field.displayText();
+    return {{field.rect().adjusted(frame, frame, -frame, -frame),
+             text.isEmpty() ? field.placeholderText() : text}};
 }
 
-Rooms inside(const QWidget &widget, const QString &text)
+Rooms ofItems(const QAbstractItemView &view)
 {
-    return text.isEmpty() ? Rooms() : Rooms{widget.rect()};
+    Rooms rooms;
+    const QAbstractItemModel &model = *view.model();
+    for (int row = 0; row < model.rowCount(view.rootIndex()); ++row) {
+        for (int column = 0; column < model.columnCount(view.rootIndex()); ++column) {
+            const QModelIndex index = model.index(row, column, view.rootIndex());
+            if (model.flags(index).testFlag(Qt::ItemIsEnabled))
+                rooms << Room{view.visualRect(index), index.data().toString()};
+        }
+    }
+    return rooms;
 }
 
-Rooms roomsOf(const QWidget &widget)
+Rooms ofContents(const QWidget &viewport)
+{
+    const QWidget *area = viewport.parentWidget();
+    const auto *text = qobject_cast<const QTextEdit *>(area);
+    if (text && text->viewport() == &viewport)
+        return {{viewport.rect(), text->toPlainText()}};
+    const auto *view = qobject_cast<const QAbstractItemView *>(area);
+    return view && view->viewport() == &viewport ? ofItems(*view) : Rooms();
+}
+
+Rooms allRoomsOf(const QWidget &widget)
 {
     if (const auto *label = qobject_cast<const DisplayLabel *>(&widget))
-        return inside(widget, label->text());
+        return {{widget.rect(), label->text()}};
     if (const auto *label = qobject_cast<const QLabel *>(&widget))
-        return inside(widget, label->text());
+        return {{widget.rect(), label->text()}};
     if (const auto *field = qobject_cast<const QLineEdit *>(&widget))
         return ofLineEdit(*field);
     if (const auto *box = qobject_cast<const QCheckBox *>(&widget))
@@ -103,16 +135,22 @@ Rooms roomsOf(const QWidget &widget)
         return ofButton(*button, QStyle::SE_RadioButtonContents);
     if (const auto *button = qobject_cast<const QPushButton *>(&widget))
         return ofButton(*button, QStyle::SE_PushButtonContents);
+    if (const auto *button = qobject_cast<const QToolButton *>(&widget))
+        return ofToolButton(*button);
     if (const auto *combo = qobject_cast<const QComboBox *>(&widget))
         return ofComboBox(*combo);
     if (qobject_cast<const QMenu *>(&widget) || qobject_cast<const QMenuBar *>(&widget))
         return ofActions(widget);
     if (const auto *bar = qobject_cast<const QTabBar *>(&widget))
         return ofTabs(*bar);
-    const auto *text = qobject_cast<const QTextEdit *>(widget.parentWidget());
-    if (text && text->viewport() == &widget)
-        return inside(widget, text->toPlainText());
-    return {};
+    return ofContents(widget);
+}
+
+Rooms roomsOf(const QWidget &widget)
+{
+    Rooms rooms = allRoomsOf(widget);
+    rooms.removeIf([](const Room &room) { return room.text.trimmed().isEmpty(); });
+    return rooms;
 }
 
 bool isJudged(const QWidget &widget)
@@ -187,15 +225,16 @@ QList<TextContrasts::Text> TextContrasts::of(QWidget &window)
     for (const QWidget *widget : widgets) {
         if (widget->window() != &window || !isJudged(*widget))
             continue;
-        for (const QRect &room : roomsOf(*widget)) {
-            const QRect seen = room & widget->visibleRegion().boundingRect();
+        for (const Room &room : roomsOf(*widget)) {
+            const QRect seen = room.place & widget->visibleRegion().boundingRect();
             const QRect place(widget->mapTo(&window, seen.topLeft()) * kEnlargement,
                               seen.size() * kEnlargement);
             if (seen.isEmpty())
                 continue;
             Text text = measured(picture, place);
             text.place = QString::fromLatin1(widget->metaObject()->className()) + QLatin1Char(' ') +
-                         widget->objectName();
+                         widget->objectName() +
+                         QStringLiteral(" “%1”").arg(room.text.simplified().left(kLongestText));
             text.needed = neededBy(widget->font());
             texts << text;
         }

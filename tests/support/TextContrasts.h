@@ -18,7 +18,7 @@ class TextContrasts final
 public:
     struct Text
     {
-        /// The class and name of the widget, and its text where there is one.
+        /// The class and name of the widget, and how its text begins.
         QString place;
         QColor ink;
         QColor ground;
