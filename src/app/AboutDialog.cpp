@@ -60,7 +60,10 @@ AboutDialog::AboutDialog(const MainMenu &menu) : _ui(std::make_unique<Ui::About>
     _ui->_nameLabel->setText(BuildInfo::name());
     _ui->_versionLabel->setText(tr("Version %1").arg(BuildInfo::version()));
     _ui->_librariesLabel->setText(libraryTable());
-    _ui->_buttons->button(QDialogButtonBox::Close)->setFocus();
+    QPushButton *close = _ui->_buttons->button(QDialogButtonBox::Close);
+    // Like all other buttons; the cross of many themes does not suit dark colours.
+    close->setIcon({});
+    close->setFocus();
     menu.addKeysTo(*this);
 }
 

@@ -8,8 +8,25 @@
 
 #include <QFile>
 #include <QLabel>
+#include <QProxyStyle>
 #include <QPushButton>
 #include <QTextDocumentFragment>
+
+namespace
+{
+/// A style that gives icons to the buttons of dialogs, as those of some desktops do.
+class IconsOnButtons final : public QProxyStyle
+{
+public:
+    int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
+                  QStyleHintReturn *data) const override
+    {
+        return hint == SH_DialogButtonBox_ButtonsHaveIcons
+                   ? 1
+                   : QProxyStyle::styleHint(hint, option, widget, data);
+    }
+};
+} // namespace
 
 /// The dialog with the program's name, version, owner and licences.
 class tst_AboutDialog final : public Test
@@ -22,6 +39,7 @@ private Q_SLOTS:
     void itNamesTheLibrariesAndTheirLicences();
     void itsTextsCanBeSelectedByKeyboardAndMouse();
     void escapeAndReturnCloseIt();
+    void itsButtonHasNoIcon();
     void theKeysOfTheMenusWorkInIt();
     void itComesBackAndThereIsOneOnly();
 
@@ -137,6 +155,14 @@ void tst_AboutDialog::escapeAndReturnCloseIt()
         QVERIFY2(shown().isEmpty(), qPrintable(QKeySequence(key).toString()));
     }
     QVERIFY(!WufferApplication::getWuffers().front()->isRunning());
+}
+
+void tst_AboutDialog::itsButtonHasNoIcon()
+{
+    QApplication::setStyle(new IconsOnButtons);
+    const auto buttons = opened().findChildren<QPushButton *>();
+    QCOMPARE(buttons.size(), 1);
+    QVERIFY(buttons.constFirst()->icon().isNull());
 }
 
 void tst_AboutDialog::theKeysOfTheMenusWorkInIt()
