@@ -1,16 +1,27 @@
 #pragma once
 
+#include "controls/SpokenText.h"
+
 #include <QAccessibleWidget>
 
 #include <functional>
 
-/// Presents a widget to assistive programs as a button that they can press.
+/// Presents a widget to assistive programs as a button that they can press. While it has the focus,
+/// screen readers read its spoken text aloud at SpokenText::changed().
 class AccessiblePress : public QAccessibleWidget
 {
 public:
-    AccessiblePress(QWidget &widget, std::function<void()> press) :
-        QAccessibleWidget(&widget, QAccessible::Button), _press(std::move(press))
+    AccessiblePress(QWidget &widget, std::function<void()> press, std::function<QString()> spoken) :
+        QAccessibleWidget(&widget, QAccessible::Button), _press(std::move(press)),
+        _spoken(widget, std::move(spoken))
     {}
+
+    [[nodiscard]] void *interface_cast(QAccessible::InterfaceType type) override
+    {
+        if (type == QAccessible::TextInterface)
+            return static_cast<QAccessibleTextInterface *>(&_spoken);
+        return QAccessibleWidget::interface_cast(type);
+    }
 
     [[nodiscard]] QStringList actionNames() const override
     {
@@ -30,4 +41,5 @@ public:
 
 private:
     const std::function<void()> _press;
+    SpokenText _spoken;
 };

@@ -16,7 +16,9 @@ class AccessibleImageView final : public AccessiblePress
 {
 public:
     explicit AccessibleImageView(ClickableImageView &view) :
-        AccessiblePress(view, [&view] { view.click(); }), _view(view)
+        AccessiblePress(
+            view, [&view] { view.click(); }, [&view] { return view.accessibleDescription(); }),
+        _view(view)
     {}
 
     [[nodiscard]] QAccessible::State state() const override
@@ -56,6 +58,7 @@ void ClickableImageView::setChecked(bool checked)
     changed.checked = true;
     QAccessibleStateChangeEvent event(this, changed);
     QAccessible::updateAccessibility(&event);
+    SpokenText::changed(*this);
 }
 
 void ClickableImageView::mousePressEvent(QMouseEvent *event)

@@ -19,7 +19,8 @@ public:
     [[nodiscard]] QString imageName() const { return _imageName; }
 
     /// Whether assistive programs see it pressed in; at first it is not. A click does not change
-    /// that: the code that handles the click does.
+    /// that: the code that handles the click does. A change has screen readers read the accessible
+    /// description aloud, which therefore has to be the new one already.
     [[nodiscard]] bool isChecked() const { return _checked; }
     void setChecked(bool checked);
 

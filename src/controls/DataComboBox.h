@@ -1,18 +1,18 @@
 #pragma once
 
-#include <QComboBox>
+#include "controls/SpokenComboBox.h"
 
 #include <optional>
 
 /// A combo box that keeps a data object beside each entry: the entry shows a short text, while
 /// the program works with a full value. The data object of an entry that was added without one is
 /// its text. Adding entries selects none of them. A text that is too wide for the box is elided.
-class DataComboBox : public QComboBox
+class DataComboBox : public SpokenComboBox
 {
     Q_OBJECT
 
 public:
-    using QComboBox::QComboBox;
+    using SpokenComboBox::SpokenComboBox;
 
     /// Appends an entry that shows one text and stands for another.
     void addDataObject(const QString &dataObject, const QString &comboObject);

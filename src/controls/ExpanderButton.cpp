@@ -10,7 +10,10 @@ class AccessibleExpanderButton final : public AccessiblePress
 {
 public:
     explicit AccessibleExpanderButton(ExpanderButton &button) :
-        AccessiblePress(button, [&button] { button.click(); }), _button(button)
+        AccessiblePress(
+            button, [&button] { button.click(); },
+            [&button] { return Mnemonics::shown(button.text()); }),
+        _button(button)
     {}
 
     [[nodiscard]] QString text(QAccessible::Text kind) const override
@@ -48,4 +51,5 @@ void ExpanderButton::setExpanded(bool expanded)
     changed.collapsed = true;
     QAccessibleStateChangeEvent event(this, changed);
     QAccessible::updateAccessibility(&event);
+    SpokenText::changed(*this);
 }

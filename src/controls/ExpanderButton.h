@@ -11,7 +11,8 @@ class ExpanderButton final : public QPushButton
 public:
     explicit ExpanderButton(QWidget *parent = nullptr);
 
-    /// Whether the part of the window is open; at first it is not.
+    /// Whether the part of the window is open; at first it is not. A change has screen readers read
+    /// the title aloud, which therefore has to be the new one already.
     [[nodiscard]] bool isExpanded() const { return _expanded; }
     void setExpanded(bool expanded);
 

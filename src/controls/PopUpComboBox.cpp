@@ -5,7 +5,7 @@
 void PopUpComboBox::showPopup()
 {
     Q_EMIT willPopUp();
-    QComboBox::showPopup();
+    SpokenComboBox::showPopup();
 }
 
 void PopUpComboBox::wheelEvent(QWheelEvent *event)

@@ -9,6 +9,18 @@
 #include <functional>
 #include <utility>
 
+namespace
+{
+/// Puts the focus back where the user has chosen a link. Meanwhile the button was hidden, and it
+/// stays so if the user has chosen no link.
+void returnFocusToLink(const Ui::Wuffer &controls)
+{
+    QWidget *link = controls._linkButton;
+    QWidget *choice = controls._finishedCombo;
+    (link->isHidden() ? choice : link)->setFocus();
+}
+} // namespace
+
 bool Wuffer::isChained() const
 {
     return _targetWuffer || _reverseTargetWuffer;
@@ -34,6 +46,7 @@ void Wuffer::setTargetWuffer(Wuffer *timer)
     // A closed timer is about to be destroyed and takes part in no link.
     if (timer == this || _closed || (timer && timer->_closed))
         return;
+    const bool focused = _ui->_linkButton->hasFocus();
     removeTargetWuffer();
     // If the link would close a circle, this timer becomes the head.
     if (std::ranges::count(chainedWuffers(), timer) > 0)
@@ -47,6 +60,8 @@ void Wuffer::setTargetWuffer(Wuffer *timer)
         refreshKeepWuffingBox();
     }
     refreshChainStatusForAllChainedWuffers();
+    if (focused)
+        returnFocusToLink(*_ui);
     Q_EMIT stateChanged();
 }
 

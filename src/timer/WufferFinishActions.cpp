@@ -94,12 +94,14 @@ void Wuffer::populateFinishedPickerComboWithChosenTargetWuffer()
     picker.setEnabled(false);
     picker.show();
     _ui->_linkButton->show();
-    // The picker is too narrow for most names.
+    // The picker is too narrow for most names, and its disabled text cannot get the focus.
     ToolTip::set(picker,
                  _targetWuffer
                      ? tr("When finished, this timer starts “%1”").arg(picker.currentText())
                      : tr("Hold Control and drag the window of another timer onto this one: it "
                           "starts when this one has finished"));
+    _ui->_linkButton->setAccessibleDescription(_targetWuffer ? picker.accessibleDescription()
+                                                             : QString());
 }
 
 void Wuffer::handleFinishedBehaviour()

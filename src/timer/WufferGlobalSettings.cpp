@@ -50,11 +50,11 @@ void Wuffer::loadGlobalSettings()
     ClickableImageView &speaker = *_ui->_soundOffImage;
     speaker.setImage(_soundOff ? QStringLiteral("sound_mute.png")
                                : QStringLiteral("sound_high.png"));
-    speaker.setChecked(_soundOff);
     const QString press = _soundOff ? tr("Let all timers be heard again") : tr("Mute all timers");
     ToolTip::set(speaker, press);
     speaker.setAccessibleName(press);
     speaker.setAccessibleDescription(_soundOff ? tr("Sound is off") : tr("Sound is on"));
+    speaker.setChecked(_soundOff);
     handleFinishedComboChange();
     refreshSoundComboEnabledness();
     populateSoundCombos();

@@ -1,9 +1,14 @@
+#include "base/Desktop.h"
 #include "base/NotificationCenter.h"
+#include "base/Service.h"
 #include "base/UserDefaults.h"
+#include "rules/NotificationText.h"
 #include "rules/Preset.h"
 #include "rules/TimeFormat.h"
 #include "rules/TimerSettings.h"
+#include "rules/TimerTexts.h"
 #include "timer/Wuffer.h"
+#include "timer/WufferWindow.h"
 #include "ui_Wuffer.h"
 
 QString Wuffer::keyForPreset(quint32 number)
@@ -31,6 +36,9 @@ void Wuffer::setPreset(qint32 number)
     _ui->_titleField->setText(name);
     storeSettingsInDefaultsWithKey(keyForPreset(static_cast<quint32>(number)));
     showPresetMark(name, Preset::savedMark(number));
+    Service<Desktop>::current().announce(
+        *_window,
+        TimerTexts::nameAndStatus(NotificationText::line(name), Preset::savedMark(number)));
     NotificationCenter::defaultCenter().postNotificationName(Notices::kPresetsChanged, this);
 }
 

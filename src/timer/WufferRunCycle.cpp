@@ -28,7 +28,11 @@ qint32 shownMilliseconds(const Ui::Wuffer &controls)
 void Wuffer::goPressed()
 {
     _alarmNotification.answer();
+    // If the press moves the focus to the button, screen readers read its title anyway.
+    const bool focused = _ui->_goButton->hasFocus();
     toggleRun();
+    if (focused)
+        _ui->_goButton->sayTitle();
 }
 
 void Wuffer::toggleRun()

@@ -30,6 +30,7 @@ void tst_ExpanderButton::itIsAButtonNamedByItsText()
 
     QCOMPARE(seen(button).role(), QAccessible::Button);
     QCOMPARE(seen(button).text(QAccessible::Name), QStringLiteral("More & more"));
+    QCOMPARE(seen(button).textInterface()->text(0, -1), QStringLiteral("More & more"));
 }
 
 void tst_ExpanderButton::itSaysWhetherItIsExpanded()

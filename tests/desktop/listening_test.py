@@ -8,14 +8,15 @@ import time
 
 from gi.repository import Gio, GLib
 
-from support.accessibility import Atspi, Control
+from support.accessibility import ROLES, Atspi, Control
 from support.case import DesktopTest, main
 from support.waiting import PATIENCE
 
 # A muted alarm that is to do nothing rings until the user stops it.
 MUTED = '{"soundOff": 1}'
 TEA = '{"soundOff": 1, "defaultWufferSettings": {"title": "Tea"}}'
-EVENTS = ("object:state-changed:showing", "object:property-change:accessible-name")
+EVENTS = ("object:state-changed:showing", "object:property-change:accessible-name",
+          "object:text-changed:insert", "object:state-changed:focused")
 
 
 class Listener:
@@ -25,6 +26,8 @@ class Listener:
         self.program = program.application
         self.shown = []
         self.said = []
+        self.inserted = []
+        self.focused = []
         self.renamed = 0
         self.register("RegisterEvent")
         self.subscription = self.program.bus.signal_subscribe(
@@ -45,11 +48,18 @@ class Listener:
             self.renamed += 1
         if signal == "StateChanged" and kind == "showing" and begins:
             self.shown.append(path)
+        if signal == "StateChanged" and kind == "focused" and begins:
+            self.focused.append(path)
+        if signal == "TextChanged" and kind.startswith("insert"):
+            self.inserted.append(arguments.unpack()[3])
+
+    def receive(self):
+        while GLib.MainContext.default().iteration(False):
+            pass
 
     def texts(self):
         """Returns the names of the notifications that have come into view."""
-        while GLib.MainContext.default().iteration(False):
-            pass
+        self.receive()
         controls = [Control(self.program, path) for path in self.shown]
         self.shown = []
         self.program.learn_roles(controls)
@@ -57,6 +67,21 @@ class Listener:
         self.said += [control.name for control in controls
                       if control.role == int(Atspi.Role.NOTIFICATION)]
         return self.said
+
+    def insertions(self):
+        """Returns the texts that controls have read aloud, beside those typed into fields."""
+        self.receive()
+        return self.inserted
+
+    def focus(self):
+        """Returns the role and name of what the program last reported to have the focus."""
+        self.receive()
+        if not self.focused:
+            return None
+        control = Control(self.program, self.focused[-1])
+        self.program.learn_roles([control])
+        self.program.describe([control])
+        return control.role, control.name
 
     def close(self):
         self.program.bus.signal_unsubscribe(self.subscription)
@@ -147,6 +172,57 @@ class ListeningTest(DesktopTest):
         program.wait_for_button("Hide Options")
         self.assertTrue(program.find("button", "Hide Options").has_state(states.EXPANDED))
         self.quit(program)
+
+    def test_the_choice_of_a_combo_box_is_read_aloud(self):
+        program = self.launch(settings=MUTED)
+        self.press(program.find("button", "More Options"))
+        listener = self.listen(program)
+        self.tab_to(listener, "choice", "Do Nothing")
+        self.display.key("Down")
+        self.wait_for_insertions(listener, ["Loop this Wuffer"])
+        choice = program.find("choice", "Loop this Wuffer")
+        self.assertEqual(choice.text(), "Loop this Wuffer")
+        # The open list begins at the chosen entry, and says no more.
+        self.display.key("alt+Down")
+        wait_until(lambda: listener.focus() == (int(Atspi.Role.LIST_ITEM), "Loop this Wuffer"), 8,
+                   "the entry has the focus", 0.02)
+        self.display.key("Escape")
+        wait_until(lambda: listener.focus() == (int(Atspi.Role.COMBO_BOX), "Loop this Wuffer"), 8,
+                   "the box has the focus", 0.02)
+        self.assertEqual(listener.insertions(), ["Loop this Wuffer"])
+        self.quit(program)
+
+    def test_the_buttons_read_their_new_states_aloud(self):
+        program = self.launch(settings=MUTED)
+        listener = self.listen(program)
+        self.tab_to(listener, "button", "Let all timers be heard again")
+        self.display.key("space")
+        self.wait_for_insertions(listener, ["Sound is on"])
+        self.tab_to(listener, "button", "More Options")
+        self.display.key("space")
+        self.wait_for_insertions(listener, ["Sound is on", "Hide Options"])
+        self.quit(program)
+
+    def test_a_saved_preset_is_announced(self):
+        program = self.launch(settings=TEA)
+        listener = self.listen(program)
+        self.display.key("ctrl+3")
+        self.wait_for_texts(listener, ["Tea: Saved to Preset 3"])
+        self.quit(program)
+
+    def wait_for_insertions(self, listener, texts):
+        wait_until(lambda: listener.insertions() == texts, 8, f"controls say {texts}", 0.02)
+
+    def tab_to(self, listener, role, name):
+        """Presses Tab until the control has the focus."""
+        for _ in range(20):
+            before = len(listener.focused)
+            self.display.key("Tab")
+            wait_until(lambda: listener.receive() or len(listener.focused) > before, 8,
+                       "Tab moves the focus", 0.02)
+            if listener.focus() == (int(ROLES[role]), name):
+                return
+        self.fail(f"Tab does not reach {name}")
 
     def press(self, control):
         """Presses a button as an assistive program does."""

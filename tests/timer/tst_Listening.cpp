@@ -12,6 +12,14 @@ struct Fixture : TimerFixture
     {
         return *QAccessible::queryAccessibleInterface(&part<Class>(name));
     }
+    template<class Class> [[nodiscard]] bool giveFocus(const char *name) const
+    {
+        auto &control = part<Class>(name);
+        control.window()->show();
+        control.window()->activateWindow();
+        control.setFocus();
+        return QTest::qWaitFor([&control] { return control.hasFocus(); });
+    }
     [[nodiscard]] QAccessibleInterface &speaker() const { return seen<QWidget>("_soundOffImage"); }
     [[nodiscard]] QAccessibleInterface &moreOptions() const
     {
@@ -39,6 +47,9 @@ private Q_SLOTS:
     void everyPassOfALoopIsAnnounced();
     void theSpeakerIsAButtonThatStaysPressed();
     void pressingTheSpeakerClicksIt();
+    void theFocusStaysWhereALinkIsChosen();
+    void aSavedPresetIsAnnounced();
+    void aRefusedPresetIsNotAnnounced();
     void theButtonOfTheDrawerSaysWhetherItIsOpen();
     void everyChoiceHasALabel();
 };
@@ -151,6 +162,7 @@ void tst_Listening::theSpeakerIsAButtonThatStaysPressed()
 
     QCOMPARE(t.speaker().text(QAccessible::Name), QStringLiteral("Let all timers be heard again"));
     QCOMPARE(t.speaker().text(QAccessible::Description), QStringLiteral("Sound is off"));
+    QCOMPARE(t.speaker().textInterface()->text(0, -1), QStringLiteral("Sound is off"));
     QVERIFY(t.speaker().state().checked);
 }
 
@@ -165,6 +177,44 @@ void tst_Listening::pressingTheSpeakerClicksIt()
 
     QCOMPARE(clicks.count, 1);
     QCOMPARE(clicks.lastObject, &t.part<QWidget>("_soundOffImage"));
+}
+
+void tst_Listening::theFocusStaysWhereALinkIsChosen()
+{
+    Fixture t;
+    const TimerUser eggs;
+    t.chooseFinish(QStringLiteral("Start other open Wuffer"));
+    t.timer.showHideAdvanced();
+    QVERIFY(t.giveFocus<QWidget>("_linkButton"));
+
+    t.timer.setTargetWuffer(&eggs.timer);
+    QVERIFY(t.part<QWidget>("_linkButton").hasFocus());
+    QCOMPARE(t.seen<QWidget>("_linkButton").text(QAccessible::Description),
+             QStringLiteral("When finished, this timer starts “Wuffer - 0h 0m 0s”"));
+
+    // Without a link there is no button.
+    t.timer.setTargetWuffer(nullptr);
+    QVERIFY(t.part<QWidget>("_finishedCombo").hasFocus());
+}
+
+void tst_Listening::aSavedPresetIsAnnounced()
+{
+    Fixture t;
+    t.typeName(QStringLiteral("Tea"));
+
+    t.timer.setPreset(3);
+
+    QCOMPARE(t.desktop.announced, QStringList{QStringLiteral("Tea: Saved to Preset 3")});
+}
+
+void tst_Listening::aRefusedPresetIsNotAnnounced()
+{
+    Fixture t;
+    t.startCountdown(5);
+
+    t.timer.setPreset(3);
+
+    QCOMPARE(t.desktop.announced, QStringList());
 }
 
 void tst_Listening::theButtonOfTheDrawerSaysWhetherItIsOpen()

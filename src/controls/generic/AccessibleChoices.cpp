@@ -1,0 +1,3 @@
+#include "controls/AccessibleChoices.h"
+
+void AccessibleChoices::install() {}
