@@ -80,14 +80,13 @@ class NotificationActionsTest(DesktopTest):
     def test_stop_reaches_all_timers_whose_notifications_are_merged(self):
         self.start_merging_notifications()
         program = self.launch(settings=MUTED)
-        for count in (2, 3):
-            self.display.key("ctrl+n")
-            program.wait_for_windows(count)
+        for _ in range(2):
+            program.open_timer()
         self.display.key("ctrl+shift+s")
-        wait_until(lambda: len(program.all("button", "Reset")) == 3, 10, "three timers ring")
+        program.wait_for_count(3, "button", "Reset")
         self.wait_for_notifications(1)
         self.session.notifications.press("Stop")
-        wait_until(lambda: not program.all("button", "Reset"), 10, "no timer rings")
+        program.wait_for_count(0, "button", "Reset")
         self.wait_for_notifications(0)
         self.quit(program)
 
