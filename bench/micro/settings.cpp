@@ -1,7 +1,6 @@
-#include "base/JsonSettingsFormat.h"
+#include "base/UserDefaults.h"
 #include "rules/TimerSettings.h"
 
-#include <QFile>
 #include <QTemporaryDir>
 
 #include <benchmark/benchmark.h>
@@ -27,11 +26,11 @@ TimerSettings fullSettings()
 }
 
 /// As many as a settings file holds: that of the next launch, and ten presets.
-void writeRecords(QSettings &file)
+void writeRecords(UserDefaults &defaults)
 {
     for (int number = 0; number < 11; ++number)
-        file.setValue(QStringLiteral("Preset %1").arg(number), fullSettings().record());
-    file.sync();
+        defaults.setObject(fullSettings().record(), QStringLiteral("Preset %1").arg(number));
+    defaults.synchronize();
 }
 
 QString pathIn(const QTemporaryDir &folder)
@@ -58,15 +57,16 @@ BENCHMARK(settingsOfRecord);
 void writeSettingsFile(benchmark::State &state)
 {
     const QTemporaryDir folder;
-    QSettings file(pathIn(folder), JsonSettingsFormat::format());
-    writeRecords(file);
+    const QString key = QStringLiteral("turn");
+    UserDefaults defaults(pathIn(folder));
+    writeRecords(defaults);
     int turn = 0;
     for (auto _ : state) {
         // Nothing is written of a file in which nothing has changed.
-        file.setValue(QStringLiteral("turn"), ++turn);
-        file.sync();
+        defaults.setObject(++turn, key);
+        defaults.synchronize();
     }
-    if (file.status() != QSettings::NoError)
+    if (UserDefaults(pathIn(folder)).integerForKey(key) != turn)
         state.SkipWithError("the settings cannot be written");
 }
 BENCHMARK(writeSettingsFile)->Unit(benchmark::kMicrosecond);
@@ -75,18 +75,12 @@ void readSettingsFile(benchmark::State &state)
 {
     const QTemporaryDir folder;
     {
-        QSettings file(pathIn(folder), JsonSettingsFormat::format());
-        writeRecords(file);
+        UserDefaults defaults(pathIn(folder));
+        writeRecords(defaults);
     }
-    int turn = 0;
     for (auto _ : state) {
-        // The same file under another name is not the one that QSettings has read already.
-        state.PauseTiming();
-        const QString copy = pathIn(folder) + QString::number(++turn);
-        QFile::copy(pathIn(folder), copy);
-        state.ResumeTiming();
-        const QSettings file(copy, JsonSettingsFormat::format());
-        const QVariantMap record = file.value(QStringLiteral("Preset 3")).toMap();
+        const UserDefaults defaults(pathIn(folder));
+        const QVariantMap record = defaults.dictionaryForKey(QStringLiteral("Preset 3"));
         if (TimerSettings::fromRecord(record) != fullSettings())
             state.SkipWithError("the settings are not those that were written");
     }

@@ -1,14 +1,17 @@
 #pragma once
 
-#include <QSettings>
+#include <QVariantMap>
 
-/// Settings as one JSON object, for QSettings.
+#include <optional>
+
+class QByteArray;
+
+/// Settings as the text of one JSON object.
 namespace JsonSettingsFormat
 {
-/// The format to construct a QSettings with; registered at the first call.
-///
-/// A file that holds no JSON object, or is too large to be settings, is set aside (SettingsPath)
-/// and not overwritten, so that the user can still repair it by hand; if that fails, nothing is
-/// written. An empty file means that there are no settings. Only its owner may read the file.
-[[nodiscard]] QSettings::Format format();
+/// The settings in a text; nothing if the text is no JSON object. A blank text has no settings.
+[[nodiscard]] std::optional<QVariantMap> settingsIn(const QByteArray &text);
+
+/// The text of the settings, with sorted keys.
+[[nodiscard]] QByteArray textOf(const QVariantMap &settings);
 } // namespace JsonSettingsFormat

@@ -9,17 +9,13 @@
 class RegularFile final
 {
 public:
-    enum class Access { Read, Write, ReadAndWrite };
+    enum class Access { Read, ReadAndWrite };
 
     RegularFile(const QString &path, Access access);
 
     [[nodiscard]] bool isOpen() const { return _file != nullptr; }
     /// True when there is no file at the path, or the path is a link to a missing file.
     [[nodiscard]] bool isMissing() const { return _isMissing; }
-
-    /// Whether the open file is empty and no other process holds a lock on it. Always false on
-    /// systems where this cannot be checked.
-    [[nodiscard]] bool isEmptyAndUnlocked() const;
 
     /// Hands the file over for reading from its beginning; null when it is not open or was handed
     /// over before.

@@ -51,29 +51,11 @@ bool moveAway(const QString &path)
     fs::rename(native(path), native(freeNameBeside(path)), error);
     return !error;
 }
-
-/// Removes a lock without its owner's number: the process that made it was killed before it could
-/// write that, and QSettings would wait half a minute for it. A living owner holds the lock from
-/// before it writes.
-void removeUnsignedLock(const QString &lock)
-{
-    const RegularFile file(lock, RegularFile::Access::Write);
-    if (file.isOpen() && file.isEmptyAndUnlocked())
-        QFile::remove(lock);
-}
 } // namespace
 
 QString SettingsPath::cleared(const QString &path)
 {
-    using Access = RegularFile::Access;
-    const QString lock = path + QStringLiteral(".lock");
-    if (!isUsable(path, Access::Read) && !setAside(path))
-        return kUnusablePath;
-    // If the settings can be written but the lock cannot be opened, QSettings waits for it in vain.
-    if (!isUsable(lock, Access::Write) && !moveAway(lock) && isUsable(path, Access::ReadAndWrite))
-        return kUnusablePath;
-    removeUnsignedLock(lock);
-    return path;
+    return isUsable(path, RegularFile::Access::Read) || setAside(path) ? path : kUnusablePath;
 }
 
 bool SettingsPath::setAside(const QString &path)
@@ -83,9 +65,15 @@ bool SettingsPath::setAside(const QString &path)
     return (leadsToFile && moveAway(file.canonicalFilePath())) || moveAway(path);
 }
 
-bool SettingsPath::isFree(const QString &path)
+QString SettingsPath::fileAt(const QString &path)
 {
-    return RegularFile(path, RegularFile::Access::Read).isMissing();
+    const QString file = QFileInfo(path).canonicalFilePath();
+    return file.isEmpty() ? path : file;
+}
+
+bool SettingsPath::isWritable(const QString &path)
+{
+    return isUsable(path, RegularFile::Access::ReadAndWrite);
 }
 
 std::optional<QByteArray> SettingsPath::textOf(QIODevice &file)
@@ -97,12 +85,6 @@ std::optional<QByteArray> SettingsPath::textOf(QIODevice &file)
     if (text.size() < file.size())
         return {};
     return text;
-}
-
-std::optional<QByteArray> SettingsPath::textAt(const QString &path)
-{
-    const auto file = RegularFile(path, RegularFile::Access::Read).takeDevice();
-    return file ? textOf(*file) : std::nullopt;
 }
 
 void SettingsPath::makePrivateFolder(const QString &path)

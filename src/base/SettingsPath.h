@@ -11,8 +11,7 @@ class QIODevice;
 /// is not a settings file. Nothing here overwrites or removes data that the user may still want.
 namespace SettingsPath
 {
-/// Sets aside a folder, a pipe, a device or an unreadable file at the path, and a lock file that
-/// could never be locked; removes a lock that a killed process left empty. Returns the path or, if
+/// Sets aside a folder, a pipe, a device or an unreadable file at the path. Returns the path or, if
 /// that failed, one at which no file can exist, so that the settings last only as long as the
 /// program.
 [[nodiscard]] QString cleared(const QString &path);
@@ -22,15 +21,16 @@ namespace SettingsPath
 /// the link itself.
 [[nodiscard]] bool setAside(const QString &path);
 
-/// True if nothing lies at the path, or only a link that leads to nothing.
-[[nodiscard]] bool isFree(const QString &path);
+/// The file that a link at the path leads to; the path itself if there is no link, or it leads to
+/// nothing.
+[[nodiscard]] QString fileAt(const QString &path);
+
+/// Whether a file can be written at the path: there is none, or a regular one that may be written.
+[[nodiscard]] bool isWritable(const QString &path);
 
 /// The whole text of an open file; nothing if it could not be read to its end, or is too large to
 /// be settings.
 [[nodiscard]] std::optional<QByteArray> textOf(QIODevice &file);
-
-/// The same for the file at the path; nothing if that is not a regular file.
-[[nodiscard]] std::optional<QByteArray> textAt(const QString &path);
 
 /// Makes a folder and its missing parents, open to their owner only. Existing folders stay as they
 /// are.

@@ -1,17 +1,15 @@
 #include "base/UserDefaults.h"
 
-#include "base/JsonSettingsFormat.h"
 #include "base/Service.h"
-#include "base/SettingsPath.h"
+#include "base/SettingsStore.h"
 
-#include <QFileInfo>
 #include <QJsonValue>
 #include <QStandardPaths>
 
-UserDefaults::UserDefaults(const QString &path) :
-    _settings(
-        std::make_unique<QSettings>(SettingsPath::cleared(path), JsonSettingsFormat::format()))
+UserDefaults::UserDefaults(const QString &path) : _settings(std::make_unique<SettingsStore>(path))
 {}
+
+UserDefaults::~UserDefaults() = default;
 
 QString UserDefaults::standardPath()
 {
@@ -26,38 +24,36 @@ UserDefaults &UserDefaults::standardUserDefaults()
 
 std::optional<QString> UserDefaults::stringForKey(const QString &key) const
 {
-    return PropertyList::stringFrom(_settings->value(key));
+    return PropertyList::stringFrom(objectForKey(key));
 }
 
 int UserDefaults::integerForKey(const QString &key) const
 {
-    return PropertyList::integerFrom(_settings->value(key));
+    return PropertyList::integerFrom(objectForKey(key));
 }
 
 bool UserDefaults::boolForKey(const QString &key) const
 {
-    return PropertyList::boolFrom(_settings->value(key));
+    return PropertyList::boolFrom(objectForKey(key));
 }
 
 float UserDefaults::floatForKey(const QString &key) const
 {
-    return PropertyList::floatFrom(_settings->value(key));
+    return PropertyList::floatFrom(objectForKey(key));
 }
 
 QVariantMap UserDefaults::dictionaryForKey(const QString &key) const
 {
-    return PropertyList::dictionaryFrom(_settings->value(key));
+    return PropertyList::dictionaryFrom(objectForKey(key));
 }
 
 QStringList UserDefaults::stringArrayForKey(const QString &key) const
 {
-    return PropertyList::stringArrayFrom(_settings->value(key));
+    return PropertyList::stringArrayFrom(objectForKey(key));
 }
 
 void UserDefaults::setObject(const QVariant &value, const QString &key)
 {
-    // A folder that QSettings makes can be read by every user.
-    SettingsPath::makePrivateFolder(QFileInfo(_settings->fileName()).path());
     // Converted, so that the value reads now as it will read from the file.
     _settings->setValue(key, QJsonValue::fromVariant(value).toVariant());
 }
@@ -69,5 +65,10 @@ void UserDefaults::removeObjectForKey(const QString &key)
 
 void UserDefaults::synchronize()
 {
-    _settings->sync();
+    _settings->synchronize();
+}
+
+QVariant UserDefaults::objectForKey(const QString &key) const
+{
+    return _settings->value(key);
 }

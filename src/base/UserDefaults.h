@@ -3,7 +3,6 @@
 #include "base/Keys.h"
 #include "base/PropertyList.h"
 
-#include <QSettings>
 #include <QString>
 #include <QStringList>
 #include <QVariant>
@@ -11,6 +10,8 @@
 #include <memory>
 #include <optional>
 #include <type_traits>
+
+class SettingsStore;
 
 /// The settings of this user: texts, numbers, lists and dictionaries, each under a key.
 ///
@@ -23,6 +24,8 @@ class UserDefaults final
 public:
     /// The settings kept in the file at this path. The file need not exist.
     explicit UserDefaults(const QString &path);
+    ~UserDefaults();
+    Q_DISABLE_COPY_MOVE(UserDefaults)
 
     /// The path of this user's settings file.
     [[nodiscard]] static QString standardPath();
@@ -33,7 +36,7 @@ public:
     /// What stands under the key, as its type.
     template<class Value> [[nodiscard]] Value value(const SettingsKey<Value> &key) const
     {
-        return PropertyList::valueFrom<Value>(_settings->value(key.text()));
+        return PropertyList::valueFrom<Value>(objectForKey(key.text()));
     }
 
     /// Replaces whatever stood under the key.
@@ -74,9 +77,11 @@ public:
 
     void removeObjectForKey(const QString &key);
 
-    /// Writes all changes to disk now.
+    /// Writes all changes to disk now, or soon if another process is just writing its own.
     void synchronize();
 
 private:
-    std::unique_ptr<QSettings> _settings;
+    [[nodiscard]] QVariant objectForKey(const QString &key) const;
+
+    const std::unique_ptr<SettingsStore> _settings;
 };

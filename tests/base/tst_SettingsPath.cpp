@@ -27,7 +27,7 @@ void changeASetting(const QString &path, int value)
 }
 } // namespace
 
-/// What may be found at the path of the settings file, its locks, and its permissions.
+/// What may be found at the path of the settings file, and its permissions.
 class tst_SettingsPath final : public Test
 {
     Q_OBJECT
@@ -40,8 +40,6 @@ private Q_SLOTS:
     void theFileThatALinkLeadsToIsSetAsideAndTheLinkStays();
     void aFileTooLargeForSettingsIsSetAside();
     void aFileThatGrowsTooLargeMeanwhileIsSetAside();
-    void aLockThatCanNeverBeTakenIsNotWaitedFor();
-    void aLockOfAKilledProcessIsNotWaitedFor();
     void anEarlierFileSetAsideIsNotOverwritten();
     void onlyTheOwnerMayReadANewFile();
     void onlyTheOwnerMayReadARewrittenFile();
@@ -134,33 +132,6 @@ void tst_SettingsPath::aFileThatGrowsTooLargeMeanwhileIsSetAside()
 
     QCOMPARE(file.object(), (QJsonObject{{kKey, 2}}));
     QVERIFY(file.textBeside(kSetAside).size() > 20'000'000);
-}
-
-void tst_SettingsPath::aLockThatCanNeverBeTakenIsNotWaitedFor()
-{
-    const SettingsFile file;
-    file.write("{\"key\": 1}");
-    QVERIFY(QDir().mkpath(file.path() + QStringLiteral(".lock/inside")));
-
-    changeASetting(file.path(), 2);
-
-    QCOMPARE(file.object(), (QJsonObject{{kKey, 2}}));
-    QVERIFY(QFile::exists(file.path() + QStringLiteral(".lock.unreadable/inside")));
-}
-
-void tst_SettingsPath::aLockOfAKilledProcessIsNotWaitedFor()
-{
-    const SettingsFile file;
-    QFile lock(file.path() + QStringLiteral(".lock"));
-    QVERIFY(lock.open(QIODevice::WriteOnly));
-    // No process has this id.
-    lock.write("2147483647\nwuffer\n" + QSysInfo::machineHostName().toUtf8() + '\n');
-    lock.close();
-
-    changeASetting(file.path(), 2);
-
-    QCOMPARE(file.object(), (QJsonObject{{kKey, 2}}));
-    QCOMPARE(file.folder(), QStringList{kFileName});
 }
 
 void tst_SettingsPath::anEarlierFileSetAsideIsNotOverwritten()

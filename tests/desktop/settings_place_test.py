@@ -8,8 +8,10 @@ import json
 import os
 import resource
 import shutil
+import socket
 import stat
 import subprocess
+import sys
 import tempfile
 
 from support.case import DesktopTest, main
@@ -156,6 +158,19 @@ class SettingsPlaceTest(DesktopTest):
         self.quit(program)
         settings = json.loads(self.read(program.settings_path))
         self.assertEqual({key: settings.get(key) for key in KEPT}, dict(KEPT, soundOff=0))
+
+    # What lies beside the settings
+
+    def test_a_lock_that_stays(self):
+        own_name = os.path.basename(os.path.realpath(sys.executable))
+        of_this_process = f"{os.getpid()}\n{own_name}\n{socket.gethostname()}\n"
+        for text in ("", "no lock", of_this_process):
+            with self.subTest(text):
+                program = self.prepare(json.dumps(KEPT))
+                with open(program.settings_path + ".lock", "w", encoding="utf-8") as file:
+                    file.write(text)
+                self.check_works(program)
+                self.check_kept(program.settings_path, KEPT)
 
     # Permissions
 

@@ -109,7 +109,7 @@ void checkFile(const QString &path, const QByteArray &text)
 
 extern "C" int LLVMFuzzerTestOneInput(const quint8 *data, std::size_t size)
 {
-    // In memory, and with a new name each time, because QSettings caches files by name.
+    // In memory, and in a new folder each time, because a file may be set aside.
     static const QTemporaryDir folder(QStringLiteral("/dev/shm/fuzz-XXXXXX"));
     static quint64 count = 0;
     const QString own = folder.filePath(QString::number(++count));

@@ -86,9 +86,8 @@ class Lane:
         return settings["count"]
 
     def left_over(self):
-        """Returns the files in the folder except for the settings and their lock."""
-        return [name for name in os.listdir(self.folder)
-                if name not in ("settings.json", "settings.json.lock")]
+        """Returns the files in the folder except for the settings."""
+        return [name for name in os.listdir(self.folder) if name != "settings.json"]
 
 
 def main():

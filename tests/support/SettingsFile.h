@@ -24,7 +24,13 @@ public:
     [[nodiscard]] QByteArray text() const { return textOf(path()); }
 
     /// What the file holds; an empty object when it holds no JSON object.
-    [[nodiscard]] QJsonObject object() const { return QJsonDocument::fromJson(text()).object(); }
+    [[nodiscard]] QJsonObject object() const { return objectAt(path()); }
+
+    /// The same for the file at this path.
+    [[nodiscard]] static QJsonObject objectAt(const QString &path)
+    {
+        return QJsonDocument::fromJson(textOf(path)).object();
+    }
 
     /// The text of the file of this name in the same folder; null if there is none.
     [[nodiscard]] QByteArray textBeside(const QString &name) const

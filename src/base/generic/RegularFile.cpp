@@ -18,9 +18,6 @@ QIODevice::OpenMode modeFor(RegularFile::Access access)
     switch (access) {
     case RegularFile::Access::Read:
         return QIODevice::ReadOnly;
-    case RegularFile::Access::Write:
-        // Without the last, opening a file to write would empty it.
-        return QIODevice::WriteOnly | QIODevice::Append;
     case RegularFile::Access::ReadAndWrite:
         return QIODevice::ReadWrite;
     }
@@ -39,9 +36,4 @@ RegularFile::RegularFile(const QString &path, Access access)
     auto file = std::make_unique<QFile>(path);
     if (file->open(modeFor(access) | QIODevice::ExistingOnly))
         _file = std::move(file);
-}
-
-bool RegularFile::isEmptyAndUnlocked() const
-{
-    return false;
 }

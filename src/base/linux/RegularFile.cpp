@@ -2,7 +2,6 @@
 
 #include <cerrno>
 #include <fcntl.h>
-#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -19,8 +18,6 @@ Mode modeFor(RegularFile::Access access)
     switch (access) {
     case RegularFile::Access::Read:
         return {O_RDONLY, QIODevice::ReadOnly};
-    case RegularFile::Access::Write:
-        return {O_WRONLY, QIODevice::WriteOnly};
     case RegularFile::Access::ReadAndWrite:
         return {O_RDWR, QIODevice::ReadWrite};
     }
@@ -49,10 +46,4 @@ RegularFile::RegularFile(const QString &path, Access access)
         _file = std::move(file);
     else
         ::close(descriptor);
-}
-
-bool RegularFile::isEmptyAndUnlocked() const
-{
-    Q_ASSERT(_file);
-    return _file->size() == 0 && ::flock(_file->handle(), LOCK_EX | LOCK_NB) == 0;
 }
