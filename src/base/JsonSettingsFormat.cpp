@@ -1,5 +1,7 @@
 #include "base/JsonSettingsFormat.h"
 
+#include "base/JsonLimits.h"
+
 #include <QJsonDocument>
 #include <QJsonObject>
 
@@ -7,6 +9,8 @@ std::optional<QVariantMap> JsonSettingsFormat::settingsIn(const QByteArray &text
 {
     if (text.trimmed().isEmpty())
         return QVariantMap();
+    if (!JsonLimits::areKept(text))
+        return std::nullopt;
     const QJsonDocument document = QJsonDocument::fromJson(text);
     if (!document.isObject())
         return std::nullopt;

@@ -34,6 +34,8 @@ private Q_SLOTS:
     void aMissingFolderIsMade();
     void aDeeplyNestedFileDoesNoHarm_data();
     void aDeeplyNestedFileDoesNoHarm();
+    void aFileWithTooManyKeysIsSetAside();
+    void aLongListOfSoundsIsKept();
     void aFolderInItsPlaceIsSetAside();
     void aFileThatMayNotBeReadIsSetAside();
     void aFileThatMayNotBeReadAnyMoreIsNotOverwritten();
@@ -168,7 +170,8 @@ void tst_JsonSettingsFormat::aDeeplyNestedFileDoesNoHarm_data()
     QTest::addColumn<int>("depth");
     QTest::addColumn<bool>("understood");
     QTest::newRow("deep") << 500 << true;
-    QTest::newRow("too deep") << 100'000 << false;
+    QTest::newRow("too deep") << 600 << false;
+    QTest::newRow("far too deep") << 100'000 << false;
 }
 
 void tst_JsonSettingsFormat::aDeeplyNestedFileDoesNoHarm()
@@ -183,6 +186,38 @@ void tst_JsonSettingsFormat::aDeeplyNestedFileDoesNoHarm()
     QCOMPARE(file.object().value(kKey), QJsonValue(2));
     QCOMPARE(file.object().contains(QStringLiteral("deep")), understood);
     QCOMPARE(file.folder().contains(kSetAside), !understood);
+}
+
+void tst_JsonSettingsFormat::aFileWithTooManyKeysIsSetAside()
+{
+    QByteArray text = "{\"key\": 1";
+    for (int number = 0; number < 200'000; ++number)
+        text += ", \"" + QByteArray::number(number) + "\": 1";
+    text += "}";
+    const SettingsFile file;
+    file.write(text);
+
+    changeASetting(file.path(), 2);
+
+    QCOMPARE(file.textBeside(kSetAside), text);
+    QCOMPARE(file.object(), (QJsonObject{{kKey, 2}}));
+}
+
+void tst_JsonSettingsFormat::aLongListOfSoundsIsKept()
+{
+    QStringList sounds;
+    for (int number = 0; number < 200'000; ++number)
+        sounds << QStringLiteral("/%1.wav").arg(number);
+    const SettingsFile file;
+    {
+        UserDefaults defaults(file.path());
+        defaults.setValue(sounds, Keys::kSoundHistory);
+    }
+
+    changeASetting(file.path(), 2);
+
+    QCOMPARE(UserDefaults(file.path()).value(Keys::kSoundHistory), sounds);
+    QCOMPARE(file.folder(), QStringList{kFileName});
 }
 
 void tst_JsonSettingsFormat::aFolderInItsPlaceIsSetAside()

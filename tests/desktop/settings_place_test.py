@@ -110,6 +110,9 @@ class SettingsPlaceTest(DesktopTest):
     def test_a_hundred_megabytes(self):
         self.check_set_aside('{"finishedText": "' + "x" * 100_000_000 + '"}')
 
+    def test_a_million_keys(self):
+        self.check_set_aside(json.dumps({str(number): 1 for number in range(1_000_000)}))
+
     def test_as_deeply_nested_as_can_be_read(self):
         nested = {}
         for _ in range(200):
