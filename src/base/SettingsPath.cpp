@@ -15,8 +15,6 @@ namespace fs = std::filesystem;
 
 /// In bytes; a thousand times the size of any usual settings file.
 constexpr qint64 kLargestSize = 16LL * 1024 * 1024;
-/// A path at which no file can exist.
-const QString kUnusablePath = QProcess::nullDevice() + QStringLiteral("/settings");
 
 fs::path native(const QString &path)
 {
@@ -53,9 +51,14 @@ bool moveAway(const QString &path)
 }
 } // namespace
 
+QString SettingsPath::unusable()
+{
+    return QProcess::nullDevice() + QStringLiteral("/settings");
+}
+
 QString SettingsPath::cleared(const QString &path)
 {
-    return isUsable(path, RegularFile::Access::Read) || setAside(path) ? path : kUnusablePath;
+    return isUsable(path, RegularFile::Access::Read) || setAside(path) ? path : unusable();
 }
 
 bool SettingsPath::setAside(const QString &path)
@@ -90,7 +93,7 @@ std::optional<QByteArray> SettingsPath::textOf(QIODevice &file)
 void SettingsPath::makePrivateFolder(const QString &path)
 {
     const QFileInfo folder(path);
-    if (folder.exists() || folder.isSymLink())
+    if (folder.exists() || folder.isSymLink() || folder.dir().isRoot())
         return;
     makePrivateFolder(folder.path());
     QDir().mkdir(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);

@@ -11,9 +11,11 @@ class QIODevice;
 /// is not a settings file. Nothing here overwrites or removes data that the user may still want.
 namespace SettingsPath
 {
+/// A path at which no file can exist, for settings that last only as long as the program.
+[[nodiscard]] QString unusable();
+
 /// Sets aside a folder, a pipe, a device or an unreadable file at the path. Returns the path or, if
-/// that failed, one at which no file can exist, so that the settings last only as long as the
-/// program.
+/// that failed, an unusable one.
 [[nodiscard]] QString cleared(const QString &path);
 
 /// Renames what lies at the path to "<path>.unreadable", with a number if that exists too, and
@@ -32,7 +34,7 @@ namespace SettingsPath
 /// be settings.
 [[nodiscard]] std::optional<QByteArray> textOf(QIODevice &file);
 
-/// Makes a folder and its missing parents, open to their owner only. Existing folders stay as they
-/// are.
+/// Makes a folder and its missing parents, open to their owner only, but none in the root of the
+/// file system. Existing folders stay as they are.
 void makePrivateFolder(const QString &path);
 } // namespace SettingsPath

@@ -1,10 +1,11 @@
 #include "base/UserDefaults.h"
 
 #include "base/Service.h"
+#include "base/SettingsPath.h"
 #include "base/SettingsStore.h"
+#include "base/User.h"
 
 #include <QJsonValue>
-#include <QStandardPaths>
 
 UserDefaults::UserDefaults(const QString &path) : _settings(std::make_unique<SettingsStore>(path))
 {}
@@ -13,8 +14,9 @@ UserDefaults::~UserDefaults() = default;
 
 QString UserDefaults::standardPath()
 {
-    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
-           QStringLiteral("/wuffer/wuffer.json");
+    const QString folder = User::configFolder();
+    return folder.isEmpty() ? SettingsPath::unusable()
+                            : folder + QStringLiteral("/wuffer/wuffer.json");
 }
 
 UserDefaults &UserDefaults::standardUserDefaults()

@@ -27,7 +27,7 @@ public:
     ~UserDefaults();
     Q_DISABLE_COPY_MOVE(UserDefaults)
 
-    /// The path of this user's settings file.
+    /// The path of this user's settings file; of no file if the user has no folder for settings.
     [[nodiscard]] static QString standardPath();
 
     /// The settings that are installed as Service<UserDefaults>.

@@ -175,6 +175,16 @@ class SettingsPlaceTest(DesktopTest):
                 self.check_works(program)
                 self.check_kept(program.settings_path, KEPT)
 
+    # Where the settings are
+
+    def test_a_relative_folder_for_settings(self):
+        place = self.session.make_folder("working-folder")
+        program = self.prepare(environment={"XDG_CONFIG_HOME": "relative"},
+                               through=("env", "-C", place))
+        self.check_works(program)
+        self.check_kept(program.home + "/.config/wuffer/wuffer.json", {})
+        self.assertEqual(os.listdir(place), [])
+
     # Permissions
 
     def prepare_powerless(self, text=None):
