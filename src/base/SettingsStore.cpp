@@ -2,6 +2,7 @@
 
 #include "base/JsonSettingsFormat.h"
 #include "base/RegularFile.h"
+#include "base/SettingsLeftovers.h"
 #include "base/SettingsPath.h"
 #include "base/WriterLock.h"
 
@@ -40,6 +41,7 @@ SettingsStore::SettingsStore(const QString &path) : _path(SettingsPath::cleared(
     connect(this, &SettingsStore::changed, this, &SettingsStore::synchronize, Qt::QueuedConnection);
     _tryAgain.setSingleShot(true);
     _tryAgain.callOnTimeout([this] { synchronize(); });
+    SettingsLeftovers::remove(_path);
     read();
 }
 

@@ -20,7 +20,8 @@ class SettingsStore final : public QObject
     Q_OBJECT
 
 public:
-    /// The file need not exist. What lies at the path instead of a readable file is set aside.
+    /// The file need not exist. What lies at the path instead of a readable file is set aside, and
+    /// what killed processes have left beside it is removed.
     explicit SettingsStore(const QString &path);
     /// Writes what is not written yet. If another process writes the file, waits for half a second
     /// at most.

@@ -175,6 +175,15 @@ class SettingsPlaceTest(DesktopTest):
                 self.check_works(program)
                 self.check_kept(program.settings_path, KEPT)
 
+    def test_what_a_kill_has_left_over(self):
+        program = self.prepare(json.dumps(KEPT))
+        for name in ("wuffer.json.xPAzzF", "wuffer.json.backup"):
+            path = os.path.join(self.folder, name)
+            shutil.copy(program.settings_path, path)
+            os.utime(path, (1_000_000_000, 1_000_000_000))
+        self.check_works(program)
+        self.assertEqual(sorted(os.listdir(self.folder)), ["wuffer.json", "wuffer.json.backup"])
+
     # Where the settings are
 
     def test_a_relative_folder_for_settings(self):
