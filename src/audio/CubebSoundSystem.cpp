@@ -12,12 +12,12 @@ std::unique_ptr<Sound> CubebSoundSystem::soundNamed(const QString &fileName)
 {
     if (!openSoundResource(fileName))
         return nullptr;
-    return std::make_unique<EngineSound>(
-        fileName, [fileName] { return openSoundResource(fileName); }, _engine);
+    const SoundSource source{fileName, [fileName] { return openSoundResource(fileName); }};
+    return std::make_unique<EngineSound>(source, EngineSound::Place::Program, _engine);
 }
 
 std::unique_ptr<Sound> CubebSoundSystem::soundWithContentsOfFile(const QString &path)
 {
-    return std::make_unique<EngineSound>(
-        path, [path] { return openSoundFile(path); }, _engine);
+    const SoundSource source{path, [path] { return openSoundFile(path); }};
+    return std::make_unique<EngineSound>(source, EngineSound::Place::File, _engine);
 }

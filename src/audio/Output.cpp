@@ -13,10 +13,13 @@ namespace
 constexpr auto kRetryAfter = 1s;
 } // namespace
 
-Output::Output(int sampleRate, QByteArray title, Workers workers) :
-    _sampleRate(sampleRate), _title(std::move(title)), _workers(std::move(workers)),
-    _mixer(sampleRate)
-{}
+Output::Output(Device device, int sampleRate, QByteArray title, Workers workers) :
+    _hasDevice(device == Device::Default), _sampleRate(sampleRate), _title(std::move(title)),
+    _workers(std::move(workers)), _mixer(sampleRate)
+{
+    if (!_hasDevice)
+        _mixer.forgetDevice();
+}
 
 void Output::play(const std::shared_ptr<Voice> &voice)
 {
@@ -46,10 +49,11 @@ bool Output::wakeUp()
 {
     if (!_isSounding) {
         _isSounding = _workers.start([self = shared_from_this()] { self->keepTime(); });
-        _mixer.expectDevice();
+        if (_hasDevice)
+            _mixer.expectDevice();
     }
     // The device thread of the previous sound may still be closing its stream.
-    if (_isSounding && !_hasDeviceThread)
+    if (_isSounding && _hasDevice && !_hasDeviceThread)
         _hasDeviceThread = _workers.start([self = shared_from_this()] { self->runDevice(); });
     return _isSounding;
 }

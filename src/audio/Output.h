@@ -19,7 +19,10 @@ class Voice;
 class Output final : public std::enable_shared_from_this<Output>
 {
 public:
-    Output(int sampleRate, QByteArray title, Workers workers);
+    enum class Device { Default, None };
+
+    /// Without a device the voices are not heard, but their time passes.
+    Output(Device device, int sampleRate, QByteArray title, Workers workers);
     Q_DISABLE_COPY_MOVE(Output)
     ~Output() = default;
 
@@ -37,6 +40,7 @@ private:
     [[nodiscard]] bool runStream(std::unique_lock<std::mutex> &lock);
     [[nodiscard]] bool isWanted() const { return _isSounding && !_isClosed; }
 
+    const bool _hasDevice;
     const int _sampleRate;
     const QByteArray _title;
     Workers _workers;

@@ -12,14 +12,25 @@ Outputs::~Outputs() = default;
 void Outputs::play(const std::shared_ptr<Voice> &voice)
 {
     const std::lock_guard lock(_mutex);
+    add(voice, _outputs[voice->sampleRate()], Output::Device::Default);
+}
+
+void Outputs::playUnheard(const std::shared_ptr<Voice> &voice)
+{
+    Q_ASSERT(voice->sampleRate() == kUnheardRate);
+    const std::lock_guard lock(_mutex);
+    add(voice, _unheard, Output::Device::None);
+}
+
+void Outputs::add(const std::shared_ptr<Voice> &voice, std::shared_ptr<Output> &output,
+                  Output::Device device)
+{
     if (_isClosed) {
         voice->finish();
         return;
     }
-    const int sampleRate = voice->sampleRate();
-    std::shared_ptr<Output> &output = _outputs[sampleRate];
     if (!output)
-        output = std::make_shared<Output>(sampleRate, _title, _workers);
+        output = std::make_shared<Output>(device, voice->sampleRate(), _title, _workers);
     output->play(voice);
 }
 
@@ -27,6 +38,10 @@ void Outputs::close()
 {
     const std::lock_guard lock(_mutex);
     _isClosed = true;
-    for (const auto &[sampleRate, output] : _outputs)
-        output->close();
+    for (const auto &[sampleRate, output] : _outputs) {
+        if (output)
+            output->close();
+    }
+    if (_unheard)
+        _unheard->close();
 }

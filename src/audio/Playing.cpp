@@ -14,24 +14,40 @@ std::unique_ptr<AudioFile> openFile(const OpenSoundBytes &open)
 }
 } // namespace
 
-Playing::Playing(OpenSoundBytes open, OpenSoundBytes standIn,
-                 std::shared_ptr<const SoundControls> controls, std::shared_ptr<Outputs> outputs,
-                 Workers workers) :
-    _open(std::move(open)),
-    _standIn(std::move(standIn)), _controls(std::move(controls)), _outputs(std::move(outputs)),
-    _workers(std::move(workers))
+Playing::Playing(OpenSoundBytes standIn, std::shared_ptr<const SoundControls> controls,
+                 std::shared_ptr<Outputs> outputs, Workers workers) :
+    _standIn(std::move(standIn)),
+    _controls(std::move(controls)), _outputs(std::move(outputs)), _workers(std::move(workers))
 {}
 
-void Playing::start(int sampleRate)
+void Playing::start(const OpenSoundBytes &open, int sampleRate, Openings::Ticket ticket)
 {
     const std::shared_ptr<Voice> voice = makeVoice(sampleRate);
     _voice = voice;
     // From here on the thread may replace _voice at any time. The first voice is played already
     // now, so that the device opens while the file does.
-    if (_workers.start([self = shared_from_this(), voice] { self->playFile(voice); }))
+    const bool opens = ticket != nullptr;
+    if (!opens || _workers.start([self = shared_from_this(), open, voice,
+                                  ticket = std::move(ticket)]() mutable {
+            self->playFile(open, voice, std::move(ticket));
+        }))
         _outputs->play(voice);
     else
         voice->finish();
+}
+
+void Playing::wait()
+{
+    _voice = makeVoice(Outputs::kUnheardRate);
+    _outputs->playUnheard(_voice);
+}
+
+void Playing::goOn(const OpenSoundBytes &open)
+{
+    if (_isDecided)
+        return;
+    if (!_workers.start([self = shared_from_this(), open] { self->playFile(open, {}, {}); }))
+        currentVoice()->finish();
 }
 
 bool Playing::isPlaying() const
@@ -62,13 +78,16 @@ std::shared_ptr<Voice> Playing::currentVoice() const
     return _voice;
 }
 
-/// Reads the file into this voice, or into a new one if the file has another sample rate.
-void Playing::playFile(std::shared_ptr<Voice> voice)
+/// Reads the file into this voice, or into a new one if there is none or the file has another
+/// sample rate.
+void Playing::playFile(const OpenSoundBytes &open, std::shared_ptr<Voice> voice,
+                       Openings::Ticket ticket)
 {
-    const std::unique_ptr<AudioFile> file = openFile(_open);
-    if (file && file->sampleRate() != voice->sampleRate())
+    const std::unique_ptr<AudioFile> file = openFile(open);
+    if (file && !(voice && voice->sampleRate() == file->sampleRate()))
         voice = makeVoice(file->sampleRate());
     const bool canBeHeard = file && voice->begin(*file);
+    ticket.reset();
     if (!decide())
         return;
     if (canBeHeard)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "audio/Openings.h"
 #include "audio/SoundBytes.h"
 #include "audio/SoundControls.h"
 #include "audio/Workers.h"
@@ -16,19 +17,27 @@ class Voice;
 /// the file turns out to be unplayable, or delivers nothing in time, a stand-in is played.
 ///
 /// The file is opened on a thread of its own, and its sample rate is known only then. So a playback
-/// begins with a voice for the expected rate and switches to another voice if the rate differs.
-/// isPlaying() stays true during the switch.
+/// begins with a voice for the expected rate, or with an unheard voice if no rate is expected, and
+/// switches to another voice if the rate differs. isPlaying() stays true during the switch.
 class Playing final : public std::enable_shared_from_this<Playing>
 {
 public:
-    /// Plays the bytes that open gives, or else those of standIn, which may be empty.
-    Playing(OpenSoundBytes open, OpenSoundBytes standIn,
-            std::shared_ptr<const SoundControls> controls, std::shared_ptr<Outputs> outputs,
-            Workers workers);
+    /// Takes the stand-in, which may be empty.
+    Playing(OpenSoundBytes standIn, std::shared_ptr<const SoundControls> controls,
+            std::shared_ptr<Outputs> outputs, Workers workers);
     Q_DISABLE_COPY_MOVE(Playing)
 
-    /// Begins to play with a voice for the expected sample rate. Call it once.
-    void start(int sampleRate);
+    /// Begins to play these bytes with a voice for the expected sample rate. The ticket is kept
+    /// until the file has delivered its first frames; without one the bytes are not opened, as if
+    /// they did not answer. Call either this or wait(), once.
+    void start(const OpenSoundBytes &open, int sampleRate, Openings::Ticket ticket);
+
+    /// Begins with an unheard voice that waits for goOn().
+    void wait();
+
+    /// Plays these bytes, or the stand-in if there are none, unless the wait has taken too long.
+    /// Call it at most once, after wait().
+    void goOn(const OpenSoundBytes &open);
 
     /// True from the start until the end has been heard or stop was called. Any thread.
     [[nodiscard]] bool isPlaying() const;
@@ -41,13 +50,13 @@ private:
     [[nodiscard]] std::shared_ptr<Voice> currentVoice() const;
     /// True for the first caller only, which then plays the file or its stand-in.
     [[nodiscard]] bool decide() { return !_isDecided.exchange(true); }
-    void playFile(std::shared_ptr<Voice> voice);
+    void playFile(const OpenSoundBytes &open, std::shared_ptr<Voice> voice,
+                  Openings::Ticket ticket);
     void fileTimedOut();
     void playStandIn();
     void readOn(AudioFile &file, const std::shared_ptr<Voice> &voice);
     void switchTo(const std::shared_ptr<Voice> &voice);
 
-    const OpenSoundBytes _open;
     const OpenSoundBytes _standIn;
     const std::shared_ptr<const SoundControls> _controls;
     const std::shared_ptr<Outputs> _outputs;

@@ -1,6 +1,7 @@
 #include "audio/Voice.h"
 
 #include "audio/AudioFile.h"
+#include "audio/SoundSource.h"
 
 #include <algorithm>
 
@@ -8,9 +9,6 @@ namespace
 {
 /// Long enough for few wake-ups, short enough for little memory.
 constexpr int kBlocksPerSecond = 50;
-
-/// How long the mixer waits for a file that delivers nothing.
-constexpr std::size_t kFileTimeoutSeconds = 2;
 
 /// The most by which the volume changes per frame, so that no change clicks.
 constexpr float kGainStep = 1.0F / 256;
@@ -118,7 +116,8 @@ std::size_t Voice::mixBlock(const BlockQueue::Block &block, std::span<float> ste
 void Voice::starve(std::size_t frames, bool readerIsDone)
 {
     _starved += frames;
-    const bool hasTimedOut = _starved > static_cast<std::size_t>(_sampleRate) * kFileTimeoutSeconds;
+    const bool hasTimedOut =
+        _starved > static_cast<std::size_t>(_sampleRate) * kPatienceForFiles.count();
     const bool hasBegun = _gain.has_value();
     _ended = _stopped || (hasBegun && (readerIsDone || hasTimedOut));
     if (hasTimedOut && !_ended) {

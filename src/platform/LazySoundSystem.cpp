@@ -13,6 +13,10 @@ public:
 
     [[nodiscard]] QString name() const override { return _name; }
     [[nodiscard]] double duration() const override { return 0; }
+    [[nodiscard]] bool isMissing() const override { return false; }
+    void setWhenAnswered(std::function<void()> /*function*/) override {}
+    void keep(std::unique_ptr<Sound> /*last*/) override {}
+    [[nodiscard]] std::unique_ptr<Sound> takeKept() override { return nullptr; }
     void setStandIn(const QString & /*fileName*/) override {}
     void play() override {}
     void stop() override {}

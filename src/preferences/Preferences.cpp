@@ -5,6 +5,7 @@
 #include "controls/PickFromList.h"
 #include "platform/WindowOrder.h"
 #include "preferences/SoundDrop.h"
+#include "preferences/SoundFileCheck.h"
 #include "rules/LaunchChoices.h"
 #include "rules/PreferenceTexts.h"
 #include "sounds/SoundPreviews.h"
@@ -37,6 +38,8 @@ Preferences::Preferences(QMainWindow &window, QAction &muteMenu,
     _previews = std::make_unique<SoundPreviews>(
         SoundPreviews::Place{*_ui->_alarmPlayButton, *_ui->_alarmCombo},
         SoundPreviews::Place{*_ui->_countdownPlayButton, *_ui->_countdownCombo});
+    _check = std::make_unique<SoundFileCheck>(*_ui->soundTab,
+                                              [this](const Sound &sound) { giveUpLate(sound); });
     connectControls();
     awakeFromNib();
     fitHints();
@@ -79,7 +82,8 @@ void Preferences::connectControls()
     new PickFromList(*_ui->_launchCombobox);
     connect(_ui->_launchCombobox, &QComboBox::activated, this, &Preferences::savePreferences);
     auto *drop = new SoundDrop(*_ui->soundTab, [this](QPoint place) { return takesAt(place); });
-    connect(drop, &SoundDrop::dropped, this, &Preferences::takeDroppedSounds);
+    // Queued, because the program from which the files come waits until the drop is handled.
+    connect(drop, &SoundDrop::dropped, this, &Preferences::takeDroppedSounds, Qt::QueuedConnection);
     connect(_ui->_finishedText, &QLineEdit::textEdited, this,
             [this] { controlTextDidChange(*_ui->_finishedText); });
     for (WebbyComboBox *combo : {_ui->_alarmCombo, _ui->_countdownCombo}) {

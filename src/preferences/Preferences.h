@@ -11,6 +11,8 @@
 class QAction;
 class QLineEdit;
 class QMainWindow;
+class Sound;
+class SoundFileCheck;
 class SoundPreviews;
 class WebbyComboBox;
 enum class SoundEntry;
@@ -57,7 +59,9 @@ public:
 
     // The sound library: PreferencesSounds.cpp.
 
-    /// Whether the file at the path can be played.
+    /// Whether the file at the path can be played. The event loop runs while the file is opened. A
+    /// file that does not answer within ten seconds counts as playable: it is not known to be
+    /// unplayable.
     [[nodiscard]] bool soundFileIsValid(const QString &path) const;
     /// Lets the user choose a file; nothing if the user cancels.
     [[nodiscard]] std::optional<QUrl> getSoundFileURL();
@@ -74,7 +78,7 @@ public:
     /// Shows the names of the sounds in use.
     void refreshSoundTitles();
     /// Fills both sound combos and selects the sounds in use. Removes a sound in use that cannot be
-    /// played any more from the library.
+    /// played any more from the library, at once or when its file has answered.
     void populateComboBoxes();
     /// Applies the new selection in a sound combo. Ignores null and other combos.
     void comboBoxSelectionDidChange(WebbyComboBox *combo);
@@ -96,15 +100,20 @@ private:
     [[nodiscard]] bool takesAt(QPoint place) const;
     /// Adds the file to the library in the settings if it can be played; returns whether it can.
     [[nodiscard]] bool addSound(const QString &path) const;
-    /// Shows that this file cannot be played; hides the message for an empty path.
-    static void showMissing(const Kind &kind, const QString &path);
+    /// Shows that this sound cannot be played.
+    static void showMissing(const Kind &kind, const Sound &sound);
+    static void setMissingVisible(const Kind &kind, bool visible);
     void selectStoredSound(const Kind &kind);
+    /// Removes a sound in use that cannot be played from the library, and selects the built-in one.
+    void giveUp(const Kind &kind, const Sound &sound);
+    /// The same if the sound is in use and its file has answered only now.
+    void giveUpLate(const Sound &sound);
     void selectAndReport(WebbyComboBox &combo, const QString &dataObject);
     void selectAnotherSound(const Kind &kind);
     /// Applies an entry that is not a file.
     void carryOut(SoundEntry entry, const Kind &kind);
     /// Makes the file the sound in use, if it is in the library and can be played.
-    void storeFile(const Kind &kind, const QString &path);
+    void storeFile(const Kind &kind, const QString &path) const;
 
     QWidget *_window;
     std::unique_ptr<Ui::Preferences> _ui;
@@ -112,4 +121,5 @@ private:
     QAction &_muteMenu;
     const std::function<bool()> _programEnds;
     std::unique_ptr<SoundPreviews> _previews;
+    std::unique_ptr<SoundFileCheck> _check;
 };

@@ -4,6 +4,7 @@
 #include "base/Sound.h"
 #include "base/UserDefaults.h"
 #include "preferences/Preferences.h"
+#include "preferences/SoundFileCheck.h"
 #include "sounds/SoundCombos.h"
 #include "sounds/SoundPreviews.h"
 #include "ui_Preferences.h"
@@ -21,13 +22,6 @@ void store(const SoundHistory &history)
 QString storedPath(const SettingsKey<QString> &key)
 {
     return UserDefaults::standardUserDefaults().value(key);
-}
-
-/// Whether the file cannot be checked, because no module to open sounds is available. The file may
-/// still be a good one.
-bool cannotBeChecked(const QString &path)
-{
-    return !path.isEmpty() && !Service<SoundSystem>::current().canOpenFiles();
 }
 } // namespace
 
@@ -73,10 +67,7 @@ bool Preferences::takesAt(QPoint place) const
 
 bool Preferences::soundFileIsValid(const QString &path) const
 {
-    if (path.isEmpty())
-        return false;
-    const auto sound = Service<SoundSystem>::current().soundWithContentsOfFile(path);
-    return sound && sound->duration() != 0;
+    return !path.isEmpty() && _check->openPatiently(path)->duration() != 0;
 }
 
 std::optional<QUrl> Preferences::getSoundFileURL()
@@ -124,15 +115,19 @@ void Preferences::takeDroppedSounds(QPoint place, const QStringList &paths)
     selectAndReport(kind.combo, playable.first());
 }
 
-void Preferences::showMissing(const Kind &kind, const QString &path)
+void Preferences::showMissing(const Kind &kind, const Sound &sound)
 {
-    const QFileInfo file(path);
     //: Stands before the name of the file of a sound.
-    kind.missingWord.setText(file.exists() ? tr("Unplayable:") : tr("Missing:"));
-    kind.missingLabel.setText(file.fileName());
-    kind.missingLabel.setToolTip(SoundCombos::toolTip(path));
+    kind.missingWord.setText(sound.isMissing() ? tr("Missing:") : tr("Unplayable:"));
+    kind.missingLabel.setText(QFileInfo(sound.name()).fileName());
+    kind.missingLabel.setToolTip(SoundCombos::toolTip(sound.name()));
+    setMissingVisible(kind, true);
+}
+
+void Preferences::setMissingVisible(const Kind &kind, bool visible)
+{
     for (QLabel *label : std::initializer_list<QLabel *>{&kind.missingWord, &kind.missingLabel})
-        label->setVisible(!path.isEmpty());
+        label->setVisible(visible);
 }
 
 void Preferences::removeSound(const QString &path)
@@ -174,21 +169,41 @@ void Preferences::populateComboBoxes()
 
 void Preferences::selectStoredSound(const Kind &kind)
 {
+    setMissingVisible(kind, false);
     const QString path = storedPath(kind.key);
-    if (soundFileIsValid(path) || cannotBeChecked(path)) {
-        showMissing(kind, {});
-        kind.combo.selectItemWithDataObjectValue(path);
+    if (path.isEmpty()) {
+        SoundCombos::select(kind.combo, kind.builtInSound);
         return;
     }
-    showMissing(kind, path);
-    if (!path.isEmpty()) {
-        // The combo lists the file until it is filled again, and the settings keep it as the
-        // choice, because the file may come back.
-        removeSound(path);
-        showSoundTab();
-        Service<Desktop>::current().beep();
-    }
+    kind.combo.selectItemWithDataObjectValue(path);
+    // A file that has not answered yet stays selected until it turns out to be unplayable.
+    const std::shared_ptr<const Sound> sound = _check->open(path);
+    // If no module to open sounds is available, the file may still be a good one.
+    if (sound->duration() == 0 && Service<SoundSystem>::current().canOpenFiles())
+        giveUp(kind, *sound);
+}
+
+void Preferences::giveUp(const Kind &kind, const Sound &sound)
+{
+    showMissing(kind, sound);
+    // The combo lists the file until it is filled again, and the settings keep it as the choice,
+    // because the file may come back.
+    removeSound(sound.name());
+    showSoundTab();
+    Service<Desktop>::current().beep();
     SoundCombos::select(kind.combo, kind.builtInSound);
+}
+
+void Preferences::giveUpLate(const Sound &sound)
+{
+    for (const Kind &kind : {alarm(), countdown()}) {
+        const QSignalBlocker quiet(kind.combo);
+        // The user may have chosen another sound meanwhile.
+        if (storedPath(kind.key) == sound.name() &&
+            SoundCombos::selectedEntry(kind.combo) != kind.builtInSound)
+            giveUp(kind, sound);
+    }
+    _previews->followChoices();
 }
 
 void Preferences::comboBoxSelectionDidChange(WebbyComboBox *combo)
@@ -203,7 +218,7 @@ void Preferences::comboBoxSelectionDidChange(WebbyComboBox *combo)
     else
         storeFile(kind, combo->dataObjectOfSelectedItem().value_or(QString()));
     if (storedPath(kind.key) != before)
-        showMissing(kind, {});
+        setMissingVisible(kind, false);
     sendChangedNotification();
     refreshSoundTitles();
 }
@@ -226,7 +241,7 @@ void Preferences::carryOut(SoundEntry entry, const Kind &kind)
     }
 }
 
-void Preferences::storeFile(const Kind &kind, const QString &path)
+void Preferences::storeFile(const Kind &kind, const QString &path) const
 {
     if (SoundCombos::storedHistory().contains(path) && soundFileIsValid(path))
         UserDefaults::standardUserDefaults().setValue(path, kind.key);

@@ -66,6 +66,10 @@ void SoundPreview::play()
 
 void SoundPreview::stopAtEnd()
 {
-    if (!_sound->isPlaying())
-        stop();
+    if (_sound->isPlaying())
+        return;
+    // The file has turned out to be unplayable, or has not answered for too long.
+    if (_sound->duration() == 0 || !_sound->hasAnswered())
+        Service<Desktop>::current().beep();
+    stop();
 }

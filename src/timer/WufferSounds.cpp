@@ -13,20 +13,38 @@ bool asksForOther(const std::optional<QString> &path, const std::unique_ptr<Soun
     return path && !path->isEmpty() && !(sound && sound->name() == *path);
 }
 
-/// The sound that replaces the last one for this choice; null to keep the last one. If a file
-/// cannot be opened, the last sound stays, or else the built-in one is taken. The built-in sound
-/// also stands in for a file that turns out to be broken later.
-std::unique_ptr<Sound> newSound(const Wuffer &timer, const std::optional<QString> &path,
-                                SoundEntry builtIn, const std::unique_ptr<Sound> &last)
+/// Gives up a sound whose file has turned out to be unplayable since it was chosen, for the one
+/// before it.
+void takeBackLast(std::unique_ptr<Sound> &sound)
 {
-    if (!asksForOther(path, last))
-        return nullptr;
+    if (!sound || !sound->hasAnswered())
+        return;
+    std::unique_ptr<Sound> last = sound->takeKept();
+    if (sound->duration() == 0)
+        sound = std::move(last);
+}
+
+/// Replaces the sound if the choice is another one. If a file cannot be opened, the last sound
+/// stays, or else the built-in one is taken; as long as a file has not answered, its sound keeps
+/// the last good one. The built-in sound also stands in for a file that turns out to be broken
+/// later.
+void update(std::unique_ptr<Sound> &sound, const Wuffer &timer, const std::optional<QString> &path,
+            SoundEntry builtIn)
+{
+    takeBackLast(sound);
+    if (!asksForOther(path, sound))
+        return;
     const SoundEntries::Row &row = SoundEntries::row(builtIn);
-    std::unique_ptr<Sound> sound = timer.createSoundWithPath(*path);
-    if (!sound || sound->duration() == 0)
-        return last ? nullptr : timer.createSoundWithPath(row.stored.toString());
-    sound->setStandIn(row.fileName.toString());
-    return sound;
+    std::unique_ptr<Sound> next = timer.createSoundWithPath(*path);
+    if (!next || next->duration() == 0) {
+        if (!sound)
+            sound = timer.createSoundWithPath(row.stored.toString());
+        return;
+    }
+    next->setStandIn(row.fileName.toString());
+    if (!next->hasAnswered())
+        next->keep(sound && !sound->hasAnswered() ? sound->takeKept() : std::move(sound));
+    sound = std::move(next);
 }
 
 void stop(const std::unique_ptr<Sound> &sound)
@@ -48,8 +66,7 @@ void Wuffer::playDone()
     if (_soundOff)
         return;
     const std::optional<QString> path = _ui->_alarmSoundCombo->dataObjectOfSelectedItem();
-    if (std::unique_ptr<Sound> sound = newSound(*this, path, SoundEntry::Wuff, _doneSound))
-        _doneSound = std::move(sound);
+    update(_doneSound, *this, path, SoundEntry::Wuff);
     if (_doneSound)
         _doneSound->play();
 }
@@ -61,12 +78,11 @@ void Wuffer::playBeep()
     if (_soundOff)
         return;
     const std::optional<QString> path = _ui->_countdownSoundCombo->dataObjectOfSelectedItem();
-    if (std::unique_ptr<Sound> sound = newSound(*this, path, SoundEntry::Crow, _beepSound)) {
-        _beepSound = std::move(sound);
+    update(_beepSound, *this, path, SoundEntry::Crow);
+    if (_beepSound) {
         _beepSound->setVolume(volume);
-    }
-    if (_beepSound)
         _beepSound->play();
+    }
 }
 
 void Wuffer::prepareSounds()

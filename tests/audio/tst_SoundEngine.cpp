@@ -66,7 +66,8 @@ private:
     [[nodiscard]] std::shared_ptr<Playing> play(const OpenSoundBytes &open,
                                                 const OpenSoundBytes &standIn = {})
     {
-        return _engine->play(open, kSampleRate, std::make_shared<SoundControls>(), standIn);
+        return _engine->play({QStringLiteral("file"), open}, kSampleRate,
+                             std::make_shared<SoundControls>(), standIn);
     }
 
     QTemporaryDir _folder;

@@ -34,7 +34,9 @@ void tst_LazySoundSystem::theModuleIsLoadedForTheFirstSound()
     QCOMPARE(blip->duration(), 0.3);
     QVERIFY(!system.soundNamed(QStringLiteral("missing.wav")));
     QVERIFY(system.canOpenFiles());
-    QCOMPARE(system.soundWithContentsOfFile(QStringLiteral("/missing"))->duration(), 0.0);
+    const auto missing = system.soundWithContentsOfFile(QStringLiteral("/missing"));
+    QTRY_COMPARE(missing->duration(), 0.0);
+    QVERIFY(missing->isMissing());
 }
 
 void tst_LazySoundSystem::withoutTheModuleThereAreNoSounds()
@@ -47,6 +49,11 @@ void tst_LazySoundSystem::withoutTheModuleThereAreNoSounds()
     const auto sound = system.soundWithContentsOfFile(QStringLiteral("/some/file"));
     QCOMPARE(sound->name(), QStringLiteral("/some/file"));
     QCOMPARE(sound->duration(), 0.0);
+    QVERIFY(sound->hasAnswered());
+    QVERIFY(!sound->isMissing());
+    sound->setWhenAnswered([] { QFAIL("it has answered already"); });
+    sound->keep(nullptr);
+    QVERIFY(!sound->takeKept());
     sound->setStandIn(QStringLiteral("test-blip.wav"));
     sound->play();
     QVERIFY(!sound->isPlaying());

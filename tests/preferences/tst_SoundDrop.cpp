@@ -71,6 +71,8 @@ public:
         QCoreApplication::sendEvent(&page(), &enter);
         QDropEvent event(place, Qt::CopyAction, &data, Qt::LeftButton, {});
         QCoreApplication::sendEvent(&page(), &event);
+        // The files are opened when the program that they come from has its answer.
+        QCoreApplication::sendPostedEvents(preferences.get(), QEvent::MetaCall);
         return event.isAccepted();
     }
     [[nodiscard]] QStringList history() const

@@ -179,7 +179,7 @@ void tst_SoundFiles::aDeletedFileIsPrunedWhenThePreferencesAreLoaded()
     p.add(file);
     QVERIFY(QFile::remove(file));
     p.preferences->loadPreferences();
-    QCOMPARE(p.desktop.beeps, 1);
+    QTRY_COMPARE(p.desktop.beeps, 1);
     QVERIFY(p.window.isVisible());
     QCOMPARE(p.defaults.stringArrayForKey(QStringLiteral("soundHistory")), QStringList());
     QCOMPARE(p.selected("_alarmCombo"), QStringLiteral("Wuff (Default)"));

@@ -43,6 +43,9 @@ private Q_SLOTS:
     void turningBeepsOffStopsTheCountdownSoundOnly();
     void anUnplayableSoundBeeps();
     void aPreviewHasNoStandIn();
+    void aFileThatHasNotAnsweredIsWaitedForQuietly();
+    void aFileThatTurnsOutUnplayableBeepsAndGivesTheButtonBack();
+    void aFileThatDoesNotAnswerBeepsAtTheEnd();
     void theButtonSaysWhatItDoes();
     void aSoundThatPlaysWhenThePreferencesGoIsSilenced();
 };
@@ -216,6 +219,48 @@ void tst_SoundPreview::aSoundThatPlaysWhenThePreferencesGoIsSilenced()
     p.preferences.reset();
     QVERIFY(!p.sounds.sound(kWuff));
     QVERIFY(p.clock.isIdle());
+}
+
+void tst_SoundPreview::aFileThatHasNotAnsweredIsWaitedForQuietly()
+{
+    Fixture p;
+    p.choose("_alarmCombo", QStringLiteral("Bell"));
+    p.sounds.holdFile(kBell);
+    p.alarm().click();
+    QVERIFY(p.alarm().isPlaying());
+    p.sounds.answer(kBell, 1.5);
+    p.clock.advance(1);
+    QVERIFY(p.alarm().isPlaying());
+    p.sounds.endAll();
+    p.clock.advance(0.2);
+    QVERIFY(!p.alarm().isPlaying());
+    QCOMPARE(p.desktop.beeps, 0);
+}
+
+void tst_SoundPreview::aFileThatTurnsOutUnplayableBeepsAndGivesTheButtonBack()
+{
+    Fixture p;
+    p.choose("_alarmCombo", QStringLiteral("Bell"));
+    p.sounds.holdFile(kBell);
+    p.alarm().click();
+    p.sounds.answer(kBell, 0);
+    // The playback ends without a stand-in.
+    p.sounds.endAll();
+    p.clock.advance(0.2);
+    QVERIFY(!p.alarm().isPlaying());
+    QCOMPARE(p.desktop.beeps, 1);
+}
+
+void tst_SoundPreview::aFileThatDoesNotAnswerBeepsAtTheEnd()
+{
+    Fixture p;
+    p.choose("_alarmCombo", QStringLiteral("Bell"));
+    p.sounds.holdFile(kBell);
+    p.alarm().click();
+    p.sounds.endAll();
+    p.clock.advance(0.2);
+    QVERIFY(!p.alarm().isPlaying());
+    QCOMPARE(p.desktop.beeps, 1);
 }
 
 WUFFER_TEST(tst_SoundPreview)

@@ -1,6 +1,10 @@
 #include "support/Fakes.h"
 
+#include <QFile>
+
 #include <algorithm>
+#include <limits>
+#include <utility>
 
 FakeSound::FakeSound(FakeSoundSystem &system, QString name, double duration) :
     _system(system), _name(std::move(name)), _duration(duration)
@@ -14,6 +18,25 @@ FakeSound::~FakeSound()
     if (_playing)
         _system._diary << QStringLiteral("destroy ") + _name;
     std::erase(_system._sounds, this);
+}
+
+bool FakeSound::isMissing() const
+{
+    return _duration == 0 && !QFile::exists(_name);
+}
+
+void FakeSound::setWhenAnswered(std::function<void()> function)
+{
+    if (!hasAnswered())
+        _whenAnswered = std::move(function);
+}
+
+void FakeSound::answer(double duration)
+{
+    _duration = duration;
+    // Last, because the function may destroy this sound.
+    if (const auto whenAnswered = std::exchange(_whenAnswered, {}))
+        whenAnswered();
 }
 
 void FakeSound::play()
@@ -38,7 +61,24 @@ std::unique_ptr<Sound> FakeSoundSystem::soundNamed(const QString &fileName)
 
 std::unique_ptr<Sound> FakeSoundSystem::soundWithContentsOfFile(const QString &path)
 {
+    if (_heldFiles.contains(path))
+        return make(path, std::numeric_limits<double>::infinity());
     return make(path, opensFiles ? _fileDurations.value(path, 0.0) : 0.0);
+}
+
+void FakeSoundSystem::answer(const QString &path, double seconds)
+{
+    _heldFiles.remove(path);
+    setFileDuration(path, seconds);
+    // Each answer may make and destroy sounds.
+    const auto waits = [&](const FakeSound *sound) {
+        return sound->name() == path && !sound->hasAnswered();
+    };
+    auto next = std::ranges::find_if(_sounds, waits);
+    while (next != _sounds.end()) {
+        (*next)->answer(seconds);
+        next = std::ranges::find_if(_sounds, waits);
+    }
 }
 
 FakeSound *FakeSoundSystem::sound(const QString &name) const

@@ -9,6 +9,7 @@
 #include "platform/StatusItem.h"
 
 #include <QHash>
+#include <QSet>
 #include <QStringList>
 #include <QUrl>
 
@@ -26,6 +27,10 @@ public:
 
     [[nodiscard]] QString name() const override { return _name; }
     [[nodiscard]] double duration() const override { return _duration; }
+    [[nodiscard]] bool isMissing() const override;
+    void setWhenAnswered(std::function<void()> function) override;
+    void keep(std::unique_ptr<Sound> last) override { _kept = std::move(last); }
+    [[nodiscard]] std::unique_ptr<Sound> takeKept() override { return std::move(_kept); }
     void setStandIn(const QString &fileName) override { _standIn = fileName; }
     void play() override;
     void stop() override;
@@ -38,6 +43,8 @@ public:
     [[nodiscard]] bool loops() const { return _loops; }
     /// Lets the sound reach its end, if it is playing.
     void reachEnd() { _playing = _playing && _loops; }
+    /// Lets a file that has not answered yet answer with its duration.
+    void answer(double duration);
 
 private:
     FakeSoundSystem &_system;
@@ -47,6 +54,8 @@ private:
     bool _playing = false;
     bool _loops = false;
     float _volume = 1.0F;
+    std::function<void()> _whenAnswered;
+    std::unique_ptr<Sound> _kept;
 };
 
 /// Keeps a diary of every sound: "make crow.wav", "play crow.wav at 0.03", "stop crow.wav" (only
@@ -60,6 +69,11 @@ public:
 
     /// Sets the duration of a file, in seconds; without this call it is 0.
     void setFileDuration(const QString &path, double seconds) { _fileDurations[path] = seconds; }
+
+    /// From now on the file answers only when told to by answer().
+    void holdFile(const QString &path) { _heldFiles.insert(path); }
+    /// Lets a held file answer with its duration, now and in future.
+    void answer(const QString &path, double seconds);
 
     /// The newest existing sound of this name; null if there is none.
     [[nodiscard]] FakeSound *sound(const QString &name) const;
@@ -83,6 +97,7 @@ private:
     std::unique_ptr<Sound> make(const QString &name, double duration);
 
     QHash<QString, double> _fileDurations;
+    QSet<QString> _heldFiles;
     std::vector<FakeSound *> _sounds;
     QStringList _diary;
 };

@@ -48,6 +48,12 @@ inline QElapsedTimer startedTimer()
     return timer;
 }
 
+/// Waits until the file of the sound has answered; false if it does not.
+[[nodiscard]] inline bool hasAnswered(const Sound &sound)
+{
+    return QTest::qWaitFor([&] { return sound.hasAnswered(); }, 5000);
+}
+
 /// Waits for the end of the sound. Returns the seconds since the timer was started; infinity if the
 /// sound does not end.
 inline double secondsUntilSilent(const Sound &sound, QElapsedTimer timer = startedTimer())

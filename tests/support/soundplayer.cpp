@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
+#include <QEventLoop>
 
 #include <iostream>
 #include <map>
@@ -37,6 +38,9 @@ double Player::carryOut(std::istringstream &order)
     std::getline(order, argument);
     if (verb == "load") {
         _sounds[name] = _system.soundWithContentsOfFile(QString::fromStdString(argument));
+        QEventLoop answer;
+        _sounds[name]->setWhenAnswered([&answer] { answer.quit(); });
+        answer.exec();
         return _sounds[name]->duration();
     }
     Sound &sound = *_sounds.at(name);
