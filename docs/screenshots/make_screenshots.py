@@ -68,7 +68,7 @@ def frame_windows(session, theme):
         configuration.replace("<name>Clearlooks</name>", f"<name>{theme}</name>"), encoding="utf-8")
     processes.run(["openbox", "--reconfigure"], session.display.environment)
     display = session.display
-    wait_until(lambda: display.x.text(display.x.root, "_OB_THEME") == theme, 5, f"{theme} is used")
+    wait_until(lambda: display.x.text(display.x.root, "_OB_THEME") == theme, f"{theme} is used")
 
 
 def start(session, desktop):

@@ -21,7 +21,7 @@ class AnimationTest(DesktopTest):
         button = program.place(program.find("button", "More Options"))
         self.display.click(button.x + 10, button.y + 10)
         program.wait_for_button("Hide Options")
-        wait_until(lambda: max(heights.all(), default=0) > closed + 60, 5, "the drawer is open")
+        wait_until(lambda: max(heights.all(), default=0) > closed + 60, "the drawer is open")
         grown = [height for height in heights.all() if height > closed]
         self.report(f"{closed} to {grown}")
         self.assertGreater(grown[0], closed + 60, "the first step is the whole way")

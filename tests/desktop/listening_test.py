@@ -184,11 +184,11 @@ class ListeningTest(DesktopTest):
         self.assertEqual(choice.text(), "Loop this Wuffer")
         # The open list begins at the chosen entry, and says no more.
         self.display.key("alt+Down")
-        wait_until(lambda: listener.focus() == (int(Atspi.Role.LIST_ITEM), "Loop this Wuffer"), 8,
-                   "the entry has the focus", 0.02)
+        wait_until(lambda: listener.focus() == (int(Atspi.Role.LIST_ITEM), "Loop this Wuffer"),
+                   "the entry has the focus")
         self.display.key("Escape")
-        wait_until(lambda: listener.focus() == (int(Atspi.Role.COMBO_BOX), "Loop this Wuffer"), 8,
-                   "the box has the focus", 0.02)
+        wait_until(lambda: listener.focus() == (int(Atspi.Role.COMBO_BOX), "Loop this Wuffer"),
+                   "the box has the focus")
         self.assertEqual(listener.insertions(), ["Loop this Wuffer"])
         self.quit(program)
 
@@ -211,15 +211,15 @@ class ListeningTest(DesktopTest):
         self.quit(program)
 
     def wait_for_insertions(self, listener, texts):
-        wait_until(lambda: listener.insertions() == texts, 8, f"controls say {texts}", 0.02)
+        wait_until(lambda: listener.insertions() == texts, f"controls say {texts}")
 
     def tab_to(self, listener, role, name):
         """Presses Tab until the control has the focus."""
         for _ in range(20):
             before = len(listener.focused)
             self.display.key("Tab")
-            wait_until(lambda: listener.receive() or len(listener.focused) > before, 8,
-                       "Tab moves the focus", 0.02)
+            wait_until(lambda: listener.receive() or len(listener.focused) > before,
+                       "Tab moves the focus")
             if listener.focus() == (int(ROLES[role]), name):
                 return
         self.fail(f"Tab does not reach {name}")
