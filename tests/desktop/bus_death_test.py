@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Kills the session bus and the services on it while the timers run and ring.
+"""Kills the session bus and the services on it while the timers run and ring, and starts it anew.
 
 Usage: bus_death_test.py WUFFER FOLDER [unittest arguments]
 """
@@ -9,10 +9,12 @@ import os
 import time
 
 from support.case import DesktopTest, main
+from support.panel import XfcePanel
 from support.samples import write_tone
 from support.session import Session
 from support.waiting import wait_until
 
+NAME = "org.wuffer.Wuffer"
 RED = (230, 0, 0)
 MUTED = '{"soundOff": 1}'
 # The length of the user's own alarm sound, in seconds.
@@ -53,6 +55,12 @@ class BusDeathTest(DesktopTest):
     def kill_bus(self):
         self.session.bus_daemon.kill()
         self.session.bus_daemon.wait()
+
+    def start_bus(self):
+        """Starts a bus at the address of the one that was killed, and a notification service."""
+        self.session.end_notifications()
+        self.session.start_bus()
+        self.session.start_notifications()
 
     def check_calm(self, program):
         """The program sleeps when it has nothing to do."""
@@ -126,6 +134,39 @@ class BusDeathTest(DesktopTest):
         self.display.key("Return")
         self.wait_until_quiet(program)
         self.check_calm(program)
+        self.quit(program)
+
+    def test_a_bus_that_starts_anew_at_its_address_is_found(self):
+        program = self.launch(settings=MUTED, accessible=False)
+        wait_until(lambda: self.session.owns(NAME), 10, "the program owns its name")
+        for _ in range(2):
+            self.kill_bus()
+            self.check_calm(program)
+            self.start_bus()
+            wait_until(lambda: self.session.owns(NAME), 15, "the program owns its name again")
+            panel = XfcePanel(self.session)
+            panel.look_at_empty()
+            program.start_countdown(3)
+            panel.wait_for_item()
+            wait_until(lambda: self.session.notifications.shown() == 1, 15,
+                       "the notification shows")
+            self.display.key("Return")
+            wait_until(lambda: self.session.notifications.shown() == 0, 15,
+                       "the notification is withdrawn")
+            panel.wait_for_no_item()
+            panel.close()
+        self.quit(program)
+
+    def test_a_notification_without_a_bus_shows_on_the_next(self):
+        program = self.launch(settings=MUTED, accessible=False)
+        program.start_countdown(3)
+        self.kill_bus()
+        wait_until(lambda: self.is_red(program), 15, "the timer rings")
+        self.start_bus()
+        wait_until(lambda: self.session.notifications.shown() == 1, 15, "the notification shows")
+        self.display.key("Return")
+        wait_until(lambda: self.session.notifications.shown() == 0, 15,
+                   "the notification is withdrawn")
         self.quit(program)
 
 

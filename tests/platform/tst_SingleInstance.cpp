@@ -38,6 +38,7 @@ private Q_SLOTS:
     void aBusThatIsStoppedHangs();
     void anAddressWithoutAListenerDoesNotHang_data();
     void anAddressWithoutAListenerDoesNotHang();
+    void theFileOfTheSocketIsInTheAddress();
 
 private:
     const PrivateBus &_bus;
@@ -241,14 +242,17 @@ void tst_SingleInstance::aLaunchThatIsRefusedHasReachedTheProgram()
 void tst_SingleInstance::aBusThatIsAliveDoesNotHang()
 {
     QVERIFY(!BusProbe::hangs(_bus.address().toUtf8()));
+    QVERIFY(BusProbe::answers(_bus.address().toUtf8()));
 }
 
 void tst_SingleInstance::aBusThatIsStoppedHangs()
 {
     ::kill(_bus.processId(), SIGSTOP);
     const bool hangs = BusProbe::hangs(_bus.address().toUtf8());
+    const bool answers = BusProbe::answers(_bus.address().toUtf8());
     ::kill(_bus.processId(), SIGCONT);
     QVERIFY(hangs);
+    QVERIFY(!answers);
 }
 
 void tst_SingleInstance::anAddressWithoutAListenerDoesNotHang_data()
@@ -268,6 +272,14 @@ void tst_SingleInstance::anAddressWithoutAListenerDoesNotHang()
 {
     QFETCH(const QByteArray, address);
     QVERIFY(!BusProbe::hangs(address));
+}
+
+void tst_SingleInstance::theFileOfTheSocketIsInTheAddress()
+{
+    QCOMPARE(BusProbe::socketFile("unix:path=/at%20all,guid=12"), QStringLiteral("/at all"));
+    QCOMPARE(BusProbe::socketFile("unix:abstract=/at"), QString());
+    QCOMPARE(BusProbe::socketFile("disabled:"), QString());
+    QVERIFY(!BusProbe::answers("unix:path=/nowhere/at%20all"));
 }
 
 void tst_SingleInstance::theTokensOfALaunchArePassedOn()

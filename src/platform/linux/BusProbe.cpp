@@ -1,6 +1,7 @@
 #include "platform/linux/BusProbe.h"
 
 #include <QByteArray>
+#include <QFile>
 #include <QList>
 
 #include <algorithm>
@@ -77,21 +78,41 @@ bool isAnswered(int descriptor)
     pollfd answer{.fd = descriptor, .events = POLLIN, .revents = 0};
     return poll(&answer, 1, kTimeoutMs) != 0;
 }
-} // namespace
 
-bool BusProbe::hangs(const QByteArray &address)
+/// What a process that wants to use the bus at an address finds.
+enum class Found { NoBus, Silence, Answer, Unknown };
+
+Found probe(const QByteArray &address)
 {
     const std::optional<QByteArray> name = socketName(address);
     const Socket socket;
     if (!name || socket.descriptor() < 0)
-        return false;
+        return Found::Unknown;
     switch (connectTo(*name, socket.descriptor())) {
     case Connection::Made:
-        return !isAnswered(socket.descriptor());
+        return isAnswered(socket.descriptor()) ? Found::Answer : Found::Silence;
     case Connection::Stuck:
-        return true;
+        return Found::Silence;
     case Connection::Refused:
         break;
     }
-    return false;
+    return Found::NoBus;
+}
+} // namespace
+
+bool BusProbe::hangs(const QByteArray &address)
+{
+    return probe(address) == Found::Silence;
+}
+
+bool BusProbe::answers(const QByteArray &address)
+{
+    const Found found = probe(address);
+    return found == Found::Answer || found == Found::Unknown;
+}
+
+QString BusProbe::socketFile(const QByteArray &address)
+{
+    const QByteArray name = socketName(address).value_or(QByteArray());
+    return name.startsWith('/') ? QFile::decodeName(name) : QString();
 }

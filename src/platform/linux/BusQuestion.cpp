@@ -1,6 +1,6 @@
 #include "platform/linux/BusQuestion.h"
 
-#include "platform/linux/SessionBus.h"
+#include "platform/linux/BusConnection.h"
 
 #include <QDBusConnection>
 #include <QDBusMessage>
@@ -8,14 +8,14 @@
 
 bool BusQuestion::isPossible()
 {
-    return SessionBus::isPresent() && QDBusConnection::sessionBus().isConnected();
+    return BusConnection::instance().isPossible();
 }
 
 void BusQuestion::ask(const QDBusMessage &question, QObject &context, int timeout,
                       std::function<void(const QDBusMessage &answer)> answered)
 {
     auto *call = new QDBusPendingCallWatcher(
-        QDBusConnection::sessionBus().asyncCall(question, timeout), &context);
+        BusConnection::instance().current().asyncCall(question, timeout), &context);
     QObject::connect(call, &QDBusPendingCallWatcher::finished, call, &QObject::deleteLater);
     QObject::connect(call, &QDBusPendingCallWatcher::finished, &context,
                      [answered = std::move(answered)](QDBusPendingCallWatcher *finished) {

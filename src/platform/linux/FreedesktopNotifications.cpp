@@ -1,6 +1,7 @@
 #include "platform/linux/FreedesktopNotifications.h"
 
 #include "platform/linux/ActivationToken.h"
+#include "platform/linux/BusConnection.h"
 #include "platform/linux/BusQuestion.h"
 #include "platform/linux/NotifyArguments.h"
 
@@ -24,6 +25,8 @@ struct FreedesktopNotifications::Conversation
     QString serverName;
     /// What the server is to answer.
     enum class Awaited { Nothing, Capabilities, Id } awaited = Awaited::Nothing;
+    /// Whether a server has come since then. The calls before may have missed it.
+    bool serverCame = false;
     /// The latest notification not yet sent. It supersedes earlier ones, which are never sent.
     std::optional<DesktopNotification> next;
     /// The latest notification sent; nothing once it has been withdrawn or closed.
@@ -67,14 +70,22 @@ DesktopNotification::End endForReason(const QVariant &reason)
 }
 } // namespace
 
+FreedesktopNotifications::FreedesktopNotifications()
+{
+    const BusConnection &bus = BusConnection::instance();
+    connect(&bus, &BusConnection::lost, this, &FreedesktopNotifications::busLost);
+    connect(&bus, &BusConnection::found, this, &FreedesktopNotifications::busFound);
+    connect(&_watch, &BusNameWatch::appeared, this, &FreedesktopNotifications::showAgain);
+}
+
 void FreedesktopNotifications::notify(const QObject &sender,
                                       const DesktopNotification &notification)
 {
+    const std::shared_ptr<Conversation> conversation = conversationWith(sender);
+    conversation->next = notification;
     if (!BusQuestion::isPossible())
         return;
     listen();
-    const std::shared_ptr<Conversation> conversation = conversationWith(sender);
-    conversation->next = notification;
     if (conversation->awaited == Conversation::Awaited::Nothing)
         askAboutServer(conversation);
 }
@@ -89,7 +100,7 @@ void FreedesktopNotifications::withdraw(const QObject &sender)
     const uint id = std::exchange(conversation->id, 0);
     // A notification into which others have been merged goes with the last of them.
     if (id != 0 && conversationsAbout(id, conversation->server).empty()) {
-        QDBusConnection::sessionBus().asyncCall(
+        BusConnection::instance().current().asyncCall(
             call(conversation->server, QStringLiteral("CloseNotification"), {id}));
     }
 }
@@ -115,9 +126,38 @@ void FreedesktopNotifications::listen()
 {
     if (_listening)
         return;
+    _watch.watch(kInterface);
     // From any sender: for one name only, Qt would ask the bus for its owner and block meanwhile.
-    _listening = QDBusConnection::sessionBus().connect({}, kPath, kInterface, {}, this,
-                                                       SLOT(receive(QDBusMessage)));
+    _listening = BusConnection::instance().current().connect({}, kPath, kInterface, {}, this,
+                                                             SLOT(receive(QDBusMessage)));
+}
+
+void FreedesktopNotifications::busLost()
+{
+    _listening = false;
+    // A new bus gives the names of its servers anew.
+    for (const std::shared_ptr<Conversation> &conversation : std::as_const(_conversations)) {
+        conversation->id = 0;
+        conversation->server.clear();
+    }
+}
+
+void FreedesktopNotifications::busFound()
+{
+    listen();
+    showAgain();
+}
+
+void FreedesktopNotifications::showAgain()
+{
+    for (const std::shared_ptr<Conversation> &conversation : std::as_const(_conversations)) {
+        const bool isUnderWay = conversation->awaited != Conversation::Awaited::Nothing;
+        if (!isUnderWay && !conversation->next && conversation->id == 0)
+            conversation->next = conversation->shown;
+        conversation->serverCame = isUnderWay;
+        if (conversation->next && !isUnderWay)
+            askAboutServer(conversation);
+    }
 }
 
 void FreedesktopNotifications::receive(const QDBusMessage &signal)
@@ -180,6 +220,7 @@ FreedesktopNotifications::conversationsAbout(uint id, const QString &server) con
 void FreedesktopNotifications::askAboutServer(const std::shared_ptr<Conversation> &conversation)
 {
     conversation->awaited = Conversation::Awaited::Capabilities;
+    conversation->serverCame = false;
     // Answered before the capabilities, so it is not waited for.
     BusQuestion::ask(call(kInterface, QStringLiteral("GetServerInformation")), *this,
                      BusQuestion::kNoTimeout, [conversation](const QDBusMessage &answer) {
@@ -224,6 +265,8 @@ void FreedesktopNotifications::sent(const std::shared_ptr<Conversation> &convers
     const bool numbered =
         answer.type() == QDBusMessage::ReplyMessage && answer.signature() == QLatin1String("u");
     const uint id = numbered ? answer.arguments().constFirst().toUInt() : 0;
+    if (id == 0 && std::exchange(conversation->serverCame, false) && !conversation->next)
+        conversation->next = conversation->shown;
     if (conversation->next || conversation->shown)
         conversation->id = id;
     // No merged one is under way again, because that would be a notification of its own.
@@ -235,7 +278,7 @@ void FreedesktopNotifications::sent(const std::shared_ptr<Conversation> &convers
         merged->server = conversation->server;
     }
     if (id != 0 && conversation->id == 0 && conversationsAbout(id, conversation->server).empty()) {
-        QDBusConnection::sessionBus().asyncCall(
+        BusConnection::instance().current().asyncCall(
             call(conversation->server, QStringLiteral("CloseNotification"), {id}));
     }
     if (conversation->next)

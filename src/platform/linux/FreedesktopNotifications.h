@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/DesktopNotifications.h"
+#include "platform/linux/BusNameWatch.h"
 
 #include <QHash>
 #include <QObject>
@@ -14,13 +15,14 @@ class QDBusMessage;
 
 /// Notifications by the Desktop Notifications Specification 1.2 of freedesktop.org, over the
 /// session bus. Calls never wait for their answers, so a server that is missing, slow or restarted
-/// does not hold up the program.
+/// does not hold up the program. A notification that no server has taken is shown when one comes,
+/// and all that are shown are shown again on a bus that has come back.
 class FreedesktopNotifications final : public QObject, public DesktopNotifications
 {
     Q_OBJECT
 
 public:
-    FreedesktopNotifications() = default;
+    FreedesktopNotifications();
 
     void notify(const QObject &sender, const DesktopNotification &notification) override;
     void withdraw(const QObject &sender) override;
@@ -42,10 +44,14 @@ private:
     [[nodiscard]] bool mergedByServer(const std::shared_ptr<Conversation> &closed);
     void forget(const QObject *sender);
     void listen();
+    void busLost();
+    void busFound();
+    void showAgain();
     void askAboutServer(const std::shared_ptr<Conversation> &conversation);
     void send(const std::shared_ptr<Conversation> &conversation, const QStringList &capabilities);
     void sent(const std::shared_ptr<Conversation> &conversation, const QDBusMessage &answer);
 
     QHash<const QObject *, std::shared_ptr<Conversation>> _conversations;
     bool _listening = false;
+    BusNameWatch _watch;
 };

@@ -1,5 +1,6 @@
 #include "platform/linux/FreedesktopScreenBlanking.h"
 
+#include "platform/linux/BusConnection.h"
 #include "platform/linux/BusNameWatch.h"
 #include "platform/linux/BusQuestion.h"
 #include "platform/linux/XScreenSaver.h"
@@ -75,7 +76,12 @@ const std::array kInhibitors{
 };
 } // namespace
 
-FreedesktopScreenBlanking::FreedesktopScreenBlanking() = default;
+FreedesktopScreenBlanking::FreedesktopScreenBlanking()
+{
+    const BusConnection &bus = BusConnection::instance();
+    connect(&bus, &BusConnection::lost, this, [this] { _returningCall.reset(); });
+    connect(&bus, &BusConnection::found, this, &FreedesktopScreenBlanking::busFound);
+}
 
 FreedesktopScreenBlanking::~FreedesktopScreenBlanking() = default;
 
@@ -150,8 +156,18 @@ void FreedesktopScreenBlanking::screenSaverAppeared()
     ask(0, Start::No);
 }
 
+void FreedesktopScreenBlanking::busFound()
+{
+    // The pending call was made on the old bus and is about to fail.
+    _appeared = _asking;
+    if (!_wanted || _asking)
+        return;
+    watch();
+    ask(0, Start::IfNeeded);
+}
+
 void FreedesktopScreenBlanking::giveBack()
 {
     if (_returningCall)
-        QDBusConnection::sessionBus().asyncCall(*std::exchange(_returningCall, nullptr));
+        BusConnection::instance().current().asyncCall(*std::exchange(_returningCall, nullptr));
 }

@@ -14,7 +14,8 @@ class QDBusMessage;
 /// desktop does not see to that.
 ///
 /// Calls never wait for their answers. A grant that arrives when it is no longer wanted is returned
-/// at once. A screen saver that restarts is asked again.
+/// at once. A screen saver that restarts is asked again, and so is that of a
+/// new bus.
 class FreedesktopScreenBlanking final : public QObject, public ScreenBlanking
 {
     Q_OBJECT
@@ -36,6 +37,7 @@ private:
     void ask(std::size_t inhibitor, Start start);
     void answered(std::size_t inhibitor, const QDBusMessage &answer);
     void screenSaverAppeared();
+    void busFound();
     void giveBack();
 
     bool _wanted = false;

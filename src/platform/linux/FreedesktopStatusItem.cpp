@@ -1,10 +1,10 @@
 #include "platform/linux/FreedesktopStatusItem.h"
 
 #include "platform/TrayIcon.h"
+#include "platform/linux/BusConnection.h"
 #include "platform/linux/BusNameWatch.h"
 #include "platform/linux/BusQuestion.h"
 #include "platform/linux/DBusMenu.h"
-#include "platform/linux/SessionBus.h"
 #include "platform/linux/StatusNotifierItem.h"
 
 #include <QApplication>
@@ -26,7 +26,7 @@ QDBusMessage registration()
         QDBusMessage::createMethodCall(kWatcher, QStringLiteral("/StatusNotifierWatcher"), kWatcher,
                                        QStringLiteral("RegisterStatusNotifierItem"));
     // Our unique name; watchers look for the item at the usual path.
-    call.setArguments({QDBusConnection::sessionBus().baseService()});
+    call.setArguments({BusConnection::instance().current().baseService()});
     call.setAutoStartService(false);
     return call;
 }
@@ -59,14 +59,21 @@ void FreedesktopStatusItem::changed()
 
 void FreedesktopStatusItem::start()
 {
-    if (!BusQuestion::isPossible()) {
+    connect(&BusConnection::instance(), &BusConnection::found, this,
+            &FreedesktopStatusItem::joinBus);
+    if (BusQuestion::isPossible())
+        joinBus();
+    else
         watcherVanished();
-        return;
-    }
-    QDBusConnection bus = QDBusConnection::sessionBus();
+}
+
+void FreedesktopStatusItem::joinBus()
+{
+    QDBusConnection bus = BusConnection::instance().current();
     bus.registerObject(kItemPath, _notifier.get(), kExported);
     bus.registerObject(kMenuPath, _dbusMenu.get(), kExported);
     _watch->watch(kWatcher);
+    _isWatched.reset();
     askForWatcher();
 }
 
@@ -102,7 +109,7 @@ void FreedesktopStatusItem::watcherAppeared()
 {
     _isWatched = true;
     publish();
-    QDBusConnection::sessionBus().asyncCall(registration());
+    BusConnection::instance().current().asyncCall(registration());
 }
 
 void FreedesktopStatusItem::watcherVanished()

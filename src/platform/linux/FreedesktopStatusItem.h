@@ -32,6 +32,7 @@ protected:
 
 private:
     void start();
+    void joinBus();
     void askForWatcher();
     void watcherChanged(bool takenOver);
     void watcherAppeared();

@@ -25,15 +25,14 @@ bool SessionBus::isPresent()
     return QFile::exists(defaultSocket());
 }
 
+QByteArray SessionBus::address()
+{
+    return qEnvironmentVariableIsSet(kAddress) ? qgetenv(kAddress)
+                                               : "unix:path=" + QFile::encodeName(defaultSocket());
+}
+
 void SessionBus::disableUnlessItAnswers()
 {
-    if (!isPresent()) {
-        qputenv(kAddress, kUnusableAddress);
-        return;
-    }
-    const QByteArray address = qEnvironmentVariableIsSet(kAddress)
-                                   ? qgetenv(kAddress)
-                                   : "unix:path=" + QFile::encodeName(defaultSocket());
-    if (BusProbe::hangs(address))
+    if (!isPresent() || BusProbe::hangs(address()))
         qputenv(kAddress, kUnusableAddress);
 }

@@ -1,6 +1,7 @@
 #include "platform/SingleInstance.h"
 
 #include "platform/linux/ActivationToken.h"
+#include "platform/linux/BusConnection.h"
 #include "platform/linux/BusQuestion.h"
 #include "platform/linux/StartupNotification.h"
 
@@ -76,7 +77,7 @@ private:
         useActivationToken(shortText(platformData, kActivationToken));
         if (!_instance.ask(action)) {
             call.setDelayedReply(true);
-            QDBusConnection::sessionBus().send(
+            BusConnection::instance().current().send(
                 call.createErrorReply(QDBusError::LimitsExceeded, QStringLiteral("Refused.")));
         }
         endStartupNotification(shortText(platformData, kStartupId));
@@ -98,13 +99,17 @@ QVariantMap SingleInstance::thisLaunch()
 SingleInstance::SingleInstance()
 {
     new BusInterface(*this);
+    connect(&BusConnection::instance(), &BusConnection::found, this, [this] {
+        BusConnection::instance().current().registerObject(objectPath(), this);
+        inherit();
+    });
 }
 
 bool SingleInstance::claim()
 {
     if (!BusQuestion::isPossible())
         return true;
-    QDBusConnection bus = QDBusConnection::sessionBus();
+    QDBusConnection bus = BusConnection::instance().current();
     // Before the name, because a process that waits for the name sends its call at once.
     bus.registerObject(objectPath(), this);
     const QDBusReply<QDBusConnectionInterface::RegisterServiceReply> owner =
@@ -123,15 +128,20 @@ bool SingleInstance::forward(const QString &action, const QVariantMap &launch) c
     else
         call.setArguments({action, QVariantList(), launch});
     call.setAutoStartService(false);
-    const QDBusMessage answer = QDBusConnection::sessionBus().call(call, QDBus::Block, kTimeoutMs);
+    const QDBusMessage answer =
+        BusConnection::instance().current().call(call, QDBus::Block, kTimeoutMs);
     return answer.type() == QDBusMessage::ReplyMessage ||
            QDBusError(answer).type() == QDBusError::LimitsExceeded;
 }
 
 void SingleInstance::inherit()
 {
-    QDBusConnection::sessionBus().interface()->registerService(
-        busName(), QDBusConnectionInterface::QueueService);
+    QDBusMessage call = QDBusMessage::createMethodCall(
+        QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/org/freedesktop/DBus"),
+        QStringLiteral("org.freedesktop.DBus"), QStringLiteral("RequestName"));
+    constexpr uint queue = 0;
+    call.setArguments({busName(), queue});
+    BusConnection::instance().current().asyncCall(call);
 }
 
 #include "SingleInstance.moc"

@@ -1,5 +1,6 @@
 #include "platform/linux/UnityLauncherEntry.h"
 
+#include "platform/linux/BusConnection.h"
 #include "platform/linux/BusQuestion.h"
 
 #include <QDBusConnection>
@@ -29,11 +30,18 @@ bool UnityLauncherEntry::isRead()
 
 void UnityLauncherEntry::lookForReader()
 {
-    if (!BusQuestion::isPossible())
-        return;
     connect(&_watch, &BusNameWatch::appeared, this, [this] { setRead(true); });
     connect(&_watch, &BusNameWatch::vanished, this, [this] { setRead(false); });
+    connect(&BusConnection::instance(), &BusConnection::found, this,
+            &UnityLauncherEntry::askForReader);
     _watch.watch(kReader);
+    askForReader();
+}
+
+void UnityLauncherEntry::askForReader()
+{
+    if (!BusQuestion::isPossible())
+        return;
     QDBusMessage question = QDBusMessage::createMethodCall(
         QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/org/freedesktop/DBus"),
         QStringLiteral("org.freedesktop.DBus"), QStringLiteral("NameHasOwner"));
@@ -70,7 +78,7 @@ void UnityLauncherEntry::send()
     update.setArguments({QString(QStringLiteral("application://%1.desktop"))
                              .arg(QGuiApplication::desktopFileName()),
                          properties(_state)});
-    QDBusConnection::sessionBus().send(update);
+    BusConnection::instance().current().send(update);
     _sent = _state;
     _pause.startOnce(kPause);
 }

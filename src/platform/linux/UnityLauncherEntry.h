@@ -17,6 +17,7 @@ public:
 
 private:
     void lookForReader();
+    void askForReader();
     void setRead(bool read);
     void send();
 
