@@ -8,6 +8,7 @@
 #include "support/TestMain.h"
 
 #include <QDBusArgument>
+#include <QDBusConnectionInterface>
 #include <QDBusObjectPath>
 #include <QDir>
 #include <QElapsedTimer>
@@ -20,6 +21,7 @@ namespace
 {
 const QString kItem = QStringLiteral("org.kde.StatusNotifierItem");
 const QString kPath = QStringLiteral("/StatusNotifierItem");
+const QString kMenu = QStringLiteral("com.canonical.dbusmenu");
 
 QIcon image()
 {
@@ -31,6 +33,19 @@ QIcon image()
 StatusTitle title(const char *text, const QColor &color = Qt::black)
 {
     return {QString::fromUtf8(text), color};
+}
+
+/// The panel reports an event of a line of its menu; 0 is the menu itself.
+void tellMenu(BusPeer &menu, int line, const char *event)
+{
+    menu.tell(QStringLiteral("Event"),
+              {line, QString::fromLatin1(event), QVariant::fromValue(QDBusVariant(QString())), 0U});
+}
+
+/// The unique name of the owner; empty if the name has none.
+QString ownerOf(const QString &name)
+{
+    return QDBusConnection::sessionBus().interface()->serviceOwner(name).value();
 }
 } // namespace
 
@@ -48,7 +63,11 @@ private Q_SLOTS:
     void initTestCase() { StatusNotifier::registerTypes(); }
     void init();
     void cleanup();
-    void theItemRegistersUnderTheNameThatTheBusHasGiven();
+    void theItemRegistersUnderANameOfItsOwn();
+    void anEmptyItemIsNotRegistered();
+    void anEmptiedItemGivesItsNameUp();
+    void anItemThatShowsAgainAtOnceKeepsItsName();
+    void theItemRegistersEachTimeItShows();
     void theItemRegistersWithEveryWatcherThatComes();
     void theItemRegistersWithAWatcherThatTakesTheNameOver();
     void aPanelThatIsReplacedHasNoMenuOpen();
@@ -71,11 +90,18 @@ private Q_SLOTS:
     void aMissingBusIsHarmless();
 
 private:
-    /// Starts a watcher, and waits until the item has registered.
+    /// Starts a watcher, and waits until the item knows it.
     void watch()
     {
         _watcher.emplace(_address);
-        QTRY_COMPARE(_watcher->registered.size(), 1);
+        settleWithBus();
+        QCOMPARE(_watcher->registered.size(), _item->isEmpty() ? 0 : 1);
+    }
+    /// Starts a watcher, with which an item that is shown registers.
+    void watchShown()
+    {
+        _item->setAttributedTitle(title("5m 3s "));
+        watch();
     }
     [[nodiscard]] BusPeer panel() const { return {_address, kPath, kItem}; }
 
@@ -96,15 +122,65 @@ void tst_FreedesktopStatusItem::cleanup()
     _watcher.reset();
 }
 
-void tst_FreedesktopStatusItem::theItemRegistersUnderTheNameThatTheBusHasGiven()
+void tst_FreedesktopStatusItem::theItemRegistersUnderANameOfItsOwn()
+{
+    watchShown();
+    const QString name = _watcher->registered.constFirst();
+    QVERIFY(name.startsWith(QLatin1String("org.wuffer.Wuffer.StatusItem-")));
+    QCOMPARE(ownerOf(name), QDBusConnection::sessionBus().baseService());
+}
+
+void tst_FreedesktopStatusItem::anEmptyItemIsNotRegistered()
 {
     watch();
-    QCOMPARE(_watcher->registered, QStringList{QDBusConnection::sessionBus().baseService()});
+    QCOMPARE(_watcher->registered, QStringList());
+    // A menu alone shows nothing.
+    FakeStatusMenu menu;
+    _item->setMenu(&menu);
+    settleWithBus();
+    QCOMPARE(_watcher->registered, QStringList());
+}
+
+void tst_FreedesktopStatusItem::anEmptiedItemGivesItsNameUp()
+{
+    watchShown();
+    BusPeer peer = panel();
+    const QString name = _watcher->registered.constFirst();
+    _item->setTitle({});
+    QTRY_COMPARE(ownerOf(name), QString());
+    // The panel has read all changes before.
+    QCOMPARE(_watcher->ownedWhenAsked, QList<bool>{true});
+    // Panels that heed the status know first.
+    QVERIFY(peer.takeNames().contains(QStringLiteral("NewStatus")));
+}
+
+void tst_FreedesktopStatusItem::anItemThatShowsAgainAtOnceKeepsItsName()
+{
+    watchShown();
+    BusPeer peer = panel();
+    _item->setTitle({});
+    QTRY_VERIFY(peer.hasHeardSomething());
+    _item->setAttributedTitle(title("5m 3s "));
+    settleWithBus();
+    QCOMPARE(ownerOf(_watcher->registered.constLast()),
+             QDBusConnection::sessionBus().baseService());
+}
+
+void tst_FreedesktopStatusItem::theItemRegistersEachTimeItShows()
+{
+    watchShown();
+    for (qsizetype times = 2; times < 5; ++times) {
+        _item->setTitle({});
+        settleWithBus();
+        _item->setAttributedTitle(title("5m 3s "));
+        QTRY_COMPARE(_watcher->registered.size(), times);
+        QVERIFY(!ownerOf(_watcher->registered.constLast()).isEmpty());
+    }
 }
 
 void tst_FreedesktopStatusItem::theItemRegistersWithEveryWatcherThatComes()
 {
-    watch();
+    watchShown();
     for (int i = 0; i < 3; ++i) {
         _watcher.reset();
         settleWithBus();
@@ -114,10 +190,11 @@ void tst_FreedesktopStatusItem::theItemRegistersWithEveryWatcherThatComes()
 
 void tst_FreedesktopStatusItem::theItemRegistersWithAWatcherThatTakesTheNameOver()
 {
-    watch();
+    watchShown();
     const StatusWatcher next(_address, StatusWatcher::Next);
+    const QStringList registered = _watcher->registered;
     _watcher.reset();
-    QTRY_COMPARE(next.registered, QStringList{QDBusConnection::sessionBus().baseService()});
+    QTRY_COMPARE(next.registered, registered);
 }
 
 void tst_FreedesktopStatusItem::theItemSaysWhatItIs()
@@ -192,7 +269,8 @@ void tst_FreedesktopStatusItem::thePixelsAreAlphaFirst()
     };
     QTRY_VERIFY(!pixmaps().isEmpty());
     const QByteArray pixels = pixmaps().last().pixels;
-    QCOMPARE(pixels.mid((48 * 24 + 24) * 4, 4), QByteArray("\xff\x12\x34\x56"));
+    constexpr qsizetype middle = qsizetype{4} * 48 * 24 + qsizetype{4} * 24;
+    QCOMPARE(pixels.mid(middle, 4), QByteArray("\xff\x12\x34\x56"));
 }
 
 void tst_FreedesktopStatusItem::thereIsAMenuOnlyWhileOneIsAttached()
@@ -377,34 +455,27 @@ void tst_FreedesktopStatusItem::anOpenMenuStaysUntilItCloses()
 {
     watch();
     BusPeer peer = panel();
-    BusPeer shownMenu(_address, kPath + QStringLiteral("/Menu"),
-                      QStringLiteral("com.canonical.dbusmenu"));
-    const auto event = [&](const char *name) {
-        shownMenu.tell(QStringLiteral("Event"), {0, QString::fromLatin1(name),
-                                                 QVariant::fromValue(QDBusVariant(QString())), 0U});
-    };
+    BusPeer shownMenu(_address, kPath + QStringLiteral("/Menu"), kMenu);
     const auto isMenu = [&] { return peer.property(QStringLiteral("ItemIsMenu")).toBool(); };
     FakeStatusMenu menu;
     _item->setMenu(&menu);
     QTRY_VERIFY(isMenu());
-    event("opened");
+    tellMenu(shownMenu, 0, "opened");
     _item->setMenu(nullptr);
     settleWithBus();
     QVERIFY(isMenu());
-    event("closed");
+    tellMenu(shownMenu, 0, "closed");
     QTRY_VERIFY(!isMenu());
 }
 
 void tst_FreedesktopStatusItem::aPanelThatIsReplacedHasNoMenuOpen()
 {
-    watch();
-    BusPeer shownMenu(_address, kPath + QStringLiteral("/Menu"),
-                      QStringLiteral("com.canonical.dbusmenu"));
+    watchShown();
+    BusPeer shownMenu(_address, kPath + QStringLiteral("/Menu"), kMenu);
     BusPeer peer = panel();
     FakeStatusMenu menu;
     _item->setMenu(&menu);
-    shownMenu.tell(QStringLiteral("Event"),
-                   {0, QStringLiteral("opened"), QVariant::fromValue(QDBusVariant(QString())), 0U});
+    tellMenu(shownMenu, 0, "opened");
     const StatusWatcher next(_address, StatusWatcher::Next);
     _watcher.reset();
     QTRY_COMPARE(next.registered.size(), 1);

@@ -13,6 +13,7 @@ class StatusWatcher final : public QObject
 {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.kde.StatusNotifierWatcher")
+    Q_PROPERTY(int ProtocolVersion READ protocolVersion)
 
 public:
     enum Place {
@@ -31,7 +32,8 @@ public:
         const auto wanted = place == First ? QDBusConnectionInterface::ServiceRegistered
                                            : QDBusConnectionInterface::ServiceQueued;
         if (!_bus.registerObject(QStringLiteral("/StatusNotifierWatcher"), this,
-                                 QDBusConnection::ExportAllSlots) ||
+                                 QDBusConnection::ExportAllSlots |
+                                     QDBusConnection::ExportAllProperties) ||
             _bus.interface()->registerService(QStringLiteral("org.kde.StatusNotifierWatcher"),
                                               queueing) != wanted)
             qFatal("the watcher could not be registered");
@@ -39,7 +41,16 @@ public:
     ~StatusWatcher() override { leaveBus(*this, _bus); }
     Q_DISABLE_COPY_MOVE(StatusWatcher)
 
+    [[nodiscard]] int protocolVersion()
+    {
+        ownedWhenAsked << _bus.interface()->isServiceRegistered(registered.constLast()).value();
+        return 0;
+    }
+
     QStringList registered;
+
+    /// For each question of the program, whether the latest item still had its name.
+    QList<bool> ownedWhenAsked;
 
 public Q_SLOTS:
     void RegisterStatusNotifierItem(const QString &service) { registered << service; }

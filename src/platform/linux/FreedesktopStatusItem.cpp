@@ -12,6 +12,8 @@
 #include <QDBusMessage>
 #include <QDBusReply>
 
+#include <utility>
+
 namespace
 {
 const QString kItemPath = QStringLiteral("/StatusNotifierItem");
@@ -20,13 +22,30 @@ const QString kWatcher = QStringLiteral("org.kde.StatusNotifierWatcher");
 constexpr auto kExported = QDBusConnection::ExportAllSlots | QDBusConnection::ExportAllSignals |
                            QDBusConnection::ExportAllProperties;
 
-QDBusMessage registration()
+/// A name on the bus for the item alone. Some panels heed no status and show an item until its name
+/// has gone. Made from our unique name, so that no other process has it.
+QString itemName()
 {
+    const QString number = BusConnection::instance().current().baseService().mid(1);
+    return QGuiApplication::desktopFileName() + QStringLiteral(".StatusItem-") +
+           QString(number).replace(QLatin1Char('.'), QLatin1Char('-'));
+}
+
+QDBusMessage callOfBus(const QString &method, const QVariantList &arguments)
+{
+    const QString bus = QStringLiteral("org.freedesktop.DBus");
     QDBusMessage call =
-        QDBusMessage::createMethodCall(kWatcher, QStringLiteral("/StatusNotifierWatcher"), kWatcher,
-                                       QStringLiteral("RegisterStatusNotifierItem"));
-    // Our unique name; watchers look for the item at the usual path.
-    call.setArguments({BusConnection::instance().current().baseService()});
+        QDBusMessage::createMethodCall(bus, QStringLiteral("/org/freedesktop/DBus"), bus, method);
+    call.setArguments(arguments);
+    return call;
+}
+
+QDBusMessage callOfWatcher(const QString &interface, const QString &method,
+                           const QVariantList &arguments)
+{
+    QDBusMessage call = QDBusMessage::createMethodCall(
+        kWatcher, QStringLiteral("/StatusNotifierWatcher"), interface, method);
+    call.setArguments(arguments);
     call.setAutoStartService(false);
     return call;
 }
@@ -79,12 +98,8 @@ void FreedesktopStatusItem::joinBus()
 
 void FreedesktopStatusItem::askForWatcher()
 {
-    QDBusMessage question = QDBusMessage::createMethodCall(
-        QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/org/freedesktop/DBus"),
-        QStringLiteral("org.freedesktop.DBus"), QStringLiteral("NameHasOwner"));
-    question.setArguments({kWatcher});
-    BusQuestion::ask(question, *this, BusQuestion::kDefaultTimeout,
-                     [this](const QDBusMessage &answer) {
+    BusQuestion::ask(callOfBus(QStringLiteral("NameHasOwner"), {kWatcher}), *this,
+                     BusQuestion::kDefaultTimeout, [this](const QDBusMessage &answer) {
                          const QDBusReply<bool> hasOwner(answer);
                          // If _isWatched is set, the watcher has appeared or vanished since the
                          // question. A bus that does not answer has no panels either.
@@ -108,13 +123,14 @@ void FreedesktopStatusItem::watcherChanged(bool takenOver)
 void FreedesktopStatusItem::watcherAppeared()
 {
     _isWatched = true;
+    unregister();
     publish();
-    BusConnection::instance().current().asyncCall(registration());
 }
 
 void FreedesktopStatusItem::watcherVanished()
 {
     _isWatched = false;
+    unregister();
     _dbusMenu->forgetPanel();
     // Only X11 has a tray that embeds windows.
     if (QGuiApplication::platformName() == QLatin1String("xcb")) {
@@ -134,9 +150,49 @@ void FreedesktopStatusItem::publish()
         // An open menu stays until the panel closes it.
         _dbusMenu->setMenu(menu());
         _notifier->show({icon, attributedTitle().text, menu() != nullptr || _dbusMenu->isOpen()});
+        if (isEmpty())
+            unregisterLater();
+        else
+            registerOnce();
     } else if (isEmpty()) {
         _tray->hide();
     } else {
         _tray->show(icon, titleWithProgram(attributedTitle().text));
     }
+}
+
+void FreedesktopStatusItem::registerOnce()
+{
+    ++_request;
+    if (std::exchange(_isRegistered, true))
+        return;
+    constexpr uint doNotQueue = 4;
+    const QString name = itemName();
+    QDBusConnection bus = BusConnection::instance().current();
+    bus.asyncCall(callOfBus(QStringLiteral("RequestName"), {name, doNotQueue}));
+    // Watchers look for the item at the usual path.
+    bus.asyncCall(callOfWatcher(kWatcher, QStringLiteral("RegisterStatusNotifierItem"), {name}));
+}
+
+void FreedesktopStatusItem::unregisterLater()
+{
+    if (!_isRegistered)
+        return;
+    // The panel of Xfce crashes if the item goes while its properties are being read, and our
+    // signals make the panel read them. Once the watcher has answered, they have been read.
+    const auto answered = [this, request = ++_request](const QDBusMessage & /*answer*/) {
+        if (request == _request)
+            unregister();
+    };
+    const QDBusMessage question =
+        callOfWatcher(QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("Get"),
+                      {kWatcher, QStringLiteral("ProtocolVersion")});
+    BusQuestion::ask(question, *this, BusQuestion::kNoTimeout, answered);
+}
+
+void FreedesktopStatusItem::unregister()
+{
+    if (std::exchange(_isRegistered, false))
+        BusConnection::instance().current().asyncCall(
+            callOfBus(QStringLiteral("ReleaseName"), {itemName()}));
 }

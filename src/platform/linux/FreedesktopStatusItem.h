@@ -16,9 +16,10 @@ class TrayIcon;
 /// A status item of the freedesktop.org desktops: over the session bus while a
 /// StatusNotifierWatcher runs there, else as a picture in the X tray.
 ///
-/// The watcher may appear and vanish at any time. Calls never wait for their answers, so a bus or a
-/// watcher that is missing, slow or dead does not hold up the program. Changes are collected and
-/// sent together in the next turn of the event loop.
+/// The item is registered with the watcher only while it shows something. The watcher may appear
+/// and vanish at any time. Calls never wait for their answers, so a bus or a watcher that is
+/// missing, slow or dead does not hold up the program. Changes are collected and sent together in
+/// the next turn of the event loop.
 class FreedesktopStatusItem final : public QObject, public StatusItem
 {
     Q_OBJECT
@@ -38,6 +39,9 @@ private:
     void watcherAppeared();
     void watcherVanished();
     void publish();
+    void registerOnce();
+    void unregisterLater();
+    void unregister();
 
     std::unique_ptr<TrayIcon> _tray;
     std::unique_ptr<StatusNotifierItem> _notifier;
@@ -45,5 +49,8 @@ private:
     std::unique_ptr<BusNameWatch> _watch;
     /// Whether a watcher runs; unknown until the bus has answered.
     std::optional<bool> _isWatched;
+    bool _isRegistered = false;
+    /// Counts the requests to unregister and to register; only the latest is carried out.
+    int _request = 0;
     QTimer _publishTimer;
 };
