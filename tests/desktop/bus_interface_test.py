@@ -17,6 +17,8 @@ NAME = "org.wuffer.Wuffer"
 APPLICATION = ("/org/wuffer/Wuffer", "org.freedesktop.Application")
 ITEM = ("/StatusNotifierItem", "org.kde.StatusNotifierItem")
 MENU = ("/StatusNotifierItem/Menu", "com.canonical.dbusmenu")
+# For panels that have read the path of the menu before there was one.
+EARLY_MENU = ("/NO_DBUSMENU", "com.canonical.dbusmenu")
 MUTED = '{"soundOff": 1, "growlDisabled": 1}'
 
 # The interfaces that every D-Bus object has.
@@ -47,6 +49,7 @@ EXPORTED = {
         "signal": {"ItemsPropertiesUpdated": "a(ia{sv})a(ias)", "LayoutUpdated": "ui"},
     },
 }
+EXPORTED[EARLY_MENU] = EXPORTED[MENU]
 
 HUGE = "x" * 10_000_000
 

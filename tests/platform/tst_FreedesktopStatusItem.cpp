@@ -1,3 +1,4 @@
+#include "platform/linux/DBusMenuTypes.h"
 #include "platform/linux/FreedesktopStatusItem.h"
 #include "platform/linux/StatusNotifierTypes.h"
 #include "support/BusPeer.h"
@@ -77,6 +78,7 @@ private Q_SLOTS:
     void theIconIsSquareInTheSizesOfPanels();
     void thePixelsAreAlphaFirst();
     void thereIsAMenuOnlyWhileOneIsAttached();
+    void panelsThatReadThePathOfTheMenuOnceGetItsLines();
     void anOpenMenuStaysUntilItCloses();
     void aPressSendsTheAction();
     void aPressWithAMenuShowsItForPanelsThatCannot();
@@ -290,6 +292,25 @@ void tst_FreedesktopStatusItem::thereIsAMenuOnlyWhileOneIsAttached()
     _item->setMenu(nullptr);
     QTRY_COMPARE(path(), QStringLiteral("/NO_DBUSMENU"));
     QCOMPARE(peer.property(QStringLiteral("ItemIsMenu")), QVariant(false));
+}
+
+void tst_FreedesktopStatusItem::panelsThatReadThePathOfTheMenuOnceGetItsLines()
+{
+    watchShown();
+    const QString firstPath =
+        panel().property(QStringLiteral("Menu")).value<QDBusObjectPath>().path();
+    BusPeer shownMenu(_address, firstPath, kMenu);
+    FakeStatusMenu menu;
+    menu.current = {{1, QStringLiteral("a")}, {2, QStringLiteral("b")}};
+    _item->setMenu(&menu);
+    QTRY_VERIFY(shownMenu.hasHeardSomething());
+    QCOMPARE(shownMenu.takeNames(), QStringList{QStringLiteral("LayoutUpdated")});
+    const QDBusMessage layout = shownMenu.ask(QStringLiteral("GetLayout"), {0, -1, QStringList()});
+    QCOMPARE(layout.signature(), QStringLiteral("u(ia{sv}av)"));
+    const auto lines = qdbus_cast<DBusMenuTypes::Layout>(layout.arguments().constLast());
+    QCOMPARE(lines.children.size(), 2);
+    tellMenu(shownMenu, 2, "clicked");
+    QCOMPARE(menu.chosen, (std::vector<int>{2}));
 }
 
 void tst_FreedesktopStatusItem::aPressSendsTheAction()

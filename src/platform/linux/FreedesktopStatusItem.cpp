@@ -91,6 +91,9 @@ void FreedesktopStatusItem::joinBus()
     QDBusConnection bus = BusConnection::instance().current();
     bus.registerObject(kItemPath, _notifier.get(), kExported);
     bus.registerObject(kMenuPath, _dbusMenu.get(), kExported);
+    // Panels that read the path of the menu only once have the placeholder, and ask for lines
+    // there.
+    bus.registerObject(StatusNotifierItem::kNoMenuPath, _dbusMenu.get(), kExported);
     _watch->watch(kWatcher);
     _isWatched.reset();
     askForWatcher();

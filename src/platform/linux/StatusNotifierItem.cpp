@@ -46,7 +46,7 @@ StatusNotifier::ToolTip StatusNotifierItem::toolTip() const
 
 QDBusObjectPath StatusNotifierItem::menu() const
 {
-    return QDBusObjectPath(_content.hasMenu ? _menuPath : QStringLiteral("/NO_DBUSMENU"));
+    return QDBusObjectPath(_content.hasMenu ? _menuPath : kNoMenuPath);
 }
 
 void StatusNotifierItem::ProvideXdgActivationToken(const QString &token)

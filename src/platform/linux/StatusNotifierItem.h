@@ -52,6 +52,9 @@ public:
 
     using Handler = std::function<void()>;
 
+    /// The protocol's placeholder for the path of a menu that does not exist.
+    inline static const QString kNoMenuPath = QStringLiteral("/NO_DBUSMENU");
+
     /// Takes the object path of the menu, which is used while the content has a menu. A left click
     /// calls `activate`; a panel that shows no menus itself calls `showMenu`.
     StatusNotifierItem(QString menuPath, Handler activate, Handler showMenu);
