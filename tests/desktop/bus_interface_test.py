@@ -38,8 +38,8 @@ EXPORTED = {
             "OverlayIconPixmap": "a(iiay)", "Status": "s", "Title": "s",
             "ToolTip": "(sa(iiay)ss)", "WindowId": "i", "XAyatanaLabel": "s",
             "XAyatanaLabelGuide": "s", "XAyatanaOrderingIndex": "u"},
-        "signal": {"NewIcon": "", "NewMenu": "", "NewStatus": "s", "NewTitle": "",
-                   "NewToolTip": "", "XAyatanaNewLabel": "ss"},
+        "signal": {"NewIcon": "", "NewMenu": "", "NewStatus": "s", "NewToolTip": "",
+                   "XAyatanaNewLabel": "ss"},
     },
     MENU: {
         "method": {"AboutToShow": "i", "AboutToShowGroup": "ai", "Event": "isvu",

@@ -1,5 +1,6 @@
 #include "platform/linux/DBusMenu.h"
 #include "support/BusPeer.h"
+#include "support/ClockFixture.h"
 #include "support/Fakes.h"
 #include "support/PrivateBus.h"
 #include "support/TestMain.h"
@@ -97,6 +98,7 @@ private:
     }
 
     const QString _address;
+    std::optional<ClockFixture> _fixture;
     std::optional<FakeStatusMenu> _list;
     std::optional<DBusMenu> _menu;
     std::optional<BusPeer> _peer;
@@ -107,6 +109,7 @@ private:
 void tst_DBusMenu::init()
 {
     Test::init();
+    _fixture.emplace();
     _closings = 0;
     _list.emplace();
     _list->current = {{7, QStringLiteral("Tea: 5s")}, {3, QStringLiteral("Eggs: 1m 5s")}};
@@ -125,6 +128,7 @@ void tst_DBusMenu::cleanup()
     _peer.reset();
     _menu.reset();
     _list.reset();
+    _fixture.reset();
 }
 
 void tst_DBusMenu::theLayoutIsTheListOfLines()

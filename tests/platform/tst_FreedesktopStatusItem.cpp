@@ -2,6 +2,7 @@
 #include "platform/linux/FreedesktopStatusItem.h"
 #include "platform/linux/StatusNotifierTypes.h"
 #include "support/BusPeer.h"
+#include "support/ClockFixture.h"
 #include "support/Fakes.h"
 #include "support/PrivateBus.h"
 #include "support/RoundTrip.h"
@@ -34,6 +35,11 @@ QIcon image()
 StatusTitle title(const char *text, const QColor &color = Qt::black)
 {
     return {QString::fromUtf8(text), color};
+}
+
+QString toolTipIn(BusPeer &panel)
+{
+    return qdbus_cast<StatusNotifier::ToolTip>(panel.property(QStringLiteral("ToolTip"))).title;
 }
 
 /// The panel reports an event of a line of its menu; 0 is the menu itself.
@@ -74,11 +80,13 @@ private Q_SLOTS:
     void aPanelThatIsReplacedHasNoMenuOpen();
     void theItemSaysWhatItIs();
     void anEmptyItemIsPassive();
-    void theTitleIsLabelTitleAndToolTip();
+    void theTitleIsLabelAndToolTip();
     void theIconIsSquareInTheSizesOfPanels();
     void thePixelsAreAlphaFirst();
     void thereIsAMenuOnlyWhileOneIsAttached();
     void panelsThatReadThePathOfTheMenuOnceGetItsLines();
+    void theToolTipRestsWhileTheListIsInView();
+    void theToolTipGoesOnTenSecondsAfterAPanelThatDoesNotSayWhenTheListCloses();
     void anOpenMenuStaysUntilItCloses();
     void aPressSendsTheAction();
     void aPressWithAMenuShowsItForPanelsThatCannot();
@@ -108,6 +116,7 @@ private:
     [[nodiscard]] BusPeer panel() const { return {_address, kPath, kItem}; }
 
     const QString _address;
+    std::optional<ClockFixture> _fixture;
     std::optional<StatusWatcher> _watcher;
     std::optional<FreedesktopStatusItem> _item;
 };
@@ -115,6 +124,7 @@ private:
 void tst_FreedesktopStatusItem::init()
 {
     Test::init();
+    _fixture.emplace();
     _item.emplace();
 }
 
@@ -122,6 +132,7 @@ void tst_FreedesktopStatusItem::cleanup()
 {
     _item.reset();
     _watcher.reset();
+    _fixture.reset();
 }
 
 void tst_FreedesktopStatusItem::theItemRegistersUnderANameOfItsOwn()
@@ -225,14 +236,15 @@ void tst_FreedesktopStatusItem::anEmptyItemIsPassive()
     QTRY_COMPARE(status(), QStringLiteral("Passive"));
 }
 
-void tst_FreedesktopStatusItem::theTitleIsLabelTitleAndToolTip()
+void tst_FreedesktopStatusItem::theTitleIsLabelAndToolTip()
 {
     watch();
     BusPeer peer = panel();
     _item->setAttributedTitle(title("5m 3s "));
     QTRY_COMPARE(peer.property(QStringLiteral("XAyatanaLabel")), QStringLiteral("5m 3s "));
     const QString program = QGuiApplication::applicationDisplayName();
-    QCOMPARE(peer.property(QStringLiteral("Title")), QString(program + QStringLiteral(": 5m 3s")));
+    // Panels keep lists of items by their titles.
+    QCOMPARE(peer.property(QStringLiteral("Title")), program);
     const auto toolTip =
         qdbus_cast<StatusNotifier::ToolTip>(peer.property(QStringLiteral("ToolTip")));
     QCOMPARE(toolTip.title, QString(program + QStringLiteral(": 5m 3s")));
@@ -382,10 +394,10 @@ void tst_FreedesktopStatusItem::onlyChangesAreSignalled_data()
         "");
     row(
         "a second later", [](StatusItem &item) { item.setAttributedTitle(title("5m 2s ")); },
-        "NewTitle NewToolTip XAyatanaNewLabel");
+        "NewToolTip XAyatanaNewLabel");
     row(
         "a minute later", [](StatusItem &item) { item.setAttributedTitle(title("4m 2s ")); },
-        "NewIcon NewTitle NewToolTip XAyatanaNewLabel");
+        "NewIcon NewToolTip XAyatanaNewLabel");
     row(
         "another colour",
         [](StatusItem &item) { item.setAttributedTitle(title("5m 3s ", Qt::red)); }, "NewIcon");
@@ -395,7 +407,7 @@ void tst_FreedesktopStatusItem::onlyChangesAreSignalled_data()
             item.setImage({});
             item.setTitle({});
         },
-        "NewIcon NewStatus NewTitle NewToolTip XAyatanaNewLabel");
+        "NewIcon NewStatus NewToolTip XAyatanaNewLabel");
     row(
         "a target", [](StatusItem &item) { item.setTarget(qApp, [] {}); }, "");
     static FakeStatusMenu menu;
@@ -423,7 +435,7 @@ void tst_FreedesktopStatusItem::manyChangesAtOnceAreSignalledOnce()
         _item->setImage(image());
         _item->setAttributedTitle(title(qPrintable(QStringLiteral("%1s ").arg(i))));
     }
-    QCOMPARE(peer.takeNames().size(), 5);
+    QCOMPARE(peer.takeNames().size(), 4);
 }
 
 void tst_FreedesktopStatusItem::theNewLabelComesWithItsSignal()
@@ -470,6 +482,46 @@ void tst_FreedesktopStatusItem::aMissingBusIsHarmless()
     QCOMPARE(QDir(nowhere.path()).entryList(QDir::NoDotAndDotDot | QDir::AllEntries),
              QStringList());
     qputenv("DBUS_SESSION_BUS_ADDRESS", _address.toUtf8());
+}
+
+void tst_FreedesktopStatusItem::theToolTipRestsWhileTheListIsInView()
+{
+    watchShown();
+    BusPeer peer = panel();
+    BusPeer shownMenu(_address, kPath + QStringLiteral("/Menu"), kMenu);
+    FakeStatusMenu menu;
+    menu.current = {{1, QStringLiteral("a")}};
+    _item->setMenu(&menu);
+    for (const char *closing : {"closed", "clicked"}) {
+        static_cast<void>(shownMenu.ask(QStringLiteral("AboutToShow"), {0}));
+        static_cast<void>(peer.takeNames());
+        _item->setAttributedTitle(title("5m 2s "));
+        QCOMPARE(peer.takeNames(), QStringList{QStringLiteral("XAyatanaNewLabel")});
+        QCOMPARE(toolTipIn(peer), QStringLiteral("Wuffer: 5m 3s"));
+        tellMenu(shownMenu, 0, "opened");
+        tellMenu(shownMenu, 0, closing);
+        QTRY_COMPARE(toolTipIn(peer), QStringLiteral("Wuffer: 5m 2s"));
+        _item->setAttributedTitle(title("5m 3s "));
+        QTRY_COMPARE(toolTipIn(peer), QStringLiteral("Wuffer: 5m 3s"));
+    }
+}
+
+void tst_FreedesktopStatusItem::
+    theToolTipGoesOnTenSecondsAfterAPanelThatDoesNotSayWhenTheListCloses()
+{
+    watchShown();
+    BusPeer peer = panel();
+    BusPeer shownMenu(_address, kPath + QStringLiteral("/Menu"), kMenu);
+    FakeStatusMenu menu;
+    _item->setMenu(&menu);
+    settleWithBus();
+    static_cast<void>(shownMenu.ask(QStringLiteral("AboutToShow"), {0}));
+    _item->setAttributedTitle(title("5m 2s "));
+    _fixture->clock.advance(9.9);
+    settleWithBus();
+    QCOMPARE(toolTipIn(peer), QStringLiteral("Wuffer: 5m 3s"));
+    _fixture->clock.advance(0.2);
+    QTRY_COMPARE(toolTipIn(peer), QStringLiteral("Wuffer: 5m 2s"));
 }
 
 void tst_FreedesktopStatusItem::anOpenMenuStaysUntilItCloses()

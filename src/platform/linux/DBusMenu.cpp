@@ -13,6 +13,8 @@ namespace
 constexpr int kRoot = 0;
 /// How old the texts in an open menu may be.
 constexpr int kTextDelay = 100; // ms
+/// How many seconds a menu counts as in view that a panel was about to show.
+constexpr double kSecondsInView = 10.0;
 
 const QString kLabel = QStringLiteral("label");
 
@@ -93,6 +95,7 @@ void DBusMenu::setMenu(StatusMenu *menu)
 void DBusMenu::forgetPanel()
 {
     _open = false;
+    _viewTimer.invalidate();
     _textTimer.stop();
     _panelWatch.stop();
 }
@@ -159,7 +162,11 @@ QList<int> DBusMenu::EventGroup(const DBusMenuTypes::Events &events)
 
 bool DBusMenu::AboutToShow(int id)
 {
-    return id == kRoot && bringUpToDate();
+    if (id != kRoot)
+        return false;
+    if (!_open)
+        _viewTimer.startOnce(kSecondsInView);
+    return bringUpToDate();
 }
 
 QList<int> DBusMenu::AboutToShowGroup(const QList<int> &ids, QList<int> &idErrors)
@@ -190,7 +197,7 @@ void DBusMenu::handle(int id, const QString &eventId)
         if (_source && hasLine(id))
             _source->choose(id);
         // Some panels do not report that a click closes the menu.
-        if (_open)
+        if (isInView())
             close();
     } else if (id == kRoot && eventId == QLatin1String("opened")) {
         open();
@@ -202,6 +209,7 @@ void DBusMenu::handle(int id, const QString &eventId)
 void DBusMenu::open()
 {
     _open = true;
+    _viewTimer.invalidate();
     _textTimer.start();
     if (calledFromDBus())
         _panelWatch.watch(message().service());

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/ClockTimer.h"
 #include "platform/StatusMenu.h"
 #include "platform/linux/BusNameWatch.h"
 #include "platform/linux/DBusMenuTypes.h"
@@ -29,7 +30,7 @@ class DBusMenu final : public QObject, protected QDBusContext
     Q_PROPERTY(QStringList IconThemePath READ iconThemePath)
 
 public:
-    /// Calls the function each time the menu has been closed.
+    /// Calls the function each time the menu has been closed or counts as out of view.
     explicit DBusMenu(std::function<void()> whenClosed);
 
     /// Shows the lines of this list from now on; null for none. An open menu keeps its lines until
@@ -38,6 +39,10 @@ public:
 
     /// Whether a panel has the menu open, as far as panels report it.
     [[nodiscard]] bool isOpen() const { return _open; }
+
+    /// Whether the menu may be on the screen. Some panels report only that they are about to show
+    /// it; then this is true for ten seconds, or until a line is chosen.
+    [[nodiscard]] bool isInView() const { return _open || _viewTimer.isValid(); }
 
     /// Treats the menu as closed, because the panel that had it open has gone.
     void forgetPanel();
@@ -84,6 +89,7 @@ private:
     bool _open = false;
     /// Reports when the panel that has the menu open disappears.
     BusNameWatch _panelWatch;
+    ClockTimer _viewTimer{[this] { _whenClosed(); }};
     QTimer _textTimer;
     QTimer _linesTimer;
 };

@@ -152,7 +152,8 @@ void FreedesktopStatusItem::publish()
         _tray->hide();
         // An open menu stays until the panel closes it.
         _dbusMenu->setMenu(menu());
-        _notifier->show({icon, attributedTitle().text, menu() != nullptr || _dbusMenu->isOpen()});
+        _notifier->show(
+            {icon, attributedTitle().text, toolTip(), menu() != nullptr || _dbusMenu->isOpen()});
         if (isEmpty())
             unregisterLater();
         else
@@ -162,6 +163,14 @@ void FreedesktopStatusItem::publish()
     } else {
         _tray->show(icon, titleWithProgram(attributedTitle().text));
     }
+}
+
+QString FreedesktopStatusItem::toolTip()
+{
+    // Panels show a tooltip again when it changes, even over the list.
+    if (!_dbusMenu->isInView())
+        _toolTip = titleWithProgram(attributedTitle().text);
+    return _toolTip;
 }
 
 void FreedesktopStatusItem::registerOnce()

@@ -39,6 +39,7 @@ private:
     void watcherAppeared();
     void watcherVanished();
     void publish();
+    [[nodiscard]] QString toolTip();
     void registerOnce();
     void unregisterLater();
     void unregister();
@@ -52,5 +53,7 @@ private:
     bool _isRegistered = false;
     /// Counts the requests to unregister and to register; only the latest is carried out.
     int _request = 0;
+    /// The tooltip, which rests while the list is in view.
+    QString _toolTip;
     QTimer _publishTimer;
 };

@@ -17,11 +17,10 @@ void StatusNotifierItem::show(const Content &content)
         _pixmaps = StatusNotifier::pixmapsOf(_content.icon);
         Q_EMIT NewIcon();
     }
-    if (_content.label != before.label) {
-        Q_EMIT NewTitle();
-        Q_EMIT NewToolTip();
+    if (_content.label != before.label)
         Q_EMIT XAyatanaNewLabel(label(), noName());
-    }
+    if (_content.toolTip != before.toolTip)
+        Q_EMIT NewToolTip();
     if (_content.hasMenu != before.hasMenu)
         Q_EMIT NewMenu();
     // Last, so that a panel knows the content before it shows the item.
@@ -34,6 +33,11 @@ QString StatusNotifierItem::id()
     return QGuiApplication::applicationName();
 }
 
+QString StatusNotifierItem::title()
+{
+    return QGuiApplication::applicationDisplayName();
+}
+
 QString StatusNotifierItem::status() const
 {
     return _content.isEmpty() ? QStringLiteral("Passive") : QStringLiteral("Active");
@@ -41,7 +45,7 @@ QString StatusNotifierItem::status() const
 
 StatusNotifier::ToolTip StatusNotifierItem::toolTip() const
 {
-    return {{}, {}, title(), {}};
+    return {{}, {}, _content.toolTip, {}};
 }
 
 QDBusObjectPath StatusNotifierItem::menu() const

@@ -45,6 +45,7 @@ public:
     {
         StatusIcon icon;
         QString label;
+        QString toolTip;
         bool hasMenu = false;
 
         [[nodiscard]] bool isEmpty() const { return icon.isNull() && label.isEmpty(); }
@@ -64,7 +65,8 @@ public:
 
     [[nodiscard]] static QString category() { return QStringLiteral("ApplicationStatus"); }
     [[nodiscard]] static QString id();
-    [[nodiscard]] QString title() const { return StatusItem::titleWithProgram(_content.label); }
+    /// Always the name of the program: panels keep lists of items by title.
+    [[nodiscard]] static QString title();
     [[nodiscard]] QString status() const;
     [[nodiscard]] static int windowId() { return 0; }
     [[nodiscard]] StatusNotifier::Pixmaps iconPixmap() const { return _pixmaps; }
@@ -87,7 +89,6 @@ public Q_SLOTS:
     void ProvideXdgActivationToken(const QString &token);
 
 Q_SIGNALS:
-    void NewTitle();
     void NewIcon();
     void NewToolTip();
     void NewStatus(const QString &status);
