@@ -4,7 +4,6 @@ import os
 import sys
 import unittest
 
-from support.picture import Picture
 from support.processor import Waits
 from support.program import Program
 from support.session import Session
@@ -14,6 +13,7 @@ from support.waiting import wait_until
 class DesktopTest(unittest.TestCase):
     """Runs each test in a session that the tests of a class share."""
 
+    kind_of_session = Session
     size = (1280, 800)
     sound = False
     service_folder = None
@@ -21,7 +21,7 @@ class DesktopTest(unittest.TestCase):
 
     @classmethod
     def setUpClass(cls):
-        cls.session = Session(cls.size, cls.service_folder)
+        cls.session = cls.kind_of_session(cls.size, cls.service_folder)
         cls.addClassCleanup(cls.session.close)
         cls.display = cls.session.display
         if cls.sound:
@@ -36,7 +36,7 @@ class DesktopTest(unittest.TestCase):
         try:
             if self.has_failed():
                 display = self.programs[-1].display if self.programs else self.display
-                Picture(display).save(
+                display.save_picture(
                     os.path.join(self.output, f"{self.id().rsplit('.', 1)[1]}.png"))
         finally:
             for program in self.programs:

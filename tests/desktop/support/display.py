@@ -8,6 +8,7 @@ import time
 from typing import NamedTuple
 
 from support import processes
+from support.picture import Picture
 from support.root_messages import ANSWERS, RootMessages
 from support.waiting import PATIENCE, wait_until
 from support.x_server import XServer
@@ -45,8 +46,10 @@ class Display:
             number = pipe.readline().strip()
         if not number:
             raise RuntimeError("Xvfb did not start")
-        self.environment = dict(environment, DISPLAY=f":{number}")
-        self.x = XServer(self.environment["DISPLAY"])
+        # What a program needs to find it.
+        self.address = {"DISPLAY": f":{number}"}
+        self.environment = dict(environment, **self.address)
+        self.x = XServer(self.address["DISPLAY"])
         self.manager = None
 
     def start_manager(self):
@@ -140,6 +143,9 @@ class Display:
         return next(iter(self.popups() - before))
 
     # Colours
+
+    def save_picture(self, path):
+        Picture(self).save(path)
 
     def colors(self, area):
         """Returns the set of colours in a part of the screen."""

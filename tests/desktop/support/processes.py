@@ -70,6 +70,12 @@ def run(command, environment):
                           stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True).stdout
 
 
+def run_for_bytes(command, environment):
+    """Runs a tool to its end; returns the bytes of its standard output."""
+    return subprocess.run(command, env=environment, check=True, timeout=10,
+                          stdout=subprocess.PIPE, stderr=subprocess.PIPE).stdout
+
+
 def wakeups(process_id):
     """Returns the number of voluntary context switches of all threads of a process."""
     total = 0

@@ -32,7 +32,7 @@ class Program:
         self.environment = dict(session.environment, HOME=self.home,
                                 XDG_CONFIG_HOME=f"{self.home}/config",
                                 XDG_DATA_HOME=f"{self.home}/data",
-                                DISPLAY=self.display.environment["DISPLAY"])
+                                **self.display.address)
         if accessible:
             self.environment["QT_LINUX_ACCESSIBILITY_ALWAYS_ON"] = "1"
         for name, value in (environment or {}).items():

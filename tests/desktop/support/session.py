@@ -168,7 +168,7 @@ class Session:
                                 if name.endswith("SAN_OPTIONS"))
         self.start_bus()
         self.display = self.add_display(size)
-        self.environment["DISPLAY"] = self.display.environment["DISPLAY"]
+        self.environment.update(self.display.address)
         self.start_accessibility()
         self.notifications = None
         self.closers.append(self.end_notifications)

@@ -1,0 +1,79 @@
+#!/usr/bin/python3
+"""Uses a timer with the keyboard and the mouse in a Wayland session.
+
+Usage: timer_test.py WUFFER FOLDER [unittest arguments]
+"""
+
+import json
+
+from wayland_case import WaylandTest, main
+from support.waiting import wait_until
+
+
+class TimerTest(WaylandTest):
+    def test_a_timer_is_set_started_and_rings(self):
+        program = self.launch()
+        program.wait_for_focus_in("Minutes")
+        window, = program.windows()
+        self.assertEqual(self.display.node(window)["app_id"], "org.wuffer.Wuffer")
+        program.start_countdown(2)
+        program.wait_for_button("Stop")
+        program.wait_for_text("Time", "Wuff!", 15)
+        wait_until(lambda: self.session.notifications.shown() == 1, 10, "a notification shows")
+        program.wait_for_button("Start", 20)
+        self.assertEqual(program.text("Seconds"), "2")
+        self.quit(program)
+        self.assertEqual(self.settings(program)["defaultWufferSettings"]["seconds"], 2)
+
+    def test_the_drawer_slides_out_and_in(self):
+        program = self.launch()
+        window, = program.windows()
+        closed = self.display.geometry(window)
+        self.display.key("ctrl+o")
+        program.wait_for_button("Hide Options")
+        wait_until(lambda: self.display.geometry(window).height > closed.height + 50, 10,
+                   "the drawer is out")
+        self.assertEqual(self.display.geometry(window).width, closed.width)
+        self.display.key("ctrl+o")
+        program.wait_for_button("More Options")
+        wait_until(lambda: self.width_and_height(window) == (closed.width, closed.height), 10,
+                   "the drawer is in")
+        self.quit(program)
+
+    def width_and_height(self, window):
+        return tuple(self.display.geometry(window)[2:])
+
+    def test_a_menu_item_is_chosen_with_the_mouse(self):
+        program = self.launch()
+        program.wait_for_focus_in("Minutes")
+        first, = program.windows()
+        place = self.display.geometry(first)
+        # The first menu and its first item.
+        self.display.click(place.x + 20, place.y + 10)
+        self.display.key("Down")
+        wait_until(lambda: self.display.color_at(place.x + 120, place.y + 32)
+                   != self.display.color_at(place.x + 120, place.y + 10), 10, "the menu is open")
+        self.display.click(place.x + 40, place.y + 32)
+        program.wait_for_windows(2)
+        self.quit(program)
+
+    def test_the_preferences_and_the_date_sheet_come_up(self):
+        program = self.launch()
+        program.wait_for_focus_in("Minutes")
+        for key, title in (("ctrl+comma", "Preferences"), ("ctrl+d", "Target Date")):
+            self.display.key(key)
+            window = program.wait_for_windows(2)[-1]
+            wait_until(lambda w=window: self.display.active_window() == w, 10, title)
+            self.assertIn(title, self.display.title(window))
+            self.display.key("Escape" if key == "ctrl+d" else "ctrl+w")
+            program.wait_for_windows(1)
+            wait_until(program.has_focus, 10, "the timer has the focus")
+        self.quit(program)
+
+    def settings(self, program):
+        with open(program.settings_path, encoding="utf-8") as file:
+            return json.load(file)
+
+
+if __name__ == "__main__":
+    main()
