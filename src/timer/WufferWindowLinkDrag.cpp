@@ -89,7 +89,9 @@ void WufferWindow::chainDrag()
     const DragShape shape(picture);
     // Beside the pointer, not under it.
     _drag->setHotSpot({0, kPictureSize});
-    _drag->exec(Qt::LinkAction);
+    // Wayland has no drags that link: it would refuse every drop of a drag that offers nothing
+    // else.
+    _drag->exec(Qt::LinkAction | Qt::CopyAction, Qt::LinkAction);
 
     // Use static members only from here on: the window may have been destroyed during the drag.
     // Reset all windows, because the chain may have lost a highlighted member.
