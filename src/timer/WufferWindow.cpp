@@ -3,6 +3,7 @@
 #include "base/PropertyList.h"
 #include "base/UserDefaults.h"
 #include "controls/WindowButtons.h"
+#include "platform/WindowPlaces.h"
 #include "rules/WindowPlace.h"
 
 #include <QApplication>
@@ -71,6 +72,8 @@ QPoint WufferWindow::nextCascadePoint(QPoint topLeft, QSize window, const QRect 
 
 void WufferWindow::saveFrameUsingName(const QString &name) const
 {
+    if (!knowsWindowPlaces())
+        return;
     UserDefaults &defaults = UserDefaults::standardUserDefaults();
     QVariantMap places = defaults.value(Keys::kWindowFrames);
     places[name] = WindowPlace::record(pos());

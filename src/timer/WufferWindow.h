@@ -44,7 +44,8 @@ public:
     /// point, or the upper left corner of the room if a window of this size would not fit there.
     [[nodiscard]] static QPoint nextCascadePoint(QPoint topLeft, QSize window, const QRect &room);
 
-    /// Stores the place of the frame in the settings under this name.
+    /// Stores the place of the frame in the settings under this name, unless only the window system
+    /// knows places: the stored one then stays for a desktop on which it can be used.
     void saveFrameUsingName(const QString &name) const;
 
     /// Moves the frame to the place stored under this name, or to the nearest reachable place if

@@ -9,6 +9,10 @@ import json
 from wayland_case import WaylandTest, main
 from support.waiting import wait_until
 
+PLACE = {"x": 120, "y": 90}
+SETTINGS = {"soundOff": 1, "defaultWufferSettings": {"minutes": 7, "seconds": 0},
+            "windowFrames": {"defaultWufferSettings": PLACE, "Preset 3": PLACE}}
+
 
 class TimerTest(WaylandTest):
     def test_a_timer_is_set_started_and_rings(self):
@@ -69,6 +73,22 @@ class TimerTest(WaylandTest):
             program.wait_for_windows(1)
             wait_until(program.has_focus, 10, "the timer has the focus")
         self.quit(program)
+
+    def test_the_places_for_other_desktops_are_kept(self):
+        program = self.launch(settings=json.dumps(SETTINGS))
+        program.wait_for_focus_in("Minutes")
+        self.assertEqual(program.text("Minutes"), "7")
+        # A preset that is opened, changed and stored.
+        self.display.key("alt+3")
+        program.wait_for_windows(2)
+        wait_until(program.has_focus, 10, "the preset is active")
+        program.wait_for_focus_in("Minutes")
+        self.display.type("41")
+        self.display.key("ctrl+3")
+        self.quit(program)
+        settings = self.settings(program)
+        self.assertEqual(settings["Preset 3"]["minutes"], 41)
+        self.assertEqual(settings["windowFrames"], SETTINGS["windowFrames"])
 
     def settings(self, program):
         with open(program.settings_path, encoding="utf-8") as file:
