@@ -16,17 +16,17 @@ from wayland_input import WaylandInput
 
 # Windows lie where they want to, as on most desktops. The last command tells that all is ready.
 CONFIGURATION = """
-output HEADLESS-1 resolution {width}x{height} scale {scale}
+output HEADLESS-1 resolution {width}x{height}
 default_floating_border normal
 for_window [title=".*"] floating enable
 focus_follows_mouse no
 focus_on_window_activation focus
-xwayland {xwayland}
+xwayland disable
 bar {{
     swaybar_command true
     tray_output *
 }}
-exec echo "$WAYLAND_DISPLAY $DISPLAY" > {ready}.new && mv {ready}.new {ready}
+exec echo "$WAYLAND_DISPLAY" > {ready}.new && mv {ready}.new {ready}
 """
 
 COMMAND, GET_TREE = 0, 4
@@ -35,17 +35,24 @@ COMMAND, GET_TREE = 0, 4
 class Sway:
     """One compositor. It has the operations of a Display that have a meaning on Wayland."""
 
-    def __init__(self, environment, size, scale=1, xwayland=False):
-        processes.require("sway", "grim", *(["Xwayland"] if xwayland else []))
+    def __init__(self, environment, size):
+        processes.require("sway", "swaybar", "grim")
         self.width, self.height = size
         # A folder of its own, which also holds its socket: see unprivileged().
         self.folder = tempfile.mkdtemp(prefix="sway-")
+        self.server = self.input = None
+        try:
+            self.start(environment)
+        except BaseException:
+            self.close()
+            raise
+
+    def start(self, environment):
         ready = os.path.join(self.folder, "ready")
         configuration = os.path.join(self.folder, "config")
         with open(configuration, "w", encoding="ascii") as file:
             file.write(CONFIGURATION.format(
-                width=size[0], height=size[1], scale=scale, ready=ready,
-                xwayland="force" if xwayland else "disable"))
+                width=self.width, height=self.height, ready=ready))
         self.path = os.path.join(self.folder, "ipc")
         with open(os.path.join(self.folder, "log"), "w", encoding="ascii") as log:
             self.server = processes.start(
@@ -56,12 +63,11 @@ class Sway:
         self.manager = self.server
         wait_until(lambda: os.path.exists(ready), 20, "the compositor is ready")
         with open(ready, encoding="ascii") as file:
-            name, *x11 = file.read().split()
+            name = file.read().strip()
         place = os.path.join(self.folder, name)
-        self.address = {"WAYLAND_DISPLAY": place, "QT_QPA_PLATFORM": "wayland"}
-        self.x11 = x11[0] if x11 else None
+        self.address = {"WAYLAND_DISPLAY": place}
         self.environment = dict(environment, **self.address)
-        self.input = WaylandInput(place, size)
+        self.input = WaylandInput(place, (self.width, self.height))
 
     def unprivileged(self):
         """Returns the command that runs another as an ordinary user: sway refuses to run as the
@@ -74,8 +80,10 @@ class Sway:
                 "--pdeathsig", "KILL"]
 
     def close(self):
-        self.input.close()
-        processes.end(self.server)
+        if self.input:
+            self.input.close()
+        if self.server:
+            processes.end(self.server)
         shutil.rmtree(self.folder)
 
     def kill(self):

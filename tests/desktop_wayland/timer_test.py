@@ -7,6 +7,7 @@ Usage: timer_test.py WUFFER FOLDER [unittest arguments]
 import json
 
 from wayland_case import WaylandTest, main
+from support.display import Display
 from support.waiting import wait_until
 
 PLACE = {"x": 120, "y": 90}
@@ -89,6 +90,16 @@ class TimerTest(WaylandTest):
         settings = self.settings(program)
         self.assertEqual(settings["Preset 3"]["minutes"], 41)
         self.assertEqual(settings["windowFrames"], SETTINGS["windowFrames"])
+
+    def test_an_x_server_is_preferred(self):
+        both = Display(self.session.environment, self.size)
+        self.addCleanup(both.close)
+        both.start_manager()
+        program = self.launch(display=both)
+        self.assertIn("WAYLAND_DISPLAY", program.environment)
+        self.assertEqual(len(program.windows()), 1)
+        self.assertEqual(self.display.windows(program.process.pid), [])
+        self.quit(program)
 
     def settings(self, program):
         with open(program.settings_path, encoding="utf-8") as file:
