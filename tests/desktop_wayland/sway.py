@@ -38,7 +38,7 @@ class Sway:
     def __init__(self, environment, size):
         processes.require("sway", "swaybar", "grim")
         self.width, self.height = size
-        # A folder of its own, which also holds its socket: see unprivileged().
+        # The folder of the session cannot be entered by the user that unprivileged() takes.
         self.folder = tempfile.mkdtemp(prefix="sway-")
         self.server = self.input = None
         try:
@@ -51,8 +51,7 @@ class Sway:
         ready = os.path.join(self.folder, "ready")
         configuration = os.path.join(self.folder, "config")
         with open(configuration, "w", encoding="ascii") as file:
-            file.write(CONFIGURATION.format(
-                width=self.width, height=self.height, ready=ready))
+            file.write(CONFIGURATION.format(width=self.width, height=self.height, ready=ready))
         self.path = os.path.join(self.folder, "ipc")
         with open(os.path.join(self.folder, "log"), "w", encoding="ascii") as log:
             self.server = processes.start(
@@ -187,13 +186,8 @@ class Sway:
     def active_window(self):
         return next((node["id"] for node in self.nodes() if node["focused"]), 0)
 
-    focused_window = active_window
-
     def title(self, window):
         return self.node(window)["name"]
-
-    def is_full_screen(self, window):
-        return self.node(window)["fullscreen_mode"] != 0
 
     def geometry(self, window):
         """Returns the rectangle of a window without its decorations."""
@@ -209,7 +203,3 @@ class Sway:
         """Activates a window, as a task bar does."""
         self.command(f"[con_id={window}] focus")
         wait_until(lambda: self.active_window() == window, 5, "the window is active")
-
-    def close_window(self, window):
-        """Asks a window to close, as a task bar does."""
-        self.command(f"[con_id={window}] kill")

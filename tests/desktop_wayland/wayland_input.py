@@ -19,12 +19,23 @@ KEYMAP = b"""xkb_keymap {
 ROWS = {2: "1234567890", 16: "qwertyuiop", 30: "asdfghjkl", 44: "zxcvbnm"}
 KEYS = {character: first + place for first, row in ROWS.items()
         for place, character in enumerate(row)}
-KEYS.update(Escape=1, Tab=15, Return=28, comma=51, space=57, F10=68, F11=87, Down=108)
+KEYS.update(Escape=1, Tab=15, Return=28, comma=51, space=57, F11=87, Down=108)
 # Each modifier with its key code and its bit in the state of the keyboard.
 MODIFIERS = {"shift": (42, 1), "ctrl": (29, 4), "alt": (56, 8)}
 # As X11 counts them, the left one first.
 BUTTONS = {1: 0x110, 2: 0x112, 3: 0x111}
 
+# The requests that are used, with their numbers in the protocol of their receiver.
+SYNC, GET_REGISTRY = 0, 1
+BIND = 0
+CREATE_DEVICE = 0
+SET_KEYMAP, SET_KEY, SET_MODIFIERS = 0, 1, 2
+MOVE_TO, SET_BUTTON, END_FRAME = 1, 2, 4
+GET_TOKEN, COMMIT_TOKEN = 1, 3
+# The same for events.
+ERROR, GLOBAL = 0, 0
+
+# The object that every connection begins with.
 DISPLAY = 1
 XKB_V1 = 1
 PRESSED, RELEASED = 1, 0
@@ -53,7 +64,7 @@ class WaylandInput:
         self.time = 0
         self.held = 0
         registry = self.new()
-        self.send(DISPLAY, 1, numbers(registry))
+        self.send(DISPLAY, GET_REGISTRY, numbers(registry))
         self.registry = registry
         self.round_trip()
         seat = self.bind("wl_seat")
@@ -79,7 +90,7 @@ class WaylandInput:
 
     def bind(self, interface):
         number = self.new()
-        self.send(self.registry, 0, numbers(self.globals[interface]) + text(interface)
+        self.send(self.registry, BIND, numbers(self.globals[interface]) + text(interface)
                   + numbers(1, number))
         return number
 
@@ -87,18 +98,18 @@ class WaylandInput:
         """Lets a manager make the device that is its purpose."""
         maker = self.bind(manager)
         number = self.new()
-        self.send(maker, 0, numbers(seat, number))
+        self.send(maker, CREATE_DEVICE, numbers(seat, number))
         return number
 
     def round_trip(self):
         """Waits until the compositor has handled all that was sent."""
         done = self.new()
-        self.send(DISPLAY, 0, numbers(done))
+        self.send(DISPLAY, SYNC, numbers(done))
         while True:
             sender, event, arguments = self.next_event()
-            if (sender, event) == (DISPLAY, 0):
+            if (sender, event) == (DISPLAY, ERROR):
                 raise RuntimeError(f"the compositor refuses a request: {arguments}")
-            if sender == self.registry and event == 0:
+            if sender == self.registry and event == GLOBAL:
                 name, length = struct.unpack_from("=II", arguments)
                 self.globals[arguments[8:7 + length].decode("ascii")] = name
             if sender == done:
@@ -108,8 +119,8 @@ class WaylandInput:
         """Returns a token that lets a program take the focus, as panels and services get it."""
         maker = self.bind("xdg_activation_v1")
         token = self.new()
-        self.send(maker, 1, numbers(token))
-        self.send(token, 3)
+        self.send(maker, GET_TOKEN, numbers(token))
+        self.send(token, COMMIT_TOKEN)
         while True:
             sender, _, arguments = self.next_event()
             if sender == token:
@@ -133,7 +144,7 @@ class WaylandInput:
     def send_keymap(self):
         file = os.memfd_create("keymap")
         os.write(file, KEYMAP)
-        self.send(self.keyboard, 0, numbers(XKB_V1, len(KEYMAP)), [file])
+        self.send(self.keyboard, SET_KEYMAP, numbers(XKB_V1, len(KEYMAP)), [file])
         os.close(file)
 
     def now(self):
@@ -150,10 +161,10 @@ class WaylandInput:
 
     def change(self, key, state):
         code, bit = MODIFIERS.get(key) or (KEYS[key], 0)
-        self.send(self.keyboard, 1, numbers(self.now(), code, state))
+        self.send(self.keyboard, SET_KEY, numbers(self.now(), code, state))
         if bit:
             self.held = self.held | bit if state == PRESSED else self.held & ~bit
-            self.send(self.keyboard, 2, numbers(self.held, 0, 0, 0))
+            self.send(self.keyboard, SET_MODIFIERS, numbers(self.held, 0, 0, 0))
         self.round_trip()
 
     def key(self, combination):
@@ -167,13 +178,13 @@ class WaylandInput:
     # The mouse
 
     def move(self, x, y):
-        self.send(self.pointer, 1, numbers(self.now(), x, y, *self.size))
+        self.send(self.pointer, MOVE_TO, numbers(self.now(), x, y, *self.size))
         self.end_of_mouse_event()
 
     def button(self, number, pressed):
-        self.send(self.pointer, 2, numbers(self.now(), BUTTONS[number], int(pressed)))
+        self.send(self.pointer, SET_BUTTON, numbers(self.now(), BUTTONS[number], int(pressed)))
         self.end_of_mouse_event()
 
     def end_of_mouse_event(self):
-        self.send(self.pointer, 4)
+        self.send(self.pointer, END_FRAME)
         self.round_trip()
