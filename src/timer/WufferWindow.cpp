@@ -105,7 +105,7 @@ bool WufferWindow::event(QEvent *event)
 bool WufferWindow::focusNextPrevChild(bool next)
 {
     const QWidget *left = focusWidget();
-    const bool lost = left && !(left->isEnabled() && left->isVisibleTo(this));
+    const bool lost = left != nullptr && !(left->isEnabled() && left->isVisibleTo(this));
     const bool moved = QMainWindow::focusNextPrevChild(next);
     return moved && lost && focusWidget() == _skippedForFocus
                ? QMainWindow::focusNextPrevChild(next)
