@@ -14,15 +14,11 @@ NOTHING = (1000, 700)
 
 class ChainTest(WaylandTest):
     def launch_timers(self, count):
-        """Launches this many timers, each with a number of minutes of its own, side by side."""
+        """Launches this many timers, side by side; returns their windows."""
         self.program = self.launch()
-        for number in range(1, count + 1):
-            if number > 1:
-                self.display.key("ctrl+n")
-                window = self.program.wait_for_windows(number)[-1]
-                wait_until(lambda w=window: self.display.active_window() == w, 10,
-                           "the window is active")
-            self.program.wait_for_focus_in("Minutes")
+        self.program.wait_for_focus_in("Minutes")
+        for _ in range(1, count):
+            self.program.open_timer()
         windows = self.program.windows()
         for window, place in zip(windows, PLACES):
             self.display.move_window(window, *place)
@@ -39,10 +35,10 @@ class ChainTest(WaylandTest):
         return self.display.color_at(x + 300, y) == WHITE
 
     def wait_until_lit(self, *windows):
-        wait_until(lambda: all(map(self.is_lit, windows)), 10, "the windows are lit")
+        wait_until(lambda: all(map(self.is_lit, windows)), "the windows are lit")
 
     def wait_until_dark(self, *windows):
-        wait_until(lambda: not any(map(self.is_lit, windows)), 10, "no window is lit")
+        wait_until(lambda: not any(map(self.is_lit, windows)), "no window is lit")
 
     def link(self, target, source, button=1, key="ctrl"):
         """Drags the source onto the target."""
@@ -58,13 +54,13 @@ class ChainTest(WaylandTest):
 
     def wait_for_chain(self, length):
         texts = [f"Wuffer Chain - {place} of {length}" for place in range(1, length + 1)]
-        wait_until(lambda: self.chain() == texts, 10, f"there is a chain of {length}")
+        wait_until(lambda: self.chain() == texts, f"there is a chain of {length}")
 
     def test_windows_are_linked_with_either_button(self):
         first, second, third = self.launch_timers(3)
         self.link(first, second)
         self.wait_for_chain(2)
-        wait_until(lambda: self.display.active_window() == first, 10, "the target is active")
+        self.display.wait_until_active(first)
         # A drag with the right button needs no Ctrl key.
         self.link(second, third, button=3, key=None)
         self.wait_for_chain(3)
@@ -87,7 +83,7 @@ class ChainTest(WaylandTest):
         closed = self.display.geometry(second)
         self.display.activate(second)
         self.display.key("ctrl+o")
-        wait_until(lambda: self.display.geometry(second).height > closed.height + 50, 10,
+        wait_until(lambda: self.display.geometry(second).height > closed.height + 50,
                    "the drawer is out")
         self.program.wait_for_button("Hide Options")
         self.link(first, second)
@@ -99,8 +95,7 @@ class ChainTest(WaylandTest):
         place = self.display.geometry(first)
         x, y = self.margin(first)
         with self.display.dragging((x, y), (x + 40, y + 200)):
-            wait_until(lambda: self.display.geometry(first).y > place.y + 50, 10,
-                       "the window moves")
+            wait_until(lambda: self.display.geometry(first).y > place.y + 50, "the window moves")
         self.assertEqual(self.chain(), [])
         self.quit(self.program)
 

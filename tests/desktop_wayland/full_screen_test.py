@@ -33,20 +33,18 @@ class FullScreenTest(WaylandTest):
 
     def enter(self):
         self.display.key("F11")
-        wait_until(self.covering_window, 10, "a window covers the screen")
-        wait_until(lambda: self.display.active_window() == self.covering_window(), 10,
-                   "the full screen has the focus")
+        wait_until(self.covering_window, "a window covers the screen")
+        self.display.wait_until_active(self.covering_window())
         whole = Rect(0, 0, self.display.width, self.display.height)
-        wait_until(lambda: self.display.geometry(self.covering_window()) == whole, 10,
+        wait_until(lambda: self.display.geometry(self.covering_window()) == whole,
                    "the display covers the whole screen")
         corner = Rect(0, 0, 40, 40)
-        wait_until(lambda: self.display.colors(corner) == {PANEL}, 10, "the display is drawn")
+        wait_until(lambda: self.display.colors(corner) == {PANEL}, "the display is drawn")
 
     def check_back(self):
         self.assertEqual(self.program.wait_for_windows(1), [self.window])
-        wait_until(lambda: self.display.active_window() == self.window, 10,
-                   "the timer's window has the focus")
-        wait_until(lambda: self.display.geometry(self.window) == self.place, 10,
+        self.display.wait_until_active(self.window)
+        wait_until(lambda: self.display.geometry(self.window) == self.place,
                    "the window is as before")
         self.program.wait_for_button("Stop")
 
@@ -68,10 +66,10 @@ class FullScreenTest(WaylandTest):
                                   self.place.y + button.y + button.height // 2)
         self.enter()
         self.display.press_button(3)
-        self.program.answers()
+        self.program.catch_up()
         self.display.press_button(1)
         self.check_back()
-        self.program.answers()
+        self.program.catch_up()
         self.assertEqual(len(self.program.all("button", "Stop")), 1)
         # That the button is under the pointer shows in the end.
         self.display.press_button(1)
@@ -81,13 +79,12 @@ class FullScreenTest(WaylandTest):
     def test_the_pointer_is_hidden(self):
         around = Rect(self.spot[0] - 5, self.spot[1] - 5, 20, 20)
         self.display.key("F11")
-        wait_until(lambda: self.display.colors(around) == {PANEL}, 10, "the pointer is hidden")
+        wait_until(lambda: self.display.colors(around) == {PANEL}, "the pointer is hidden")
         self.display.key("Escape")
         self.check_back()
-        wait_until(lambda: len(self.display.colors(around)) > 1, 10, "the pointer shows")
+        wait_until(lambda: len(self.display.colors(around)) > 1, "the pointer shows")
         self.display.move_pointer(*CORNER)
-        wait_until(lambda: len(self.display.colors(around)) == 1, 10,
-                   "what showed was the pointer")
+        wait_until(lambda: len(self.display.colors(around)) == 1, "what showed was the pointer")
         self.quit(self.program)
 
 

@@ -22,7 +22,7 @@ class StatusItemTest(WaylandTest):
         bar = processes.start(["swaybar", "-b", "bar-0", "-s", cls.display.path],
                               cls.session.environment)
         cls.addClassCleanup(processes.end, bar)
-        wait_until(lambda: cls.session.owns("org.kde.StatusNotifierWatcher"), 20,
+        wait_until(lambda: cls.session.owns("org.kde.StatusNotifierWatcher"),
                    "the bar watches for items")
         cls.corner = Rect(cls.display.width - SIZE, cls.display.height - SIZE, SIZE, SIZE)
 
@@ -42,24 +42,24 @@ class StatusItemTest(WaylandTest):
         self.assertFalse(self.has_item())
         self.start_timer()
         self.program.wait_for_button("Stop")
-        wait_until(self.has_item, 10, "the bar shows the item")
+        wait_until(self.has_item, "the bar shows the item")
+        self.display.key("Return")
+        wait_until(lambda: not self.has_item(), "the bar no longer shows the item")
         self.quit(self.program)
-        wait_until(lambda: not self.has_item(), 10, "the bar no longer shows the item")
 
     def test_its_list_opens_wherever_the_focus_is(self):
         self.program = self.launch()
         self.start_timer()
         self.program.wait_for_button("Stop")
-        self.display.key("ctrl+n")
-        first, second = self.program.wait_for_windows(2)
-        wait_until(lambda: self.display.active_window() == second, 10, "the new one is active")
+        first, = self.program.windows()
+        second = self.program.open_timer()
         self.start_timer()
-        wait_until(lambda: len(self.program.all("button", "Stop")) == 2, 10, "both run")
-        wait_until(self.has_item, 10, "the bar shows the item")
+        self.program.wait_for_count(2, "button", "Stop")
+        wait_until(self.has_item, "the bar shows the item")
         self.launch_stranger()
         self.press_item(1)
-        wait_until(lambda: len(self.program.windows()) == 3, 10, "the list is a window")
-        self.assertEqual(self.display.active_window(), self.program.windows()[-1])
+        wait_until(lambda: len(self.program.windows()) == 3, "the list is a window")
+        self.display.wait_until_active(self.program.windows()[-1])
         self.display.key("Escape")
         self.assertEqual(self.program.wait_for_windows(2), [first, second])
         self.display.activate(second)

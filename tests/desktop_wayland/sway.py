@@ -60,7 +60,7 @@ class Sway:
                      WLR_BACKENDS="headless", WLR_LIBINPUT_NO_DEVICES="1", WLR_RENDERER="pixman"),
                 stdout=log, stderr=log)
         self.manager = self.server
-        wait_until(lambda: os.path.exists(ready), 20, "the compositor is ready")
+        wait_until(lambda: os.path.exists(ready), "the compositor is ready")
         with open(ready, encoding="ascii") as file:
             name = file.read().strip()
         place = os.path.join(self.folder, name)
@@ -124,11 +124,26 @@ class Sway:
     # Mouse and keys
 
     def key(self, *keys):
+        self.wait_for_focus()
         for key in keys:
             self.input.key(key)
 
     def type(self, text):
         self.key(*text)
+
+    def wait_for_focus(self):
+        """Waits until a window receives keys: for a moment after one has closed, none does."""
+        wait_until(lambda: self.receives_keys(self.active_window()), "a window receives keys")
+
+    def receives_keys(self, window):
+        return window != 0 and window == self.active_window()
+
+    def wait_until_active(self, window):
+        wait_until(lambda: self.receives_keys(window), "the window is active")
+
+    def wait_for_answer(self, _window):
+        """Waits until the compositor has passed on all keys and clicks."""
+        self.input.round_trip()
 
     def move_pointer(self, x, y):
         self.input.move(x, y)
@@ -202,4 +217,4 @@ class Sway:
     def activate(self, window):
         """Activates a window, as a task bar does."""
         self.command(f"[con_id={window}] focus")
-        wait_until(lambda: self.active_window() == window, 5, "the window is active")
+        self.wait_until_active(window)

@@ -7,7 +7,6 @@ sys.path.insert(1, str(pathlib.Path(__file__).resolve().parent.parent / "desktop
 from support.case import DesktopTest, main  # noqa: E402, F401
 from support.program import Program  # noqa: E402
 from support.session import Session  # noqa: E402
-from support.waiting import wait_until  # noqa: E402
 
 from sway import Sway  # noqa: E402
 
@@ -31,5 +30,5 @@ class WaylandTest(DesktopTest):
         self.programs.append(stranger)
         stranger.start()
         window, = stranger.windows()
-        wait_until(lambda: self.display.active_window() == window, 10, "the stranger is active")
+        self.display.wait_until_active(window)
         return window
