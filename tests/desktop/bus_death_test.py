@@ -138,20 +138,19 @@ class BusDeathTest(DesktopTest):
 
     def test_a_bus_that_starts_anew_at_its_address_is_found(self):
         program = self.launch(settings=MUTED, accessible=False)
-        wait_until(lambda: self.session.owns(NAME), 10, "the program owns its name")
+        wait_until(lambda: self.session.owns(NAME), "the program owns its name")
         for _ in range(2):
             self.kill_bus()
             self.check_calm(program)
             self.start_bus()
-            wait_until(lambda: self.session.owns(NAME), 15, "the program owns its name again")
+            wait_until(lambda: self.session.owns(NAME), "the program owns its name again")
             panel = XfcePanel(self.session)
             panel.look_at_empty()
             program.start_countdown(3)
             panel.wait_for_item()
-            wait_until(lambda: self.session.notifications.shown() == 1, 15,
-                       "the notification shows")
+            wait_until(lambda: self.session.notifications.shown() == 1, "the notification shows")
             self.display.key("Return")
-            wait_until(lambda: self.session.notifications.shown() == 0, 15,
+            wait_until(lambda: self.session.notifications.shown() == 0,
                        "the notification is withdrawn")
             panel.wait_for_no_item()
             panel.close()
@@ -161,11 +160,11 @@ class BusDeathTest(DesktopTest):
         program = self.launch(settings=MUTED, accessible=False)
         program.start_countdown(3)
         self.kill_bus()
-        wait_until(lambda: self.is_red(program), 15, "the timer rings")
+        wait_until(lambda: self.is_red(program), "the timer rings")
         self.start_bus()
-        wait_until(lambda: self.session.notifications.shown() == 1, 15, "the notification shows")
+        wait_until(lambda: self.session.notifications.shown() == 1, "the notification shows")
         self.display.key("Return")
-        wait_until(lambda: self.session.notifications.shown() == 0, 15,
+        wait_until(lambda: self.session.notifications.shown() == 0,
                    "the notification is withdrawn")
         self.quit(program)
 

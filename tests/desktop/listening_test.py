@@ -10,7 +10,7 @@ from gi.repository import Gio, GLib
 
 from support.accessibility import ROLES, Atspi, Control
 from support.case import DesktopTest, main
-from support.waiting import PATIENCE
+from support.waiting import PATIENCE, wait_until
 
 # A muted alarm that is to do nothing rings until the user stops it.
 MUTED = '{"soundOff": 1}'
