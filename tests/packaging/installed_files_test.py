@@ -86,6 +86,9 @@ class InstalledFilesTest(unittest.TestCase):
         self.assertEqual(entry["Icon"], "wuffer")
         self.assertEqual(entry["DBusActivatable"], "true")
 
+    def test_desktops_do_not_offer_a_new_window_beside_the_new_timer(self):
+        self.assertEqual(self.entry()["Desktop Entry"]["X-GNOME-SingleWindow"], "true")
+
     def test_each_action_of_the_desktop_entry_has_a_name_and_a_command(self):
         entry = self.entry()
         named = entry["Desktop Entry"]["Actions"].strip(";").split(";")
