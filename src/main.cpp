@@ -1,4 +1,5 @@
 #include "app/CommandLine.h"
+#include "app/DarkTheme.h"
 #include "app/LaunchOrders.h"
 #include "app/MissingDisplay.h"
 #include "app/SystemServices.h"
@@ -32,6 +33,7 @@ int main(int argc, char *argv[])
     }
 
     const SystemServices services;
+    const DarkTheme darkTheme;
     WufferController controller;
     LaunchOrders orders(controller, instance);
     orders.begin(commandLine);
