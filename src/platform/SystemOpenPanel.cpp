@@ -10,24 +10,25 @@
 
 namespace
 {
-/// The first folder that exists of the user's own sounds, the user's music and the sounds of the
-/// system, or else the user's home.
-QUrl folderOfSounds()
+bool isFolder(const QString &path)
+{
+    return QFileInfo(path).isDir();
+}
+
+/// The folders for the user's own sounds, for the user's music and for the sounds of the system.
+/// None of them need exist.
+QStringList foldersOfSounds()
 {
     using Paths = QStandardPaths;
-    const QString data = Paths::writableLocation(Paths::GenericDataLocation);
-    const QString music = Paths::writableLocation(Paths::MusicLocation);
-    QStringList folders{data + QStringLiteral("/sounds")};
+    QStringList folders;
+    // The first one holds the data of the user, the others those of the system.
+    for (const QString &data : Paths::standardLocations(Paths::GenericDataLocation))
+        folders << data + QStringLiteral("/sounds");
+    const QString music = QDir::cleanPath(Paths::writableLocation(Paths::MusicLocation));
     // Without a folder for music, the location of music is the home.
-    if (QDir(music) != QDir::home())
-        folders << music;
-    folders << Paths::locateAll(Paths::GenericDataLocation, QStringLiteral("sounds"),
-                                Paths::LocateDirectory);
-    for (const QString &folder : std::as_const(folders)) {
-        if (QFileInfo(folder).isDir())
-            return QUrl::fromLocalFile(folder);
-    }
-    return QUrl::fromLocalFile(QDir::homePath());
+    if (music != QDir::homePath())
+        folders.insert(1, music);
+    return folders;
 }
 
 void setFolderOfSharedSettings(const QString &folder)
@@ -49,20 +50,35 @@ void restoreSharedSettings()
 }
 } // namespace
 
+SystemOpenPanel::SystemOpenPanel() : SystemOpenPanel(isFolder) {}
+
+SystemOpenPanel::SystemOpenPanel(FolderSearch::Exists exists) : _search(std::move(exists)) {}
+
+QString SystemOpenPanel::firstFolder()
+{
+    QStringList folders = foldersOfSounds();
+    if (!_folder.isEmpty())
+        folders.prepend(_folder);
+    const QString folder = _search.firstOf(folders);
+    return folder.isEmpty() ? QDir::homePath() : folder;
+}
+
 std::optional<QUrl> SystemOpenPanel::runModal(QWidget &window, const QString &title)
 {
+    const QString folder = firstFolder();
     // Destruction runs backwards: `discard`, then the dialog, then `restore`.
     const auto restore = qScopeGuard(restoreSharedSettings);
-    QFileDialog dialog(&window, title);
+    QFileDialog dialog(&window, title, folder);
     const auto discard = qScopeGuard(discardSharedSettings);
     dialog.setFileMode(QFileDialog::ExistingFile);
+    // The program plays no file that has to be fetched from a server.
+    dialog.setSupportedSchemes({QStringLiteral("file")});
     // Blocks this window only, so that the user can stop an alarm that begins in another one.
     dialog.setWindowModality(Qt::WindowModal);
-    dialog.setDirectoryUrl(_folder.isEmpty() ? folderOfSounds() : _folder);
     if (dialog.exec() != QDialog::Accepted || dialog.selectedUrls().isEmpty())
         return std::nullopt;
-    const QUrl chosen = dialog.selectedUrls().constFirst();
+    QUrl chosen = dialog.selectedUrls().constFirst();
     // Not the folder that the dialog showed last, because the user may have typed a path.
-    _folder = chosen.adjusted(QUrl::RemoveFilename);
+    _folder = chosen.adjusted(QUrl::RemoveFilename).toLocalFile();
     return chosen;
 }

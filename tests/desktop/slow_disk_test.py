@@ -139,6 +139,25 @@ class SlowDiskTest(DesktopTest):
         self.check_built_in_alarm(self.ring())
         self.check_kept()
 
+    def test_the_disk_with_the_music_hangs_when_a_sound_is_chosen(self):
+        self.slow_down(0)
+        self.launch_with_own_sounds()
+        with open(f"{self.program.home}/config/user-dirs.dirs", "w", encoding="utf-8") as file:
+            file.write(f'XDG_MUSIC_DIR="{self.disk}"\n')
+        self.program.open("ctrl+comma")
+        self.display.key("alt+s")
+        self.answers_until(lambda: self.program.shown("Alarm sound in use"), "the sounds show")
+        self.slow_down(FOREVER)
+        before = self.program.windows()
+        self.program.pick("alt+a", "End", "Up")
+        self.answers_until(lambda: len(self.program.windows()) > len(before), "the dialog opens")
+        self.report(f"slowest answer {self.slowest * 1000:.0f} ms")
+        self.assertIn("Select a sound file",
+                      self.display.title(self.program.wait_for_new_window(before)))
+        self.check_answer()
+        self.program.close_window("Escape")
+        self.report(f"the program ends in {self.quit(self.program) * 1000:.0f} ms")
+
     def test_the_program_ends_while_the_disk_hangs(self):
         self.slow_down(0)
         self.launch_with_own_sounds()

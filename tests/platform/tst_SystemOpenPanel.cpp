@@ -1,4 +1,6 @@
+#include "base/Service.h"
 #include "platform/SystemOpenPanel.h"
+#include "support/TestClock.h"
 #include "support/TestMain.h"
 
 #include <QDir>
@@ -7,7 +9,11 @@
 #include <QLineEdit>
 #include <QStandardPaths>
 #include <QTemporaryDir>
+#include <QThread>
 #include <QTimer>
+
+#include <memory>
+#include <semaphore>
 
 namespace
 {
@@ -19,11 +25,11 @@ std::optional<QUrl> run(SystemOpenPanel &panel, const std::function<void(QFileDi
     QWidget window;
     window.show();
     QTimer whenOpen;
-    whenOpen.setSingleShot(true);
     QObject::connect(&whenOpen, &QTimer::timeout, &window, [&] {
         auto *dialog = window.findChild<QFileDialog *>();
         if (!dialog)
-            qFatal("there is no file dialog");
+            return;
+        whenOpen.stop();
         act(*dialog);
         // A dialog that a failed test leaves open would block the test program for ever.
         if (dialog->isVisible())
@@ -59,6 +65,9 @@ private Q_SLOTS:
     void theNextOneBeginsWhereTheLastFileWas();
     void theFirstOneBeginsWhereSoundsAre_data();
     void theFirstOneBeginsWhereSoundsAre();
+    void aFolderThatHasGoneIsNotShownAgain();
+    void aFolderThatHangsDoesNotHoldItUp();
+    void onlyFilesOfThisComputerMayBeChosen();
     void nothingIsLeftBehind();
     void whatAllProgramsShareIsReadAndNotWritten();
 
@@ -66,6 +75,8 @@ private:
     [[nodiscard]] QString inHome(const QString &name) const { return _home.filePath(name); }
     void write(const QString &name, const QByteArray &contents) const;
 
+    TestClock _clock;
+    const Service<Clock> _service{_clock};
     QTemporaryDir _home;
 };
 
@@ -164,6 +175,53 @@ void tst_SystemOpenPanel::theFirstOneBeginsWhereSoundsAre()
     SystemOpenPanel panel;
     (void)run(panel, [&](QFileDialog &dialog) {
         QCOMPARE(dialog.directory().canonicalPath(), QDir(inHome(first)).canonicalPath());
+        dialog.reject();
+    });
+}
+
+void tst_SystemOpenPanel::aFolderThatHasGoneIsNotShownAgain()
+{
+    SystemOpenPanel panel;
+    write(QStringLiteral("gone/tone.wav"), "tone");
+    QVERIFY(run(panel, [&](QFileDialog &dialog) {
+        type(dialog, inHome(QStringLiteral("gone/tone.wav")));
+    }));
+    QVERIFY(QDir(inHome(QStringLiteral("gone"))).removeRecursively());
+    write(QStringLiteral("data/sounds/own.wav"), "tone");
+    (void)run(panel, [&](QFileDialog &dialog) {
+        QCOMPARE(dialog.directory(), QDir(inHome(QStringLiteral("data/sounds"))));
+        dialog.reject();
+    });
+}
+
+void tst_SystemOpenPanel::aFolderThatHangsDoesNotHoldItUp()
+{
+    const auto end = std::make_shared<std::counting_semaphore<>>(0);
+    {
+        SystemOpenPanel panel([end](const QString & /*folder*/) {
+            end->acquire();
+            return true;
+        });
+        QTimer limit;
+        connect(&limit, &QTimer::timeout, &limit, [&] { _clock.advance(0.5); });
+        limit.start(0);
+        (void)run(panel, [&](QFileDialog &dialog) {
+            QCOMPARE(dialog.directory(), QDir::home());
+            dialog.reject();
+        });
+    }
+    // The threads would outlive the test.
+    while (end.use_count() > 1) {
+        end->release();
+        QThread::yieldCurrentThread();
+    }
+}
+
+void tst_SystemOpenPanel::onlyFilesOfThisComputerMayBeChosen()
+{
+    SystemOpenPanel panel;
+    (void)run(panel, [](QFileDialog &dialog) {
+        QCOMPARE(dialog.supportedSchemes(), QStringList{QStringLiteral("file")});
         dialog.reject();
     });
 }
