@@ -98,7 +98,7 @@ bool Preferences::addSound(const QString &path) const
 
 void Preferences::takeDroppedSounds(QPoint place, const QStringList &paths)
 {
-    const Kind kind = kindAt(place);
+    WebbyComboBox &combo = kindAt(place).combo;
     QStringList playable;
     // Add the last file first: each new one goes to the front, so the list keeps the order of the
     // drop.
@@ -112,7 +112,7 @@ void Preferences::takeDroppedSounds(QPoint place, const QStringList &paths)
         return;
     _previews->stop();
     populateComboBoxes();
-    selectAndReport(kind.combo, playable.first());
+    selectAndReport(combo, playable.first());
 }
 
 void Preferences::showMissing(const Kind &kind, const Sound &sound)
@@ -196,14 +196,22 @@ void Preferences::giveUp(const Kind &kind, const Sound &sound)
 
 void Preferences::giveUpLate(const Sound &sound)
 {
+    bool gaveUp = false;
     for (const Kind &kind : {alarm(), countdown()}) {
+        // The user may have chosen another sound meanwhile, which may not be stored yet. A file
+        // that is not in the library is not selected.
+        const QString path = sound.name();
+        if (storedPath(kind.key) != path ||
+            kind.combo.dataObjectOfSelectedItem().value_or(path) != path)
+            continue;
         const QSignalBlocker quiet(kind.combo);
-        // The user may have chosen another sound meanwhile.
-        if (storedPath(kind.key) == sound.name() &&
-            SoundCombos::selectedEntry(kind.combo) != kind.builtInSound)
-            giveUp(kind, sound);
+        giveUp(kind, sound);
+        gaveUp = true;
     }
     _previews->followChoices();
+    // Timers may have been opened, or have filled their combos, before the file answered.
+    if (gaveUp)
+        sendChangedNotification();
 }
 
 void Preferences::comboBoxSelectionDidChange(WebbyComboBox *combo)
@@ -243,7 +251,9 @@ void Preferences::carryOut(SoundEntry entry, const Kind &kind)
 
 void Preferences::storeFile(const Kind &kind, const QString &path) const
 {
-    if (SoundCombos::storedHistory().contains(path) && soundFileIsValid(path))
+    // While the file is opened, the user may select another entry, which then counts.
+    if (SoundCombos::storedHistory().contains(path) && soundFileIsValid(path) &&
+        kind.combo.dataObjectOfSelectedItem() == path)
         UserDefaults::standardUserDefaults().setValue(path, kind.key);
 }
 

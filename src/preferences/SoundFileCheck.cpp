@@ -17,7 +17,8 @@ constexpr double kPatience = 10;
 /// After how many seconds the page shows that it waits. Most files answer sooner.
 constexpr double kUnnoticed = 0.2;
 
-/// Disables a page, for as long as this object lives, and gives the focus back.
+/// Disables a page, for as long as this object lives, and then gives the focus back, unless the
+/// user has turned to another page.
 class BusyPage final
 {
 public:
@@ -30,7 +31,7 @@ public:
     {
         _page.setEnabled(true);
         _page.unsetCursor();
-        if (_focus)
+        if (_focus && _focus->isVisibleTo(_page.window()))
             _focus->setFocus();
     }
     Q_DISABLE_COPY_MOVE(BusyPage)

@@ -1,135 +1,31 @@
-#include "support/PreferencesFixture.h"
+#include "support/SlowSoundsFixture.h"
 #include "support/TestMain.h"
-
-#include <functional>
 
 namespace
 {
-const auto kWuff = QStringLiteral("Wuff (Default)");
-const auto kBell = QStringLiteral("/sounds/Bell.aiff");
-const auto kChime = QStringLiteral("/sounds/Chime.wav");
 const auto kSelect = QStringLiteral("Select another sound...");
-
-/// The preferences, with two sounds in the library, one of them on a disk that does not answer.
-class Fixture : public PreferencesFixture
-{
-public:
-    Fixture()
-    {
-        sounds.setFileDuration(kChime, 0.5);
-        sounds.holdFile(kBell);
-        set("soundHistory", QStringList{kBell, kChime});
-    }
-
-    [[nodiscard]] QWidget &page() const { return part<QWidget>("soundTab"); }
-    [[nodiscard]] QStringList history() const
-    {
-        return defaults.stringArrayForKey(QStringLiteral("soundHistory"));
-    }
-    [[nodiscard]] QString stored(const char *key) const
-    {
-        return defaults.stringForKey(QString::fromLatin1(key)).value_or(QStringLiteral("(none)"));
-    }
-    [[nodiscard]] bool saysMissing() const
-    {
-        return !part<QLabel>("_alarmMissingLabel").isHidden();
-    }
-
-    /// Does something in the event loop, while an operation waits in it.
-    void meanwhile(const std::function<void()> &action)
-    {
-        QMetaObject::invokeMethod(&window, action, Qt::QueuedConnection);
-    }
-};
 } // namespace
 
-/// The library of sounds while files do not answer.
+/// The library of sounds while files that the user chooses do not answer.
 class tst_SlowSounds final : public Test
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void theLaunchDoesNotWait();
-    void aStoredSoundThatTurnsOutPlayableStays();
-    void aStoredSoundThatTurnsOutUnplayableIsPruned();
-    void aSoundThatBothKindsUseIsPrunedForBoth();
-    void aStoredSoundThatTheUserReplacedMeanwhileIsNotPruned();
     void aFileIsWaitedForWhenItIsChosen();
     void aFileThatTurnsOutUnplayableWhenChosenIsNotAdded();
     void aFileThatDoesNotAnswerIsTakenAfterAWhile();
+    void theLastOfTwoChoicesCounts();
     void thePageIsDisabledWhileTheUserWaits();
+    void theFocusStaysOnAnotherPageThatTheUserHasTurnedTo();
     void aQuickAnswerDoesNotDisableThePage();
     void droppedFilesAreWaitedForToo();
     void theProgramMayEndWhileAFileIsWaitedFor();
-    void thePreferencesMayGoWhileFilesAreWaitedFor();
 };
-
-void tst_SlowSounds::theLaunchDoesNotWait()
-{
-    Fixture p;
-    p.set("alarmPath", kBell);
-    p.meanwhile([] { QFAIL("the event loop runs during the launch"); });
-    p.open();
-    QCOMPARE(p.selected("_alarmCombo"), kBell);
-    QCOMPARE(p.history(), QStringList({kBell, kChime}));
-    QCOMPARE(p.desktop.beeps, 0);
-    QVERIFY(!p.window.isVisible());
-    QVERIFY(!p.saysMissing());
-}
-
-void tst_SlowSounds::aStoredSoundThatTurnsOutPlayableStays()
-{
-    Fixture p;
-    p.set("alarmPath", kBell);
-    p.open();
-    p.sounds.answer(kBell, 1.5);
-    QCOMPARE(p.selected("_alarmCombo"), kBell);
-    QCOMPARE(p.history(), QStringList({kBell, kChime}));
-    QCOMPARE(p.desktop.beeps, 0);
-    QCOMPARE(p.sounds.diary(QStringLiteral("make ")).size(), 1);
-}
-
-void tst_SlowSounds::aStoredSoundThatTurnsOutUnplayableIsPruned()
-{
-    Fixture p;
-    p.set("alarmPath", kBell);
-    p.open();
-    p.sounds.answer(kBell, 0);
-    QCOMPARE(p.selected("_alarmCombo"), kWuff);
-    QCOMPARE(p.history(), QStringList{kChime});
-    QCOMPARE(p.stored("alarmPath"), kBell);
-    QCOMPARE(p.desktop.beeps, 1);
-    QVERIFY(p.window.isVisible());
-    QVERIFY(p.saysMissing());
-}
-
-void tst_SlowSounds::aSoundThatBothKindsUseIsPrunedForBoth()
-{
-    Fixture p;
-    p.set("alarmPath", kBell);
-    p.set("countdownPath", kBell);
-    p.open();
-    p.sounds.answer(kBell, 0);
-    QCOMPARE(p.selected("_alarmCombo"), kWuff);
-    QCOMPARE(p.selected("_countdownCombo"), QStringLiteral("Crow (Default)"));
-    QCOMPARE(p.desktop.beeps, 2);
-}
-
-void tst_SlowSounds::aStoredSoundThatTheUserReplacedMeanwhileIsNotPruned()
-{
-    Fixture p;
-    p.set("alarmPath", kBell);
-    p.open();
-    p.choose("_alarmCombo", QStringLiteral("Chime"));
-    p.sounds.answer(kBell, 0);
-    QCOMPARE(p.selected("_alarmCombo"), kChime);
-    QCOMPARE(p.history(), QStringList({kBell, kChime}));
-    QCOMPARE(p.desktop.beeps, 0);
-}
 
 void tst_SlowSounds::aFileIsWaitedForWhenItIsChosen()
 {
-    Fixture p;
+    SlowSoundsFixture p;
     p.open();
     p.meanwhile([&] {
         QCOMPARE(p.stored("alarmPath"), QStringLiteral("(none)"));
@@ -142,7 +38,7 @@ void tst_SlowSounds::aFileIsWaitedForWhenItIsChosen()
 
 void tst_SlowSounds::aFileThatTurnsOutUnplayableWhenChosenIsNotAdded()
 {
-    Fixture p;
+    SlowSoundsFixture p;
     p.open();
     const auto letter = QStringLiteral("/texts/Letter.txt");
     p.sounds.holdFile(letter);
@@ -156,7 +52,7 @@ void tst_SlowSounds::aFileThatTurnsOutUnplayableWhenChosenIsNotAdded()
 
 void tst_SlowSounds::aFileThatDoesNotAnswerIsTakenAfterAWhile()
 {
-    Fixture p;
+    SlowSoundsFixture p;
     p.open();
     const auto far = QStringLiteral("/server/Far.wav");
     p.sounds.holdFile(far);
@@ -174,9 +70,23 @@ void tst_SlowSounds::aFileThatDoesNotAnswerIsTakenAfterAWhile()
     QCOMPARE(p.desktop.beeps, 1);
 }
 
+void tst_SlowSounds::theLastOfTwoChoicesCounts()
+{
+    SlowSoundsFixture p;
+    p.open();
+    p.meanwhile([&] {
+        p.choose("_alarmCombo", QStringLiteral("Chime"));
+        p.sounds.answer(kBell, 1.5);
+    });
+    p.choose("_alarmCombo", QStringLiteral("Bell"));
+    QCOMPARE(p.selected("_alarmCombo"), kChime);
+    QCOMPARE(p.stored("alarmPath"), kChime);
+    QCOMPARE(p.label("_alarmLabel"), QStringLiteral("Chime"));
+}
+
 void tst_SlowSounds::thePageIsDisabledWhileTheUserWaits()
 {
-    Fixture p;
+    SlowSoundsFixture p;
     p.open();
     p.window.show();
     p.preferences->showSoundTab();
@@ -193,9 +103,28 @@ void tst_SlowSounds::thePageIsDisabledWhileTheUserWaits()
     QCOMPARE(p.window.focusWidget(), &combo);
 }
 
+void tst_SlowSounds::theFocusStaysOnAnotherPageThatTheUserHasTurnedTo()
+{
+    SlowSoundsFixture p;
+    p.open();
+    p.window.show();
+    p.preferences->showSoundTab();
+    p.part<QComboBox>("_alarmCombo").setFocus();
+    auto &tabs = p.part<QTabWidget>("_tabView");
+    auto &text = p.part<QLineEdit>("_finishedText");
+    p.meanwhile([&] {
+        p.clock.advance(0.3);
+        tabs.setCurrentWidget(&p.part<QWidget>("generalTab"));
+        text.setFocus();
+        p.sounds.answer(kBell, 1.5);
+    });
+    p.choose("_alarmCombo", QStringLiteral("Bell"));
+    QCOMPARE(p.window.focusWidget(), &text);
+}
+
 void tst_SlowSounds::aQuickAnswerDoesNotDisableThePage()
 {
-    Fixture p;
+    SlowSoundsFixture p;
     p.open();
     p.meanwhile([&] {
         p.clock.advance(0.1);
@@ -208,7 +137,7 @@ void tst_SlowSounds::aQuickAnswerDoesNotDisableThePage()
 
 void tst_SlowSounds::droppedFilesAreWaitedForToo()
 {
-    Fixture p;
+    SlowSoundsFixture p;
     p.open();
     p.meanwhile([&] { p.sounds.answer(kBell, 1.5); });
     p.preferences->takeDroppedSounds({0, -1}, {kBell, kChime});
@@ -217,21 +146,12 @@ void tst_SlowSounds::droppedFilesAreWaitedForToo()
 
 void tst_SlowSounds::theProgramMayEndWhileAFileIsWaitedFor()
 {
-    Fixture p;
+    SlowSoundsFixture p;
     p.open();
     p.meanwhile([] { QCoreApplication::exit(); });
     p.choose("_alarmCombo", QStringLiteral("Bell"));
     // It is not known to be unplayable.
     QCOMPARE(p.stored("alarmPath"), kBell);
-}
-
-void tst_SlowSounds::thePreferencesMayGoWhileFilesAreWaitedFor()
-{
-    Fixture p;
-    p.set("alarmPath", kBell);
-    p.open();
-    p.preferences.reset();
-    QVERIFY(!p.sounds.sound(kBell));
 }
 
 WUFFER_TEST(tst_SlowSounds)

@@ -3,6 +3,7 @@
 #include <QFile>
 #include <QJsonDocument>
 #include <QTest>
+#include <QTimer>
 
 Preferences &PreferencesFixture::open()
 {
@@ -25,6 +26,14 @@ void PreferencesFixture::type(const QString &text) const
     auto &field = part<QLineEdit>("_finishedText");
     field.selectAll();
     QTest::keyClicks(&field, text);
+}
+
+void PreferencesFixture::meanwhile(const std::function<void()> &action)
+{
+    auto *const timer = new QTimer(&window);
+    timer->setSingleShot(true);
+    QObject::connect(timer, &QTimer::timeout, &window, action);
+    timer->start(0);
 }
 
 void PreferencesFixture::set(const char *key, const QVariant &value)

@@ -18,6 +18,8 @@
 #include <QMainWindow>
 #include <QTabWidget>
 
+#include <functional>
+
 /// The preferences in their window with services of their own, and what a user does with them.
 class PreferencesFixture : public TestServices
 {
@@ -35,6 +37,8 @@ public:
     /// Selects the entry with this text, as a click in the open list does.
     void choose(const char *combo, const QString &text) const;
     void type(const QString &text) const;
+    /// Does something in the event loop, while an operation waits in it.
+    void meanwhile(const std::function<void()> &action);
 
     // What the settings and the window hold.
     void set(const char *key, const QVariant &value);
