@@ -35,6 +35,8 @@ private Q_SLOTS:
     void aMergeByTheServerIsNoAnswerOfTheUser();
     void anAnswerToMergedOnesReachesAllOfThem_data();
     void anAnswerToMergedOnesReachesAllOfThem();
+    void anAnswerReachesNoneThatAnotherAnswerHasWithdrawn_data();
+    void anAnswerReachesNoneThatAnotherAnswerHasWithdrawn();
     void mergedOnesStayUntilTheLastIsWithdrawn();
     void aMergedOneThatChangesIsSentAnew();
 
@@ -114,6 +116,39 @@ void tst_MergedNotifications::anAnswerToMergedOnesReachesAllOfThem()
         server.press(server.lastId, key);
     settle();
     QCOMPARE(_diary, QStringList(qsizetype(senders.size()), deed));
+}
+
+void tst_MergedNotifications::anAnswerReachesNoneThatAnotherAnswerHasWithdrawn_data()
+{
+    anAnswerToMergedOnesReachesAllOfThem_data();
+}
+
+void tst_MergedNotifications::anAnswerReachesNoneThatAnotherAnswerHasWithdrawn()
+{
+    QFETCH(const QString, key);
+    QFETCH(const QString, deed);
+    NotificationServer &server = serve();
+    FreedesktopNotifications notifications;
+    const std::array<QObject, 3> senders;
+    const auto withdrawAll = [&](const QString &done) {
+        _diary << done;
+        for (const QObject &sender : senders)
+            notifications.withdraw(sender);
+    };
+    DesktopNotification notification = withActions();
+    notification.show = [&] { withdrawAll(QStringLiteral("shown")); };
+    notification.stop = [&] { withdrawAll(QStringLiteral("stopped")); };
+    notification.closed = [&](DesktopNotification::End) { withdrawAll(QStringLiteral("closed")); };
+    for (const QObject &sender : senders)
+        notifications.notify(sender, notification);
+    QTRY_COMPARE(server.shown.size(), senders.size());
+    settle();
+    if (key.isEmpty())
+        server.dismiss(server.lastId);
+    else
+        server.press(server.lastId, key);
+    settle();
+    QCOMPARE(_diary, QStringList{deed});
 }
 
 void tst_MergedNotifications::mergedOnesStayUntilTheLastIsWithdrawn()

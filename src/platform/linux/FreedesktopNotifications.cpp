@@ -180,8 +180,13 @@ std::function<void()> FreedesktopNotifications::answerTo(const QString &signal,
                                                          const QVariant &argument,
                                                          const std::shared_ptr<Conversation> &about)
 {
-    if (signal == QLatin1String("ActionInvoked"))
-        return NotifyArguments::actionOf(*about->shown, argument.toString());
+    // Another answer to the same signal may withdraw the notification first.
+    if (signal == QLatin1String("ActionInvoked")) {
+        return [about, action = NotifyArguments::actionOf(*about->shown, argument.toString())] {
+            if (about->shown && action)
+                action();
+        };
+    }
     if (signal == QLatin1String("ActivationToken")) {
         // The server sends the token right before the ActionInvoked that it belongs to.
         return [token = argument.toString()] { useActivationToken(token); };
@@ -191,10 +196,11 @@ std::function<void()> FreedesktopNotifications::answerTo(const QString &signal,
     about->id = 0;
     if (mergedByServer(about))
         return {};
-    const auto closed = std::exchange(about->shown, {})->closed;
-    if (!closed)
-        return {};
-    return [closed, end = endForReason(argument)] { closed(end); };
+    return [about, end = endForReason(argument)] {
+        const auto ended = std::exchange(about->shown, {});
+        if (ended && ended->closed)
+            ended->closed(end);
+    };
 }
 
 bool FreedesktopNotifications::mergedByServer(const std::shared_ptr<Conversation> &closed)
