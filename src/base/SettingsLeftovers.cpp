@@ -19,10 +19,12 @@ namespace
 constexpr std::chrono::seconds kOld = 1h;
 
 /// Whether a temporary file or a lock can have this suffix. A capital after a small letter tells
-/// letters by chance from words such as "backup".
+/// letters by chance from words such as "backup", and two capitals, or one at the end, tell them
+/// from several words such as "myCopy".
 bool isSuffix(const QString &suffix)
 {
-    static const QRegularExpression byChance(QStringLiteral("^(?=.*[a-z].*[A-Z])[A-Za-z]{6}\\z"));
+    static const QRegularExpression byChance(
+        QStringLiteral("^(?=.*[a-z].*[A-Z])(?=.*[A-Z]([A-Z]|\\z))[A-Za-z]{6}\\z"));
     return suffix == QStringLiteral("lock") || byChance.match(suffix).hasMatch();
 }
 

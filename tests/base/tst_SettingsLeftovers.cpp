@@ -66,7 +66,8 @@ void tst_SettingsLeftovers::onlyOldTemporaryFilesAndLocksAreRemoved_data()
         QTest::newRow(what) << QString::fromLatin1(name) << minutes << stays;
     };
     row("a temporary file", "settings.json.xPAzzF", 61, false);
-    row("another temporary file", "settings.json.QeOtgl", 100'000, false);
+    row("another temporary file", "settings.json.QeOTgl", 100'000, false);
+    row("a temporary file with a capital at its end", "settings.json.qeOtgL", 61, false);
     row("a lock", "settings.json.lock", 61, false);
     row("a young temporary file", "settings.json.xPAzzF", 59, true);
     row("a young lock", "settings.json.lock", 59, true);
@@ -74,6 +75,9 @@ void tst_SettingsLeftovers::onlyOldTemporaryFilesAndLocksAreRemoved_data()
     row("a copy", "settings.json.backup", 61, true);
     row("a copy in capitals", "settings.json.BACKUP", 61, true);
     row("a copy with a capital", "settings.json.Backup", 61, true);
+    row("a copy with two words", "settings.json.myCopy", 61, true);
+    row("a copy with two words in capitals", "settings.json.OldOne", 61, true);
+    row("a copy with three words", "settings.json.asOfMy", 61, true);
     row("a longer name", "settings.json.xPAzzFi", 61, true);
     row("a shorter name", "settings.json.xPAzz", 61, true);
     row("digits", "settings.json.xPAzz1", 61, true);
