@@ -4,6 +4,7 @@
 #include <QDateTime>
 #include <QFileInfo>
 
+#include <array>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -108,11 +109,11 @@ void tst_SettingsLeftovers::whatIsNoFileStays()
     QVERIFY(QDir().mkdir(beside(file, QStringLiteral("settings.json.foLdEr"))));
     const QString pipe = beside(file, QStringLiteral("settings.json.piPeEe"));
     QCOMPARE(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
-    const timespec longAgo[2] = {{1, 0}, {1, 0}};
+    const std::array<timespec, 2> longAgo{{{1, 0}, {1, 0}}};
     for (const char *name :
          {"settings.json.lInKed", "settings.json.foLdEr", "settings.json.piPeEe"}) {
         const QByteArray path = QFile::encodeName(beside(file, QString::fromLatin1(name)));
-        QCOMPARE(::utimensat(AT_FDCWD, path.constData(), longAgo, AT_SYMLINK_NOFOLLOW), 0);
+        QCOMPARE(::utimensat(AT_FDCWD, path.constData(), longAgo.data(), AT_SYMLINK_NOFOLLOW), 0);
     }
     const QStringList before =
         QDir(QFileInfo(file.path()).path()).entryList(QDir::AllEntries | QDir::System);
