@@ -27,6 +27,9 @@ struct FreedesktopNotifications::Conversation
     enum class Awaited { Nothing, Capabilities, Id } awaited = Awaited::Nothing;
     /// Whether a server has come since then. The calls before may have missed it.
     bool serverCame = false;
+    /// Whether the bus may start a server for the calls. Not for those that are repeated because a
+    /// server has come: it may crash each time.
+    bool mayStartServer = true;
     /// The latest notification not yet sent. It supersedes earlier ones, which are never sent.
     std::optional<DesktopNotification> next;
     /// The latest notification sent; nothing once it has been withdrawn or closed.
@@ -53,10 +56,12 @@ namespace
 const QString kInterface = QStringLiteral("org.freedesktop.Notifications");
 const QString kPath = QStringLiteral("/org/freedesktop/Notifications");
 
-QDBusMessage call(const QString &server, const QString &method, const QVariantList &arguments = {})
+QDBusMessage call(const QString &server, const QString &method, const QVariantList &arguments = {},
+                  bool mayStartServer = false)
 {
     QDBusMessage message = QDBusMessage::createMethodCall(server, kPath, kInterface, method);
     message.setArguments(arguments);
+    message.setAutoStartService(mayStartServer);
     return message;
 }
 
@@ -74,8 +79,11 @@ FreedesktopNotifications::FreedesktopNotifications()
 {
     const BusConnection &bus = BusConnection::instance();
     connect(&bus, &BusConnection::lost, this, &FreedesktopNotifications::busLost);
-    connect(&bus, &BusConnection::found, this, &FreedesktopNotifications::busFound);
-    connect(&_watch, &BusNameWatch::appeared, this, &FreedesktopNotifications::showAgain);
+    connect(&bus, &BusConnection::found, this, [this] {
+        listen();
+        showAgain(true);
+    });
+    connect(&_watch, &BusNameWatch::appeared, this, [this] { showAgain(false); });
 }
 
 void FreedesktopNotifications::notify(const QObject &sender,
@@ -83,6 +91,7 @@ void FreedesktopNotifications::notify(const QObject &sender,
 {
     const std::shared_ptr<Conversation> conversation = conversationWith(sender);
     conversation->next = notification;
+    conversation->mayStartServer = true;
     if (!BusQuestion::isPossible())
         return;
     listen();
@@ -142,19 +151,14 @@ void FreedesktopNotifications::busLost()
     }
 }
 
-void FreedesktopNotifications::busFound()
-{
-    listen();
-    showAgain();
-}
-
-void FreedesktopNotifications::showAgain()
+void FreedesktopNotifications::showAgain(bool mayStartServer)
 {
     for (const std::shared_ptr<Conversation> &conversation : std::as_const(_conversations)) {
         const bool isUnderWay = conversation->awaited != Conversation::Awaited::Nothing;
         if (!isUnderWay && !conversation->next && conversation->id == 0)
             conversation->next = conversation->shown;
         conversation->serverCame = isUnderWay;
+        conversation->mayStartServer = mayStartServer;
         if (conversation->next && !isUnderWay)
             askAboutServer(conversation);
     }
@@ -227,8 +231,9 @@ void FreedesktopNotifications::askAboutServer(const std::shared_ptr<Conversation
 {
     conversation->awaited = Conversation::Awaited::Capabilities;
     conversation->serverCame = false;
+    const bool mayStart = conversation->mayStartServer;
     // Answered before the capabilities, so it is not waited for.
-    BusQuestion::ask(call(kInterface, QStringLiteral("GetServerInformation")), *this,
+    BusQuestion::ask(call(kInterface, QStringLiteral("GetServerInformation"), {}, mayStart), *this,
                      BusQuestion::kNoTimeout, [conversation](const QDBusMessage &answer) {
                          conversation->serverName = answer.arguments().value(0).toString();
                      });
@@ -242,7 +247,7 @@ void FreedesktopNotifications::askAboutServer(const std::shared_ptr<Conversation
         else
             conversation->awaited = Conversation::Awaited::Nothing;
     };
-    BusQuestion::ask(call(kInterface, QStringLiteral("GetCapabilities")), *this,
+    BusQuestion::ask(call(kInterface, QStringLiteral("GetCapabilities"), {}, mayStart), *this,
                      BusQuestion::kNoTimeout, answered);
 }
 
@@ -259,7 +264,8 @@ void FreedesktopNotifications::send(const std::shared_ptr<Conversation> &convers
     // A server that was frozen shows the notification late; its late answer still has to be read
     // for the id, which is needed to withdraw the notification.
     BusQuestion::ask(
-        call(kInterface, QStringLiteral("Notify"), arguments), *this, BusQuestion::kNoTimeout,
+        call(kInterface, QStringLiteral("Notify"), arguments, conversation->mayStartServer), *this,
+        BusQuestion::kNoTimeout,
         [this, conversation](const QDBusMessage &answer) { sent(conversation, answer); });
 }
 
@@ -273,6 +279,8 @@ void FreedesktopNotifications::sent(const std::shared_ptr<Conversation> &convers
     const uint id = numbered ? answer.arguments().constFirst().toUInt() : 0;
     if (id == 0 && std::exchange(conversation->serverCame, false) && !conversation->next)
         conversation->next = conversation->shown;
+    else
+        conversation->mayStartServer = true;
     if (conversation->next || conversation->shown)
         conversation->id = id;
     // No merged one is under way again, because that would be a notification of its own.

@@ -45,8 +45,8 @@ private:
     void forget(const QObject *sender);
     void listen();
     void busLost();
-    void busFound();
-    void showAgain();
+    /// To a server that has come, or on a new bus, which may start one.
+    void showAgain(bool mayStartServer);
     void askAboutServer(const std::shared_ptr<Conversation> &conversation);
     void send(const std::shared_ptr<Conversation> &conversation, const QStringList &capabilities);
     void sent(const std::shared_ptr<Conversation> &conversation, const QDBusMessage &answer);
