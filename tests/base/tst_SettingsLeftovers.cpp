@@ -105,13 +105,13 @@ void tst_SettingsLeftovers::whatIsNoFileStays()
 {
     const SettingsFile file;
     const QString target = makeFile(file, QStringLiteral("target"), 61);
-    QVERIFY(QFile::link(target, beside(file, QStringLiteral("settings.json.lInKed"))));
-    QVERIFY(QDir().mkdir(beside(file, QStringLiteral("settings.json.foLdEr"))));
-    const QString pipe = beside(file, QStringLiteral("settings.json.piPeEe"));
+    QVERIFY(QFile::link(target, beside(file, QStringLiteral("settings.json.lINked"))));
+    QVERIFY(QDir().mkdir(beside(file, QStringLiteral("settings.json.foLDer"))));
+    const QString pipe = beside(file, QStringLiteral("settings.json.piPEee"));
     QCOMPARE(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
     const std::array<timespec, 2> longAgo{{{1, 0}, {1, 0}}};
     for (const char *name :
-         {"settings.json.lInKed", "settings.json.foLdEr", "settings.json.piPeEe"}) {
+         {"settings.json.lINked", "settings.json.foLDer", "settings.json.piPEee"}) {
         const QByteArray path = QFile::encodeName(beside(file, QString::fromLatin1(name)));
         QCOMPARE(::utimensat(AT_FDCWD, path.constData(), longAgo.data(), AT_SYMLINK_NOFOLLOW), 0);
     }
