@@ -52,8 +52,9 @@ WufferApplication::WufferApplication(int &argc, char **argv) : QApplication(argc
     setApplicationVersion(BuildInfo::version());
     setDesktopFileName(BuildInfo::applicationId());
     setWindowIcon(applicationIcon());
-    // The application becomes its owner.
-    setStyle(std::make_unique<ProgramStyle>().release());
+    auto *style = new ProgramStyle;
+    style->setParent(this);
+    setStyle(style);
     _theme.follow();
     // A blinking caret would wake an idle program twice a second.
     setCursorFlashTime(0);

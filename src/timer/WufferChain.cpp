@@ -23,7 +23,7 @@ void returnFocusToLink(const Ui::Wuffer &controls)
 
 bool Wuffer::isChained() const
 {
-    return _targetWuffer || _reverseTargetWuffer;
+    return _targetWuffer != nullptr || _reverseTargetWuffer != nullptr;
 }
 
 std::vector<Wuffer *> Wuffer::chainedWuffers()
@@ -118,7 +118,7 @@ void Wuffer::refreshChainStatus()
     }
     _ui->_elapsedLabel->setText(chainString());
     setElapsedColor(TextColor::Red);
-    const bool isHead = !_reverseTargetWuffer;
+    const bool isHead = _reverseTargetWuffer == nullptr;
     _ui->_goButton->setEnabled(isHead);
     _ui->_goButton->setText(isHead ? TimerTexts::startChain() : TimerTexts::chained());
 }
