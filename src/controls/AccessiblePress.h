@@ -1,7 +1,9 @@
 #pragma once
 
+#include "base/Mnemonics.h"
 #include "controls/SpokenText.h"
 
+#include <QAbstractButton>
 #include <QAccessibleWidget>
 
 #include <functional>
@@ -42,4 +44,25 @@ public:
 private:
     const std::function<void()> _press;
     SpokenText _spoken;
+};
+
+/// Presents a button with a title, which is also what screen readers read aloud when it changes.
+class AccessibleButton : public AccessiblePress
+{
+public:
+    explicit AccessibleButton(QAbstractButton &button) :
+        AccessiblePress(
+            button, [&button] { button.click(); },
+            [&button] { return Mnemonics::shown(button.text()); }),
+        _button(button)
+    {}
+
+    [[nodiscard]] QString text(QAccessible::Text kind) const override
+    {
+        return kind == QAccessible::Name ? Mnemonics::shown(_button.text())
+                                         : AccessiblePress::text(kind);
+    }
+
+private:
+    const QAbstractButton &_button;
 };

@@ -1,30 +1,20 @@
 #include "controls/ExpanderButton.h"
 
-#include "base/Mnemonics.h"
 #include "controls/AccessibleFactory.h"
 #include "controls/AccessiblePress.h"
 
 namespace
 {
-class AccessibleExpanderButton final : public AccessiblePress
+class AccessibleExpanderButton final : public AccessibleButton
 {
 public:
     explicit AccessibleExpanderButton(ExpanderButton &button) :
-        AccessiblePress(
-            button, [&button] { button.click(); },
-            [&button] { return Mnemonics::shown(button.text()); }),
-        _button(button)
+        AccessibleButton(button), _button(button)
     {}
-
-    [[nodiscard]] QString text(QAccessible::Text kind) const override
-    {
-        return kind == QAccessible::Name ? Mnemonics::shown(_button.text())
-                                         : AccessiblePress::text(kind);
-    }
 
     [[nodiscard]] QAccessible::State state() const override
     {
-        QAccessible::State state = AccessiblePress::state();
+        QAccessible::State state = AccessibleButton::state();
         state.expandable = true;
         state.expanded = _button.isExpanded();
         state.collapsed = !_button.isExpanded();

@@ -1,30 +1,20 @@
 #include "controls/SpokenButton.h"
 
-#include "base/Mnemonics.h"
 #include "controls/AccessibleFactory.h"
 #include "controls/AccessiblePress.h"
 
 namespace
 {
-class AccessibleSpokenButton final : public AccessiblePress
+class AccessibleSpokenButton final : public AccessibleButton
 {
 public:
     explicit AccessibleSpokenButton(SpokenButton &button) :
-        AccessiblePress(
-            button, [&button] { button.click(); },
-            [&button] { return Mnemonics::shown(button.text()); }),
-        _button(button)
+        AccessibleButton(button), _button(button)
     {}
-
-    [[nodiscard]] QString text(QAccessible::Text kind) const override
-    {
-        return kind == QAccessible::Name ? Mnemonics::shown(_button.text())
-                                         : AccessiblePress::text(kind);
-    }
 
     [[nodiscard]] QAccessible::State state() const override
     {
-        QAccessible::State state = AccessiblePress::state();
+        QAccessible::State state = AccessibleButton::state();
         state.defaultButton = _button.isDefault();
         return state;
     }

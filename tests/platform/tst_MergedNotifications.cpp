@@ -1,11 +1,7 @@
 #include "platform/linux/FreedesktopNotifications.h"
-#include "support/NotificationServer.h"
-#include "support/PrivateBus.h"
-#include "support/RoundTrip.h"
-#include "support/TestMain.h"
+#include "support/NotificationTest.h"
 
 #include <array>
-#include <optional>
 
 namespace
 {
@@ -16,13 +12,13 @@ const QString kStop = QStringLiteral("stop");
 /// A server that merges equal notifications into one. The user sees one notification for several
 /// timers, and its buttons must reach all of them. Runs on a private session bus, where the test
 /// plays the server.
-class tst_MergedNotifications final : public Test
+class tst_MergedNotifications final : public NotificationTest
 {
     Q_OBJECT
 
 public:
     explicit tst_MergedNotifications(const OnPrivateBus &surroundings) :
-        _address(surroundings.bus().address())
+        NotificationTest(surroundings)
     {}
 
 private Q_SLOTS:
@@ -48,32 +44,6 @@ private:
         server.mergeEqual();
         return server;
     }
-    [[nodiscard]] DesktopNotification withActions()
-    {
-        return {.title = QStringLiteral("Tea"),
-                .text = QStringLiteral("done"),
-                .name = QStringLiteral("wuff"),
-                .show = [this] { _diary << QStringLiteral("shown"); },
-                .stop = [this] { _diary << QStringLiteral("stopped"); },
-                .closed =
-                    [this](DesktopNotification::End end) {
-                        const bool expired = end == DesktopNotification::End::Expired;
-                        _diary << (expired ? QStringLiteral("expired") : QStringLiteral("closed"));
-                    }};
-    }
-    /// Shows a notification, and waits until the program knows its id, 100.
-    void show(FreedesktopNotifications &notifications, const QObject &sender)
-    {
-        notifications.notify(sender, withActions());
-        QTRY_VERIFY(!_server->shown.empty());
-        settle();
-    }
-    /// Waits until all messages to and from the notification server have arrived.
-    static void settle() { settleWith(QStringLiteral("org.freedesktop.Notifications")); }
-
-    const QString _address;
-    std::optional<NotificationServer> _server;
-    QStringList _diary;
 };
 
 void tst_MergedNotifications::aMergeByTheServerIsNoAnswerOfTheUser()

@@ -1,10 +1,5 @@
 #include "platform/linux/FreedesktopNotifications.h"
-#include "support/NotificationServer.h"
-#include "support/PrivateBus.h"
-#include "support/RoundTrip.h"
-#include "support/TestMain.h"
-
-#include <optional>
+#include "support/NotificationTest.h"
 
 namespace
 {
@@ -15,13 +10,13 @@ const QString kStop = QStringLiteral("stop");
 
 /// The buttons of a notification, and how it is closed. Runs on a private session bus, where the
 /// test plays the notification server.
-class tst_NotificationActions final : public Test
+class tst_NotificationActions final : public NotificationTest
 {
     Q_OBJECT
 
 public:
     explicit tst_NotificationActions(const OnPrivateBus &surroundings) :
-        _address(surroundings.bus().address())
+        NotificationTest(surroundings)
     {}
 
 private Q_SLOTS:
@@ -62,32 +57,6 @@ private:
     {
         return _server.emplace(_address, capabilities);
     }
-    [[nodiscard]] DesktopNotification withActions()
-    {
-        return {.title = QStringLiteral("Tea"),
-                .text = QStringLiteral("done"),
-                .name = QStringLiteral("wuff"),
-                .show = [this] { _diary << QStringLiteral("shown"); },
-                .stop = [this] { _diary << QStringLiteral("stopped"); },
-                .closed =
-                    [this](DesktopNotification::End end) {
-                        const bool expired = end == DesktopNotification::End::Expired;
-                        _diary << (expired ? QStringLiteral("expired") : QStringLiteral("closed"));
-                    }};
-    }
-    /// Shows a notification, and waits until the program knows its id, 100.
-    void show(FreedesktopNotifications &notifications, const QObject &sender)
-    {
-        notifications.notify(sender, withActions());
-        QTRY_VERIFY(!_server->shown.empty());
-        settle();
-    }
-    /// Waits until all messages to and from the notification server have arrived.
-    static void settle() { settleWith(QStringLiteral("org.freedesktop.Notifications")); }
-
-    const QString _address;
-    std::optional<NotificationServer> _server;
-    QStringList _diary;
 };
 
 void tst_NotificationActions::buttonsAreOfferedWhereThereAreSome()
